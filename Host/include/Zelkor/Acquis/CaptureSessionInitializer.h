@@ -1,0 +1,36 @@
+#pragma once
+
+#include <Zelkor/Acquis/CaptureUnit.h>
+#include <Zelkor/Proc/IEffectFactory.h>
+#include <Zelkor/Time/IChronometer.h>
+
+#include <memory>
+
+namespace Zelkor::Acquis {
+
+/// Describes what a capture session is to capture.
+class VX_HOST_EXPORT CaptureSessionInitializer
+{
+public:
+    using Unit = CaptureUnit<ICaptureDevice, ICaptureSettings>;
+
+    /// `effects` makes what the session needs to process frames. An empty `chronometer` means the engine's own clock.
+    /// `pixFmt` is the format asked for, `PixFmt::None` for whatever the device gives.
+    CaptureSessionInitializer(const std::vector<Unit>& units,
+                              const boost::intrusive_ptr<const Proc::IEffectFactory>& effects,
+                              const std::shared_ptr<const Time::IChronometer>& chronometer, Proc::PixFmt pixFmt);
+    ~CaptureSessionInitializer();
+
+    const std::vector<Unit>& GetUnits() const { return units; }
+    const boost::intrusive_ptr<const Proc::IEffectFactory>& GetEffectFactory() const { return effects; }
+    const std::shared_ptr<const Time::IChronometer>& GetChronometer() const { return chronometer; }
+    Proc::PixFmt GetPixelFormat() const { return pixFmt; }
+
+private:
+    std::vector<Unit> units;
+    boost::intrusive_ptr<const Proc::IEffectFactory> effects;
+    std::shared_ptr<const Time::IChronometer> chronometer;
+    Proc::PixFmt pixFmt;
+};
+
+} // namespace Zelkor::Acquis

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <Zelkor/IRefCountable.h>
+
+#include <cstdint>
+
+namespace Zelkor::Acquis {
+
+/// Maps the time stamps of captured frames onto the time line of an output.
+class VX_HOST_INTERFACE TimeShift : public RefCounted<IRefCountable>
+{
+public:
+    /// The time on the output's time line for the captured `time`, both in nanoseconds. Engine threads call.
+    virtual std::int64_t MapTime(std::int64_t time) const = 0;
+
+protected:
+    TimeShift() = default;
+};
+
+} // namespace Zelkor::Acquis

@@ -1,0 +1,15 @@
+#pragma once
+
+// VX_HOST_EXPORT: classes and functions that the host's library defines.
+// VX_HOST_INTERFACE: interfaces that both sides implement or cast to; their type information must be one and the same.
+#if defined(_WIN32)
+#if defined(VX_HOST_BUILD)
+#define VX_HOST_EXPORT __declspec(dllexport)
+#else
+#define VX_HOST_EXPORT __declspec(dllimport)
+#endif
+#define VX_HOST_INTERFACE
+#else
+#define VX_HOST_EXPORT __attribute__((visibility("default")))
+#define VX_HOST_INTERFACE __attribute__((visibility("default")))
+#endif

@@ -1,0 +1,19 @@
+#include <UI/Common/TextMarks.h>
+
+namespace Zelkor::Vx::UI::Common {
+
+QString Embed(const QString& text)
+{
+    return LEFT_TO_RIGHT_EMBEDDING + text + POP_DIRECTIONAL_FORMATTING;
+}
+
+QString WithoutEmbedding(QString text)
+{
+    if (text.startsWith(LEFT_TO_RIGHT_EMBEDDING)) {
+        text.remove(LEFT_TO_RIGHT_EMBEDDING);
+        text.remove(POP_DIRECTIONAL_FORMATTING);
+    }
+    return text;
+}
+
+} // namespace Zelkor::Vx::UI::Common

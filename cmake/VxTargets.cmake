@@ -1,0 +1,12 @@
+# vx_target(NAME): the settings that hold for every target of ours and for no code of others.
+function(vx_target name)
+  target_compile_definitions(${name} PRIVATE QT_NO_KEYWORDS QT_NO_FOREACH QT_DEPRECATED_WARNINGS)
+  target_compile_options(${name} PRIVATE -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Wold-style-cast)
+  if(VX_WARNINGS_AS_ERRORS)
+    target_compile_options(${name} PRIVATE -Werror)
+  endif()
+  if(VX_SANITIZE MATCHES "thread")
+    # GCC does not model atomic fences under this sanitizer; ours do not use any, Boost's headers mention them.
+    target_compile_options(${name} PRIVATE -Wno-tsan)
+  endif()
+endfunction()
