@@ -1,7 +1,8 @@
 # vx_target(NAME): the settings that hold for every target of ours and for no code of others.
 function(vx_target name)
   target_compile_definitions(${name} PRIVATE QT_NO_KEYWORDS QT_NO_FOREACH QT_DEPRECATED_WARNINGS)
-  target_compile_options(${name} PRIVATE -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Wold-style-cast)
+  target_compile_options(${name} PRIVATE -Wall -Wextra -Wpedantic -Wnon-virtual-dtor -Wold-style-cast
+                         $<$<CXX_COMPILER_ID:GNU>:-Wshadow=local>)
   if(VX_WARNINGS_AS_ERRORS)
     target_compile_options(${name} PRIVATE -Werror)
   endif()

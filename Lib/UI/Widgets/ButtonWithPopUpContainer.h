@@ -73,7 +73,7 @@ public:
     void SetPreferredPopupAnchor(PreferredPopupAnchor anchor);
 
     /// Whether the panel may cover the button, as it does by default where the screen ends. When not, it opens at the
-    /// mirrored place, if it covers the button less there.
+    /// mirrored place where it does not cover the button, if there is one.
     bool GetPopupCanOverlapButton() const;
     void SetPopupCanOverlapButton(bool canOverlap);
 

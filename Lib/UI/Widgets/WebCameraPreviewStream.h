@@ -54,12 +54,15 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 Q_SIGNALS:
-    /// The device could not be opened, nor in any of the six retries. Comes once for a start.
+    /// The device could not be opened, nor in any of the six retries. Comes once for a start, on the GUI thread.
     void WebCameraOpenError();
+
+protected:
+    void customEvent(QEvent* event) override;
 
 private:
     class Impl;
-    std::unique_ptr<Impl> impl;
+    std::shared_ptr<Impl> impl; ///< the engine's threads may hold on to it for the length of a call
 };
 
 } // namespace Zelkor::Vx

@@ -1,0 +1,99 @@
+#include <UI/Widgets/FramePump.h>
+
+#include <UI/Widgets/VideoPreviewWidget.h>
+
+#include <algorithm>
+#include <chrono>
+#include <utility>
+
+namespace Zelkor::Vx {
+
+namespace {
+
+// Whole frames per second, so 29.97 makes 34 ms. A rate above 1000 would leave no time between two frames.
+std::chrono::milliseconds FramePeriod(double frameRate)
+{
+    return std::chrono::milliseconds(1000 / static_cast<int>(std::clamp(frameRate, 1.0, 1000.0)));
+}
+
+} // namespace
+
+void PreviewGate::Show(const boost::intrusive_ptr<Proc::IDataVideo>& frame)
+{
+    const std::lock_guard<std::mutex> lock(mutex);
+    if (preview)
+        preview->UpdateView(frame);
+}
+
+void PreviewGate::Reset()
+{
+    const std::lock_guard<std::mutex> lock(mutex);
+    if (preview)
+        preview->ResetPreview();
+}
+
+bool PreviewGate::IsOpen() const
+{
+    const std::lock_guard<std::mutex> lock(mutex);
+    return preview;
+}
+
+void PreviewGate::Close()
+{
+    const std::lock_guard<std::mutex> lock(mutex);
+    preview = nullptr;
+}
+
+FramePump::FramePump(std::shared_ptr<PreviewGate> gate, boost::intrusive_ptr<Acquis::IFrameReader> reader,
+                     double frameRate) :
+    gate(std::move(gate)),
+    reader(std::move(reader)), period(FramePeriod(frameRate))
+{
+}
+
+FramePump::~FramePump()
+{
+    // Nobody joined, so the last reference was the thread's own and this is its end.
+    if (thread.joinable())
+        thread.detach();
+}
+
+void FramePump::Start(const std::shared_ptr<FramePump>& pump)
+{
+    pump->thread = std::thread([pump] { pump->Run(); });
+}
+
+void FramePump::Stop()
+{
+    {
+        const std::lock_guard<std::mutex> lock(mutex);
+        stopping = true;
+    }
+    wake.notify_all();
+    if (std::this_thread::get_id() != thread.get_id())
+        std::call_once(joined, [this] { thread.join(); });
+}
+
+void FramePump::Run()
+{
+    if (!reader || !gate->IsOpen())
+        return;
+    const auto isStopping = [this] { return stopping; };
+    auto deadline = std::chrono::steady_clock::now() + period;
+    std::unique_lock<std::mutex> lock(mutex);
+    while (!wake.wait_until(lock, deadline, isStopping)) {
+        lock.unlock();
+        boost::intrusive_ptr<Proc::IDataVideo> frame;
+        reader->ReadLatestFrame(frame);
+        gate->Show(frame);
+        deadline += period;
+        const bool previewIsGone = !gate->IsOpen();
+        lock.lock();
+        if (previewIsGone)
+            break;
+    }
+    lock.unlock();
+    gate->Reset();
+}
+
+} // namespace Zelkor::Vx

@@ -1,0 +1,68 @@
+#pragma once
+
+#include <Zelkor/Acquis/IFrameProvider.h>
+
+#include <condition_variable>
+#include <memory>
+#include <mutex>
+#include <thread>
+
+namespace Zelkor::Vx {
+
+namespace UI {
+class VideoPreviewWidget;
+}
+
+/// The way from other threads to a preview widget: it can be closed before the widget dies. Any thread; internal.
+class PreviewGate
+{
+public:
+    explicit PreviewGate(UI::VideoPreviewWidget* preview) : preview(preview) {}
+
+    /// Shows the frame, if the preview is still there.
+    void Show(const boost::intrusive_ptr<Proc::IDataVideo>& frame);
+    void Reset();
+    bool IsOpen() const;
+
+    /// When this returns, nobody uses the preview and nobody will.
+    void Close();
+
+private:
+    mutable std::mutex mutex; ///< held while the preview takes a frame
+    UI::VideoPreviewWidget* preview;
+};
+
+/// A thread that shows the newest frame of a reader once per frame period. Internal.
+///
+/// It is made for one run: started once, stopped for good. The schedule is absolute, so that the time spent on a frame
+/// does not add up; a late tick is not skipped but follows at once.
+class FramePump
+{
+public:
+    FramePump(std::shared_ptr<PreviewGate> gate, boost::intrusive_ptr<Acquis::IFrameReader> reader, double frameRate);
+    ~FramePump();
+
+    /// Starts the thread of `pump`, which it keeps alive until it ends. Throws `std::system_error` when there are no
+    /// threads left.
+    static void Start(const std::shared_ptr<FramePump>& pump);
+
+    /// Ends the thread. Whoever calls waits until it has ended, except the thread itself. Any thread, any number of
+    /// times, once `Start` has returned.
+    void Stop();
+
+private:
+    void Run();
+
+    const std::shared_ptr<PreviewGate> gate;
+    const boost::intrusive_ptr<Acquis::IFrameReader> reader;
+    const std::chrono::milliseconds period;
+
+    std::mutex mutex;
+    std::condition_variable wake;
+    bool stopping = false; ///< guarded by `mutex`; never false again, so that no start can undo a stop
+
+    std::thread thread;
+    std::once_flag joined;
+};
+
+} // namespace Zelkor::Vx

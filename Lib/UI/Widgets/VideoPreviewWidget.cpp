@@ -1,0 +1,215 @@
+#include <UI/Widgets/VideoPreviewWidget.h>
+
+#include <Zelkor/Core/CoreManager.h>
+#include <Zelkor/Proc/ImplNames.h>
+#include <Zelkor/Proc/SettingsColorspaceConverter.h>
+#include <Zelkor/Util/ImageUtils.h>
+
+#include <QCoreApplication>
+#include <QEvent>
+#include <QPainter>
+#include <QPixmap>
+#include <QThread>
+
+#include <atomic>
+#include <mutex>
+#include <utility>
+
+namespace Zelkor::Vx::UI {
+
+namespace {
+
+constexpr Proc::PixFmt DISPLAY_FORMAT = Proc::PixFmt::BGRA;
+
+// In the middle of the area; what is larger begins at its left and top edges.
+QRect CenteredRect(const QSize& area, const QSize& size)
+{
+    return QRect(QPoint(qMax(0, area.width() - size.width()) / 2, qMax(0, area.height() - size.height()) / 2), size);
+}
+
+bool Exceeds(const QSize& size, const QSize& area)
+{
+    return size.width() > area.width() || size.height() > area.height();
+}
+
+} // namespace
+
+struct VideoPreviewWidget::Impl
+{
+    explicit Impl(VideoPreviewWidget* widget);
+
+    QSize Area() const;
+    void SetArea(const QSize& size);
+    QImage Convert(boost::intrusive_ptr<Proc::IDataVideo> frame);
+    void SetFrame(QPixmap pixmap, const QRect& rect);
+    void RequestRepaint();
+
+    VideoPreviewWidget* widget;
+
+    mutable std::mutex pictureMutex; ///< guards what follows up to the next mutex, held for moments only
+    QRect previewRect = QRect(0, 0, 0, 0);
+    QPixmap framePixmap;
+    QRect frameRect;
+
+    std::mutex converterMutex; ///< one conversion at a time, whoever feeds
+    boost::intrusive_ptr<Proc::IEffect> converter;
+    Zelkor::Util::ImageUtils imageUtils;
+
+    QPixmap defaultPixmap; ///< this and the next for the GUI thread alone
+    QRect defaultRect;
+
+    std::atomic<bool> repaintRequested{false}; ///< an event that asks for a repaint is on its way
+};
+
+VideoPreviewWidget::Impl::Impl(VideoPreviewWidget* widget) : widget(widget)
+{
+    const auto factory = Core::CoreManager::Instance().GetEffectFactory();
+    factory->CreateEffect(converter, Proc::SettingsColorspaceConverter::CLASS_ID, Proc::ImplNames::DEFAULT, nullptr);
+    if (converter)
+        converter->ApplySettings(Proc::SettingsColorspaceConverter(DISPLAY_FORMAT, true));
+}
+
+QSize VideoPreviewWidget::Impl::Area() const
+{
+    const std::lock_guard<std::mutex> lock(pictureMutex);
+    return previewRect.size();
+}
+
+void VideoPreviewWidget::Impl::SetArea(const QSize& size)
+{
+    const std::lock_guard<std::mutex> lock(pictureMutex);
+    previewRect.setSize(size);
+}
+
+QImage VideoPreviewWidget::Impl::Convert(boost::intrusive_ptr<Proc::IDataVideo> frame)
+{
+    const std::lock_guard<std::mutex> lock(converterMutex);
+    if (frame->GetPixelFormat() != DISPLAY_FORMAT) {
+        if (!converter)
+            return QImage();
+        converter->Process(frame);
+    }
+    return imageUtils.FrameToImage(frame);
+}
+
+void VideoPreviewWidget::Impl::SetFrame(QPixmap pixmap, const QRect& rect)
+{
+    {
+        // The old pixmap leaves by the argument and is freed after the lock.
+        const std::lock_guard<std::mutex> lock(pictureMutex);
+        framePixmap.swap(pixmap);
+        frameRect = rect;
+    }
+    RequestRepaint();
+}
+
+// QWidget::update() is for the GUI thread. From elsewhere an event asks for it, at most one at a time, so that a busy
+// GUI thread does not pile them up.
+void VideoPreviewWidget::Impl::RequestRepaint()
+{
+    if (QThread::currentThread() == widget->thread()) {
+        widget->update();
+        return;
+    }
+    if (repaintRequested)
+        return;
+    // Made before the flag is set: the flag orders the event's memory for the thread that clears it.
+    auto event = std::make_unique<QEvent>(QEvent::User);
+    if (!repaintRequested.exchange(true))
+        QCoreApplication::postEvent(widget, event.release());
+}
+
+VideoPreviewWidget::VideoPreviewWidget(QWidget* parent) : QFrame(parent), impl(std::make_unique<Impl>(this))
+{
+}
+
+VideoPreviewWidget::~VideoPreviewWidget()
+{
+    QEvent farewell(QEvent::Destroy);
+    QCoreApplication::sendEvent(this, &farewell);
+}
+
+int VideoPreviewWidget::GetPreviewWidth() const
+{
+    return impl->Area().width();
+}
+
+void VideoPreviewWidget::SetPreviewWidth(int width)
+{
+    const int possible = qBound(0, width, QWIDGETSIZE_MAX);
+    impl->SetArea(QSize(possible, GetPreviewHeight()));
+    setMinimumWidth(possible);
+    setMaximumWidth(possible);
+}
+
+int VideoPreviewWidget::GetPreviewHeight() const
+{
+    return impl->Area().height();
+}
+
+void VideoPreviewWidget::SetPreviewHeight(int height)
+{
+    const int possible = qBound(0, height, QWIDGETSIZE_MAX);
+    impl->SetArea(QSize(GetPreviewWidth(), possible));
+    setMinimumHeight(possible);
+    setMaximumHeight(possible);
+}
+
+QImage VideoPreviewWidget::GetDefaultImage() const
+{
+    return impl->defaultPixmap.toImage();
+}
+
+void VideoPreviewWidget::SetDefaultImage(QImage image)
+{
+    impl->defaultPixmap = QPixmap::fromImage(std::move(image));
+    impl->defaultRect = CenteredRect(impl->Area(), impl->defaultPixmap.size());
+    ResetPreview();
+}
+
+void VideoPreviewWidget::ResetPreview()
+{
+    impl->SetFrame(QPixmap(), QRect());
+}
+
+void VideoPreviewWidget::UpdateView(const boost::intrusive_ptr<Proc::IDataVideo>& frame)
+{
+    if (!frame) {
+        ResetPreview();
+        return;
+    }
+    QImage image = impl->Convert(frame);
+    const QSize area = impl->Area();
+    if (Exceeds(image.size(), area))
+        image = image.scaled(area, Qt::KeepAspectRatio, Qt::FastTransformation);
+    QPixmap pixmap = QPixmap::fromImage(std::move(image));
+    const QRect rect = CenteredRect(area, pixmap.size());
+    impl->SetFrame(std::move(pixmap), rect);
+}
+
+void VideoPreviewWidget::paintEvent(QPaintEvent*)
+{
+    QPixmap pixmap;
+    QRect rect;
+    {
+        const std::lock_guard<std::mutex> lock(impl->pictureMutex);
+        pixmap = impl->framePixmap;
+        rect = impl->frameRect;
+    }
+    if (pixmap.isNull()) {
+        pixmap = impl->defaultPixmap;
+        rect = impl->defaultRect;
+    }
+    QPainter painter(this);
+    if (!pixmap.isNull())
+        painter.drawPixmap(rect, pixmap);
+}
+
+void VideoPreviewWidget::customEvent(QEvent*)
+{
+    // Cleared before the repaint: a frame that comes meanwhile asks for one more.
+    if (impl->repaintRequested.exchange(false))
+        update();
+}
+
+} // namespace Zelkor::Vx::UI

@@ -1,0 +1,501 @@
+#include <UI/Widgets/WebCameraPreviewStream.h>
+
+#include <UI/Common/LogSource.h>
+#include <UI/Widgets/FramePump.h>
+#include <UI/Widgets/VideoPreviewWidget.h>
+
+#include <Zelkor/Acquis/CaptureFactory.h>
+#include <Zelkor/Core/CoreManager.h>
+#include <Zelkor/Proc/ImplNames.h>
+
+#include <QCoreApplication>
+#include <QEvent>
+#include <QTimer>
+
+#include <algorithm>
+#include <chrono>
+#include <exception>
+#include <mutex>
+#include <optional>
+#include <utility>
+
+namespace Zelkor::Vx {
+
+namespace {
+
+const UI::Common::LogSource LOG_SOURCE("Lib/UI/Widgets/WebCameraPreviewStream");
+
+using Clock = std::chrono::steady_clock;
+using VideoSettings = boost::intrusive_ptr<Acquis::IVideoCaptureSettings>;
+
+constexpr std::chrono::milliseconds RETRY_DELAY(200);
+constexpr unsigned MAX_RETRIES = 6;
+constexpr double LOWEST_FRAME_RATE = 1.0;
+
+/// The preview shows frames as they come: their time stamps are left as they are.
+class TimeShift : public Acquis::TimeShift
+{
+public:
+    std::int64_t MapTime(std::int64_t time) const override { return time; }
+};
+
+double ValueOf(const Acquis::Rational& rate)
+{
+    return rate.denominator > 0 ? double(rate.numerator) / double(rate.denominator) : 0.0;
+}
+
+/// The device's first video mode of this name, else its first one; null when it has none.
+VideoSettings ChooseSettings(const Acquis::ICaptureDevice& device, const std::string& name)
+{
+    std::vector<boost::intrusive_ptr<Acquis::ICaptureSettings>> list;
+    device.GetSettings(list, Acquis::SETTINGS_KIND_VIDEO);
+    VideoSettings first;
+    for (const auto& entry : list) {
+        VideoSettings settings(dynamic_cast<Acquis::IVideoCaptureSettings*>(entry.get()));
+        if (!settings)
+            continue;
+        if (settings->GetName() == name)
+            return settings;
+        if (!first)
+            first = settings;
+    }
+    return first;
+}
+
+/// The mode's first rate of exactly this value, else its last one; rates below one frame per second are passed over.
+std::optional<Acquis::Rational> ChooseFrameRate(const Acquis::IVideoCaptureSettings& settings, double frameRate)
+{
+    std::vector<Acquis::Rational> rates;
+    settings.GetFrameRates(rates);
+    std::optional<Acquis::Rational> last;
+    for (const auto& rate : rates) {
+        const double value = ValueOf(rate);
+        if (value < LOWEST_FRAME_RATE)
+            continue;
+        if (value == frameRate)
+            return rate;
+        last = rate;
+    }
+    return last;
+}
+
+} // namespace
+
+/// What the stream does, with all that the engine's threads may reach.
+///
+/// One mutex guards the state. It is never held while the engine is called or a pump is joined, so neither can wait for
+/// the other; instead, each step that goes on after such a call looks whether what it began with still holds. A session
+/// is current as long as its observer is; each stop makes another epoch, into which nothing of an earlier one gets.
+class WebCameraPreviewStream::Impl : public std::enable_shared_from_this<Impl>
+{
+public:
+    Impl(WebCameraPreviewStream* stream, UI::VideoPreviewWidget* preview);
+
+    void SetDevice(const boost::intrusive_ptr<Acquis::ICaptureDevice>& newDevice, const std::string& settingsName,
+                   double newFrameRate);
+    void Start();
+    void Stop();
+    bool Retry();
+    void ArmRetryTimer();
+    void ClosePreview();
+    void Shutdown();
+    boost::intrusive_ptr<Acquis::IDeviceSettings> SettingsHandle() const;
+
+private:
+    class Observer;
+
+    struct Session
+    {
+        boost::intrusive_ptr<Acquis::ICaptureSession> capture;
+        std::shared_ptr<Observer> observer;
+    };
+
+    void HandleStarted(const Observer* from, const boost::intrusive_ptr<Acquis::IFrameProvider>& provider);
+    void HandleError(const Observer* from, int code);
+    void HandleStopped(const Observer* from);
+
+    bool IsCurrent(const Observer* observer) const { return session.observer.get() == observer; }
+    boost::intrusive_ptr<Acquis::ICaptureSession> CreateCaptureSession() const;
+    void BuildSession(unsigned forEpoch);
+    void StartSession(const Session& started);
+    void EndPump(const std::shared_ptr<FramePump>& ended);
+    void RequestRetry();
+    void RunRetryTimer();
+
+    const boost::intrusive_ptr<Acquis::ICaptureFactory> captureFactory = Acquis::CaptureFactory::Create();
+    const std::shared_ptr<PreviewGate> gate;
+    QTimer* const retryTimer; ///< a child of the stream, for the GUI thread alone
+
+    mutable std::mutex mutex; ///< guards all that follows
+    WebCameraPreviewStream* stream;
+    boost::intrusive_ptr<Acquis::ICaptureDevice> device;
+    VideoSettings settings;
+    double frameRate = LOWEST_FRAME_RATE;
+    boost::intrusive_ptr<Acquis::IDeviceSettings> settingsHandle;
+    Session session;
+    std::shared_ptr<FramePump> pump;
+    unsigned epoch = 0;
+    unsigned retryCount = 0;
+    std::optional<Clock::time_point> retryDue;
+    bool gaveUp = false;
+};
+
+/// Passes on what one session reports, as long as there is somebody to hear it.
+class WebCameraPreviewStream::Impl::Observer : public Acquis::ICaptureSessionObserver
+{
+public:
+    explicit Observer(std::weak_ptr<Impl> impl) : weakImpl(std::move(impl)) {}
+
+    void handleStarted(Acquis::ICaptureSession&, std::int64_t,
+                       const boost::intrusive_ptr<Acquis::IFrameProvider>& provider) override
+    {
+        if (const auto impl = weakImpl.lock())
+            impl->HandleStarted(this, provider);
+    }
+
+    void handleError(Acquis::ICaptureSession&, int code) override
+    {
+        if (const auto impl = weakImpl.lock())
+            impl->HandleError(this, code);
+    }
+
+    void handleStopped() override
+    {
+        if (const auto impl = weakImpl.lock())
+            impl->HandleStopped(this);
+    }
+
+private:
+    const std::weak_ptr<Impl> weakImpl;
+};
+
+WebCameraPreviewStream::Impl::Impl(WebCameraPreviewStream* stream, UI::VideoPreviewWidget* preview) :
+    gate(std::make_shared<PreviewGate>(preview)), retryTimer(new QTimer(stream)), stream(stream)
+{
+    retryTimer->setTimerType(Qt::PreciseTimer);
+    retryTimer->setSingleShot(true);
+    QObject::connect(retryTimer, &QTimer::timeout, stream, [this, stream] {
+        if (!Retry())
+            Q_EMIT stream->WebCameraOpenError();
+    });
+}
+
+void WebCameraPreviewStream::Impl::SetDevice(const boost::intrusive_ptr<Acquis::ICaptureDevice>& newDevice,
+                                             const std::string& settingsName, double newFrameRate)
+{
+    Stop();
+    const VideoSettings newSettings = newDevice ? ChooseSettings(*newDevice, settingsName) : nullptr;
+    const auto rate = newSettings ? ChooseFrameRate(*newSettings, newFrameRate) : std::nullopt;
+    if (newDevice && !rate)
+        LOG_SOURCE.Error(118, "Zelkor::Vx::WebCameraPreviewStream::Impl::SetDevice", "device has no usable video mode");
+    if (rate)
+        newSettings->SetFrameRate(*rate);
+
+    unsigned forEpoch;
+    {
+        const std::lock_guard<std::mutex> lock(mutex);
+        device = newDevice;
+        settings = rate ? newSettings : nullptr;
+        frameRate = rate ? ValueOf(*rate) : LOWEST_FRAME_RATE;
+        settingsHandle = nullptr;
+        forEpoch = epoch;
+    }
+    BuildSession(forEpoch);
+}
+
+void WebCameraPreviewStream::Impl::Start()
+{
+    Session started;
+    {
+        const std::lock_guard<std::mutex> lock(mutex);
+        retryCount = 0;
+        retryDue.reset();
+        gaveUp = false;
+        started = session;
+    }
+    StartSession(started);
+}
+
+void WebCameraPreviewStream::Impl::Stop()
+{
+    Session stopped;
+    std::shared_ptr<FramePump> ended;
+    {
+        const std::lock_guard<std::mutex> lock(mutex);
+        ++epoch;
+        retryDue.reset();
+        std::swap(stopped, session);
+        ended = pump;
+    }
+    if (stopped.capture)
+        stopped.capture->Stop();
+    EndPump(ended);
+    gate->Reset();
+}
+
+/// The end of a retry's delay: the session is built and started once more. False when that was tried often enough.
+/// GUI thread.
+bool WebCameraPreviewStream::Impl::Retry()
+{
+    Session failed;
+    std::shared_ptr<FramePump> ended;
+    unsigned forEpoch;
+    {
+        const std::lock_guard<std::mutex> lock(mutex);
+        if (!retryDue)
+            return true;
+        if (Clock::now() < *retryDue) {
+            RunRetryTimer();
+            return true;
+        }
+        retryDue.reset();
+        if (retryCount == MAX_RETRIES) {
+            gaveUp = true;
+            return false;
+        }
+        ++retryCount;
+        std::swap(failed, session);
+        ended = pump;
+        forEpoch = epoch;
+    }
+    EndPump(ended);
+    failed = Session();
+    gate->Reset();
+    BuildSession(forEpoch);
+
+    Session started;
+    {
+        const std::lock_guard<std::mutex> lock(mutex);
+        if (epoch != forEpoch)
+            return true;
+        started = session;
+        // Without a session nobody would report the next error.
+        if (!started.capture)
+            RequestRetry();
+    }
+    StartSession(started);
+    return true;
+}
+
+void WebCameraPreviewStream::Impl::ArmRetryTimer()
+{
+    const std::lock_guard<std::mutex> lock(mutex);
+    if (retryDue)
+        RunRetryTimer();
+}
+
+void WebCameraPreviewStream::Impl::ClosePreview()
+{
+    gate->Close();
+    Stop();
+}
+
+void WebCameraPreviewStream::Impl::Shutdown()
+{
+    {
+        const std::lock_guard<std::mutex> lock(mutex);
+        stream = nullptr;
+    }
+    ClosePreview();
+}
+
+boost::intrusive_ptr<Acquis::IDeviceSettings> WebCameraPreviewStream::Impl::SettingsHandle() const
+{
+    const std::lock_guard<std::mutex> lock(mutex);
+    return settingsHandle;
+}
+
+void WebCameraPreviewStream::Impl::HandleStarted(const Observer* from,
+                                                 const boost::intrusive_ptr<Acquis::IFrameProvider>& provider)
+{
+    std::shared_ptr<FramePump> previous;
+    {
+        const std::lock_guard<std::mutex> lock(mutex);
+        if (!IsCurrent(from) || !provider)
+            return;
+        previous = pump;
+    }
+    EndPump(previous);
+
+    boost::intrusive_ptr<Acquis::ICaptureOutput> output;
+    provider->CreateOutput(output, "WebCameraPreview", 0);
+    if (!output)
+        return;
+    output->SetTimeShift(new TimeShift);
+    auto reader = output->GetFrameReader();
+
+    const std::lock_guard<std::mutex> lock(mutex);
+    if (!IsCurrent(from) || pump)
+        return;
+    // Started under the lock, so that whoever finds the pump finds its thread.
+    auto started = std::make_shared<FramePump>(gate, std::move(reader), frameRate);
+    try {
+        FramePump::Start(started);
+        pump = std::move(started);
+    } catch (const std::exception& error) {
+        LOG_SOURCE.Error(196, "Zelkor::Vx::WebCameraPreviewStream::Impl::handleStarted", error.what());
+    }
+}
+
+void WebCameraPreviewStream::Impl::HandleError(const Observer* from, int code)
+{
+    LOG_SOURCE.Error(212, "Zelkor::Vx::WebCameraPreviewStream::Impl::handleError",
+                     "Cannot create preview stream. Error code: ", code);
+    const std::lock_guard<std::mutex> lock(mutex);
+    if (IsCurrent(from))
+        RequestRetry();
+}
+
+void WebCameraPreviewStream::Impl::HandleStopped(const Observer* from)
+{
+    std::shared_ptr<FramePump> ended;
+    {
+        const std::lock_guard<std::mutex> lock(mutex);
+        if (!IsCurrent(from))
+            return;
+        ended = pump;
+    }
+    EndPump(ended);
+    // Under the lock, which a new session needs to get a pump: its picture shall not be cleared.
+    const std::lock_guard<std::mutex> lock(mutex);
+    if (IsCurrent(from))
+        gate->Reset();
+}
+
+/// A new session for device and settings; null, logged, when the engine does not make one.
+boost::intrusive_ptr<Acquis::ICaptureSession> WebCameraPreviewStream::Impl::CreateCaptureSession() const
+{
+    boost::intrusive_ptr<Acquis::ICaptureDevice> sessionDevice;
+    boost::intrusive_ptr<Acquis::ICaptureSettings> sessionSettings;
+    {
+        const std::lock_guard<std::mutex> lock(mutex);
+        sessionDevice = device;
+        sessionSettings = settings;
+    }
+    boost::intrusive_ptr<Acquis::ICaptureSession> capture;
+    if (!sessionDevice || !sessionSettings)
+        return capture;
+    try {
+        using Unit = Acquis::CaptureSessionInitializer::Unit;
+        const Acquis::CaptureSessionInitializer initializer({Unit(sessionDevice, sessionSettings)},
+                                                            Core::CoreManager::Instance().GetEffectFactory(), nullptr,
+                                                            Proc::PixFmt::None);
+        captureFactory->CreateSession(capture, initializer, Proc::ImplNames::DEFAULT);
+    } catch (const std::exception& error) {
+        LOG_SOURCE.Error(150, "Zelkor::Vx::WebCameraPreviewStream::Impl::BuildSession", error.what());
+    }
+    return capture;
+}
+
+void WebCameraPreviewStream::Impl::BuildSession(unsigned forEpoch)
+{
+    Session built;
+    built.capture = CreateCaptureSession();
+    std::vector<boost::intrusive_ptr<Acquis::IDeviceSettings>> handles;
+    if (built.capture) {
+        built.capture->GetDeviceSettings(handles);
+        built.observer = std::make_shared<Observer>(weak_from_this());
+    }
+    // A session that comes too late leaves by `built`, after the lock.
+    const std::lock_guard<std::mutex> lock(mutex);
+    if (epoch != forEpoch)
+        return;
+    std::swap(session, built);
+    settingsHandle = handles.empty() ? nullptr : handles.front();
+}
+
+void WebCameraPreviewStream::Impl::StartSession(const Session& started)
+{
+    if (!started.capture)
+        return;
+    started.capture->Start(started.observer);
+    bool stoppedMeanwhile;
+    {
+        const std::lock_guard<std::mutex> lock(mutex);
+        stoppedMeanwhile = !IsCurrent(started.observer.get());
+    }
+    if (stoppedMeanwhile)
+        started.capture->Stop();
+}
+
+/// Stops a pump and takes it out of the state, unless another one is there already.
+void WebCameraPreviewStream::Impl::EndPump(const std::shared_ptr<FramePump>& ended)
+{
+    if (!ended)
+        return;
+    ended->Stop();
+    const std::lock_guard<std::mutex> lock(mutex);
+    if (pump == ended)
+        pump = nullptr;
+}
+
+/// Has the GUI thread retry later. The first error counts: those that follow until then neither put the retry off nor
+/// add another. Called under the lock.
+void WebCameraPreviewStream::Impl::RequestRetry()
+{
+    if (!stream || gaveUp || retryDue)
+        return;
+    retryDue = Clock::now() + RETRY_DELAY;
+    QCoreApplication::postEvent(stream, new QEvent(QEvent::User));
+}
+
+/// Has the timer end when the retry is due. GUI thread, under the lock.
+void WebCameraPreviewStream::Impl::RunRetryTimer()
+{
+    const auto delay = std::chrono::ceil<std::chrono::milliseconds>(*retryDue - Clock::now());
+    retryTimer->start(std::max(delay, std::chrono::milliseconds(0)));
+}
+
+WebCameraPreviewStream::WebCameraPreviewStream(UI::VideoPreviewWidget* preview) :
+    QObject(preview), impl(std::make_shared<Impl>(this, preview))
+{
+    if (preview)
+        preview->installEventFilter(this);
+}
+
+WebCameraPreviewStream::~WebCameraPreviewStream()
+{
+    impl->Shutdown();
+}
+
+void WebCameraPreviewStream::SetDevice(const boost::intrusive_ptr<Acquis::ICaptureDevice>& device,
+                                       const QString& settingsName, double frameRate)
+{
+    impl->SetDevice(device, settingsName.toStdString(), frameRate);
+}
+
+void WebCameraPreviewStream::StartStream()
+{
+    impl->Start();
+}
+
+void WebCameraPreviewStream::StopStream()
+{
+    impl->Stop();
+}
+
+bool WebCameraPreviewStream::IsWebcameraSettingsAvailable() const
+{
+    return impl->SettingsHandle() != nullptr;
+}
+
+void WebCameraPreviewStream::ShowCurrentDeviceSettings()
+{
+    if (const auto handle = impl->SettingsHandle())
+        handle->ShowSettingsDialog();
+}
+
+bool WebCameraPreviewStream::eventFilter(QObject* watched, QEvent* event)
+{
+    // The preview is about to die; this is the last moment at which it can take a frame.
+    if (event->type() == QEvent::Destroy)
+        impl->ClosePreview();
+    return QObject::eventFilter(watched, event);
+}
+
+void WebCameraPreviewStream::customEvent(QEvent*)
+{
+    impl->ArmRetryTimer();
+}
+
+} // namespace Zelkor::Vx

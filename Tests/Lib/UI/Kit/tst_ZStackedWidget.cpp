@@ -1,0 +1,66 @@
+#include <UI/Kit/ZStackedWidget.h>
+
+#include <Support/TestCase.h>
+
+#include <QVBoxLayout>
+
+namespace {
+
+QWidget* MakePage(const QSize& minimum)
+{
+    auto* page = new QWidget;
+    auto* layout = new QVBoxLayout(page);
+    layout->setContentsMargins(0, 0, 0, 0);
+    auto* content = new QWidget;
+    content->setMinimumSize(minimum);
+    layout->addWidget(content);
+    return page;
+}
+
+} // namespace
+
+class tst_ZStackedWidget : public Support::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void followsTheCurrentPage()
+    {
+        QWidget window;
+        auto* layout = new QVBoxLayout(&window);
+        layout->setContentsMargins(0, 0, 0, 0);
+        layout->setSizeConstraint(QLayout::SetFixedSize);
+        auto* stack = new ZStackedWidget;
+        layout->addWidget(stack);
+        stack->addWidget(MakePage({300, 200}));
+        stack->addWidget(MakePage({40, 30}));
+        window.show();
+        QCOMPARE(window.size(), QSize(300, 200));
+
+        stack->setCurrentIndex(1);
+        QTRY_COMPARE(window.size(), QSize(40, 30));
+
+        // Off, it keeps its size until the layout asks again, and is then as large as its largest page.
+        stack->setAutoFit(false);
+        QCoreApplication::processEvents();
+        QCOMPARE(window.size(), QSize(40, 30));
+        stack->updateGeometry();
+        QTRY_COMPARE(window.size(), QSize(300, 200));
+        stack->setAutoFit(true);
+        QTRY_COMPARE(window.size(), QSize(40, 30));
+    }
+
+    void emptyStackIsAPlainFrame()
+    {
+        ZStackedWidget stack;
+        QFrame frame;
+        QCOMPARE(stack.sizeHint(), frame.sizeHint());
+        stack.addWidget(MakePage({10, 10}));
+        QCOMPARE(stack.sizeHint(), QSize(10, 10));
+        delete stack.currentWidget();
+        QCOMPARE(stack.sizeHint(), frame.sizeHint());
+    }
+};
+
+VX_TEST_MAIN(tst_ZStackedWidget)
+#include "tst_ZStackedWidget.moc"
