@@ -40,9 +40,7 @@ void VisitAxis(QLayout* layout, OnTable onTable, OnBox onBox)
 
 } // namespace
 
-ZFrame::ZFrame(QWidget* parent, Qt::WindowFlags flags) : QFrame(parent, flags)
-{
-}
+ZFrame::ZFrame(QWidget* parent, Qt::WindowFlags flags) : QFrame(parent, flags) {}
 
 int ZFrame::layoutMargin() const
 {

@@ -7,6 +7,7 @@
 
 #include <QApplication>
 #include <QDesktopWidget>
+#include <QMouseEvent>
 #include <QPointer>
 
 namespace Zelkor::Vx::UI {
@@ -42,6 +43,7 @@ struct ButtonWithPopUpContainer::PopUpWindow : public ZFrame
     explicit PopUpWindow(ButtonWithPopUpContainer* owner);
 
     QPoint ComputePopupPosition() const;
+    QRect ButtonRect() const { return QRect(button->mapToGlobal(QPoint(0, 0)), button->size()); }
 
     ButtonWithPopUpContainer* button;
     ZFrame* container;
@@ -56,11 +58,12 @@ struct ButtonWithPopUpContainer::PopUpWindow : public ZFrame
 protected:
     void showEvent(QShowEvent* event) override;
     void hideEvent(QHideEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
 };
 
-ButtonWithPopUpContainer::PopUpWindow::PopUpWindow(ButtonWithPopUpContainer* owner) :
-    ZFrame(owner), button(owner), container(new ZFrame(this)),
-    containerLayout(Common::MakeBoxLayout<QVBoxLayout>(container))
+ButtonWithPopUpContainer::PopUpWindow::PopUpWindow(ButtonWithPopUpContainer* owner)
+    : ZFrame(owner), button(owner), container(new ZFrame(this)),
+      containerLayout(Common::MakeBoxLayout<QVBoxLayout>(container))
 {
     setObjectName(QStringLiteral("popUpWindow"));
     container->setObjectName(QStringLiteral("popUpContainer"));
@@ -72,10 +75,10 @@ ButtonWithPopUpContainer::PopUpWindow::PopUpWindow(ButtonWithPopUpContainer* own
 
 QPoint ButtonWithPopUpContainer::PopUpWindow::ComputePopupPosition() const
 {
-    const PopUpPlacement::Scene scene{QRect(button->mapToGlobal(QPoint(0, 0)), button->size()), size(), popupHOffset,
-                                      popupVOffset};
-    return PopUpPlacement::FindPosition(scene, {preferredAnchor, preferredDirection}, popupCanOverlapButton,
-                                        [this](const QPoint& point) { return GetBestPopupPosition(this, button, point); });
+    const PopUpPlacement::Scene scene{ButtonRect(), size(), popupHOffset, popupVOffset};
+    return PopUpPlacement::FindPosition(
+        scene, {preferredAnchor, preferredDirection}, popupCanOverlapButton,
+        [this](const QPoint& point) { return GetBestPopupPosition(this, button, point); });
 }
 
 void ButtonWithPopUpContainer::PopUpWindow::showEvent(QShowEvent* event)
@@ -96,8 +99,14 @@ void ButtonWithPopUpContainer::PopUpWindow::hideEvent(QHideEvent* event)
     ZFrame::hideEvent(event);
 }
 
-ButtonWithPopUpContainer::ButtonWithPopUpContainer(QWidget* parent) :
-    QToolButton(parent), popUp(new PopUpWindow(this))
+void ButtonWithPopUpContainer::PopUpWindow::mousePressEvent(QMouseEvent* event)
+{
+    // A press outside closes the pop-up and is then given to what lies under it. The button would open it again.
+    setAttribute(Qt::WA_NoMouseReplay, ButtonRect().contains(event->globalPos()));
+    ZFrame::mousePressEvent(event);
+}
+
+ButtonWithPopUpContainer::ButtonWithPopUpContainer(QWidget* parent) : QToolButton(parent), popUp(new PopUpWindow(this))
 {
     setCheckable(true);
     connect(this, &QAbstractButton::clicked, this, [this] {

@@ -111,7 +111,7 @@ protected:
     void hideEvent(QHideEvent* event) override;
 
 private:
-    struct PopUpWindow;
+    struct Q_DECL_HIDDEN PopUpWindow;
     PopUpWindow* popUp;
 };
 

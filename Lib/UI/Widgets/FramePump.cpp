@@ -45,11 +45,9 @@ void PreviewGate::Close()
 }
 
 FramePump::FramePump(std::shared_ptr<PreviewGate> gate, boost::intrusive_ptr<Acquis::IFrameReader> reader,
-                     double frameRate) :
-    gate(std::move(gate)),
-    reader(std::move(reader)), period(FramePeriod(frameRate))
-{
-}
+                     double frameRate)
+    : gate(std::move(gate)), reader(std::move(reader)), period(FramePeriod(frameRate))
+{}
 
 FramePump::~FramePump()
 {

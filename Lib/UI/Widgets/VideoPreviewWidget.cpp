@@ -119,9 +119,7 @@ void VideoPreviewWidget::Impl::RequestRepaint()
         QCoreApplication::postEvent(widget, event.release());
 }
 
-VideoPreviewWidget::VideoPreviewWidget(QWidget* parent) : QFrame(parent), impl(std::make_unique<Impl>(this))
-{
-}
+VideoPreviewWidget::VideoPreviewWidget(QWidget* parent) : QFrame(parent), impl(std::make_unique<Impl>(this)) {}
 
 VideoPreviewWidget::~VideoPreviewWidget()
 {

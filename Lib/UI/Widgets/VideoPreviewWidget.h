@@ -55,7 +55,7 @@ protected:
     void customEvent(QEvent* event) override;
 
 private:
-    struct Impl;
+    struct Q_DECL_HIDDEN Impl;
     std::unique_ptr<Impl> impl;
 };
 

@@ -169,8 +169,8 @@ private:
     const std::weak_ptr<Impl> weakImpl;
 };
 
-WebCameraPreviewStream::Impl::Impl(WebCameraPreviewStream* stream, UI::VideoPreviewWidget* preview) :
-    gate(std::make_shared<PreviewGate>(preview)), retryTimer(new QTimer(stream)), stream(stream)
+WebCameraPreviewStream::Impl::Impl(WebCameraPreviewStream* stream, UI::VideoPreviewWidget* preview)
+    : gate(std::make_shared<PreviewGate>(preview)), retryTimer(new QTimer(stream)), stream(stream)
 {
     retryTimer->setTimerType(Qt::PreciseTimer);
     retryTimer->setSingleShot(true);
@@ -446,8 +446,8 @@ void WebCameraPreviewStream::Impl::RunRetryTimer()
     retryTimer->start(std::max(delay, std::chrono::milliseconds(0)));
 }
 
-WebCameraPreviewStream::WebCameraPreviewStream(UI::VideoPreviewWidget* preview) :
-    QObject(preview), impl(std::make_shared<Impl>(this, preview))
+WebCameraPreviewStream::WebCameraPreviewStream(UI::VideoPreviewWidget* preview)
+    : QObject(preview), impl(std::make_shared<Impl>(this, preview))
 {
     if (preview)
         preview->installEventFilter(this);

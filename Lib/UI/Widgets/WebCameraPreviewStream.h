@@ -61,7 +61,7 @@ protected:
     void customEvent(QEvent* event) override;
 
 private:
-    class Impl;
+    class Q_DECL_HIDDEN Impl;
     std::shared_ptr<Impl> impl; ///< the engine's threads may hold on to it for the length of a call
 };
 
