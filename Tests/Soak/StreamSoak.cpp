@@ -1,0 +1,75 @@
+// Runs the live picture at 60 frames a second, with a stop and a start every second, and watches the memory. The first
+// argument is the number of seconds. Fails when the memory grows after the first third.
+
+#include <UI/Widgets/VideoPreviewWidget.h>
+#include <UI/Widgets/WebCameraPreviewStream.h>
+
+#include <Support/TestCase.h>
+
+#include <Zelkor/StandIn/CaptureDevice.h>
+#include <Zelkor/StandIn/CaptureEngine.h>
+
+#include <QFile>
+#include <QTimer>
+
+#include <cstdio>
+
+namespace {
+
+// Megabytes that the process has in memory.
+double Resident()
+{
+    QFile file(QStringLiteral("/proc/self/statm"));
+    if (!file.open(QIODevice::ReadOnly))
+        return 0;
+    return file.readAll().split(' ').value(1).toDouble() * 4096 / 1e6;
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    Support::PrepareProcess(argv[0]);
+    QApplication application(argc, argv);
+    const int seconds = argc > 1 ? std::max(3, std::atoi(argv[1])) : 10;
+
+    auto* preview = new Zelkor::Vx::UI::VideoPreviewWidget(nullptr);
+    preview->SetPreviewWidth(640);
+    preview->SetPreviewHeight(360);
+    preview->show();
+    auto* stream = new Zelkor::Vx::WebCameraPreviewStream(preview);
+    const auto device = Zelkor::StandIn::CreateTestPictureDevice();
+    const auto& modes = device->GetModes();
+
+    int second = 0;
+    double early = 0;
+    double late = 0;
+    const auto restart = [&] {
+        stream->StopStream();
+        const auto& mode = modes[size_t(second) % modes.size()];
+        stream->SetDevice(device, QString::fromStdString(mode->GetName()), 60);
+        stream->StartStream();
+        double& peak = 3 * second <= seconds ? early : late;
+        peak = std::max(peak, Resident());
+        if (second % 30 == 0)
+            std::printf("%4d s: %.1f MB\n", second, Resident());
+        std::fflush(stdout);
+        if (++second > seconds)
+            QCoreApplication::quit();
+    };
+    QTimer timer;
+    QObject::connect(&timer, &QTimer::timeout, preview, restart);
+    timer.start(1000);
+    restart();
+    QApplication::exec();
+
+    delete preview; // while it runs
+    if (!Zelkor::StandIn::WaitForEngineIdle(std::chrono::seconds(10))) {
+        std::printf("the engine still has threads\n");
+        return 1;
+    }
+    // Every mode was there in the first third, so what comes later is growth; the allocator has its own ups and downs.
+    constexpr double TOLERANCE = 1.1;
+    std::printf("peak %.1f MB, then %.1f MB\n", early, late);
+    return late <= early * TOLERANCE ? 0 : 1;
+}
