@@ -8,7 +8,6 @@
 #include <QApplication>
 #include <QDesktopWidget>
 #include <QMouseEvent>
-#include <QPointer>
 
 namespace Zelkor::Vx::UI {
 
@@ -244,11 +243,8 @@ int ButtonWithPopUpContainer::WidgetsCount() const
 
 void ButtonWithPopUpContainer::ShowPopup()
 {
-    const QPointer<PopUpWindow> guarded(popUp);
     setChecked(true);
-    // A slot on `toggled` may have deleted the button.
-    if (guarded)
-        guarded->show();
+    popUp->show();
 }
 
 void ButtonWithPopUpContainer::hideEvent(QHideEvent* event)

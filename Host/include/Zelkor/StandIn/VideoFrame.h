@@ -46,7 +46,8 @@ public:
                                                       std::shared_ptr<const void> storage, std::int64_t time = 0);
 
     /// A frame of its own memory, which `fill` writes before the frame is published. The rows of each plane are padded
-    /// to 64 bytes. Null, without a call of `fill`, for a format that has no planes or for an empty size.
+    /// to 64 bytes. Null, without a call of `fill`, for a format that has no planes, for an empty size and for one that
+    /// does not fit into memory.
     using Fill = std::function<void(const std::array<std::uint8_t*, 3>& data, const std::array<int, 3>& strides)>;
     static boost::intrusive_ptr<VideoFrame> Create(const FrameFormat& format, const Fill& fill, std::int64_t time = 0);
 
@@ -62,8 +63,7 @@ public:
     std::int64_t GetTime() const { return time; }
 
 private:
-    VideoFrame(const FrameFormat& format, const Planes& planes, std::shared_ptr<const void> storage,
-               std::int64_t time);
+    VideoFrame(const FrameFormat& format, const Planes& planes, std::shared_ptr<const void> storage, std::int64_t time);
 
     FrameFormat format;
     Planes planes;

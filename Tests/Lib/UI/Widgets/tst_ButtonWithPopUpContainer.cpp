@@ -39,7 +39,7 @@ private Q_SLOTS:
     void styleSheetSetsTheProperties()
     {
         ButtonWithPopUpContainer button;
-        button.setStyleSheet("* { qproperty-layoutDirection: LAYOUT_BOTTOM_TO_TOP;"
+        button.setStyleSheet("QToolButton { qproperty-layoutDirection: LAYOUT_BOTTOM_TO_TOP;"
                              " qproperty-preferredPopupDirection: DIRECTION_UP_LEFT;"
                              " qproperty-preferredPopupAnchor: ANCHOR_TOP_RIGHT;"
                              " qproperty-popupCanOverlapButton: false; qproperty-popupHOffset: -3;"
@@ -165,17 +165,19 @@ private Q_SLOTS:
 
     void destroyedWhileOpen()
     {
-        for (const bool inSlot : {false, true}) {
-            auto* window = new QWidget;
-            auto* button = new ButtonWithPopUpContainer(window);
-            QPointer<QWidget> popUp = PopUpOf(*button);
-            if (inSlot)
-                connect(button, &QAbstractButton::toggled, window, [button] { delete button; });
-            window->show();
+        for (const bool later : {false, true}) {
+            QWidget window;
+            QPointer<ButtonWithPopUpContainer> button = new ButtonWithPopUpContainer(&window);
+            const QPointer<QWidget> popUp = PopUpOf(*button);
+            if (later)
+                connect(button, &QAbstractButton::toggled, button, &QObject::deleteLater);
+            window.show();
             button->ShowPopup();
-            QCOMPARE(!popUp, inSlot);
-            delete window;
-            QVERIFY(!popUp);
+            QVERIFY(popUp->isVisible());
+            if (!later)
+                delete button;
+            QTRY_VERIFY(!button && !popUp);
+            QVERIFY(!QApplication::activePopupWidget());
         }
     }
 };

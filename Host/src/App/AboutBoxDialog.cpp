@@ -1,0 +1,160 @@
+#include <Zelkor/App/AboutBoxDialog.h>
+
+#include <QDesktopServices>
+#include <QDialogButtonBox>
+#include <QFocusEvent>
+#include <QFontInfo>
+#include <QLabel>
+#include <QMouseEvent>
+#include <QPushButton>
+#include <QUrl>
+#include <QVBoxLayout>
+
+namespace Zelkor::App {
+
+namespace {
+
+const QString HOME_PAGE = QStringLiteral("https://example.com/");
+const QString MAIL_TO = QStringLiteral("mailto:support@example.com");
+
+constexpr qreal PRODUCT_FONT_SCALE = 1.5;
+
+// A label whose link has the focus as soon as the Tab key reaches the label, not one press later.
+class LinkLabel : public QLabel
+{
+    void focusInEvent(QFocusEvent* event) override
+    {
+        QLabel::focusInEvent(event);
+        if (event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason)
+            focusNextPrevChild(event->reason() == Qt::TabFocusReason);
+    }
+};
+
+QLabel* MakeLabel(const char* objectName, const QString& text)
+{
+    auto* label = new QLabel;
+    label->setObjectName(QLatin1String(objectName));
+    label->setTextFormat(Qt::PlainText);
+    label->setText(text);
+    return label;
+}
+
+QLabel* MakeProductLabel(const QString& product)
+{
+    QLabel* label = MakeLabel("productLabel", product);
+    QFont font = label->font();
+    font.setBold(true);
+    font.setPointSizeF(QFontInfo(font).pointSizeF() * PRODUCT_FONT_SCALE);
+    label->setFont(font);
+    return label;
+}
+
+void OpenLink(const QString& link)
+{
+    static const QStringList ALLOWED = {QStringLiteral("http"), QStringLiteral("https"), QStringLiteral("mailto")};
+    const QUrl url(link);
+    if (ALLOWED.contains(url.scheme()))
+        QDesktopServices::openUrl(url);
+}
+
+QLabel* MakeLinkLabel(const char* objectName)
+{
+    auto* label = new LinkLabel;
+    label->setObjectName(QLatin1String(objectName));
+    label->setTextFormat(Qt::RichText);
+    label->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
+    label->setOpenExternalLinks(false);
+    QObject::connect(label, &QLabel::linkActivated, label, OpenLink);
+    return label;
+}
+
+void SetLink(QLabel* label, const QString& link, const QString& text)
+{
+    label->setText(QStringLiteral("<a href=\"%1\">%2</a>").arg(link.toHtmlEscaped(), text.toHtmlEscaped()));
+}
+
+} // namespace
+
+struct AboutBoxDialog::Parts
+{
+    QString product;
+    QLabel* homePage = nullptr;
+    QLabel* mailTo = nullptr;
+    QLabel* custom = nullptr;
+    QPushButton* ok = nullptr;
+};
+
+AboutBoxDialog::AboutBoxDialog(const QString& product, const QString& version, const QString& legal, QWidget* parent)
+    : QDialog(parent), parts(new Parts)
+{
+    setWindowFlag(Qt::WindowContextHelpButtonHint, false);
+
+    QLabel* legalLabel = MakeLabel("legalLabel", legal);
+    legalLabel->setWordWrap(true);
+
+    parts->product = product;
+    parts->homePage = MakeLinkLabel("homePageLabel");
+    parts->mailTo = MakeLinkLabel("mailToLabel");
+    parts->custom = MakeLinkLabel("customURL");
+    parts->custom->hide();
+    // A button of our own: the box translates its standard buttons itself, by whatever translation Qt has.
+    auto* buttons = new QDialogButtonBox;
+    parts->ok = buttons->addButton(QString(), QDialogButtonBox::AcceptRole);
+    parts->ok->setDefault(true);
+    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+
+    auto* layout = new QVBoxLayout(this);
+    const int space = layout->spacing() < 0 ? fontMetrics().height() / 2 : layout->spacing();
+    layout->addWidget(MakeProductLabel(product));
+    layout->addWidget(MakeLabel("versionLabel", version));
+    layout->addSpacing(space);
+    layout->addWidget(parts->homePage);
+    layout->addWidget(parts->mailTo);
+    layout->addWidget(parts->custom);
+    layout->addSpacing(space);
+    layout->addWidget(legalLabel);
+    layout->addSpacing(space);
+    layout->addWidget(buttons);
+    // The dialog always has the size of its texts, in whatever language and font.
+    layout->setSizeConstraint(QLayout::SetFixedSize);
+    Retranslate();
+}
+
+AboutBoxDialog::~AboutBoxDialog() = default;
+
+void AboutBoxDialog::SetCustomUrl(const QUrl& url)
+{
+    if (!url.isEmpty())
+        SetLink(parts->custom, url.toString(QUrl::FullyEncoded), url.toDisplayString());
+    parts->custom->setVisible(!url.isEmpty());
+}
+
+void AboutBoxDialog::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        Retranslate();
+    QDialog::changeEvent(event);
+}
+
+// A dialog that is shown again begins at its button, whichever link had the focus last.
+void AboutBoxDialog::showEvent(QShowEvent* event)
+{
+    parts->ok->setFocus();
+    QDialog::showEvent(event);
+}
+
+// Styles and windows that drag by their empty areas look for presses that nobody took.
+void AboutBoxDialog::mousePressEvent(QMouseEvent* event)
+{
+    event->accept();
+}
+
+void AboutBoxDialog::Retranslate()
+{
+    setWindowTitle(tr("About %1").arg(parts->product));
+    SetLink(parts->homePage, HOME_PAGE, tr("Visit the home page"));
+    SetLink(parts->mailTo, MAIL_TO, tr("Write to support"));
+    parts->ok->setText(tr("OK"));
+}
+
+} // namespace Zelkor::App

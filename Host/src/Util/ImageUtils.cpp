@@ -1,0 +1,61 @@
+#include <Zelkor/Util/ImageUtils.h>
+
+#include <Zelkor/StandIn/VideoFrame.h>
+
+#include <cstdint>
+#include <cstring>
+
+namespace Zelkor::Util {
+
+namespace {
+
+using StandIn::FrameFormat;
+using StandIn::Plane;
+using StandIn::VideoFrame;
+
+constexpr QImage::Format FORMAT = QImage::Format_RGB32;
+
+void LetGo(void* frame)
+{
+    intrusive_ptr_release(static_cast<const VideoFrame*>(frame));
+}
+
+// Qt's vector code steps through rows by whole pixels and expects them at addresses that whole pixels have.
+bool IsAligned(const Plane& plane)
+{
+    constexpr std::uintptr_t PIXEL = sizeof(QRgb);
+    return reinterpret_cast<std::uintptr_t>(plane.data) % PIXEL == 0 && plane.stride % sizeof(QRgb) == 0;
+}
+
+QImage Copy(const Plane& plane, const FrameFormat& format)
+{
+    QImage image(format.width, format.height, FORMAT);
+    for (int row = 0; row < image.height(); ++row) {
+        std::memcpy(image.scanLine(row), plane.data + std::ptrdiff_t{plane.stride} * row,
+                    std::size_t(image.width()) * sizeof(QRgb));
+    }
+    return image;
+}
+
+} // namespace
+
+ImageUtils::ImageUtils() = default;
+ImageUtils::~ImageUtils() = default;
+
+QImage ImageUtils::FrameToImage(const boost::intrusive_ptr<Proc::IDataVideo>& frame) const
+{
+    boost::intrusive_ptr<VideoFrame> source(dynamic_cast<VideoFrame*>(frame.get()));
+    if (!source || source->GetPixelFormat() != Proc::PixFmt::BGRA || !source->IsReadable())
+        return QImage();
+
+    const Plane& plane = source->GetPlanes()[0];
+    const FrameFormat& format = source->GetFormat();
+    if (!IsAligned(plane))
+        return Copy(plane, format);
+    QImage image(plane.data, format.width, format.height, plane.stride, FORMAT, LetGo, source.get());
+    if (!image.isNull())
+        source.detach();
+    return image;
+}
+
+} // namespace Zelkor::Util

@@ -1,0 +1,71 @@
+#include <Zelkor/Vx/UI/Util/WindowMouseMoveHelper.h>
+
+#include <QMouseEvent>
+#include <QWidget>
+#include <QWindow>
+
+namespace Zelkor::Vx::UI::Util {
+
+WindowMouseMoveHelper::WindowMouseMoveHelper(QWidget* movedWindow, const QList<QWidget*>& handles)
+    : QObject(movedWindow), window(movedWindow)
+{
+    for (QWidget* handle : handles) {
+        if (handle)
+            handle->installEventFilter(this);
+    }
+}
+
+WindowMouseMoveHelper::~WindowMouseMoveHelper() = default;
+
+bool WindowMouseMoveHelper::eventFilter(QObject* watched, QEvent* event)
+{
+    switch (event->type()) {
+    case QEvent::MouseButtonPress:
+        Press(*static_cast<QMouseEvent*>(event));
+        break;
+    case QEvent::MouseMove:
+        if (Move(*static_cast<QMouseEvent*>(event)))
+            return true;
+        break;
+    case QEvent::MouseButtonDblClick:
+    case QEvent::MouseButtonRelease:
+        drag = Drag::None;
+        break;
+    default:
+        break;
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+void WindowMouseMoveHelper::Press(const QMouseEvent& event)
+{
+    drag = Drag::None;
+    if (!window || event.buttons() != Qt::LeftButton)
+        return;
+    pressPosition = event.globalPos();
+    windowOrigin = window->pos();
+    drag = Drag::Pressed;
+}
+
+// True when the motion belongs to a drag.
+bool WindowMouseMoveHelper::Move(const QMouseEvent& event)
+{
+    // Without the left button alone, the release went elsewhere: to the window system, which ends its own moves.
+    if (!window || event.buttons() != Qt::LeftButton)
+        drag = Drag::None;
+    if (drag == Drag::Pressed && event.globalPos() != pressPosition)
+        drag = StartDrag();
+    if (drag == Drag::ByHelper)
+        window->move(windowOrigin + event.globalPos() - pressPosition);
+    return drag == Drag::BySystem || drag == Drag::ByHelper;
+}
+
+WindowMouseMoveHelper::Drag WindowMouseMoveHelper::StartDrag()
+{
+    if (window->windowState() & (Qt::WindowMaximized | Qt::WindowFullScreen))
+        return Drag::None;
+    QWindow* handle = window->isWindow() ? window->windowHandle() : nullptr;
+    return handle && handle->startSystemMove() ? Drag::BySystem : Drag::ByHelper;
+}
+
+} // namespace Zelkor::Vx::UI::Util

@@ -1,0 +1,19 @@
+# Tests of the catalogue, the gallery program and the style sheets; nothing to test where they are not built.
+if(NOT VX_BUILD_GALLERY)
+  return()
+endif()
+
+vx_test(Gallery/tst_Catalogue.cpp LIBRARIES VxCatalogue)
+add_test(NAME tst_Catalogue_scaled COMMAND tst_Catalogue)
+set_tests_properties(tst_Catalogue_scaled PROPERTIES
+                     ENVIRONMENT "QT_QPA_PLATFORM=offscreen;QT_SCALE_FACTOR=2;${VX_TEST_ENVIRONMENT}" TIMEOUT 300)
+
+vx_test(Gallery/tst_RecorderModel.cpp LIBRARIES VxUiWidgets::Host SOURCES ${PROJECT_SOURCE_DIR}/Gallery/RecorderModel.cpp)
+target_include_directories(tst_RecorderModel PRIVATE ${PROJECT_SOURCE_DIR})
+
+vx_test(Gallery/tst_Styles.cpp LIBRARIES VxCatalogue)
+target_compile_definitions(tst_Styles PRIVATE VX_CMAKE="${CMAKE_COMMAND}" VX_STYLES_SOURCE="${PROJECT_SOURCE_DIR}/Styles")
+
+vx_test(Gallery/tst_Gallery.cpp LIBRARIES VxCatalogue)
+add_dependencies(tst_Gallery VxGallery)
+target_compile_definitions(tst_Gallery PRIVATE VX_GALLERY="$<TARGET_FILE:VxGallery>")
