@@ -31,7 +31,7 @@ class VX_WIDGETS_EXPORT ButtonWithPopUpContainer : public QToolButton
 
 public:
     /// The way in which the panel grows from its anchor.
-    enum PreferredPopupDirection {
+    enum PreferredPopupDirection : int {
         DIRECTION_DOWN_RIGHT,
         DIRECTION_DOWN_CENTER,
         DIRECTION_DOWN_LEFT,
@@ -41,7 +41,7 @@ public:
     };
 
     /// The point of the button that the panel is attached to.
-    enum PreferredPopupAnchor {
+    enum PreferredPopupAnchor : int {
         ANCHOR_TOP_LEFT,
         ANCHOR_TOP_CENTER,
         ANCHOR_TOP_RIGHT,
@@ -51,7 +51,7 @@ public:
     };
 
     /// The way in which the widgets of the panel follow each other.
-    enum LayoutDirection {
+    enum LayoutDirection : int {
         LAYOUT_LEFT_TO_RIGHT,
         LAYOUT_RIGHT_TO_LEFT,
         LAYOUT_TOP_TO_BOTTOM,

@@ -46,7 +46,7 @@ struct VideoPreviewWidget::Impl
 
     VideoPreviewWidget* widget;
 
-    mutable std::mutex pictureMutex; ///< guards what follows up to the next mutex, held for moments only
+    mutable std::mutex pictureMutex; ///< guards what follows up to the next mutex
     QRect previewRect = QRect(0, 0, 0, 0);
     QPixmap framePixmap;
     QRect frameRect;
@@ -187,20 +187,13 @@ void VideoPreviewWidget::UpdateView(const boost::intrusive_ptr<Proc::IDataVideo>
 
 void VideoPreviewWidget::paintEvent(QPaintEvent*)
 {
-    QPixmap pixmap;
-    QRect rect;
-    {
-        const std::lock_guard<std::mutex> lock(impl->pictureMutex);
-        pixmap = impl->framePixmap;
-        rect = impl->frameRect;
-    }
-    if (pixmap.isNull()) {
-        pixmap = impl->defaultPixmap;
-        rect = impl->defaultRect;
-    }
     QPainter painter(this);
-    if (!pixmap.isNull())
-        painter.drawPixmap(rect, pixmap);
+    // Held while the picture is drawn: a feeder that replaces it meanwhile waits, and frees it after.
+    const std::lock_guard<std::mutex> lock(impl->pictureMutex);
+    if (!impl->framePixmap.isNull())
+        painter.drawPixmap(impl->frameRect, impl->framePixmap);
+    else if (!impl->defaultPixmap.isNull())
+        painter.drawPixmap(impl->defaultRect, impl->defaultPixmap);
 }
 
 void VideoPreviewWidget::customEvent(QEvent*)
