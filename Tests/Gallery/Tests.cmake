@@ -8,8 +8,8 @@ add_test(NAME tst_Catalogue_scaled COMMAND tst_Catalogue)
 set_tests_properties(tst_Catalogue_scaled PROPERTIES
                      ENVIRONMENT "QT_QPA_PLATFORM=offscreen;QT_SCALE_FACTOR=2;${VX_TEST_ENVIRONMENT}" TIMEOUT 300)
 
-vx_test(Gallery/tst_RecorderModel.cpp LIBRARIES VxUiWidgets::Host SOURCES ${PROJECT_SOURCE_DIR}/Gallery/RecorderModel.cpp)
-target_include_directories(tst_RecorderModel PRIVATE ${PROJECT_SOURCE_DIR})
+vx_test(Gallery/tst_RecorderModel.cpp LIBRARIES VxGalleryWindows)
+vx_test(Gallery/tst_GalleryWindows.cpp LIBRARIES VxGalleryWindows)
 
 vx_test(Gallery/tst_Styles.cpp LIBRARIES VxCatalogue)
 target_compile_definitions(tst_Styles PRIVATE VX_CMAKE="${CMAKE_COMMAND}" VX_STYLES_SOURCE="${PROJECT_SOURCE_DIR}/Styles")

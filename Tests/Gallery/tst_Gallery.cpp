@@ -136,8 +136,8 @@ private Q_SLOTS:
     {
         const QString first = folder.filePath("first.png");
         const QString second = folder.filePath("second.png");
-        QCOMPARE(RunGallery({"--shot", first, "--size", "720x520", "--after", "800"}).exitCode, 0);
-        QCOMPARE(RunGallery({"--shot", second, "--size", "720x520", "--after", "1300"}).exitCode, 0);
+        QCOMPARE(RunGallery({"--shot", first, "--size", "720x520", "--after", "1500"}).exitCode, 0);
+        QCOMPARE(RunGallery({"--shot", second, "--size", "720x520", "--after", "2000"}).exitCode, 0);
         const QImage image(first);
         const QRect difference = Difference(image, QImage(second));
         QVERIFY2(!difference.isEmpty(), "the picture stands still");

@@ -157,6 +157,20 @@ private Q_SLOTS:
         model.Start();
         QCOMPARE(model.GetStatus(), Status::Running);
     }
+
+    void deviceWithoutUsableModeFailsAtOnce()
+    {
+        RecorderModel model;
+        QSignalSpy restart(&model, &RecorderModel::RestartNeeded);
+        const auto broken = MakeDevice(Kind::Camera, "camera", {MakeMode("Broken", 640, 480, {{30, 0}})});
+        model.SetDevices({broken, MakeDevice(Kind::TestPicture, "test")});
+        QCOMPARE(model.CurrentDeviceId(), QString("camera"));
+        QCOMPARE(model.GetStatus(), Status::Failed);
+        QCOMPARE(restart.size(), 0);
+        model.ChooseDevice("test");
+        QCOMPARE(model.GetStatus(), Status::Running);
+        QCOMPARE(restart.size(), 1);
+    }
 };
 
 VX_TEST_MAIN(tst_RecorderModel)

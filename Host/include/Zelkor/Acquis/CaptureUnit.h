@@ -16,8 +16,8 @@ class CaptureUnit
 public:
     /// Either pointer may be null. Throws `std::logic_error` when both are given and the settings are neither generic
     /// nor among the device's own.
-    CaptureUnit(const boost::intrusive_ptr<Device>& device, const boost::intrusive_ptr<Settings>& settings) :
-        device(device), settings(settings)
+    CaptureUnit(const boost::intrusive_ptr<Device>& device, const boost::intrusive_ptr<Settings>& settings)
+        : device(device), settings(settings)
     {
         if (device && settings && !AreCompatible(*device, *settings))
             throw boost::enable_error_info(std::logic_error("Incompatible device and settings"))

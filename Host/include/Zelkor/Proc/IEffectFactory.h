@@ -13,8 +13,7 @@ public:
     /// Sets `effect` to a new effect of class `classId`, made by the implementation called `implName`; to null, with
     /// a log line, when there is none. `owner` is an object that the effect keeps alive, or empty.
     virtual void CreateEffect(boost::intrusive_ptr<IEffect>& effect, const std::string& classId,
-                              const std::string& implName,
-                              const boost::intrusive_ptr<IRefCountable>& owner) const = 0;
+                              const std::string& implName, const boost::intrusive_ptr<IRefCountable>& owner) const = 0;
 };
 
 } // namespace Zelkor::Proc

@@ -31,12 +31,12 @@ private Q_SLOTS:
         layout->setContentsMargins(0, 0, 0, 0);
         layout->setSizeConstraint(QLayout::SetFixedSize);
         auto* stack = new ZStackedWidget;
+        QCOMPARE(stack->sizeHint(), QStackedWidget().sizeHint());
         layout->addWidget(stack);
         stack->addWidget(MakePage({300, 200}));
         stack->addWidget(MakePage({40, 30}));
         window.show();
         QCOMPARE(window.size(), QSize(300, 200));
-
         stack->setCurrentIndex(1);
         QTRY_COMPARE(window.size(), QSize(40, 30));
 
@@ -47,17 +47,8 @@ private Q_SLOTS:
         QTRY_COMPARE(window.size(), QSize(300, 200));
         stack->setAutoFit(true);
         QTRY_COMPARE(window.size(), QSize(40, 30));
-    }
-
-    void emptyStackIsAPlainStack()
-    {
-        ZStackedWidget stack;
-        const QStackedWidget plain;
-        QCOMPARE(stack.sizeHint(), plain.sizeHint());
-        stack.addWidget(MakePage({10, 10}));
-        QCOMPARE(stack.sizeHint(), QSize(10, 10));
-        delete stack.currentWidget();
-        QCOMPARE(stack.sizeHint(), plain.sizeHint());
+        delete stack->currentWidget();
+        QTRY_COMPARE(window.size(), QSize(300, 200));
     }
 };
 

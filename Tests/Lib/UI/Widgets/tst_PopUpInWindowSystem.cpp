@@ -97,16 +97,6 @@ private Q_SLOTS:
         Support::Click(QPoint(screen.width() / 2, screen.height() / 2));
         QTRY_VERIFY(!scene.popUp->isVisible());
     }
-
-    void hiddenWindowTakesThePopUpAlong()
-    {
-        Scene scene(QPoint(300, 300));
-        QVERIFY(QTest::qWaitForWindowExposed(&scene.window));
-        Support::Click(scene.At({20, 10}));
-        QTRY_VERIFY(scene.popUp->isVisible());
-        scene.window.hide();
-        QVERIFY(!scene.popUp->isVisible() && !scene.button->isChecked());
-    }
 };
 
 VX_TEST_MAIN(tst_PopUpInWindowSystem)

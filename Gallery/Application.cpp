@@ -1,0 +1,158 @@
+#include "Application.h"
+#include "GalleryWindow.h"
+#include "RecorderView.h"
+#include "Screenshot.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QDir>
+#include <QEventLoop>
+#include <QFileInfo>
+#include <QTimer>
+
+#include <cstdio>
+
+namespace Zelkor::Gallery {
+
+namespace {
+
+constexpr int EXIT_BAD_USE = 2;
+
+void Wait(int milliseconds)
+{
+    QEventLoop loop;
+    QTimer::singleShot(milliseconds, &loop, &QEventLoop::quit);
+    loop.exec();
+}
+
+void Show(QWidget* window, const QSize& size)
+{
+    if (size.isValid()) {
+        // The person's size counts, also below what the window would like.
+        window->setMinimumSize(1, 1);
+        window->resize(size);
+    }
+    window->show();
+}
+
+} // namespace
+
+void Complain(const QString& text)
+{
+    std::fprintf(stderr, "VxGallery: %s\n", qPrintable(text));
+}
+
+Application::Application(Options options) : options(std::move(options))
+{
+    LoadLanguage();
+    if (this->options.rightToLeft)
+        QApplication::setLayoutDirection(Qt::RightToLeft);
+    ApplyStyleSheet(this->options.style);
+    QApplication::setWindowIcon(StyleIcon("app"));
+    // Two pictures of a page shall differ in nothing but the live picture.
+    if (this->options.TakesPictures())
+        QApplication::setCursorFlashTime(0);
+
+    QObject::connect(&devices, &StandIn::DeviceList::Changed, &model,
+                     [this] { model.SetDevices(devices.GetDevices()); });
+    model.SetDevices(devices.GetDevices());
+}
+
+Application::~Application() = default;
+
+int Application::Run()
+{
+    if (!options.shots.isEmpty())
+        return TakeAllPictures();
+    const QString page = options.page.isEmpty() ? RecorderPageName() : options.page;
+    if (!options.shot.isEmpty())
+        return TakePictureOfPage(page, options.shot);
+    OpenPage(page);
+    return QApplication::exec();
+}
+
+// Beside the program in the build folder, or where an installed program has its data.
+void Application::LoadLanguage()
+{
+    if (options.language.isEmpty())
+        return;
+    const QDir program(QApplication::applicationDirPath());
+    for (const char* folder : {"../Translations", "../share/VxUiWidgets/Translations"}) {
+        if (translator.load("VxUiWidgets_" + options.language, program.filePath(folder))) {
+            QApplication::installTranslator(&translator);
+            return;
+        }
+    }
+    Complain(QString("there are no texts for the language '%1'; going on in English").arg(options.language));
+}
+
+QWidget* Application::OpenPage(const QString& name)
+{
+    if (name == RecorderPageName()) {
+        if (!recorder) {
+            recorder = std::make_unique<RecorderView>(&model, RecorderView::Role::Window);
+            recorder->resize(recorder->sizeHint());
+            QObject::connect(recorder.get(), &RecorderView::WidgetsRequested, recorder.get(),
+                             [this] { OpenWidgets(); });
+        }
+        Show(recorder.get(), options.size);
+        return recorder.get();
+    }
+    if (!gallery)
+        gallery = std::make_unique<GalleryWindow>(&model);
+    gallery->OpenPage(name);
+    Show(gallery.get(), options.size);
+    return gallery.get();
+}
+
+// The gallery has the recorder as a page of its own, and a camera can be open only once: the one window goes while the
+// other is there.
+void Application::OpenWidgets()
+{
+    if (!gallery) {
+        gallery = std::make_unique<GalleryWindow>(&model);
+        QObject::connect(gallery.get(), &GalleryWindow::Closed, recorder.get(), [this] { recorder->show(); });
+    }
+    gallery->OpenPage(PageNames().value(1));
+    Show(gallery.get(), QSize());
+    recorder->hide();
+}
+
+int Application::TakePictureOfPage(const QString& page, const QString& file)
+{
+    QWidget* window = OpenPage(page);
+    // Half of the time goes by before the button is pressed: the window system may still move the window.
+    Wait(options.after / 2);
+    if (!options.press.isEmpty()) {
+        QAbstractButton* button = FindButton(window, options.press);
+        if (!button) {
+            Complain(QString("there is no button '%1' on this page").arg(options.press));
+            return EXIT_BAD_USE;
+        }
+        button->click();
+    }
+    Wait(options.after - options.after / 2);
+    if (TakePicture(window).save(file, "PNG"))
+        return EXIT_SUCCESS;
+    Complain(QString("cannot write the picture '%1'").arg(file));
+    return EXIT_FAILURE;
+}
+
+int Application::TakeAllPictures()
+{
+    if (!QDir().mkpath(options.shots)) {
+        Complain(QString("cannot make the folder '%1'").arg(options.shots));
+        return EXIT_FAILURE;
+    }
+    for (const QString& page : PageNames()) {
+        const int result = TakePictureOfPage(page, QDir(options.shots).filePath(page + ".png"));
+        if (result != EXIT_SUCCESS)
+            return result;
+        // A window that is out of the picture runs nothing.
+        if (recorder)
+            recorder->hide();
+    }
+    return EXIT_SUCCESS;
+}
+
+} // namespace Zelkor::Gallery

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "Options.h"
+#include "RecorderModel.h"
+
+#include <Zelkor/StandIn/DeviceList.h>
+
+#include <QTranslator>
+
+#include <memory>
+
+namespace Zelkor::Gallery {
+
+class GalleryWindow;
+class RecorderView;
+
+/// The program behind its command line: windows, devices, and pictures. Needs a `QApplication`.
+class Application
+{
+public:
+    explicit Application(Options options);
+    ~Application();
+
+    /// Shows the window, or takes the pictures that were asked for. The program's exit code.
+    int Run();
+
+private:
+    void LoadLanguage();
+    QWidget* OpenPage(const QString& name);
+    void OpenWidgets();
+    int TakePictureOfPage(const QString& page, const QString& file);
+    int TakeAllPictures();
+
+    const Options options;
+    QTranslator translator;
+    StandIn::DeviceList devices;
+    RecorderModel model;
+    std::unique_ptr<RecorderView> recorder;
+    std::unique_ptr<GalleryWindow> gallery;
+};
+
+/// Writes one line to standard error, under the program's name.
+void Complain(const QString& text);
+
+} // namespace Zelkor::Gallery

@@ -1,0 +1,75 @@
+#include "Artwork.h"
+#include "StyleSheet.h"
+
+#include <QGuiApplication>
+#include <QPainter>
+
+#include <cstring>
+
+namespace Zelkor::Gallery {
+
+namespace {
+
+constexpr int ICON_SIZE = 48;
+constexpr int SPACING = 12;
+constexpr double TEXT_OPACITY = 0.75;
+
+QImage DrawColorBars(const QSize& size)
+{
+    // Three quarters of full amplitude, in falling order of brightness.
+    constexpr QRgb BARS[] = {0xbfbfbf, 0xbfbf00, 0x00bfbf, 0x00bf00, 0xbf00bf, 0xbf0000, 0x0000bf};
+    constexpr int BAR_COUNT = int(sizeof(BARS) / sizeof(BARS[0]));
+    QImage image(size, QImage::Format_RGB32);
+    QPainter painter(&image);
+    const int rampTop = size.height() * 3 / 4;
+    for (int i = 0; i < BAR_COUNT; ++i) {
+        const int left = size.width() * i / BAR_COUNT;
+        painter.fillRect(left, 0, size.width() - left, rampTop, QColor(BARS[i]));
+    }
+    QLinearGradient ramp(0, 0, size.width(), 0);
+    ramp.setColorAt(0, Qt::black);
+    ramp.setColorAt(1, Qt::white);
+    painter.fillRect(0, rampTop, size.width(), size.height() - rampTop, ramp);
+    const int rim = qMax(2, size.width() / 160);
+    painter.setPen(QPen(Qt::white, rim, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+    painter.drawRect(QRectF(QPointF(), size).adjusted(rim / 2., rim / 2., -rim / 2., -rim / 2.));
+    return image;
+}
+
+} // namespace
+
+QImage NoPictureImage(const QSize& size, const QColor& color, const QString& text)
+{
+    if (size.isEmpty())
+        return QImage();
+    QImage image(size, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    const QFontMetrics metrics(QGuiApplication::font());
+    const int iconSize = qMin(ICON_SIZE, size.height() / 3);
+    const int top = (size.height() - iconSize - SPACING - metrics.height()) / 2;
+    painter.setOpacity(TEXT_OPACITY);
+    painter.drawImage(QRect((size.width() - iconSize) / 2, top, iconSize, iconSize),
+                      StyleIcon("camera-off").pixmap(iconSize).toImage());
+    painter.setPen(color);
+    painter.setFont(QGuiApplication::font());
+    painter.drawText(QRect(0, top + iconSize + SPACING, size.width(), metrics.height()), Qt::AlignCenter,
+                     metrics.elidedText(text, Qt::ElideRight, size.width()));
+    return image;
+}
+
+boost::intrusive_ptr<StandIn::VideoFrame> ColorBarsFrame(const QSize& size)
+{
+    const QImage image = DrawColorBars(size);
+    StandIn::FrameFormat format;
+    format.pixFmt = Proc::PixFmt::BGRA;
+    format.width = size.width();
+    format.height = size.height();
+    return StandIn::VideoFrame::Create(format, [&image](const auto& data, const auto& strides) {
+        for (int y = 0; y < image.height(); ++y)
+            std::memcpy(data[0] + std::ptrdiff_t(y) * strides[0], image.constScanLine(y),
+                        std::size_t(image.width()) * 4);
+    });
+}
+
+} // namespace Zelkor::Gallery

@@ -1,0 +1,35 @@
+#include "Catalogue.h"
+
+#include <QCoreApplication>
+#include <QWidget>
+
+#include <algorithm>
+
+namespace Zelkor::Gallery {
+
+const QVector<Entry>& Entries()
+{
+    static const QVector<Entry> entries = ButtonEntries() + MediaEntries() + KitEntries();
+    return entries;
+}
+
+const Entry* FindEntry(const QString& className)
+{
+    const auto found = std::find_if(Entries().begin(), Entries().end(),
+                                    [&](const Entry& entry) { return entry.className == className; });
+    return found == Entries().end() ? nullptr : &*found;
+}
+
+QWidget* CreateInState(const Entry& entry, const State& state, QWidget* parent)
+{
+    QWidget* widget = entry.create(parent);
+    state.apply(widget);
+    return widget;
+}
+
+State DisabledState()
+{
+    return {QCoreApplication::translate("Catalogue", "Disabled"), [](QWidget* widget) { widget->setEnabled(false); }};
+}
+
+} // namespace Zelkor::Gallery

@@ -1,0 +1,103 @@
+#include "Artwork.h"
+#include "Catalogue.h"
+
+#include <UI/Widgets/VideoPreviewWidget.h>
+#include <UI/Widgets/WebCameraPreviewStream.h>
+
+#include <Zelkor/StandIn/CaptureDevice.h>
+
+#include <QCoreApplication>
+
+using Zelkor::Vx::WebCameraPreviewStream;
+using Zelkor::Vx::UI::VideoPreviewWidget;
+
+namespace Zelkor::Gallery {
+
+namespace {
+
+constexpr QSize PREVIEW_SIZE(320, 180);
+constexpr double TEST_FRAME_RATE = 30;
+
+QString Tr(const char* text)
+{
+    return QCoreApplication::translate("Catalogue", text);
+}
+
+QWidget* CreatePreview(QWidget* parent)
+{
+    auto* preview = new VideoPreviewWidget(parent);
+    preview->SetPreviewWidth(PREVIEW_SIZE.width());
+    preview->SetPreviewHeight(PREVIEW_SIZE.height());
+    return preview;
+}
+
+void ShowDefaultImage(VideoPreviewWidget& preview)
+{
+    // The colour of text is the style sheet's only from here on.
+    preview.ensurePolished();
+    preview.SetDefaultImage(NoPictureImage(PREVIEW_SIZE, preview.palette().color(QPalette::Text), Tr("No picture")));
+}
+
+QWidget* CreatePreviewWithStream(QWidget* parent)
+{
+    auto* preview = static_cast<VideoPreviewWidget*>(CreatePreview(parent));
+    ShowDefaultImage(*preview);
+    auto* stream = new WebCameraPreviewStream(preview);
+    stream->SetDevice(StandIn::CreateTestPictureDevice(), QString(), TEST_FRAME_RATE);
+    return preview;
+}
+
+Entry VideoPreviewEntry()
+{
+    using Preview = VideoPreviewWidget;
+    const auto showFrame = [](const QSize& size) {
+        return [size](Preview& preview) { preview.UpdateView(ColorBarsFrame(size)); };
+    };
+    return {
+        "VideoPreviewWidget",
+        Tr("Media"),
+        Tr("Shows live video frames in an area of fixed size."),
+        "VideoPreviewWidget",
+        "picture",
+        CreatePreview,
+        {
+            MakeState<Preview>(Tr("Empty"), [](Preview&) {}),
+            MakeState<Preview>(Tr("Default image"), ShowDefaultImage),
+            MakeState<Preview>(Tr("Large frame"), showFrame({1280, 720})),
+            MakeState<Preview>(Tr("Upright frame"), showFrame({720, 1280})),
+            MakeState<Preview>(Tr("Small frame"), showFrame({160, 120})),
+            MakeState<Preview>(Tr("Disabled"),
+                               [showFrame](Preview& preview) {
+                                   showFrame({1280, 720})(preview);
+                                   preview.setEnabled(false);
+                               }),
+        },
+    };
+}
+
+Entry WebCameraStreamEntry()
+{
+    using Preview = VideoPreviewWidget;
+    return {
+        "WebCameraPreviewStream",
+        Tr("Media"),
+        Tr("Runs the live picture of a capture device in a preview; here, of the moving test picture."),
+        "VideoPreviewWidget",
+        "stream",
+        CreatePreviewWithStream,
+        {
+            MakeState<Preview>(Tr("Stopped"), [](Preview&) {}),
+            MakeState<Preview>(Tr("Live"),
+                               [](Preview& preview) { preview.findChild<WebCameraPreviewStream*>()->StartStream(); }),
+        },
+    };
+}
+
+} // namespace
+
+QVector<Entry> MediaEntries()
+{
+    return {VideoPreviewEntry(), WebCameraStreamEntry()};
+}
+
+} // namespace Zelkor::Gallery

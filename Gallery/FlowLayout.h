@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QLayout>
+#include <QList>
+
+namespace Zelkor::Gallery {
+
+/// Lays out items one after the other, each at its preferred size, and goes on in a new row where the width ends. Runs
+/// in the direction of its widget. Owns its items as any layout.
+class FlowLayout : public QLayout
+{
+    Q_OBJECT
+
+public:
+    explicit FlowLayout(QWidget* parent = nullptr);
+    ~FlowLayout() override;
+
+    void addItem(QLayoutItem* item) override;
+    int count() const override { return items.size(); }
+    QLayoutItem* itemAt(int index) const override;
+    QLayoutItem* takeAt(int index) override;
+    Qt::Orientations expandingDirections() const override { return {}; }
+    bool hasHeightForWidth() const override { return true; }
+    int heightForWidth(int width) const override;
+    QSize minimumSize() const override;
+    QSize sizeHint() const override;
+    void setGeometry(const QRect& rect) override;
+
+private:
+    int Arrange(const QRect& rect, bool place) const;
+
+    QList<QLayoutItem*> items;
+};
+
+} // namespace Zelkor::Gallery

@@ -1,0 +1,51 @@
+#pragma once
+
+#include <QWidget>
+
+class QHBoxLayout;
+class QListWidget;
+
+namespace Zelkor::Gallery {
+
+class RecorderModel;
+
+/// The name of the recorder's page, the first one; the other pages are named after the classes of the catalogue.
+QString RecorderPageName();
+
+/// The names of all pages, in order.
+QStringList PageNames();
+
+/// All pages: their list at the start, the chosen one beside it. Only the page that shows exists, so that nothing runs
+/// out of sight. The model has to outlive the window.
+class GalleryWindow : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit GalleryWindow(RecorderModel* model, QWidget* parent = nullptr);
+
+    /// Opens a page; a name that is no page is ignored.
+    void OpenPage(const QString& name);
+
+Q_SIGNALS:
+    /// The person closed the window.
+    void Closed();
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    void FillList();
+    void ShowPage(const QString& name);
+    void SetCompact(bool on);
+
+    RecorderModel* model;
+    QListWidget* list;
+    QHBoxLayout* body;
+    QWidget* page = nullptr;
+    int fullListWidth = 0;
+    bool compact = false;
+};
+
+} // namespace Zelkor::Gallery

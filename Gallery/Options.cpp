@@ -1,0 +1,126 @@
+#include "Options.h"
+#include "GalleryWindow.h"
+
+#include <QCommandLineParser>
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <QRegularExpression>
+
+#include <optional>
+
+namespace Zelkor::Gallery {
+
+namespace {
+
+constexpr int EXIT_BAD_USE = 2;
+constexpr int LARGEST_SIDE = 8192;
+constexpr double SMALLEST_SCALE = 0.5;
+constexpr double LARGEST_SCALE = 4;
+constexpr int LONGEST_WAIT = 600000;
+
+void Declare(QCommandLineParser& parser)
+{
+    parser.setApplicationDescription("Shows a small recorder, and every widget of VxUiWidgets in its states.");
+    parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
+    parser.addOptions({
+        {{"h", "help"}, "Shows this help."},
+        {"list", "Prints the names of the pages."},
+        {"page", "Opens the page NAME; without it the recorder.", "NAME"},
+        {"style",
+         "Takes another style sheet: dark, light or a file. The icons of a file lie beside it in a folder of "
+         "the same name.",
+         "FILE", "dark"},
+        {"shot", "Writes a picture of the page as PNG, and ends.", "FILE"},
+        {"shots", "Writes a picture of each page as PNG, and ends.", "DIR"},
+        {"press", "Presses the button of this text before the picture.", "TEXT"},
+        {"size", "Size of the window in pixels.", "WxH"},
+        {"scale", "Scales everything, 0.5 to 4.", "F", "1"},
+        {"rtl", "Lays out from right to left."},
+        {"language", "Takes the texts of a language, de for instance.", "L"},
+        {"after", "Time before the picture, in milliseconds.", "MS", "800"},
+        {"fallback-shot", "Without a display, the picture of the page goes here.", "FILE", "gallery.png"},
+    });
+}
+
+std::optional<QSize> ParseSize(const QString& text)
+{
+    static const QRegularExpression PATTERN("^([0-9]{1,5})x([0-9]{1,5})$");
+    const QRegularExpressionMatch match = PATTERN.match(text);
+    const QSize size(match.captured(1).toInt(), match.captured(2).toInt());
+    if (size.isEmpty() || size.width() > LARGEST_SIDE || size.height() > LARGEST_SIDE)
+        return std::nullopt;
+    return size;
+}
+
+QString HelpText(const QCommandLineParser& parser, const QStringList& arguments)
+{
+    // The parser takes the program's name from an application object.
+    QByteArray name = QFileInfo(arguments.value(0)).fileName().toLocal8Bit();
+    char* argument = name.data();
+    int count = 1;
+    const QCoreApplication application(count, &argument);
+    return parser.helpText().trimmed();
+}
+
+// What the values have to be; an empty text when they are. The rest of the options is taken over on the way.
+QString TakeValues(const QCommandLineParser& parser, Options& options)
+{
+    if (parser.isSet("size")) {
+        const std::optional<QSize> size = ParseSize(parser.value("size"));
+        if (!size)
+            return QString("--size takes WIDTHxHEIGHT with sides up to %1, not '%2'")
+                .arg(LARGEST_SIDE)
+                .arg(parser.value("size"));
+        options.size = *size;
+    }
+    bool isNumber = false;
+    options.scale = parser.value("scale").toDouble(&isNumber);
+    if (!isNumber || !(options.scale >= SMALLEST_SCALE && options.scale <= LARGEST_SCALE))
+        return QString("--scale takes a number from 0.5 to 4, not '%1'").arg(parser.value("scale"));
+    options.after = parser.value("after").toInt(&isNumber);
+    if (!isNumber || options.after < 0 || options.after > LONGEST_WAIT)
+        return QString("--after takes milliseconds up to %1, not '%2'").arg(LONGEST_WAIT).arg(parser.value("after"));
+    if (parser.isSet("page") && !PageNames().contains(options.page))
+        return QString("there is no page '%1'; --list names them").arg(options.page);
+    for (const char* name : {"shot", "shots", "press", "language", "fallback-shot"}) {
+        if (parser.isSet(name) && parser.value(name).isEmpty())
+            return QString("--%1 takes a value that is not empty").arg(name);
+    }
+    if (parser.isSet("shots") && (parser.isSet("shot") || parser.isSet("page") || parser.isSet("press")))
+        return "--shots takes every page, so --shot, --page and --press do not go with it";
+    QString error;
+    const std::optional<StyleSheet> style = LoadStyleSheet(parser.value("style"), error);
+    if (style)
+        options.style = *style;
+    return error;
+}
+
+} // namespace
+
+std::variant<Options, Answer> ReadOptions(const QStringList& arguments)
+{
+    QCommandLineParser parser;
+    Declare(parser);
+    if (!parser.parse(arguments))
+        return Answer{EXIT_BAD_USE, parser.errorText()};
+    if (!parser.positionalArguments().isEmpty())
+        return Answer{EXIT_BAD_USE, QString("'%1' is no option").arg(parser.positionalArguments().constFirst())};
+    if (parser.isSet("help"))
+        return Answer{0, HelpText(parser, arguments)};
+
+    Options options;
+    options.list = parser.isSet("list");
+    options.page = parser.value("page");
+    options.shot = parser.value("shot");
+    options.shots = parser.value("shots");
+    options.press = parser.value("press");
+    options.fallbackShot = parser.value("fallback-shot");
+    options.rightToLeft = parser.isSet("rtl");
+    options.language = parser.value("language");
+    const QString error = TakeValues(parser, options);
+    if (!error.isEmpty())
+        return Answer{EXIT_BAD_USE, error};
+    return options;
+}
+
+} // namespace Zelkor::Gallery

@@ -1,0 +1,78 @@
+#include "PreviewStage.h"
+#include "Artwork.h"
+
+#include <UI/Widgets/VideoPreviewWidget.h>
+
+#include <QEvent>
+
+using Zelkor::Vx::UI::VideoPreviewWidget;
+
+namespace Zelkor::Gallery {
+
+namespace {
+
+constexpr QSize SHAPE(16, 9);
+constexpr QSize PREFERRED_SIZE(704, 396);
+constexpr QSize SMALLEST_SIZE(160, 90);
+
+QRect LargestOfShape(const QRect& area)
+{
+    QRect rect(QPoint(), SHAPE.scaled(area.size(), Qt::KeepAspectRatio));
+    rect.moveCenter(area.center());
+    return rect;
+}
+
+} // namespace
+
+PreviewStage::PreviewStage(QWidget* parent) : QFrame(parent), preview(new VideoPreviewWidget(this))
+{
+    setObjectName("previewStage");
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+}
+
+void PreviewStage::SetIdleText(const QString& text)
+{
+    idleText = text;
+    RefreshDefaultImage();
+}
+
+void PreviewStage::SetLive(bool isLive)
+{
+    live = isLive;
+    RefreshDefaultImage();
+}
+
+QSize PreviewStage::sizeHint() const
+{
+    return PREFERRED_SIZE + QSize(2 * frameWidth(), 2 * frameWidth());
+}
+
+QSize PreviewStage::minimumSizeHint() const
+{
+    return SMALLEST_SIZE + QSize(2 * frameWidth(), 2 * frameWidth());
+}
+
+void PreviewStage::resizeEvent(QResizeEvent* event)
+{
+    QFrame::resizeEvent(event);
+    const QRect place = LargestOfShape(contentsRect());
+    preview->SetPreviewWidth(place.width());
+    preview->SetPreviewHeight(place.height());
+    preview->move(place.topLeft());
+    RefreshDefaultImage();
+}
+
+void PreviewStage::changeEvent(QEvent* event)
+{
+    QFrame::changeEvent(event);
+    if (event->type() == QEvent::StyleChange)
+        RefreshDefaultImage();
+}
+
+void PreviewStage::RefreshDefaultImage()
+{
+    if (!live)
+        preview->SetDefaultImage(NoPictureImage(preview->size(), palette().color(QPalette::Text), idleText));
+}
+
+} // namespace Zelkor::Gallery

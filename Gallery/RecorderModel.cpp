@@ -1,0 +1,259 @@
+#include "RecorderModel.h"
+
+#include <QLocale>
+
+#include <algorithm>
+
+namespace Zelkor::Gallery {
+
+namespace {
+
+using Kind = StandIn::CaptureDevice::Kind;
+using Mode = boost::intrusive_ptr<StandIn::VideoMode>;
+using Device = RecorderModel::Device;
+
+// What a preview needs at most, and what looks fluent.
+constexpr int LARGEST_USEFUL_AREA = 1920 * 1080;
+constexpr double FLUENT_RATE = 24;
+constexpr double PREFERRED_RATE = 30;
+// Slower rates are no video, and the preview does not take them.
+constexpr double LOWEST_RATE = 1;
+
+QString IdOf(const Device& device)
+{
+    return QString::fromStdString(device->GetId());
+}
+
+QVector<double> RatesOf(const StandIn::VideoMode& mode)
+{
+    std::vector<Acquis::Rational> rationals;
+    mode.GetFrameRates(rationals);
+    QVector<double> rates;
+    for (const Acquis::Rational& rational : rationals) {
+        const double rate = rational.denominator > 0 ? double(rational.numerator) / double(rational.denominator) : 0;
+        if (rate >= LOWEST_RATE && !rates.contains(rate))
+            rates.append(rate);
+    }
+    std::sort(rates.begin(), rates.end());
+    return rates;
+}
+
+double PreferredRate(const QVector<double>& rates)
+{
+    if (rates.isEmpty())
+        return 0;
+    return rates.contains(PREFERRED_RATE) ? PREFERRED_RATE : rates.last();
+}
+
+// The largest mode that is fluent and not larger than anybody can see in a preview, else the first usable one.
+QString PreferredMode(const StandIn::CaptureDevice& device)
+{
+    Mode best;
+    Mode first;
+    const auto areaOf = [](const Mode& mode) { return mode->GetFormat().width * mode->GetFormat().height; };
+    for (const Mode& mode : device.GetModes()) {
+        const QVector<double> rates = RatesOf(*mode);
+        if (rates.isEmpty())
+            continue;
+        if (!first)
+            first = mode;
+        if (rates.last() >= FLUENT_RATE && areaOf(mode) <= LARGEST_USEFUL_AREA &&
+            (!best || areaOf(mode) > areaOf(best)))
+            best = mode;
+    }
+    const Mode& preferred = best ? best : first;
+    return preferred ? QString::fromStdString(preferred->GetName()) : QString();
+}
+
+Device FirstOfKind(const QList<Device>& devices, Kind kind)
+{
+    const auto found = std::find_if(devices.begin(), devices.end(),
+                                    [kind](const Device& device) { return device->GetKind() == kind; });
+    return found == devices.end() ? nullptr : *found;
+}
+
+Device FindById(const QList<Device>& devices, const QString& id)
+{
+    const auto found =
+        std::find_if(devices.begin(), devices.end(), [&](const Device& device) { return IdOf(device) == id; });
+    return found == devices.end() ? nullptr : *found;
+}
+
+} // namespace
+
+RecorderModel::RecorderModel(QObject* parent) : QObject(parent) {}
+
+void RecorderModel::SetDevices(const QList<Device>& newDevices)
+{
+    devices = newDevices;
+    const Device same = current ? FindById(devices, IdOf(current)) : nullptr;
+    const Device camera = FirstOfKind(devices, Kind::Camera);
+    const bool cameraIsWanted = !chosenByPerson && camera && (!current || current->GetKind() != Kind::Camera);
+    if (!current || cameraIsWanted) {
+        const Device testPicture = FirstOfKind(devices, Kind::TestPicture);
+        Take(camera ? camera : testPicture ? testPicture : devices.value(0));
+        RestartUnlessStopped();
+    } else if (same && (same != current || status == Status::Failed)) {
+        // Plugged in again: the choice holds for the device's new object as far as that offers it.
+        const QString previousMode = mode;
+        const double previousRate = frameRate;
+        Take(same);
+        if (FindMode(previousMode))
+            TakeMode(previousMode);
+        if (FrameRates().contains(previousRate))
+            frameRate = previousRate;
+        RestartUnlessStopped();
+    }
+    Q_EMIT OfferChanged();
+}
+
+QVector<RecorderModel::DeviceItem> RecorderModel::Devices() const
+{
+    QVector<DeviceItem> items;
+    const auto append = [&items](const Device& device, bool isPresent) {
+        items.append({IdOf(device), QString::fromStdString(device->GetName()), device->GetKind(), isPresent});
+    };
+    if (current && !IsCurrentPresent())
+        append(current, false);
+    for (const Device& device : devices)
+        append(device, true);
+    return items;
+}
+
+QStringList RecorderModel::Modes() const
+{
+    QStringList names;
+    if (current) {
+        for (const Mode& candidate : current->GetModes()) {
+            if (!RatesOf(*candidate).isEmpty())
+                names.append(QString::fromStdString(candidate->GetName()));
+        }
+    }
+    names.removeDuplicates();
+    return names;
+}
+
+QVector<double> RecorderModel::FrameRates() const
+{
+    const StandIn::VideoMode* found = FindMode(mode);
+    return found ? RatesOf(*found) : QVector<double>();
+}
+
+QString RecorderModel::CurrentDeviceId() const
+{
+    return current ? IdOf(current) : QString();
+}
+
+QString RecorderModel::CurrentDeviceName() const
+{
+    return current ? QString::fromStdString(current->GetName()) : QString();
+}
+
+void RecorderModel::ChooseDevice(const QString& id)
+{
+    const Device device = FindById(devices, id);
+    if (!device)
+        return;
+    chosenByPerson = true;
+    if (device == current)
+        return;
+    Take(device);
+    RestartUnlessStopped();
+    Q_EMIT OfferChanged();
+}
+
+void RecorderModel::ChooseMode(const QString& name)
+{
+    if (name == mode || !Modes().contains(name))
+        return;
+    chosenByPerson = true;
+    TakeMode(name);
+    RestartUnlessStopped();
+    Q_EMIT OfferChanged();
+}
+
+void RecorderModel::ChooseFrameRate(double rate)
+{
+    if (rate == frameRate || !FrameRates().contains(rate))
+        return;
+    chosenByPerson = true;
+    frameRate = rate;
+    RestartUnlessStopped();
+    Q_EMIT OfferChanged();
+}
+
+void RecorderModel::Start()
+{
+    if (status != Status::Running)
+        Restart();
+}
+
+void RecorderModel::Stop()
+{
+    SetStatus(Status::Stopped);
+}
+
+void RecorderModel::ReportFailure()
+{
+    if (status == Status::Running)
+        SetStatus(Status::Failed);
+}
+
+void RecorderModel::Take(const Device& device)
+{
+    current = device;
+    TakeMode(device ? PreferredMode(*device) : QString());
+}
+
+void RecorderModel::TakeMode(const QString& name)
+{
+    mode = name;
+    frameRate = PreferredRate(FrameRates());
+}
+
+void RecorderModel::SetStatus(Status newStatus)
+{
+    if (status == newStatus)
+        return;
+    status = newStatus;
+    Q_EMIT StatusChanged();
+}
+
+void RecorderModel::RestartUnlessStopped()
+{
+    if (status != Status::Stopped)
+        Restart();
+}
+
+void RecorderModel::Restart()
+{
+    // Nobody would tell that a device without a usable mode does not run.
+    const bool canRun = current && frameRate > 0;
+    SetStatus(canRun ? Status::Running : Status::Failed);
+    if (canRun)
+        Q_EMIT RestartNeeded();
+}
+
+bool RecorderModel::IsCurrentPresent() const
+{
+    return current && FindById(devices, IdOf(current));
+}
+
+// The preview takes the first mode of a name, so this is the one whose rates are on offer.
+const StandIn::VideoMode* RecorderModel::FindMode(const QString& name) const
+{
+    if (!current)
+        return nullptr;
+    for (const Mode& candidate : current->GetModes()) {
+        if (QString::fromStdString(candidate->GetName()) == name)
+            return candidate.get();
+    }
+    return nullptr;
+}
+
+QString FrameRateText(double rate)
+{
+    return QLocale().toString(rate, 'g', 4);
+}
+
+} // namespace Zelkor::Gallery

@@ -1,0 +1,122 @@
+#include "SourcePanel.h"
+#include "RecorderModel.h"
+#include "StyleSheet.h"
+#include "Texts.h"
+
+#include <UI/Common/TextMarks.h>
+
+#include <QAbstractItemView>
+#include <QComboBox>
+#include <QEvent>
+#include <QLabel>
+#include <QStyledItemDelegate>
+#include <QVBoxLayout>
+
+namespace Zelkor::Gallery {
+
+namespace {
+
+constexpr int FIELD_WIDTH = 264;
+constexpr int LABEL_DISTANCE = 4;
+constexpr int FIELD_DISTANCE = 12;
+
+QString IconOf(StandIn::CaptureDevice::Kind kind)
+{
+    switch (kind) {
+    case StandIn::CaptureDevice::Kind::Camera:
+        return "camera";
+    case StandIn::CaptureDevice::Kind::Screen:
+        return "screen";
+    default:
+        return "picture";
+    }
+}
+
+// Nothing hears this: the panel listens to what a person activates.
+template<class Value>
+void Select(QComboBox* combo, const Value& value)
+{
+    combo->setCurrentIndex(combo->findData(value));
+    combo->setEnabled(combo->count() > 0);
+}
+
+} // namespace
+
+SourcePanel::SourcePanel(RecorderModel* model, QWidget* parent) : QWidget(parent), model(model)
+{
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(LABEL_DISTANCE);
+    device = AddField("deviceCombo");
+    layout->addSpacing(FIELD_DISTANCE - LABEL_DISTANCE);
+    mode = AddField("modeCombo");
+    layout->addSpacing(FIELD_DISTANCE - LABEL_DISTANCE);
+    frameRate = AddField("frameRateCombo");
+    Retranslate();
+
+    const auto chosen = QOverload<int>::of(&QComboBox::activated);
+    connect(device.combo, chosen, this,
+            [this](int index) { this->model->ChooseDevice(device.combo->itemData(index).toString()); });
+    connect(mode.combo, chosen, this,
+            [this](int index) { this->model->ChooseMode(mode.combo->itemData(index).toString()); });
+    connect(frameRate.combo, chosen, this,
+            [this](int index) { this->model->ChooseFrameRate(frameRate.combo->itemData(index).toDouble()); });
+    connect(model, &RecorderModel::OfferChanged, this, &SourcePanel::Refresh);
+}
+
+SourcePanel::Field SourcePanel::AddField(const char* name)
+{
+    Field field{new QLabel, new QComboBox};
+    field.label->setObjectName("fieldLabel");
+    AlignAtStart(field.label);
+    field.combo->setObjectName(name);
+    field.combo->setFixedWidth(FIELD_WIDTH);
+    // Items of the list follow the style sheet only with this delegate.
+    field.combo->setItemDelegate(new QStyledItemDelegate(field.combo));
+    field.combo->view()->setIconSize(field.combo->iconSize());
+    layout()->addWidget(field.label);
+    layout()->addWidget(field.combo);
+    return field;
+}
+
+void SourcePanel::Refresh()
+{
+    device.combo->clear();
+    for (const RecorderModel::DeviceItem& item : model->Devices()) {
+        const QString name = item.isPresent ? item.name : tr("%1 (not connected)").arg(item.name);
+        device.combo->addItem(StyleIcon(IconOf(item.kind)), name, item.id);
+    }
+    Select(device.combo, model->CurrentDeviceId());
+
+    mode.combo->clear();
+    // "1920×1080" is not to be read backwards.
+    for (const QString& name : model->Modes())
+        mode.combo->addItem(Vx::UI::Common::Embed(name), name);
+    Select(mode.combo, model->CurrentMode());
+
+    frameRate.combo->clear();
+    for (const double rate : model->FrameRates())
+        frameRate.combo->addItem(tr("%1 frames per second").arg(FrameRateText(rate)), rate);
+    Select(frameRate.combo, model->CurrentFrameRate());
+}
+
+void SourcePanel::Retranslate()
+{
+    const auto name = [](const Field& field, const QString& text) {
+        field.label->setText(text);
+        field.combo->setAccessibleName(text);
+    };
+    name(device, tr("Device"));
+    name(mode, tr("Mode"));
+    name(frameRate, tr("Frame rate"));
+    Refresh();
+}
+
+void SourcePanel::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange)
+        Retranslate();
+}
+
+} // namespace Zelkor::Gallery

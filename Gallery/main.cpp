@@ -1,0 +1,99 @@
+#include "Application.h"
+#include "GalleryWindow.h"
+#include "Options.h"
+
+#include <glog/logging.h>
+
+#include <QApplication>
+
+#include <cstdio>
+
+using namespace Zelkor::Gallery;
+
+namespace {
+
+QStringList ArgumentsOf(int argc, char* argv[])
+{
+    QStringList arguments;
+    for (int i = 0; i < argc; ++i)
+        arguments.append(QString::fromLocal8Bit(argv[i]));
+    return arguments;
+}
+
+// Only where windows come from a server that may not be there.
+bool IsWithoutDisplay()
+{
+#if defined(Q_OS_UNIX) && !defined(Q_OS_MACOS)
+    return qEnvironmentVariableIsEmpty("DISPLAY") && qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") &&
+           qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM");
+#else
+    return false;
+#endif
+}
+
+void GoWithoutDisplay(Options& options)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    if (options.TakesPictures()) {
+        Complain("there is no display; running without a window");
+        return;
+    }
+    options.shot = options.fallbackShot;
+    Complain(QString("there is no display; running without a window, the picture goes to '%1'").arg(options.shot));
+}
+
+// Without a window system, requests to it are refused; nobody has to hear that.
+QtMessageHandler previousHandler = nullptr;
+
+void PassOnMessage(QtMsgType type, const QMessageLogContext& context, const QString& message)
+{
+    if (!message.startsWith("This plugin does not support"))
+        previousHandler(type, context, message);
+}
+
+// There is no desktop either whose font could be taken.
+constexpr int FONT_SIZE_WITHOUT_DESKTOP = 10;
+
+void SettleWithoutDesktop()
+{
+    if (QApplication::platformName() != "offscreen")
+        return;
+    previousHandler = qInstallMessageHandler(PassOnMessage);
+    QFont font = QApplication::font();
+    font.setPointSize(FONT_SIZE_WITHOUT_DESKTOP);
+    QApplication::setFont(font);
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    google::InitGoogleLogging(argv[0]);
+    FLAGS_logtostderr = true;
+    auto answer = ReadOptions(ArgumentsOf(argc, argv));
+    if (const auto* ending = std::get_if<Answer>(&answer)) {
+        if (ending->exitCode == 0)
+            std::puts(qPrintable(ending->text));
+        else
+            Complain(ending->text);
+        return ending->exitCode;
+    }
+
+    auto options = std::get<Options>(answer);
+    if (options.list) {
+        std::puts(qPrintable(PageNames().join('\n')));
+        return EXIT_SUCCESS;
+    }
+    if (IsWithoutDisplay())
+        GoWithoutDisplay(options);
+    if (options.scale != 1)
+        qputenv("QT_SCALE_FACTOR", QByteArray::number(options.scale));
+    QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    // The options are ours: Qt has one called --style as well.
+    int programOnly = 1;
+    QApplication qtApplication(programOnly, argv);
+    QApplication::setApplicationName("VxGallery");
+    SettleWithoutDesktop();
+    return Application(options).Run();
+}

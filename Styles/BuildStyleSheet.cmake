@@ -1,0 +1,68 @@
+# Writes one style sheet and its icons. Called by the build:
+#   cmake -DTEMPLATE=FILE -DPALETTE=FILE -DICONS=FOLDER -DSHEET=FILE -P BuildStyleSheet.cmake
+# The icons go into a folder beside the sheet that is named like it. Of each icon there are three tints: NAME.svg in the
+# colour of text, NAME-disabled.svg, and NAME-on-accent.svg, and of each a larger one, NAME@2x.svg and so on. A
+# placeholder without a colour stops the build.
+cmake_minimum_required(VERSION 3.21)
+
+# Sets colour_NAME for each line `NAME = #rrggbb`, and `colours` to the names.
+file(STRINGS "${PALETTE}" lines)
+set(colours "")
+foreach(line IN LISTS lines)
+  if(line MATCHES "^ *$" OR line MATCHES "^//")
+    continue()
+  elseif(line MATCHES "^([a-z][a-z-]*) = (#[0-9a-f][0-9a-f][0-9a-f][0-9a-f][0-9a-f][0-9a-f])$")
+    list(APPEND colours ${CMAKE_MATCH_1})
+    set(colour_${CMAKE_MATCH_1} ${CMAKE_MATCH_2})
+  else()
+    message(FATAL_ERROR "${PALETTE}: cannot read this line: ${line}")
+  endif()
+endforeach()
+
+# fill(SOURCE DESTINATION ICON_COLOUR): copies a file and replaces its placeholders. Written only when it changes.
+function(fill source destination icon_colour)
+  file(READ "${source}" content)
+  string(REPLACE "@icon@" "${colour_${icon_colour}}" content "${content}")
+  string(REPLACE "@sheet@" "${sheet_name}" content "${content}")
+  foreach(name IN LISTS colours)
+    string(REPLACE "@${name}@" "${colour_${name}}" content "${content}")
+  endforeach()
+  if(content MATCHES "@[A-Za-z0-9_-]+@")
+    message(FATAL_ERROR "${source}: ${PALETTE} has no colour for ${CMAKE_MATCH_0}")
+  endif()
+  set(previous "")
+  if(EXISTS "${destination}")
+    file(READ "${destination}" previous)
+  endif()
+  if(NOT content STREQUAL previous)
+    file(WRITE "${destination}" "${content}")
+  endif()
+endfunction()
+
+# enlarge(SOURCE DESTINATION): the same icon at twice the size, for backgrounds on screens with a ratio of 2.
+function(enlarge source destination)
+  file(READ "${source}" content)
+  if(NOT content MATCHES "width=\"([0-9]+)\" height=\"([0-9]+)\"")
+    message(FATAL_ERROR "${source}: no width and height")
+  endif()
+  math(EXPR width "${CMAKE_MATCH_1} * 2")
+  math(EXPR height "${CMAKE_MATCH_2} * 2")
+  string(REPLACE "${CMAKE_MATCH_0}" "width=\"${width}\" height=\"${height}\"" content "${content}")
+  file(WRITE "${destination}" "${content}")
+endfunction()
+
+get_filename_component(sheet_name "${SHEET}" NAME_WE)
+get_filename_component(sheet_folder "${SHEET}" DIRECTORY)
+fill("${TEMPLATE}" "${SHEET}" text)
+file(GLOB icon_templates "${ICONS}/*.svg.in")
+foreach(icon_template IN LISTS icon_templates)
+  get_filename_component(icon "${icon_template}" NAME_WE)
+  set(base "${sheet_folder}/${sheet_name}/${icon}")
+  fill("${icon_template}" "${base}.svg" text)
+  fill("${icon_template}" "${base}-disabled.svg" text-disabled)
+  fill("${icon_template}" "${base}-on-accent.svg" on-accent)
+  foreach(tint "" -disabled -on-accent)
+    enlarge("${base}${tint}.svg" "${base}${tint}@2x.svg")
+  endforeach()
+endforeach()
+file(TOUCH "${SHEET}")
