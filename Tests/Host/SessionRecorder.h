@@ -1,8 +1,12 @@
 #pragma once
 
 #include <Zelkor/Acquis/CaptureFactory.h>
+#include <Zelkor/Core/CoreManager.h>
+#include <Zelkor/Proc/SettingsColorspaceConverter.h>
 #include <Zelkor/StandIn/CaptureDevice.h>
+#include <Zelkor/Util/ImageUtils.h>
 
+#include <QImage>
 #include <QStringList>
 
 #include <chrono>
@@ -122,6 +126,17 @@ inline SessionRecorder::Frame ReadFrame(Acquis::ICaptureOutput& output)
     boost::intrusive_ptr<Proc::IDataVideo> frame;
     output.GetFrameReader()->ReadLatestFrame(frame);
     return dynamic_cast<StandIn::VideoFrame*>(frame.get());
+}
+
+/// What the frame shows.
+inline QImage ImageOf(const SessionRecorder::Frame& frame)
+{
+    boost::intrusive_ptr<Proc::IEffect> converter;
+    Core::CoreManager::Instance().GetEffectFactory()->CreateEffect(
+        converter, Proc::SettingsColorspaceConverter::CLASS_ID, "Default", nullptr);
+    boost::intrusive_ptr<Proc::IDataVideo> picture = frame;
+    converter->Process(picture);
+    return Util::ImageUtils().FrameToImage(picture).copy();
 }
 
 } // namespace Support

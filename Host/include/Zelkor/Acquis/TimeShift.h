@@ -10,7 +10,8 @@ namespace Zelkor::Acquis {
 class VX_HOST_INTERFACE TimeShift : public RefCounted<IRefCountable>
 {
 public:
-    /// The time on the output's time line for the captured `time`, both in nanoseconds. Engine threads call.
+    /// The time on the output's time line for the captured `time`, both in nanoseconds. Called on
+    /// the thread that reads the frame.
     virtual std::int64_t MapTime(std::int64_t time) const = 0;
 
 protected:

@@ -23,10 +23,11 @@ enum class CaptureError : int {
 class VX_HOST_INTERFACE SourceChannel
 {
 public:
-    /// Publishes the newest frame. The first call tells the observer that the session has started.
+    /// Publishes the newest frame. The first call has the observer told that the session has started; it does not
+    /// wait for that. A session with a clock of its own stamps the frame with its time now.
     virtual void Deliver(const boost::intrusive_ptr<VideoFrame>& frame) = 0;
 
-    /// Ends the run from any thread, with the given error.
+    /// Ends the run from any thread, with the given error; `None` is a regular end. The first call counts.
     virtual void Fail(CaptureError error) = 0;
 
     /// True from the moment the run has to end: the session was stopped, or `Fail` was called.
@@ -102,7 +103,8 @@ public:
     const std::string& GetName() const { return name; }
     const Modes& GetModes() const { return modes; }
 
-    /// A source for one run in `mode`, at the rate that is set on it now; null when the device is gone.
+    /// A source for one run in `mode`, at the rate that is set on it now; null when the device is gone. Called on the
+    /// thread that starts the session, so it opens nothing.
     virtual std::unique_ptr<CaptureSource> CreateSource(const VideoMode& mode) const = 0;
 
     /// The device's own settings dialog, null where it has none.
