@@ -12,6 +12,8 @@
 #include <QFile>
 #include <QTimer>
 
+#include <malloc.h>
+
 #include <cstdio>
 
 namespace {
@@ -31,6 +33,8 @@ int main(int argc, char* argv[])
 {
     Support::PrepareProcess(argv[0]);
     QApplication application(argc, argv);
+    // Frames go back to the system when they are freed. Otherwise the allocator keeps some, now these and now those.
+    mallopt(M_MMAP_THRESHOLD, 128 * 1024);
     const int seconds = argc > 1 ? std::max(3, std::atoi(argv[1])) : 10;
 
     auto* preview = new Zelkor::Vx::UI::VideoPreviewWidget(nullptr);

@@ -24,6 +24,7 @@ namespace Zelkor::Vx {
 namespace {
 
 const UI::Common::LogSource LOG_SOURCE("Lib/UI/Widgets/WebCameraPreviewStream");
+constexpr char SET_DEVICE[] = "Zelkor::Vx::WebCameraPreviewStream::Impl::SetDevice";
 
 using Clock = std::chrono::steady_clock;
 using VideoSettings = boost::intrusive_ptr<Acquis::IVideoCaptureSettings>;
@@ -62,17 +63,19 @@ VideoSettings ChooseSettings(const Acquis::ICaptureDevice& device, const std::st
     return first;
 }
 
-/// The mode's first rate of exactly this value, else its last one; rates below one frame per second are passed over.
-std::optional<Acquis::Rational> ChooseFrameRate(const Acquis::IVideoCaptureSettings& settings, double frameRate)
+bool IsUsable(double frameRate)
 {
-    std::vector<Acquis::Rational> rates;
-    settings.GetFrameRates(rates);
+    return frameRate >= LOWEST_FRAME_RATE; // which is false for what is not a number, too
+}
+
+/// The mode's first rate of exactly this value, else its last one. Rates that are not usable are passed over.
+std::optional<Acquis::Rational> ChooseFrameRate(const std::vector<Acquis::Rational>& rates, double frameRate)
+{
     std::optional<Acquis::Rational> last;
     for (const auto& rate : rates) {
-        const double value = ValueOf(rate);
-        if (value < LOWEST_FRAME_RATE)
+        if (!IsUsable(ValueOf(rate)))
             continue;
-        if (value == frameRate)
+        if (ValueOf(rate) == frameRate)
             return rate;
         last = rate;
     }
@@ -185,9 +188,15 @@ void WebCameraPreviewStream::Impl::SetDevice(const boost::intrusive_ptr<Acquis::
 {
     Stop();
     const VideoSettings newSettings = newDevice ? ChooseSettings(*newDevice, settingsName) : nullptr;
-    const auto rate = newSettings ? ChooseFrameRate(*newSettings, newFrameRate) : std::nullopt;
+    std::vector<Acquis::Rational> rates;
+    if (newSettings)
+        newSettings->GetFrameRates(rates);
+    const auto rate = ChooseFrameRate(rates, newFrameRate);
+    const auto isBad = [](const Acquis::Rational& offered) { return !IsUsable(ValueOf(offered)); };
     if (newDevice && !rate)
-        LOG_SOURCE.Error(118, "Zelkor::Vx::WebCameraPreviewStream::Impl::SetDevice", "device has no usable video mode");
+        LOG_SOURCE.Error(118, SET_DEVICE, "device has no usable video mode");
+    else if (newDevice && (!IsUsable(newFrameRate) || std::any_of(rates.begin(), rates.end(), isBad)))
+        LOG_SOURCE.Error(121, SET_DEVICE, "frame rate below 1 is ignored");
     if (rate)
         newSettings->SetFrameRate(*rate);
 

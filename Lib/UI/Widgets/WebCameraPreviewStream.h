@@ -33,8 +33,8 @@ public:
 
     /// Stops what runs, and chooses what `StartStream` will show: the device's first mode called `settingsName`, or
     /// its first one when none is; in this mode the rate that is exactly `frameRate` per second, or the last one when
-    /// none is. A null device leaves the stream without one. Rates below 1 per second are not usable; a device without
-    /// a usable mode is logged and leaves the stream without a session.
+    /// none is. A null device leaves the stream without one. Rates below 1 per second are logged and ignored; a device
+    /// without a usable mode is logged and leaves the stream without a session.
     void SetDevice(const boost::intrusive_ptr<Acquis::ICaptureDevice>& device, const QString& settingsName,
                    double frameRate);
 
