@@ -23,6 +23,8 @@ forbid Host/include/Zelkor 'gst/|glib|libyuv|glog/' 'the boundary shows nothing 
 allowed='WebCameraPreviewStream:VideoPreviewWidget
 FramePump:VideoPreviewWidget
 WebCameraPreviewStream:FramePump
+WebCameraPreviewStream:RetrySchedule
+WebCameraPreviewStream:VideoModeChoice
 PopUpPlacement:ButtonWithPopUpContainer
 ButtonWithPopUpContainer:PopUpPlacement
 FastPresetButton:ButtonWithLabels

@@ -2,6 +2,8 @@
 
 #include <UI/Common/LogSource.h>
 #include <UI/Widgets/FramePump.h>
+#include <UI/Widgets/RetrySchedule.h>
+#include <UI/Widgets/VideoModeChoice.h>
 #include <UI/Widgets/VideoPreviewWidget.h>
 
 #include <Zelkor/Acquis/CaptureFactory.h>
@@ -16,7 +18,6 @@
 #include <chrono>
 #include <exception>
 #include <mutex>
-#include <optional>
 #include <utility>
 
 namespace Zelkor::Vx {
@@ -24,63 +25,14 @@ namespace Zelkor::Vx {
 namespace {
 
 const UI::Common::LogSource LOG_SOURCE("Lib/UI/Widgets/WebCameraPreviewStream");
-constexpr char SET_DEVICE[] = "Zelkor::Vx::WebCameraPreviewStream::Impl::SetDevice";
 
-using Clock = std::chrono::steady_clock;
-using VideoSettings = boost::intrusive_ptr<Acquis::IVideoCaptureSettings>;
-
-constexpr std::chrono::milliseconds RETRY_DELAY(200);
-constexpr unsigned MAX_RETRIES = 6;
-constexpr double LOWEST_FRAME_RATE = 1.0;
-
-/// The preview shows frames as they come: their time stamps are left as they are.
+using Clock =
+    std::chrono::steady_clock; /// The preview shows frames as they come: their time stamps are left as they are.
 class TimeShift : public Acquis::TimeShift
 {
 public:
     std::int64_t MapTime(std::int64_t time) const override { return time; }
 };
-
-double ValueOf(const Acquis::Rational& rate)
-{
-    return rate.denominator > 0 ? double(rate.numerator) / double(rate.denominator) : 0.0;
-}
-
-/// The device's first video mode of this name, else its first one; null when it has none.
-VideoSettings ChooseSettings(const Acquis::ICaptureDevice& device, const std::string& name)
-{
-    std::vector<boost::intrusive_ptr<Acquis::ICaptureSettings>> list;
-    device.GetSettings(list, Acquis::SETTINGS_KIND_VIDEO);
-    VideoSettings first;
-    for (const auto& entry : list) {
-        VideoSettings settings(dynamic_cast<Acquis::IVideoCaptureSettings*>(entry.get()));
-        if (!settings)
-            continue;
-        if (settings->GetName() == name)
-            return settings;
-        if (!first)
-            first = settings;
-    }
-    return first;
-}
-
-bool IsUsable(double frameRate)
-{
-    return frameRate >= LOWEST_FRAME_RATE; // which is false for what is not a number, too
-}
-
-/// The mode's first rate of exactly this value, else its last one. Rates that are not usable are passed over.
-std::optional<Acquis::Rational> ChooseFrameRate(const std::vector<Acquis::Rational>& rates, double frameRate)
-{
-    std::optional<Acquis::Rational> last;
-    for (const auto& rate : rates) {
-        if (!IsUsable(ValueOf(rate)))
-            continue;
-        if (ValueOf(rate) == frameRate)
-            return rate;
-        last = rate;
-    }
-    return last;
-}
 
 } // namespace
 
@@ -132,15 +84,13 @@ private:
     mutable std::mutex mutex; ///< guards all that follows
     WebCameraPreviewStream* stream;
     boost::intrusive_ptr<Acquis::ICaptureDevice> device;
-    VideoSettings settings;
-    double frameRate = LOWEST_FRAME_RATE;
+    boost::intrusive_ptr<Acquis::IVideoCaptureSettings> settings;
+    double frameRate = 1.0;
     boost::intrusive_ptr<Acquis::IDeviceSettings> settingsHandle;
     Session session;
     std::shared_ptr<FramePump> pump;
     unsigned epoch = 0;
-    unsigned retryCount = 0;
-    std::optional<Clock::time_point> retryDue;
-    bool gaveUp = false;
+    RetrySchedule retries;
 };
 
 /// Passes on what one session reports, as long as there is somebody to hear it.
@@ -187,25 +137,22 @@ void WebCameraPreviewStream::Impl::SetDevice(const boost::intrusive_ptr<Acquis::
                                              const std::string& settingsName, double newFrameRate)
 {
     Stop();
-    const VideoSettings newSettings = newDevice ? ChooseSettings(*newDevice, settingsName) : nullptr;
-    std::vector<Acquis::Rational> rates;
-    if (newSettings)
-        newSettings->GetFrameRates(rates);
-    const auto rate = ChooseFrameRate(rates, newFrameRate);
-    const auto isBad = [](const Acquis::Rational& offered) { return !IsUsable(ValueOf(offered)); };
-    if (newDevice && !rate)
-        LOG_SOURCE.Error(118, SET_DEVICE, "device has no usable video mode");
-    else if (newDevice && (!IsUsable(newFrameRate) || std::any_of(rates.begin(), rates.end(), isBad)))
-        LOG_SOURCE.Error(121, SET_DEVICE, "frame rate below 1 is ignored");
-    if (rate)
-        newSettings->SetFrameRate(*rate);
+    const VideoModeChoice choice =
+        newDevice ? ChooseVideoMode(*newDevice, settingsName, newFrameRate) : VideoModeChoice();
+    constexpr char NAME[] = "Zelkor::Vx::WebCameraPreviewStream::Impl::SetDevice";
+    if (newDevice && !choice.settings)
+        LOG_SOURCE.Error(118, NAME, "device has no usable video mode");
+    else if (choice.hasUnusableRates)
+        LOG_SOURCE.Error(121, NAME, "frame rate below 1 is ignored");
+    if (choice.settings)
+        choice.settings->SetFrameRate(choice.rate);
 
     unsigned forEpoch;
     {
         const std::lock_guard<std::mutex> lock(mutex);
         device = newDevice;
-        settings = rate ? newSettings : nullptr;
-        frameRate = rate ? ValueOf(*rate) : LOWEST_FRAME_RATE;
+        settings = choice.settings;
+        frameRate = choice.frameRate;
         settingsHandle = nullptr;
         forEpoch = epoch;
     }
@@ -217,9 +164,7 @@ void WebCameraPreviewStream::Impl::Start()
     Session started;
     {
         const std::lock_guard<std::mutex> lock(mutex);
-        retryCount = 0;
-        retryDue.reset();
-        gaveUp = false;
+        retries.Restart();
         started = session;
     }
     StartSession(started);
@@ -232,7 +177,7 @@ void WebCameraPreviewStream::Impl::Stop()
     {
         const std::lock_guard<std::mutex> lock(mutex);
         ++epoch;
-        retryDue.reset();
+        retries.Cancel();
         std::swap(stopped, session);
         ended = pump;
     }
@@ -251,18 +196,13 @@ bool WebCameraPreviewStream::Impl::Retry()
     unsigned forEpoch;
     {
         const std::lock_guard<std::mutex> lock(mutex);
-        if (!retryDue)
-            return true;
-        if (Clock::now() < *retryDue) {
+        const auto step = retries.Take(Clock::now());
+        if (step == RetrySchedule::Step::GiveUp)
+            return false;
+        if (step == RetrySchedule::Step::Wait) {
             RunRetryTimer();
             return true;
         }
-        retryDue.reset();
-        if (retryCount == MAX_RETRIES) {
-            gaveUp = true;
-            return false;
-        }
-        ++retryCount;
         std::swap(failed, session);
         ended = pump;
         forEpoch = epoch;
@@ -289,8 +229,7 @@ bool WebCameraPreviewStream::Impl::Retry()
 void WebCameraPreviewStream::Impl::ArmRetryTimer()
 {
     const std::lock_guard<std::mutex> lock(mutex);
-    if (retryDue)
-        RunRetryTimer();
+    RunRetryTimer();
 }
 
 void WebCameraPreviewStream::Impl::ClosePreview()
@@ -438,21 +377,20 @@ void WebCameraPreviewStream::Impl::EndPump(const std::shared_ptr<FramePump>& end
         pump = nullptr;
 }
 
-/// Has the GUI thread retry later. The first error counts: those that follow until then neither put the retry off nor
-/// add another. Called under the lock.
+/// Has the GUI thread retry later. Called under the lock.
 void WebCameraPreviewStream::Impl::RequestRetry()
 {
-    if (!stream || gaveUp || retryDue)
-        return;
-    retryDue = Clock::now() + RETRY_DELAY;
-    QCoreApplication::postEvent(stream, new QEvent(QEvent::User));
+    if (stream && retries.Request(Clock::now()))
+        QCoreApplication::postEvent(stream, new QEvent(QEvent::User));
 }
 
-/// Has the timer end when the retry is due. GUI thread, under the lock.
+/// Has the timer end when a retry is due. GUI thread, under the lock.
 void WebCameraPreviewStream::Impl::RunRetryTimer()
 {
-    const auto delay = std::chrono::ceil<std::chrono::milliseconds>(*retryDue - Clock::now());
-    retryTimer->start(std::max(delay, std::chrono::milliseconds(0)));
+    if (const auto due = retries.Due()) {
+        const auto delay = std::chrono::ceil<std::chrono::milliseconds>(*due - Clock::now());
+        retryTimer->start(std::max(delay, std::chrono::milliseconds(0)));
+    }
 }
 
 WebCameraPreviewStream::WebCameraPreviewStream(UI::VideoPreviewWidget* preview)
