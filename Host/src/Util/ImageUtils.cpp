@@ -2,6 +2,8 @@
 
 #include <Zelkor/StandIn/VideoFrame.h>
 
+#include <glog/logging.h>
+
 #include <cstdint>
 #include <cstring>
 
@@ -44,9 +46,16 @@ ImageUtils::~ImageUtils() = default;
 
 QImage ImageUtils::FrameToImage(const boost::intrusive_ptr<Proc::IDataVideo>& frame) const
 {
-    boost::intrusive_ptr<VideoFrame> source(dynamic_cast<VideoFrame*>(frame.get()));
-    if (!source || source->GetPixelFormat() != Proc::PixFmt::BGRA || !source->IsReadable())
+    if (!frame)
         return QImage();
+    boost::intrusive_ptr<VideoFrame> source(dynamic_cast<VideoFrame*>(frame.get()));
+    const bool readable = source && source->GetPixelFormat() == Proc::PixFmt::BGRA && source->IsReadable();
+    const bool refusedBefore = refusing.exchange(!readable);
+    if (!readable) {
+        LOG_IF(ERROR, !refusedBefore) << "Zelkor::Util::ImageUtils::FrameToImage: cannot read a frame of pixel format "
+                                      << static_cast<int>(frame->GetPixelFormat());
+        return QImage();
+    }
 
     const Plane& plane = source->GetPlanes()[0];
     const FrameFormat& format = source->GetFormat();

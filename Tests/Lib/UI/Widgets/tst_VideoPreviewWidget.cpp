@@ -134,8 +134,8 @@ private Q_SLOTS:
             scene.preview->UpdateView(StandIn::VideoFrame::Reference(format, {tooSmall, tooSmall, tooSmall}, storage));
             QCOMPARE(scene.Picture(), QRect());
         }
-        QVERIFY(!log.Lines().isEmpty());
-        QVERIFY2(log.Lines().size() <= 4, qPrintable(log.Lines().join('\n')));
+        // The readable BGRA frames between do not go through the converter, so it sees its three in a row.
+        QCOMPARE(log.Lines().size(), 2);
     }
 
     // The GUI thread is busy; of all that came meanwhile the newest frame is painted, at one repaint, and of the others
