@@ -1,0 +1,205 @@
+#include <UI/Widgets/ColorButton.h>
+
+#include <Zelkor/Util/WidgetStyle.h>
+
+#include <QColorDialog>
+#include <QDialogButtonBox>
+#include <QPainter>
+#include <QPointer>
+
+#include <cmath>
+
+namespace Zelkor::Vx {
+
+namespace {
+
+// The square ends 16 pixels before the right edge; 6 pixels are above and 8 below it.
+constexpr int RIGHT_SPACE = 16;
+constexpr int TOP_SPACE = 6;
+constexpr int VERTICAL_SPACE = 14;
+
+QRect DefaultColorRect(const QSize& button)
+{
+    const int side = button.height() - VERTICAL_SPACE;
+    return QRect(button.width() - RIGHT_SPACE - side, TOP_SPACE, side, side);
+}
+
+// A colour keeps its alpha in 16 bits, so quotients may lie a little above 1.
+QColor WithAlpha(QColor color, double alpha)
+{
+    color.setAlphaF(qBound(0.0, alpha, 1.0));
+    return color;
+}
+
+} // namespace
+
+struct ColorButton::Impl
+{
+    double MaximumAlpha() const { return std::isnan(maximumAlpha) ? 1.0 : qBound(0.0, maximumAlpha, 1.0); }
+    bool IsLimited() const { return alphaEnabled && MaximumAlpha() < 1.0; }
+
+    void ClampAlpha()
+    {
+        if (alphaEnabled && color.alphaF() > MaximumAlpha())
+            color = WithAlpha(color, MaximumAlpha());
+    }
+
+    // The dialog's whole range stands for 0 to the maximum. With a maximum of 0 there is nothing to choose.
+    QColor ToDialog() const
+    {
+        if (!IsLimited())
+            return color;
+        return WithAlpha(color, MaximumAlpha() > 0 ? color.alphaF() / MaximumAlpha() : 0.0);
+    }
+
+    QColor FromDialog(const QColor& chosen) const
+    {
+        return IsLimited() ? WithAlpha(chosen, chosen.alphaF() * MaximumAlpha()) : chosen;
+    }
+
+    QColor color = Qt::red;
+    QRect colorRect;
+    bool colorRectSet = false;
+    bool alphaEnabled = false;
+    double maximumAlpha = 1.0;
+    QColor borderNormal = Qt::darkGray;
+    QColor borderDisabled = Qt::lightGray;
+    QColorDialog* dialog = nullptr; ///< while it is open
+};
+
+ColorButton::ColorButton(QWidget* parent) : QPushButton(parent), impl(std::make_unique<Impl>())
+{
+    UpdateColorRect();
+    connect(this, &QAbstractButton::clicked, this, &ColorButton::ChooseColor);
+}
+
+ColorButton::~ColorButton() = default;
+
+QColor ColorButton::GetColor() const
+{
+    return impl->color;
+}
+
+void ColorButton::SetColor(const QColor& color)
+{
+    if (color == impl->color)
+        return;
+    impl->color = color;
+    impl->ClampAlpha();
+    repaint();
+    Q_EMIT ColorChanged(impl->color);
+}
+
+bool ColorButton::IsAlphaEnabled() const
+{
+    return impl->alphaEnabled;
+}
+
+void ColorButton::SetAlphaEnabled(bool enabled)
+{
+    impl->alphaEnabled = enabled;
+}
+
+double ColorButton::GetMaximumAlpha() const
+{
+    return impl->maximumAlpha;
+}
+
+void ColorButton::SetMaximumAlpha(double alpha)
+{
+    impl->maximumAlpha = alpha;
+}
+
+QRect ColorButton::GetColorRect() const
+{
+    return impl->colorRect;
+}
+
+void ColorButton::SetColorRect(const QRect& rect)
+{
+    impl->colorRect = rect;
+    impl->colorRectSet = true;
+    repaint();
+}
+
+QColor ColorButton::GetColorRectBorderNormal() const
+{
+    return impl->borderNormal;
+}
+
+void ColorButton::SetColorRectBorderNormal(const QColor& color)
+{
+    impl->borderNormal = color;
+}
+
+QColor ColorButton::GetColorRectBorderDisabled() const
+{
+    return impl->borderDisabled;
+}
+
+void ColorButton::SetColorRectBorderDisabled(const QColor& color)
+{
+    impl->borderDisabled = color;
+}
+
+void ColorButton::ChooseColor()
+{
+    if (impl->dialog)
+        return;
+    // The dialog runs an event loop of its own, and any slot may delete the button.
+    const QPointer<ColorButton> self(this);
+    impl->ClampAlpha();
+    auto* dialog = new QColorDialog(this);
+    impl->dialog = dialog;
+    dialog->setOption(QColorDialog::ShowAlphaChannel, impl->alphaEnabled);
+    dialog->setCurrentColor(impl->ToDialog());
+    if (const auto* buttons = findChild<QDialogButtonBox*>())
+        Zelkor::Util::ApplyWidgetStyle(buttons->button(QDialogButtonBox::Ok), QStringLiteral("Ok"), "SubStyle");
+
+    Q_EMIT ColorDialogWillBeOpened();
+    if (!self)
+        return;
+    const int result = dialog->exec();
+    if (!self)
+        return;
+    if (result == QDialog::Accepted) {
+        impl->color = impl->FromDialog(dialog->selectedColor());
+        repaint();
+        Q_EMIT ColorChanged(impl->color);
+    }
+    if (self)
+        Q_EMIT ColorDialogClosed();
+    if (self) {
+        dialog->deleteLater();
+        impl->dialog = nullptr;
+    }
+}
+
+void ColorButton::paintEvent(QPaintEvent* event)
+{
+    QPushButton::paintEvent(event);
+    QPainter painter(this);
+    painter.setPen(isEnabled() ? impl->borderNormal : impl->borderDisabled);
+    painter.setBrush(QBrush(impl->color, isEnabled() ? Qt::SolidPattern : Qt::Dense4Pattern));
+    painter.drawRect(impl->colorRect);
+}
+
+void ColorButton::resizeEvent(QResizeEvent* event)
+{
+    QPushButton::resizeEvent(event);
+    if (!impl->colorRectSet)
+        UpdateColorRect();
+}
+
+void ColorButton::hideEvent(QHideEvent*)
+{
+    if (impl->dialog)
+        impl->dialog->close();
+}
+
+void ColorButton::UpdateColorRect()
+{
+    impl->colorRect = DefaultColorRect(size());
+}
+
+} // namespace Zelkor::Vx

@@ -1,0 +1,81 @@
+#include <UI/Widgets/FastPresetButton.h>
+
+#include <UI/Common/ObjectNames.h>
+#include <UI/Kit/ZLabel.h>
+
+#include <QAction>
+#include <QEvent>
+#include <QPointer>
+
+namespace Zelkor::Vx::UI {
+
+namespace {
+
+constexpr char PRESET_TYPE[] = "PresetType";
+constexpr char TAG[] = "Tag";
+
+} // namespace
+
+struct FastPresetButton::Impl
+{
+    QPointer<QAction> action;
+};
+
+FastPresetButton::FastPresetButton(QAction* action, const QString& name, QWidget* parent)
+    : ButtonWithLabels(Qt::Horizontal, parent), impl(new Impl{action})
+{
+    const QString presetType = action ? action->property(PRESET_TYPE).toString() : QString();
+    setObjectName(presetType + Common::FAST_CAPTURE_BUTTON + name);
+    TextLabel()->setObjectName(Common::TEXT_FAST_PRESET_LABEL + name);
+    HotKeyLabel()->setObjectName(Common::HOT_KEY_FAST_PRESET_LABEL + name);
+    setProperty(TAG, presetType);
+    TextLabel()->setProperty(TAG, Common::TEXT_FAST_PRESET_LABEL);
+    HotKeyLabel()->setProperty(TAG, Common::HOT_KEY_FAST_PRESET_LABEL);
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+
+    connect(this, &QAbstractButton::clicked, this, &FastPresetButton::Trigger);
+    if (action) {
+        if (!action->parent())
+            action->setParent(this);
+        connect(action, &QAction::changed, this, &FastPresetButton::Refresh);
+    }
+    TextLabel()->installEventFilter(this);
+    TextLabel()->ensurePolished();
+    Refresh();
+}
+
+FastPresetButton::~FastPresetButton() = default;
+
+bool FastPresetButton::eventFilter(QObject* watched, QEvent* event)
+{
+    // A style sheet may have changed whether the label wraps words, and with it what becomes of line feeds.
+    if (event->type() == QEvent::Polish || event->type() == QEvent::StyleChange)
+        Refresh();
+    return ButtonWithLabels::eventFilter(watched, event);
+}
+
+// The signal and not QAction::trigger(), which would toggle a checkable action.
+void FastPresetButton::Trigger()
+{
+    const QPointer<FastPresetButton> self(this);
+    const QPointer<QAction> action = impl->action;
+    if (action)
+        Q_EMIT action->triggered(false);
+    if (self && action)
+        Q_EMIT Clicked(action);
+}
+
+void FastPresetButton::Refresh()
+{
+    const QAction* action = impl->action;
+    if (!action)
+        return;
+    QString text = action->text();
+    if (!TextLabel()->wordWrap())
+        text.remove(QLatin1Char('\n'));
+    SetLabelText(text);
+    SetHotkeyText(action->shortcut().toString(QKeySequence::PortableText));
+    setToolTip(action->toolTip());
+}
+
+} // namespace Zelkor::Vx::UI
