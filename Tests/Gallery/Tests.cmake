@@ -12,7 +12,7 @@ vx_test(Gallery/tst_RecorderModel.cpp LIBRARIES VxGalleryWindows)
 vx_test(Gallery/tst_GalleryWindows.cpp LIBRARIES VxGalleryWindows)
 
 vx_test(Gallery/tst_Styles.cpp LIBRARIES VxCatalogue)
-target_compile_definitions(tst_Styles PRIVATE VX_CMAKE="${CMAKE_COMMAND}" VX_STYLES_SOURCE="${PROJECT_SOURCE_DIR}/Styles")
+target_compile_definitions(tst_Styles PRIVATE VX_STYLES_SOURCE="${PROJECT_SOURCE_DIR}/Styles")
 
 vx_test(Gallery/tst_Gallery.cpp LIBRARIES VxCatalogue)
 add_dependencies(tst_Gallery VxGallery)

@@ -1,4 +1,3 @@
-#include <Gallery/Catalogue.h>
 #include <Gallery/GalleryWindow.h>
 #include <Gallery/RecorderModel.h>
 #include <Gallery/RecorderView.h>
@@ -7,7 +6,6 @@
 
 #include <Support/TestCase.h>
 
-#include <UI/Widgets/ButtonWithPopUpContainer.h>
 #include <UI/Widgets/VideoPreviewWidget.h>
 
 #include <QAbstractButton>
@@ -26,22 +24,32 @@ constexpr int LONG_TIME = 10000; ///< milliseconds; the stream gives a device se
 class BusyCamera : public StandIn::CaptureDevice
 {
 public:
-    BusyCamera() : CaptureDevice(Kind::Camera, "busy", "Busy camera", {MakeMode()}) {}
+    explicit BusyCamera(const Modes& modes) : CaptureDevice(Kind::Camera, "busy", "Busy camera", modes) {}
     std::unique_ptr<StandIn::CaptureSource> CreateSource(const StandIn::VideoMode&) const override { return nullptr; }
-
-private:
-    static boost::intrusive_ptr<StandIn::VideoMode> MakeMode()
-    {
-        StandIn::FrameFormat format;
-        format.width = 640;
-        format.height = 480;
-        return new StandIn::VideoMode("640×480", format, {{30, 1}});
-    }
 };
 
-QImage PictureOf(RecorderView& view)
+/// A recorder that shows itself, with its devices.
+class Recorder
 {
-    return view.findChild<Vx::UI::VideoPreviewWidget*>()->grab().toImage();
+public:
+    explicit Recorder(const QList<RecorderModel::Device>& devices = {StandIn::CreateTestPictureDevice()})
+    {
+        model.SetDevices(devices);
+        view.resize(900, 640);
+        view.show();
+    }
+
+    Vx::UI::VideoPreviewWidget* Preview() const { return view.findChild<Vx::UI::VideoPreviewWidget*>(); }
+    QImage Picture() const { return Preview()->grab().toImage(); }
+
+    RecorderModel model;
+    RecorderView view{&model, RecorderView::Role::Window};
+};
+
+void ChooseLikeAPerson(QComboBox* combo, int index)
+{
+    combo->setCurrentIndex(index);
+    Q_EMIT combo->activated(index);
 }
 
 } // namespace
@@ -54,71 +62,66 @@ private Q_SLOTS:
     void initTestCase()
     {
         QString error;
-        const auto sheet = LoadStyleSheet("dark", error);
-        QVERIFY2(sheet, qPrintable(error));
-        ApplyStyleSheet(*sheet);
+        ApplyStyleSheet(LoadStyleSheet("dark", error).value());
     }
 
     void busyCameraGivesTheMessageAndAnotherDeviceTakesItAway()
     {
-        RecorderModel model;
         const auto test = StandIn::CreateTestPictureDevice();
-        model.SetDevices({RecorderModel::Device(new BusyCamera), test});
-        Embedded<RecorderView> view(&model, RecorderView::Role::Window);
-        auto* banner = view->findChild<QWidget*>("errorBanner");
-        auto* runButton = view->findChild<QAbstractButton*>("runButton");
+        Recorder recorder({new BusyCamera(test->GetModes()), test});
+        auto* banner = recorder.view.findChild<QWidget*>("errorBanner");
+        auto* runButton = recorder.view.findChild<QAbstractButton*>("runButton");
         QVERIFY(!banner->isVisible());
         QCOMPARE(runButton->accessibleName(), QString("Stop"));
         QTRY_VERIFY_WITH_TIMEOUT(banner->isVisible(), LONG_TIME);
         QCOMPARE(runButton->accessibleName(), QString("Start"));
-        const QImage idle = PictureOf(*view);
+        const QImage idle = recorder.Picture();
 
-        auto* devices = view->findChild<QComboBox*>("deviceCombo");
+        auto* devices = recorder.view.findChild<QComboBox*>("deviceCombo");
         QCOMPARE(devices->currentText(), QString("Busy camera"));
-        devices->setCurrentIndex(1);
-        Q_EMIT devices->activated(1);
+        ChooseLikeAPerson(devices, 1);
         QVERIFY(!banner->isVisible());
         QCOMPARE(runButton->accessibleName(), QString("Stop"));
-        QTRY_VERIFY_WITH_TIMEOUT(PictureOf(*view) != idle, LONG_TIME);
+        QTRY_VERIFY_WITH_TIMEOUT(recorder.Picture() != idle, LONG_TIME);
 
         runButton->click();
-        QCOMPARE(model.GetStatus(), RecorderModel::Status::Stopped);
-        QCOMPARE(PictureOf(*view), idle);
+        QCOMPARE(recorder.model.GetStatus(), RecorderModel::Status::Stopped);
+        QCOMPARE(recorder.Picture(), idle);
     }
 
-    void choicesTakeEffectWhileThePictureRuns()
+    void pictureRunsAsChosenWhileItCanBeSeen()
     {
-        RecorderModel model;
-        model.SetDevices({StandIn::CreateTestPictureDevice()});
-        Embedded<RecorderView> view(&model, RecorderView::Role::Page);
-        const QImage before = PictureOf(*view);
-        QTRY_VERIFY_WITH_TIMEOUT(PictureOf(*view) != before, LONG_TIME);
+        Recorder recorder;
+        const QImage idle = recorder.Picture();
+        QTRY_VERIFY_WITH_TIMEOUT(recorder.Picture() != idle, LONG_TIME);
         for (const char* name : {"modeCombo", "frameRateCombo"}) {
-            auto* combo = view->findChild<QComboBox*>(name);
+            auto* combo = recorder.view.findChild<QComboBox*>(name);
             QVERIFY2(combo->count() > 1, name);
             const int other = combo->currentIndex() == 0 ? 1 : 0;
-            combo->setCurrentIndex(other);
-            Q_EMIT combo->activated(other);
+            ChooseLikeAPerson(combo, other);
             QCOMPARE(combo->currentIndex(), other);
-            const QImage frame = PictureOf(*view);
-            QTRY_VERIFY_WITH_TIMEOUT(PictureOf(*view) != frame, LONG_TIME);
+            const QImage frame = recorder.Picture();
+            QTRY_VERIFY_WITH_TIMEOUT(recorder.Picture() != frame, LONG_TIME);
         }
-        QCOMPARE(model.GetStatus(), RecorderModel::Status::Running);
 
-        model.SetDevices({});
-        QVERIFY(view->findChild<QComboBox*>("deviceCombo")->currentText().contains("not connected"));
+        recorder.view.hide();
+        recorder.model.ChooseFrameRate(recorder.model.FrameRates().constLast());
+        QCOMPARE(recorder.Picture(), idle);
+        QCOMPARE(recorder.model.GetStatus(), RecorderModel::Status::Running);
+        recorder.view.show();
+        QTRY_VERIFY_WITH_TIMEOUT(recorder.Picture() != idle, LONG_TIME);
+
+        recorder.model.SetDevices({});
+        QVERIFY(recorder.view.findChild<QComboBox*>("deviceCombo")->currentText().contains("not connected"));
     }
 
     void pictureKeepsItsShapeAtAnySize()
     {
-        RecorderModel model;
-        model.Stop();
-        model.SetDevices({StandIn::CreateTestPictureDevice()});
-        Embedded<RecorderView> view(&model, RecorderView::Role::Page);
-        auto* preview = view->findChild<Vx::UI::VideoPreviewWidget*>();
+        Recorder recorder;
+        recorder.model.Stop();
+        const auto* preview = recorder.Preview();
         for (const QSize& size : {QSize(400, 700), QSize(1600, 500), QSize(900, 640)}) {
-            view->resize(size);
-            QCoreApplication::processEvents();
+            recorder.view.resize(size);
             QVERIFY(qAbs(preview->width() * 9 - preview->height() * 16) <= 16 * 9);
             const QRect stage = preview->parentWidget()->contentsRect();
             QVERIFY(stage.contains(preview->geometry()));
@@ -130,99 +133,52 @@ private Q_SLOTS:
 
     void keyboardReachesEverythingThatHasAName()
     {
-        RecorderModel model;
-        model.SetDevices({StandIn::CreateTestPictureDevice()});
-        Embedded<RecorderView> view(&model, RecorderView::Role::Window);
+        Recorder recorder;
+        QSignalSpy widgets(&recorder.view, &RecorderView::WidgetsRequested);
         QStringList names;
-        QWidget* start = view->findChild<QWidget*>("runButton");
+        QWidget* start = recorder.view.findChild<QWidget*>("runButton");
         QWidget* widget = start;
         do {
-            if ((widget->focusPolicy() & Qt::TabFocus) && widget->isVisible()) {
-                QVERIFY2(!widget->accessibleName().isEmpty(), widget->metaObject()->className());
+            if ((widget->focusPolicy() & Qt::TabFocus) && widget->isVisible())
                 names.append(widget->accessibleName());
-            }
+            if (widget->accessibleName() == "Widgets…")
+                QTest::keyClick(widget, Qt::Key_Space);
             widget = widget->nextInFocusChain();
         } while (widget != start);
         QCOMPARE(names, QStringList({"Stop", "Widgets…", "Source", "Settings of the device"}));
-
-        QSignalSpy widgets(view.operator->(), &RecorderView::WidgetsRequested);
-        for (auto* button : view->findChildren<QAbstractButton*>()) {
-            if (button->accessibleName() == "Widgets…")
-                QTest::keyClick(button, Qt::Key_Space);
-        }
         QCOMPARE(widgets.size(), 1);
-    }
-
-    void hiddenRecorderLetsGoOfTheDevice()
-    {
-        RecorderModel model;
-        model.SetDevices({StandIn::CreateTestPictureDevice()});
-        Embedded<RecorderView> view(&model, RecorderView::Role::Page);
-        const QImage before = PictureOf(*view);
-        QTRY_VERIFY_WITH_TIMEOUT(PictureOf(*view) != before, LONG_TIME);
-        view->hide();
-        QCOMPARE(PictureOf(*view), before);
-        model.ChooseFrameRate(model.FrameRates().constFirst());
-        QCOMPARE(PictureOf(*view), before);
-        QCOMPARE(model.GetStatus(), RecorderModel::Status::Running);
-        view->show();
-        QTRY_VERIFY_WITH_TIMEOUT(PictureOf(*view) != before, LONG_TIME);
     }
 
     void galleryHasOnePageAtATime()
     {
         RecorderModel model;
         model.SetDevices({StandIn::CreateTestPictureDevice()});
-        Embedded<GalleryWindow> gallery(&model);
-        gallery->OpenPage("NoWidget");
-        QVERIFY(!gallery->findChild<WidgetPage*>());
+        GalleryWindow gallery(&model);
+        gallery.show();
+        gallery.OpenPage("NoWidget");
+        QVERIFY(!gallery.findChild<WidgetPage*>());
         for (const QString& name : PageNames()) {
-            gallery->OpenPage(name);
-            const bool isRecorder = name == RecorderPageName();
-            QCOMPARE(gallery->findChildren<WidgetPage*>().size(), isRecorder ? 0 : 1);
-            QCOMPARE(gallery->findChildren<RecorderView*>().size(), isRecorder ? 1 : 0);
+            gallery.OpenPage(name);
+            QCOMPARE(gallery.findChildren<WidgetPage*>().size(), name == RecorderPageName() ? 0 : 1);
+            QCOMPARE(gallery.findChildren<RecorderView*>().size(), name == RecorderPageName() ? 1 : 0);
         }
 
         // The arrow keys walk over the headings of groups.
-        auto* list = gallery->findChild<QListWidget*>();
-        gallery->OpenPage(RecorderPageName());
+        auto* list = gallery.findChild<QListWidget*>();
+        gallery.OpenPage(RecorderPageName());
         for (int i = 1; i < PageNames().size(); ++i)
             QTest::keyClick(list, Qt::Key_Down);
         QCOMPARE(list->currentItem()->text(), PageNames().constLast());
 
         // In a narrow window the list leaves the room to the page, and its names to tool tips.
         const int fullWidth = list->width();
-        gallery->resize(500, 600);
-        QCoreApplication::processEvents();
+        gallery.resize(500, 600);
         QVERIFY(list->width() < fullWidth / 2);
         QCOMPARE(list->currentItem()->toolTip(), PageNames().constLast());
-        gallery->resize(900, 600);
-        QCoreApplication::processEvents();
+        gallery.resize(900, 600);
         QCOMPARE(list->width(), fullWidth);
         QCOMPARE(list->currentItem()->text(), PageNames().constLast());
     }
-
-private:
-    /// A window under test as the child of a plain one, which makes no demands on the window system.
-    template<class Widget>
-    class Embedded
-    {
-    public:
-        template<class... Arguments>
-        explicit Embedded(Arguments... arguments) : widget(new Widget(arguments..., &window))
-        {
-            widget->resize(widget->sizeHint().expandedTo({900, 600}));
-            window.resize(widget->size());
-            window.show();
-        }
-
-        Widget* operator->() const { return widget; }
-        Widget& operator*() const { return *widget; }
-
-    private:
-        QWidget window;
-        Widget* widget;
-    };
 };
 
 VX_TEST_MAIN(tst_GalleryWindows)
