@@ -13,24 +13,19 @@
 #include <condition_variable>
 #include <functional>
 #include <mutex>
-#include <thread>
 
 namespace Support {
 
 using namespace Zelkor;
 
-/// Writes down what a session tells, and notices calls that overlap.
+/// Writes down what a session tells.
 class SessionRecorder : public Acquis::ICaptureSessionObserver
 {
 public:
-    using Frame = boost::intrusive_ptr<StandIn::VideoFrame>;
+    /// Called from within each observer call, after that was written down. There is no session in `handleStopped`.
+    std::function<void(const QString& call, Acquis::ICaptureSession* session)> onCall = [](auto&, auto*) {};
 
-    /// Called from within the observer calls, after the call was written down.
-    std::function<void(Acquis::ICaptureSession&)> onStarted = [](auto&) {};
-    std::function<void(Acquis::ICaptureSession&)> onError = [](auto&) {};
-    std::function<void()> onStopped = [] {};
-
-    /// "started", "error 1", "stopped", in order.
+    /// "started", "error 1", "stopped", in order, and "overlap" before one that came while another was running.
     QStringList Calls() const
     {
         const std::lock_guard<std::mutex> lock(mutex);
@@ -43,60 +38,43 @@ public:
         return changed.wait_for(lock, std::chrono::seconds(20), [&] { return calls == expected; });
     }
 
-    bool Overlapped() const
-    {
-        const std::lock_guard<std::mutex> lock(mutex);
-        return overlapped;
-    }
-
-    std::int64_t StartTime() const
-    {
-        const std::lock_guard<std::mutex> lock(mutex);
-        return startTime;
-    }
-
     boost::intrusive_ptr<Acquis::ICaptureOutput> CreateOutput() const
     {
-        boost::intrusive_ptr<Acquis::IFrameProvider> current;
-        {
-            const std::lock_guard<std::mutex> lock(mutex);
-            current = provider;
-        }
         boost::intrusive_ptr<Acquis::ICaptureOutput> output;
-        if (current)
-            current->CreateOutput(output, "test", 0);
+        provider->CreateOutput(output, "test", 0);
         return output;
     }
+
+    // What came with "started". To be read when that has been waited for.
+    std::int64_t startTime = 0;
+    boost::intrusive_ptr<Acquis::IFrameProvider> provider;
 
     void handleStarted(Acquis::ICaptureSession& session, std::int64_t time,
                        const boost::intrusive_ptr<Acquis::IFrameProvider>& newProvider) override
     {
-        {
-            const std::lock_guard<std::mutex> lock(mutex);
-            startTime = time;
-            provider = newProvider;
-        }
-        Note(QStringLiteral("started"), [&] { onStarted(session); });
+        startTime = time;
+        provider = newProvider;
+        Note(QStringLiteral("started"), &session);
     }
 
     void handleError(Acquis::ICaptureSession& session, int code) override
     {
-        Note(QStringLiteral("error %1").arg(code), [&] { onError(session); });
+        Note(QStringLiteral("error %1").arg(code), &session);
     }
 
-    void handleStopped() override { Note(QStringLiteral("stopped"), onStopped); }
+    void handleStopped() override { Note(QStringLiteral("stopped"), nullptr); }
 
 private:
-    void Note(const QString& call, const std::function<void()>& action)
+    void Note(const QString& call, Acquis::ICaptureSession* session)
     {
-        {
-            const std::lock_guard<std::mutex> lock(mutex);
-            overlapped |= running++ > 0;
-            calls += call;
-        }
+        std::unique_lock<std::mutex> lock(mutex);
+        if (running++ > 0)
+            calls += QStringLiteral("overlap");
+        calls += call;
+        lock.unlock();
         changed.notify_all();
-        action();
-        const std::lock_guard<std::mutex> lock(mutex);
+        onCall(call, session);
+        lock.lock();
         --running;
     }
 
@@ -104,24 +82,27 @@ private:
     mutable std::condition_variable changed;
     QStringList calls;
     int running = 0;
-    bool overlapped = false;
-    std::int64_t startTime = 0;
-    boost::intrusive_ptr<Acquis::IFrameProvider> provider;
 };
 
 /// A stopped session of the engine for a device in one of its modes.
 inline boost::intrusive_ptr<Acquis::ICaptureSession>
-CreateSession(const boost::intrusive_ptr<StandIn::CaptureDevice>& device,
-              const boost::intrusive_ptr<StandIn::VideoMode>& mode,
+CreateSession(const boost::intrusive_ptr<StandIn::CaptureDevice>& device, std::size_t mode = 0,
               const std::shared_ptr<const Time::IChronometer>& chronometer = nullptr)
 {
-    const Acquis::CaptureSessionInitializer initializer({{device, mode}}, nullptr, chronometer, Proc::PixFmt::None);
     boost::intrusive_ptr<Acquis::ICaptureSession> session;
-    Acquis::CaptureFactory::Create()->CreateSession(session, initializer, "Default");
+    Acquis::CaptureFactory::Create()->CreateSession(
+        session, {{{device, device->GetModes()[mode]}}, nullptr, chronometer, Proc::PixFmt::None}, "Default");
     return session;
 }
 
-inline SessionRecorder::Frame ReadFrame(Acquis::ICaptureOutput& output)
+inline std::shared_ptr<SessionRecorder> Start(const boost::intrusive_ptr<Acquis::ICaptureSession>& session)
+{
+    const auto recorder = std::make_shared<SessionRecorder>();
+    session->Start(recorder);
+    return recorder;
+}
+
+inline boost::intrusive_ptr<StandIn::VideoFrame> ReadFrame(Acquis::ICaptureOutput& output)
 {
     boost::intrusive_ptr<Proc::IDataVideo> frame;
     output.GetFrameReader()->ReadLatestFrame(frame);
@@ -129,14 +110,13 @@ inline SessionRecorder::Frame ReadFrame(Acquis::ICaptureOutput& output)
 }
 
 /// What the frame shows.
-inline QImage ImageOf(const SessionRecorder::Frame& frame)
+inline QImage ImageOf(boost::intrusive_ptr<Proc::IDataVideo> frame)
 {
     boost::intrusive_ptr<Proc::IEffect> converter;
     Core::CoreManager::Instance().GetEffectFactory()->CreateEffect(
         converter, Proc::SettingsColorspaceConverter::CLASS_ID, "Default", nullptr);
-    boost::intrusive_ptr<Proc::IDataVideo> picture = frame;
-    converter->Process(picture);
-    return Util::ImageUtils().FrameToImage(picture).copy();
+    converter->Process(frame);
+    return Util::ImageUtils().FrameToImage(frame).copy();
 }
 
 } // namespace Support

@@ -1,10 +1,8 @@
-vx_test(Host/tst_ColorspaceConverter.cpp)
 vx_test(Host/tst_VideoFrame.cpp)
 vx_test(Host/tst_HostUtilities.cpp)
 
-vx_test(Host/tst_CaptureEngine.cpp)
-vx_test(Host/tst_TestPicture.cpp)
-vx_test(Host/tst_DeviceList.cpp)
+vx_test(Host/tst_CaptureEngine.cpp LABELS threads)
+vx_test(Host/tst_TestPicture.cpp LABELS threads)
 
 if(VX_WITH_GSTREAMER AND VX_GSTREAMER_FOUND)
   # The modes of a camera are worked out inside the host, so this test has that part itself.
