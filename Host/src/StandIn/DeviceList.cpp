@@ -2,8 +2,8 @@
 
 #include <Acquis/DeviceSearch.h>
 
+#include <QEvent>
 #include <QGuiApplication>
-#include <QMetaObject>
 
 #include <mutex>
 #include <utility>
@@ -12,11 +12,12 @@ namespace Zelkor::StandIn {
 
 namespace {
 
-/// The way from the search's thread to a list, which may die at any time.
-struct ListAddress
+/// The way from the search's thread to a list, which may die at any time. The list is told by an event to look.
+struct Mailbox
 {
-    std::mutex mutex;
+    std::mutex mutex; ///< guards all that follows
     DeviceList* list;
+    DeviceSearch::Found found; ///< the newest
 };
 
 // An X server that a Wayland session keeps for old programs has no picture of the screen.
@@ -40,7 +41,7 @@ struct DeviceList::Impl
     }
 
     const Device testPicture = CreateTestPictureDevice();
-    const std::shared_ptr<ListAddress> address = std::make_shared<ListAddress>();
+    const std::shared_ptr<Mailbox> mailbox = std::make_shared<Mailbox>();
     std::shared_ptr<DeviceSearch> search;
     DeviceSearch::Found found;
     bool isComplete = false;
@@ -48,12 +49,12 @@ struct DeviceList::Impl
 
 DeviceList::DeviceList(QObject* parent) : QObject(parent), impl(std::make_unique<Impl>())
 {
-    impl->address->list = this;
-    const auto report = [address = impl->address](const DeviceSearch::Found& found) {
-        const std::lock_guard<std::mutex> lock(address->mutex);
-        if (auto* list = address->list)
-            QMetaObject::invokeMethod(
-                list, [list, found] { list->impl->Take(list, found); }, Qt::QueuedConnection);
+    impl->mailbox->list = this;
+    const auto report = [mailbox = impl->mailbox](const DeviceSearch::Found& found) {
+        const std::lock_guard<std::mutex> lock(mailbox->mutex);
+        mailbox->found = found;
+        if (mailbox->list)
+            QCoreApplication::postEvent(mailbox->list, new QEvent(QEvent::User));
     };
     impl->search = std::make_shared<DeviceSearch>(MayHaveX11Screen(), report);
     impl->search->Start();
@@ -62,8 +63,18 @@ DeviceList::DeviceList(QObject* parent) : QObject(parent), impl(std::make_unique
 DeviceList::~DeviceList()
 {
     impl->search->End();
-    const std::lock_guard<std::mutex> lock(impl->address->mutex);
-    impl->address->list = nullptr;
+    const std::lock_guard<std::mutex> lock(impl->mailbox->mutex);
+    impl->mailbox->list = nullptr;
+}
+
+void DeviceList::customEvent(QEvent*)
+{
+    DeviceSearch::Found found;
+    {
+        const std::lock_guard<std::mutex> lock(impl->mailbox->mutex);
+        found = impl->mailbox->found;
+    }
+    impl->Take(this, found);
 }
 
 QList<DeviceList::Device> DeviceList::GetDevices() const
