@@ -29,5 +29,9 @@ Rounds Interleave(const std::function<void()>& path, const std::function<void()>
 double Median(std::vector<double> values);
 
 std::vector<Row> PreviewRows();
+std::vector<Row> EffectRows();
+
+/// Prints what the shadow's rim costs on widgets of growing size.
+void PrintShadowCurve();
 
 } // namespace SpeedTable

@@ -34,11 +34,20 @@ int main(int argc, char* argv[])
     parser.addHelpOption();
     const QCommandLineOption ratios(QStringLiteral("ratios"), QStringLiteral("Print path, ratio and goal alone."));
     const QCommandLineOption only(QStringLiteral("row"), QStringLiteral("Run one row."), QStringLiteral("name"));
-    parser.addOptions({ratios, only});
+    const QCommandLineOption curve(QStringLiteral("shadow-curve"),
+                                   QStringLiteral("Print what the shadow's rim costs as the widget grows."));
+    parser.addOptions({ratios, only, curve});
     parser.process(application);
+    if (parser.isSet(curve)) {
+        SpeedTable::PrintShadowCurve();
+        return 0;
+    }
 
+    std::vector<SpeedTable::Row> rows = SpeedTable::PreviewRows();
+    for (SpeedTable::Row& row : SpeedTable::EffectRows())
+        rows.push_back(std::move(row));
     bool found = false;
-    for (const SpeedTable::Row& row : SpeedTable::PreviewRows()) {
+    for (const SpeedTable::Row& row : rows) {
         if (parser.isSet(only) && parser.value(only) != QLatin1String(row.name))
             continue;
         found = true;

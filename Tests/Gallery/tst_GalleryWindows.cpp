@@ -6,6 +6,9 @@
 
 #include <Support/TestCase.h>
 
+#include <UI/Widgets/ButtonWithPopUpList.h>
+#include <UI/Widgets/ColorButton.h>
+#include <UI/Widgets/FastPresetButton.h>
 #include <UI/Widgets/VideoPreviewWidget.h>
 
 #include <QAbstractButton>
@@ -131,6 +134,43 @@ private Q_SLOTS:
         }
     }
 
+    void recordingModeIsTheSameEverywhere()
+    {
+        Recorder recorder;
+        auto* modes = recorder.view.findChild<Vx::ButtonWithPopUpList*>("recordingModes");
+        const auto presets = recorder.view.findChildren<Vx::UI::FastPresetButton*>();
+        const auto checkedPresets = [&] {
+            QStringList names;
+            for (const auto* preset : presets)
+                names += preset->isChecked() ? QStringList(preset->accessibleName()) : QStringList();
+            return names.join(',');
+        };
+        QCOMPARE(checkedPresets(), QString("Full screen"));
+        QVERIFY(QTest::qWaitForWindowActive(&recorder.view));
+        // The shortcuts work without the presets too, for which a narrow window has no room.
+        QVERIFY(!presets[0]->isVisible());
+        QTest::keyClick(&recorder.view, Qt::Key_2, Qt::ControlModifier);
+        QCOMPARE(recorder.model.CurrentRecordingMode(), RecorderModel::RecordingMode::Window);
+        QCOMPARE(modes->CurrentIndex(), 1);
+        QCOMPARE(checkedPresets(), QString("Window"));
+        recorder.view.resize(1400, 640);
+        for (int i = 0; i < 2; ++i) {
+            QTest::mouseClick(presets[2], Qt::LeftButton);
+            QCOMPARE(modes->accessibleName(), QString("Region"));
+            QCOMPARE(checkedPresets(), QString("Region"));
+        }
+        modes->SetCurrentIndex(modes->Count() - 1);
+        QCOMPARE(recorder.model.CurrentRecordingMode(), RecorderModel::RecordingMode::SoundOnly);
+        QCOMPARE(checkedPresets(), QString());
+
+        auto* color = recorder.view.findChild<Vx::ColorButton*>();
+        color->SetColor(Qt::green);
+        QCOMPARE(recorder.model.CurrentDrawingColor(), color->GetColor());
+        auto* sound = recorder.view.findChild<QComboBox*>("clickSound");
+        ChooseLikeAPerson(sound, 0);
+        QCOMPARE(recorder.model.CurrentClickSound(), RecorderModel::ClickSound::None);
+    }
+
     void keyboardReachesEverythingThatHasAName()
     {
         Recorder recorder;
@@ -145,7 +185,8 @@ private Q_SLOTS:
                 QTest::keyClick(widget, Qt::Key_Space);
             widget = widget->nextInFocusChain();
         } while (widget != start);
-        QCOMPARE(names, QStringList({"Stop", "Widgets…", "Source", "Settings of the device"}));
+        QCOMPARE(names, QStringList({"Stop", "Widgets…", "Full screen", "Drawing colour", "Click sound", "Source",
+                                     "Settings of the device"}));
         QCOMPARE(widgets.size(), 1);
     }
 

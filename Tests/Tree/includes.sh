@@ -27,6 +27,10 @@ WebCameraPreviewStream:RetrySchedule
 WebCameraPreviewStream:VideoModeChoice
 PopUpPlacement:ButtonWithPopUpContainer
 ButtonWithPopUpContainer:PopUpPlacement
+VolumeSlider:LevelMeter
+PixmapCut:PixmapWidget
+PixmapWidget:PixmapCut
+ZGraphicsShadowEffect:ShadowRim
 FastPresetButton:ButtonWithLabels
 CustomTabWidget:HorizontalTabBar'
 while IFS=: read -r file _ include; do

@@ -1,0 +1,85 @@
+#include <UI/Widgets/MaskedToolTip.h>
+
+#include <UI/Common/BoxLayouts.h>
+
+#include <QBitmap>
+#include <QEvent>
+#include <QLabel>
+#include <QMouseEvent>
+#include <QTimer>
+
+namespace Zelkor::Vx::UI {
+
+namespace {
+
+QLabel* MakeLabel(const char* objectName, QWidget* parent)
+{
+    auto* label = new QLabel(parent);
+    label->setObjectName(QLatin1String(objectName));
+    return label;
+}
+
+void SetTextOrHide(QLabel* label, const QString& text)
+{
+    if (text.isEmpty())
+        label->hide();
+    else
+        label->setText(text);
+}
+
+// Set bits belong to the window: where the image is more opaque than not.
+QBitmap OpaquePart(const QImage& image)
+{
+    // A mask counts in the window's pixels, and an image for a dense screen has more of them.
+    const QSize size = (QSizeF(image.size()) / image.devicePixelRatio()).toSize();
+    QImage alpha = (size == image.size() ? image : image.scaled(size)).convertToFormat(QImage::Format_Alpha8);
+    alpha.setDevicePixelRatio(1);
+    alpha.reinterpretAsFormat(QImage::Format_Grayscale8);
+    QImage bits = alpha.convertToFormat(QImage::Format_Mono, Qt::MonoOnly | Qt::ThresholdDither);
+    bits.invertPixels(QImage::InvertRgb);
+    return QBitmap::fromImage(bits);
+}
+
+} // namespace
+
+MaskedToolTip::MaskedToolTip(QWidget* parent)
+    : ZFrame(parent, Qt::Dialog | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint),
+      titleLabel(MakeLabel("titleLabel", this)), textLabel(MakeLabel("textLabel", this))
+{
+    setObjectName(QStringLiteral("MaskedToolTip"));
+    auto* layout = Common::MakeBoxLayout<QVBoxLayout>(this);
+    layout->addWidget(titleLabel);
+    layout->addWidget(textLabel);
+}
+
+MaskedToolTip::~MaskedToolTip() = default;
+
+void MaskedToolTip::Show(const QPoint& globalPos)
+{
+    ensurePolished();
+    SetTextOrHide(titleLabel, title);
+    SetTextOrHide(textLabel, text);
+    setAccessibleName(title);
+    setAccessibleDescription(text);
+    if (!maskImage.isNull())
+        setMask(OpaquePart(maskImage));
+    if (displayTime > 0)
+        QTimer::singleShot(displayTime, this, &QWidget::close);
+    move(mapFromGlobal(globalPos + QPoint(offsetX, offsetY)));
+    show();
+}
+
+void MaskedToolTip::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::ActivationChange && hideOnDeactivate && !isActiveWindow())
+        close();
+}
+
+void MaskedToolTip::mousePressEvent(QMouseEvent* event)
+{
+    event->accept();
+    close();
+}
+
+} // namespace Zelkor::Vx::UI

@@ -1,0 +1,90 @@
+#include <UI/Widgets/PixmapWidget.h>
+
+#include <UI/Widgets/PixmapCut.h>
+
+#include <QPainter>
+
+namespace Zelkor::Vx {
+
+struct PixmapWidget::Impl
+{
+    MaskMode maskMode = MASK_NONE;
+    MaskAnchor maskAnchor = ANCHOR_TOP_LEFT;
+    QPixmap source;
+    QImage picture; ///< the source as an image, without a pixel ratio of its own
+    QPixmap scaled; ///< what is drawn, in device pixels; null until the next paint
+};
+
+PixmapWidget::PixmapWidget(QWidget* parent, Qt::WindowFlags f) : QFrame(parent, f), impl(std::make_unique<Impl>()) {}
+
+PixmapWidget::~PixmapWidget() = default;
+
+PixmapWidget::MaskMode PixmapWidget::GetMaskMode() const
+{
+    return impl->maskMode;
+}
+
+void PixmapWidget::SetMaskMode(MaskMode mode)
+{
+    impl->maskMode = mode;
+    Rebuild();
+}
+
+PixmapWidget::MaskAnchor PixmapWidget::GetMaskAnchor() const
+{
+    return impl->maskAnchor;
+}
+
+void PixmapWidget::SetMaskAnchor(MaskAnchor anchor)
+{
+    impl->maskAnchor = anchor;
+    Rebuild();
+}
+
+QPixmap PixmapWidget::GetPixmap() const
+{
+    return impl->source;
+}
+
+void PixmapWidget::SetPixmap(const QPixmap& pixmap)
+{
+    impl->source = pixmap;
+    impl->source.setDevicePixelRatio(1);
+    impl->picture = impl->source.toImage();
+    Rebuild();
+}
+
+void PixmapWidget::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    Rebuild();
+}
+
+void PixmapWidget::Rebuild()
+{
+    impl->scaled = QPixmap();
+    update();
+}
+
+void PixmapWidget::paintEvent(QPaintEvent* event)
+{
+    QFrame::paintEvent(event);
+    if (impl->picture.isNull())
+        return;
+    QPainter painter(this);
+    // Of what is painted on: the window's own, or a picture of the widget without a window.
+    const QSize target = (QSizeF(size()) * painter.device()->devicePixelRatioF()).toSize();
+    if (impl->scaled.size() != target) {
+        const bool masked = impl->maskMode != MASK_NONE;
+        const QRect cut =
+            masked ? PixmapCut::CutRect(impl->picture.size(), size(), impl->maskAnchor) : impl->picture.rect();
+        impl->scaled =
+            QPixmap::fromImage(PixmapCut::Render(impl->picture, cut, target, impl->maskMode == MASK_ELLIPSE));
+    }
+    if (impl->scaled.isNull())
+        return;
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+    painter.drawPixmap(rect(), impl->scaled, impl->scaled.rect());
+}
+
+} // namespace Zelkor::Vx

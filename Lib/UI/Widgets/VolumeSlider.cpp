@@ -1,0 +1,100 @@
+#include <UI/Widgets/VolumeSlider.h>
+
+#include <UI/Common/LogSource.h>
+#include <UI/Widgets/LevelMeter.h>
+
+#include <QLinearGradient>
+#include <QPainter>
+#include <QTimer>
+#include <QToolTip>
+
+#include <cmath>
+
+namespace Zelkor::Vx {
+
+namespace {
+
+const UI::Common::LogSource LOG_SOURCE("Lib/UI/Widgets/VolumeSlider");
+
+constexpr int MAXIMUM = 100;
+constexpr int TOOL_TIP_TIME_MS = 1000;
+// The handle does not follow a volume that differs by rounding only.
+constexpr int IGNORED_STEP = 1;
+
+} // namespace
+
+VolumeSlider::VolumeSlider(QWidget* parent) : VolumeSlider(Qt::Vertical, parent) {}
+
+VolumeSlider::VolumeSlider(Qt::Orientation orientation, QWidget* parent) : QSlider(orientation, parent)
+{
+    setRange(0, MAXIMUM);
+    connect(this, &QAbstractSlider::valueChanged, this, [this](int value) {
+        ShowValue(value);
+        Q_EMIT VolumeChanged(value);
+    });
+}
+
+VolumeSlider::~VolumeSlider() = default;
+
+void VolumeSlider::SetVolumes(float newVolume, float newLevel)
+{
+    if (newVolume < 0) {
+        LOG_SOURCE.Verbose(20, 75, "Zelkor::Vx::VolumeSlider::SetVolumes", "Input volume below 0");
+        newVolume = 0;
+    }
+    const auto barsOf = [this](float ofVolume, float ofLevel) {
+        return LevelMeter::BarsOf({size(), peakValueRectOffsetX, peakValueRectOffsetY, ofVolume, ofLevel});
+    };
+    const LevelMeter::Bars before = barsOf(volume, level);
+    volume = newVolume;
+    level = newLevel;
+    if (std::isfinite(volume)) {
+        // Beyond the range the slider's own limit holds; the bound keeps the conversion defined.
+        const int wanted = int(std::fmin(volume * float(MAXIMUM), 1e6F));
+        if (qAbs(value() - wanted) > IGNORED_STEP)
+            setValue(wanted);
+    }
+    const QRect changed = LevelMeter::ChangedRows(before, barsOf(volume, level), borderRadius);
+    if (!changed.isEmpty())
+        update(changed);
+}
+
+void VolumeSlider::HideToolTip()
+{
+    QToolTip::hideText();
+}
+
+void VolumeSlider::ShowValue(int value)
+{
+    if (!isVisible())
+        return;
+    const QPoint anchor = mapToGlobal(QPoint(width() / 2 - tooltipOffsetX, height() / 2));
+    QToolTip::showText(anchor, QString::number(value) + tr(" %"), nullptr);
+    QTimer::singleShot(TOOL_TIP_TIME_MS, this, &VolumeSlider::HideToolTip);
+}
+
+void VolumeSlider::paintEvent(QPaintEvent* event)
+{
+    const LevelMeter::Bars bars =
+        LevelMeter::BarsOf({size(), peakValueRectOffsetX, peakValueRectOffsetY, volume, level});
+    QLinearGradient gradient(bars.background.topLeft(), bars.background.bottomRight());
+    gradient.setColorAt(0, isEnabled() ? colorPeakValueGradientFrom : colorPeakValueGradientDisableFrom);
+    gradient.setColorAt(1, isEnabled() ? colorPeakValueGradientTo : colorPeakValueGradientDisableTo);
+
+    // Ends before the slider's own painting begins.
+    {
+        QPainter painter(this);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(colorPeakValueBorder);
+        const auto draw = [&](const QRect& bar, const QBrush& brush) {
+            painter.setBrush(brush);
+            painter.drawRoundedRect(bar, borderRadius, borderRadius);
+        };
+        draw(bars.background, isEnabled() ? colorBackground : colorBackgroundDisable);
+        draw(bars.level, isEnabled() ? colorPeakValue : colorPeakValueDisable);
+        draw(bars.volume, gradient);
+    }
+    QSlider::paintEvent(event);
+}
+
+} // namespace Zelkor::Vx

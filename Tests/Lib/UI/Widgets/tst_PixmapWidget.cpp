@@ -1,0 +1,148 @@
+#include <UI/Widgets/PixmapCut.h>
+#include <UI/Widgets/PixmapWidget.h>
+
+#include <Support/TestCase.h>
+
+#include <QPainter>
+
+using Zelkor::Vx::PixmapWidget;
+namespace PixmapCut = Zelkor::Vx::PixmapCut;
+
+namespace {
+
+// A smooth picture in which each place has another colour.
+QImage Picture(const QSize& size)
+{
+    QImage image(size, QImage::Format_RGB32);
+    for (int y = 0; y < size.height(); ++y) {
+        for (int x = 0; x < size.width(); ++x)
+            image.setPixel(x, y, qRgb(x * 255 / size.width(), y * 255 / size.height(), 128));
+    }
+    return image;
+}
+
+// Mask first, then scale.
+QImage Straightforward(const QImage& picture, const QRect& cut, const QSize& size)
+{
+    QImage masked(cut.size(), QImage::Format_ARGB32_Premultiplied);
+    masked.fill(Qt::transparent);
+    QPainter painter(&masked);
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QBrush(picture.copy(cut)));
+    painter.drawEllipse(masked.rect());
+    painter.end();
+    return masked.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+}
+
+int LargestDifference(const QImage& a, const QImage& b)
+{
+    const QImage first = a.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    const QImage second = b.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    int largest = 0;
+    for (int y = 0; y < first.height(); ++y) {
+        for (int i = 0; i < 4 * first.width(); ++i)
+            largest = qMax(largest, qAbs(first.constScanLine(y)[i] - second.constScanLine(y)[i]));
+    }
+    return largest;
+}
+
+} // namespace
+
+class tst_PixmapWidget : public Support::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cut_data()
+    {
+        QTest::addColumn<QSize>("picture");
+        QTest::addColumn<QSize>("area");
+        QTest::addColumn<QVector<QPoint>>("corners"); // for each anchor
+        QTest::addColumn<QSize>("size");
+        using Corners = QVector<QPoint>;
+        QTest::newRow("wide") << QSize(400, 300) << QSize(100, 100)
+                              << Corners{{50, 0}, {0, 0}, {100, 0}, {0, 0}, {100, 0}} << QSize(300, 300);
+        QTest::newRow("tall") << QSize(300, 400) << QSize(200, 100)
+                              << Corners{{0, 125}, {0, 0}, {0, 0}, {0, 250}, {0, 250}} << QSize(300, 150);
+        QTest::newRow("same shape") << QSize(64, 48) << QSize(32, 24) << Corners{{0, 0}, {0, 0}, {0, 0}, {0, 0}, {0, 0}}
+                                    << QSize(64, 48);
+        QTest::newRow("one pixel") << QSize(1, 1) << QSize(32, 24) << Corners{{0, 0}, {0, 0}, {0, 0}, {0, 0}, {0, 0}}
+                                   << QSize(1, 1);
+        QTest::newRow("no height") << QSize(64, 48) << QSize(32, 0) << Corners{{0, 0}, {0, 0}, {0, 0}, {0, 0}, {0, 0}}
+                                   << QSize(0, 0);
+    }
+
+    void cut()
+    {
+        QFETCH(QSize, picture);
+        QFETCH(QSize, area);
+        QFETCH(QVector<QPoint>, corners);
+        QFETCH(QSize, size);
+        for (int anchor = 0; anchor < corners.size(); ++anchor)
+            QCOMPARE(PixmapCut::CutRect(picture, area, PixmapWidget::MaskAnchor(anchor)), QRect(corners[anchor], size));
+        QCOMPARE(PixmapCut::CutRect(picture, area, PixmapWidget::MaskAnchor(9)), QRect(QPoint(), size));
+    }
+
+    void orderOfScalingAndMaskingDoesNotShow_data()
+    {
+        QTest::addColumn<QSize>("size");
+        for (const QSize size : {QSize(300, 300), QSize(150, 150), QSize(97, 97), QSize(40, 40), QSize(700, 700)})
+            QTest::newRow(qPrintable(QString::number(size.width()))) << size;
+    }
+
+    void orderOfScalingAndMaskingDoesNotShow()
+    {
+        QFETCH(QSize, size);
+        const QImage picture = Picture({400, 300});
+        const QRect cut(50, 0, 300, 300);
+        const QImage rendered = PixmapCut::Render(picture, cut, size, true);
+        QCOMPARE(rendered.size(), size);
+        // An edge is opaque in other steps in a large picture than in a small one; inside there is rounding alone.
+        const int difference = LargestDifference(rendered, Straightforward(picture, cut, size));
+        QVERIFY2(difference <= 32, qPrintable(QString::number(difference)));
+        const QRect inside(size.width() / 4, size.height() / 4, size.width() / 2, size.height() / 2);
+        const int insideDifference =
+            LargestDifference(rendered.copy(inside), Straightforward(picture, cut, size).copy(inside));
+        QVERIFY2(insideDifference <= 2, qPrintable(QString::number(insideDifference)));
+    }
+
+    void showsCutAndStretched()
+    {
+        QWidget window;
+        window.setStyleSheet("QWidget { background: black } Zelkor--Vx--PixmapWidget { background: #010203 }");
+        PixmapWidget widget(&window, {});
+        widget.resize(100, 100);
+        QPixmap pixmap = QPixmap::fromImage(Picture({400, 300}));
+        pixmap.setDevicePixelRatio(2); // its own ratio does not count
+        widget.SetPixmap(pixmap);
+        const auto at = [&](int x, int y) {
+            const QImage image = window.grab(widget.geometry()).toImage(); // never shown: there is no backing store
+            return image.pixelColor(QPointF(x * image.devicePixelRatio(), y * image.devicePixelRatio()).toPoint());
+        };
+        const auto isNear = [](const QColor& color, int red, int green) {
+            return qAbs(color.red() - red) <= 4 && qAbs(color.green() - green) <= 4;
+        };
+        QVERIFY(isNear(at(50, 50), 128, 128) && isNear(at(1, 50), 3, 128) && isNear(at(98, 50), 252, 128));
+        widget.SetMaskMode(PixmapWidget::MASK_RECTANGLE); // keeps the left three quarters
+        QVERIFY(isNear(at(98, 50), 189, 128) && isNear(at(1, 98), 2, 252));
+        widget.SetMaskAnchor(PixmapWidget::ANCHOR_CENTER);
+        QVERIFY(isNear(at(1, 50), 34, 128));
+        widget.SetMaskMode(PixmapWidget::MASK_ELLIPSE);
+        QCOMPARE(at(2, 2), QColor(1, 2, 3));
+        QCOMPARE(at(97, 97), QColor(1, 2, 3));
+        QVERIFY(isNear(at(50, 50), 128, 128) && isNear(at(50, 1), 128, 3));
+
+        for (const QSize empty : {QSize(0, 100), QSize(100, 0), QSize(0, 0)}) {
+            widget.resize(empty);
+            window.grab();
+        }
+        widget.resize(100, 50);
+        QVERIFY(isNear(at(50, 25), 128, 128));
+        widget.SetPixmap(QPixmap());
+        QCOMPARE(at(50, 25), QColor(1, 2, 3));
+    }
+};
+
+VX_TEST_MAIN(tst_PixmapWidget)
+#include "tst_PixmapWidget.moc"
