@@ -9,7 +9,8 @@ namespace Zelkor::Gallery {
 
 const QVector<Entry>& Entries()
 {
-    static const QVector<Entry> entries = ButtonEntries() + MediaEntries() + KitEntries();
+    static const QVector<Entry> entries =
+        ButtonEntries() + LabelledButtonEntries() + ChoiceEntries() + MediaEntries() + KitEntries();
     return entries;
 }
 
@@ -22,9 +23,14 @@ const Entry* FindEntry(const QString& className)
 
 QWidget* CreateInState(const Entry& entry, const State& state, QWidget* parent)
 {
-    QWidget* widget = entry.create(parent);
+    QWidget* widget = state.create ? state.create(parent) : entry.create(parent);
     state.apply(widget);
     return widget;
+}
+
+State MadeState(const QString& name, std::function<QWidget*(QWidget*)> create)
+{
+    return {name, [](QWidget*) {}, std::move(create)};
 }
 
 State DisabledState()

@@ -14,6 +14,7 @@ struct State
 {
     QString name;
     std::function<void(QWidget*)> apply; ///< brings a fresh widget of the entry, not shown yet, into this state
+    std::function<QWidget*(QWidget* parent)> create = nullptr; ///< where the constructor decides; else the entry's
 };
 
 /// One widget of the catalogue.
@@ -43,6 +44,8 @@ QWidget* CreateInState(const Entry& entry, const State& state, QWidget* parent);
 
 // The groups, each in a file of its own.
 QVector<Entry> ButtonEntries();
+QVector<Entry> LabelledButtonEntries();
+QVector<Entry> ChoiceEntries();
 QVector<Entry> MediaEntries();
 QVector<Entry> KitEntries();
 
@@ -52,6 +55,9 @@ State MakeState(const QString& name, Function apply)
 {
     return {name, [apply](QWidget* widget) { apply(*static_cast<Widget*>(widget)); }};
 }
+
+/// A state for which a widget is made in a way of its own.
+State MadeState(const QString& name, std::function<QWidget*(QWidget* parent)> create);
 
 /// A state for any widget: as it comes, but disabled.
 State DisabledState();

@@ -12,7 +12,7 @@ namespace Zelkor::Gallery {
 namespace {
 
 constexpr QSize SHAPE(16, 9);
-constexpr QSize PREFERRED_SIZE(704, 396);
+constexpr QSize PREFERRED_SIZE(896, 504);
 constexpr QSize SMALLEST_SIZE(160, 90);
 
 QRect LargestOfShape(const QRect& area)

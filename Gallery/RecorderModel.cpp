@@ -182,6 +182,35 @@ void RecorderModel::ChooseFrameRate(double rate)
     Q_EMIT OfferChanged();
 }
 
+void RecorderModel::ChooseRecordingMode(RecordingMode newMode)
+{
+    if (newMode >= RecordingMode::FullScreen && newMode <= RecordingMode::SoundOnly)
+        SetRecording(recordingMode, newMode);
+}
+
+void RecorderModel::ChooseDrawingColor(QColor color)
+{
+    if (!color.isValid())
+        return;
+    color.setAlphaF(qMin(color.alphaF(), MAXIMUM_DRAWING_ALPHA));
+    SetRecording(drawingColor, color);
+}
+
+void RecorderModel::ChooseClickSound(ClickSound sound)
+{
+    if (sound >= ClickSound::None && sound <= ClickSound::Typewriter)
+        SetRecording(clickSound, sound);
+}
+
+template<class Value>
+void RecorderModel::SetRecording(Value& member, const Value& value)
+{
+    if (member == value)
+        return;
+    member = value;
+    Q_EMIT RecordingChanged();
+}
+
 void RecorderModel::Start()
 {
     if (status != Status::Running)

@@ -2,6 +2,7 @@
 
 #include <Zelkor/StandIn/DeviceList.h>
 
+#include <QColor>
 #include <QObject>
 #include <QStringList>
 #include <QVector>
@@ -24,6 +25,12 @@ public:
         Running,
         Failed, ///< the device could not be opened, or was lost
     };
+
+    /// What of the screen is recorded.
+    enum class RecordingMode { FullScreen, Window, Region, AroundPointer, SoundOnly };
+
+    /// What is heard in the recording when the person clicks.
+    enum class ClickSound { None, SoftClick, MechanicalKeyboard, Typewriter };
 
     /// A device as the person sees it; `isPresent` is false for the chosen one while it is unplugged.
     struct DeviceItem
@@ -55,6 +62,17 @@ public:
     void ChooseMode(const QString& name);
     void ChooseFrameRate(double rate);
 
+    /// How to record. The drawing colour lets through what lies under it: its opacity is at most the maximum.
+    static constexpr double MAXIMUM_DRAWING_ALPHA = 0.8;
+    RecordingMode CurrentRecordingMode() const { return recordingMode; }
+    QColor CurrentDrawingColor() const { return drawingColor; }
+    ClickSound CurrentClickSound() const { return clickSound; }
+
+    /// Choices of the person, as above: what there is not is ignored.
+    void ChooseRecordingMode(RecordingMode newMode);
+    void ChooseDrawingColor(QColor color);
+    void ChooseClickSound(ClickSound sound);
+
     Status GetStatus() const { return status; }
 
     /// Starts, or starts again after a failure.
@@ -68,6 +86,9 @@ Q_SIGNALS:
     /// The offer of devices, modes or rates, or the choice among them, is another one.
     void OfferChanged();
 
+    /// Recording mode, drawing colour or click sound is another one.
+    void RecordingChanged();
+
     /// The status is another one.
     void StatusChanged();
 
@@ -80,6 +101,8 @@ private:
     void SetStatus(Status newStatus);
     void RestartUnlessStopped();
     void Restart();
+    template<class Value>
+    void SetRecording(Value& member, const Value& value);
     bool IsCurrentPresent() const;
     const StandIn::VideoMode* FindMode(const QString& name) const;
 
@@ -89,6 +112,9 @@ private:
     double frameRate = 0;
     bool chosenByPerson = false;
     Status status = Status::Running;
+    RecordingMode recordingMode = RecordingMode::FullScreen;
+    QColor drawingColor{255, 92, 95, 153};
+    ClickSound clickSound = ClickSound::SoftClick;
 };
 
 /// A rate for people, without a unit: "30" or "29.97".

@@ -1,4 +1,5 @@
 #include "RecorderView.h"
+#include "CaptureBar.h"
 #include "PreviewStage.h"
 #include "RecorderModel.h"
 #include "SourcePanel.h"
@@ -51,6 +52,9 @@ RecorderView::RecorderView(RecorderModel* model, Role role, QWidget* parent)
     layout->setSpacing(SPACING);
     layout->addWidget(CreateHeader(role));
     layout->addWidget(stage, 1);
+    captureBar = new CaptureBar(model);
+    addActions(captureBar->actions());
+    layout->addWidget(captureBar);
     layout->addWidget(CreateToolBar());
     CreateErrorBanner();
     setTabOrder(sourceButton, settingsButton);

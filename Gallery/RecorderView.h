@@ -16,6 +16,7 @@ class ButtonWithPopUpContainer;
 
 namespace Zelkor::Gallery {
 
+class CaptureBar;
 class PreviewStage;
 class RecorderModel;
 
@@ -54,6 +55,7 @@ private:
 
     RecorderModel* model;
     PreviewStage* stage;
+    CaptureBar* captureBar;
     Vx::WebCameraPreviewStream* stream;
     QLabel* productName;
     QWidget* stateDot;

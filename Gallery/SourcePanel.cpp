@@ -5,11 +5,9 @@
 
 #include <UI/Common/TextMarks.h>
 
-#include <QAbstractItemView>
 #include <QComboBox>
 #include <QEvent>
 #include <QLabel>
-#include <QStyledItemDelegate>
 #include <QVBoxLayout>
 
 namespace Zelkor::Gallery {
@@ -71,9 +69,7 @@ SourcePanel::Field SourcePanel::AddField(const char* name)
     AlignAtStart(field.label);
     field.combo->setObjectName(name);
     field.combo->setFixedWidth(FIELD_WIDTH);
-    // Items of the list follow the style sheet only with this delegate.
-    field.combo->setItemDelegate(new QStyledItemDelegate(field.combo));
-    field.combo->view()->setIconSize(field.combo->iconSize());
+    StyleItems(field.combo);
     layout()->addWidget(field.label);
     layout()->addWidget(field.combo);
     return field;

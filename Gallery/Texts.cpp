@@ -1,7 +1,11 @@
 #include "Texts.h"
 
 #include <QAbstractButton>
+#include <QAbstractItemView>
+#include <QComboBox>
 #include <QLabel>
+#include <QStyledItemDelegate>
+#include <QVariant>
 
 namespace Zelkor::Gallery {
 
@@ -21,6 +25,20 @@ void AlignAtStart(QLabel* label)
 {
     const bool mirrored = label->layoutDirection() == Qt::RightToLeft;
     label->setAlignment((mirrored ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignAbsolute | Qt::AlignVCenter);
+}
+
+void HideEmptyHotKey(QWidget* button)
+{
+    for (auto* label : button->findChildren<QLabel*>()) {
+        if (label->objectName().startsWith("HotKey"))
+            label->setHidden(label->property("originalText").toString().isEmpty());
+    }
+}
+
+void StyleItems(QComboBox* combo)
+{
+    combo->setItemDelegate(new QStyledItemDelegate(combo));
+    combo->view()->setIconSize(combo->iconSize());
 }
 
 } // namespace Zelkor::Gallery

@@ -1,8 +1,10 @@
 #pragma once
 
 class QAbstractButton;
+class QComboBox;
 class QLabel;
 class QString;
+class QWidget;
 
 namespace Zelkor::Gallery {
 
@@ -13,5 +15,12 @@ void SetTextBesideIcon(QAbstractButton* button, const QString& text);
 /// Has the text of a label begin where its layout does. By itself, a text that runs from left to right stays at the
 /// left also when everything else is mirrored.
 void AlignAtStart(QLabel* label);
+
+/// Hides the hot key of a labelled button that has none: the style sheets draw it as a key, which would stand there
+/// empty. To be called again for another hot key.
+void HideEmptyHotKey(QWidget* button);
+
+/// Has the items of a combo box's list follow the style sheet. By itself, Qt draws them in its own way.
+void StyleItems(QComboBox* combo);
 
 } // namespace Zelkor::Gallery

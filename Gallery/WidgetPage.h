@@ -1,13 +1,13 @@
 #pragma once
 
-#include <QScrollArea>
+#include <QWidget>
 
 namespace Zelkor::Gallery {
 
 struct Entry;
 
-/// The page of one widget: what it is, and its states side by side in captioned cards.
-class WidgetPage : public QScrollArea
+/// The page of one widget: what it is, its states side by side in captioned cards, and the signals that they emit.
+class WidgetPage : public QWidget
 {
     Q_OBJECT
 

@@ -97,6 +97,12 @@ private Q_SLOTS:
         Q_EMIT emitter->Nothing();
         QVERIFY(LinesOf(log).last().endsWith("Nothing()"));
 
+        auto* preset = FindEntry("FastPresetButton")->create(nullptr);
+        log.Watch(preset, "FastPresetButton", "Preset");
+        qobject_cast<QAbstractButton*>(preset)->click();
+        QCOMPARE(LinesOf(log).last(), QString("Preset   Clicked(QAction \"\")"));
+        delete preset;
+
         // The log of a page that goes while a signal is told.
         auto* page = new WidgetPage(*FindEntry("ColorButton"));
         auto* button = page->findChild<Zelkor::Vx::ColorButton*>();

@@ -1,0 +1,187 @@
+#include "Catalogue.h"
+#include "StyleSheet.h"
+#include "Texts.h"
+
+#include <UI/Widgets/ButtonWithPopUpList.h>
+#include <UI/Widgets/ClickSoundComboBox.h>
+#include <UI/Widgets/ColorButton.h>
+
+#include <QCoreApplication>
+
+using Zelkor::Vx::ButtonWithPopUpList;
+using Zelkor::Vx::ColorButton;
+using Zelkor::Vx::UI::ClickSoundComboBox;
+
+namespace Zelkor::Gallery {
+
+namespace {
+
+constexpr int COMBO_WIDTH = 184;
+constexpr int NARROW_COMBO_WIDTH = 80;
+constexpr int MANY = 60;
+constexpr int BAR_BUTTON_WIDTH = 160;
+constexpr QRect BAR(12, 10, 135, 11);
+constexpr double HIGHEST_ALPHA = 0.6;
+
+QString Tr(const char* text)
+{
+    return QCoreApplication::translate("Catalogue", text);
+}
+
+void Fill(ButtonWithPopUpList& button, const QStringList& texts)
+{
+    button.Clear();
+    for (const QString& text : texts)
+        button.AppendItem(text, text);
+}
+
+QStringList ManyTexts()
+{
+    QStringList texts;
+    for (int i = 1; i <= MANY; ++i)
+        texts.append(Tr("Take %1").arg(i));
+    return texts;
+}
+
+// The button says what is chosen, as an application would have it.
+QWidget* CreateList(QWidget* parent)
+{
+    auto* button = new ButtonWithPopUpList(parent);
+    button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    button->setIcon(StyleIcon("list"));
+    QObject::connect(button, &ButtonWithPopUpList::CurrentIndexChanged, button, [button] {
+        const QString text = button->CurrentData().toString();
+        SetTextBesideIcon(button, text.isEmpty() ? Tr("Format") : text);
+    });
+    Fill(*button, {Tr("Video"), Tr("Animated picture"), Tr("Sound only")});
+    return button;
+}
+
+QWidget* CreateColorButton(QWidget* parent)
+{
+    auto* button = new ColorButton(parent);
+    button->setText(Tr("Drawing colour"));
+    button->SetColor(QColor(0x2f, 0x9e, 0x6b));
+    return button;
+}
+
+void MakeTranslucent(ColorButton& button)
+{
+    button.SetAlphaEnabled(true);
+    button.SetMaximumAlpha(HIGHEST_ALPHA);
+    button.SetColor(QColor(0x35, 0x67, 0xe0, 0x66));
+}
+
+void PlaceSquareElsewhere(ColorButton& button)
+{
+    button.setText(QString());
+    button.setAccessibleName(Tr("Drawing colour"));
+    button.setFixedWidth(BAR_BUTTON_WIDTH);
+    button.SetColorRect(BAR);
+}
+
+QWidget* CreateSoundBox(QWidget* parent)
+{
+    auto* combo = new ClickSoundComboBox(parent);
+    StyleItems(combo);
+    combo->setAccessibleName(Tr("Click sound"));
+    combo->addItems({Tr("No sound"), Tr("Soft click"), Tr("Mechanical keyboard"), Tr("Typewriter")});
+    combo->setCurrentIndex(1);
+    combo->setFixedWidth(COMBO_WIDTH);
+    return combo;
+}
+
+void AddLongText(ClickSoundComboBox& combo)
+{
+    combo.addItem(Tr("Mechanical keyboard of the office next door, recorded twice"));
+    combo.setCurrentIndex(combo.count() - 1);
+}
+
+void ShowRightToLeft(ClickSoundComboBox& combo)
+{
+    combo.setLayoutDirection(Qt::RightToLeft);
+    combo.addItem(QString::fromUtf8("הקשה רכה על מקלדת ישנה"));
+    combo.setCurrentIndex(combo.count() - 1);
+}
+
+Entry ButtonWithPopUpListEntry()
+{
+    using Button = ButtonWithPopUpList;
+    return {
+        "ButtonWithPopUpList",
+        Tr("Buttons"),
+        Tr("A tool button with a menu of choices, of which one is current."),
+        "ButtonWithPopUpList",
+        "list",
+        CreateList,
+        {
+            MakeState<Button>(Tr("Typical"), [](Button&) {}),
+            MakeState<Button>(Tr("Empty"),
+                              [](Button& button) {
+                                  button.Clear();
+                                  SetTextBesideIcon(&button, Tr("Nothing to choose"));
+                              }),
+            MakeState<Button>(Tr("Many items"), [](Button& button) { Fill(button, ManyTexts()); }),
+            MakeState<Button>(Tr("Long texts"),
+                              [](Button& button) {
+                                  Fill(button, {Tr("Video for people who see it on a telephone"),
+                                                Tr("Video for a lecture hall with a large screen")});
+                              }),
+            MakeState<Button>(Tr("Nothing checked"), [](Button& button) { button.SetCurrentIndex(button.Count()); }),
+            DisabledState(),
+        },
+    };
+}
+
+Entry ColorButtonEntry()
+{
+    return {
+        "ColorButton",
+        Tr("Buttons"),
+        Tr("Shows a colour, and opens a dialog that chooses another one."),
+        "ColorButton",
+        "palette",
+        CreateColorButton,
+        {
+            MakeState<ColorButton>(Tr("Opaque"), [](ColorButton&) {}),
+            MakeState<ColorButton>(Tr("Translucent, up to 60 %"), MakeTranslucent),
+            MakeState<ColorButton>(Tr("Square placed elsewhere"), PlaceSquareElsewhere),
+            DisabledState(),
+        },
+    };
+}
+
+Entry ClickSoundEntry()
+{
+    using Combo = ClickSoundComboBox;
+    return {
+        "ClickSoundComboBox",
+        Tr("Choices"),
+        Tr("A combo box that elides texts too long for it instead of growing with them."),
+        "ClickSoundComboBox",
+        "sound",
+        CreateSoundBox,
+        {
+            MakeState<Combo>(Tr("Typical"), [](Combo&) {}),
+            MakeState<Combo>(Tr("Long text"), AddLongText),
+            MakeState<Combo>(Tr("With icons"),
+                             [](Combo& combo) {
+                                 for (int i = 0; i < combo.count(); ++i)
+                                     combo.setItemIcon(i, StyleIcon("sound"));
+                             }),
+            MakeState<Combo>(Tr("Editable"), [](Combo& combo) { combo.setEditable(true); }),
+            MakeState<Combo>(Tr("Narrow"), [](Combo& combo) { combo.setFixedWidth(NARROW_COMBO_WIDTH); }),
+            MakeState<Combo>(Tr("Right-to-left"), ShowRightToLeft),
+            DisabledState(),
+        },
+    };
+}
+
+} // namespace
+
+QVector<Entry> ChoiceEntries()
+{
+    return {ButtonWithPopUpListEntry(), ColorButtonEntry(), ClickSoundEntry()};
+}
+
+} // namespace Zelkor::Gallery
