@@ -14,6 +14,10 @@ constexpr int ICON_SIZE = 48;
 constexpr int SPACING = 12;
 constexpr double TEXT_OPACITY = 0.75;
 
+constexpr int BUBBLE_RADIUS = 8;
+constexpr int TAIL_INSET = 24; ///< of the tail's tip, from the side of the bubble
+constexpr int TAIL_HALF_WIDTH = 12;
+
 QImage DrawColorBars(const QSize& size)
 {
     // Three quarters of full amplitude, in falling order of brightness.
@@ -70,6 +74,49 @@ boost::intrusive_ptr<StandIn::VideoFrame> ColorBarsFrame(const QSize& size)
             std::memcpy(data[0] + std::ptrdiff_t(y) * strides[0], image.constScanLine(y),
                         std::size_t(image.width()) * 4);
     });
+}
+
+QImage PortraitImage(const QSize& size)
+{
+    if (size.isEmpty())
+        return QImage();
+    QImage image(size, QImage::Format_RGB32);
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    // From here on the picture is 4 wide and 3 high.
+    painter.scale(size.width() / 4., size.height() / 3.);
+    QLinearGradient wall(0, 0, 4, 3);
+    wall.setColorAt(0, QColor(0x5f, 0x86, 0xc9));
+    wall.setColorAt(1, QColor(0x2c, 0x3f, 0x72));
+    painter.fillRect(QRectF(0, 0, 4, 3), wall);
+    painter.setBrush(QColor(0xff, 0xe2, 0xa8));
+    painter.drawRoundedRect(QRectF(0.35, 0.3, 0.8, 1.1), 0.06, 0.06);
+    painter.setBrush(QColor(0x3f, 0x8f, 0x6b));
+    painter.drawRoundedRect(QRectF(3.2, 1.5, 0.5, 1.5), 0.25, 0.25);
+    painter.setBrush(QColor(0xe5, 0x6b, 0x5d));
+    painter.drawRoundedRect(QRectF(0.95, 2.1, 2.1, 1.4), 0.6, 0.6);
+    painter.setBrush(QColor(0x4a, 0x2f, 0x2a));
+    painter.drawEllipse(QRectF(1.36, 0.5, 1.28, 1.45));
+    painter.setBrush(QColor(0xf2, 0xc4, 0xa0));
+    painter.drawRoundedRect(QRectF(1.8, 1.7, 0.4, 0.6), 0.2, 0.2);
+    painter.drawEllipse(QRectF(1.5, 0.75, 1, 1.25));
+    return image;
+}
+
+QImage SpeechBubbleImage(const QSize& size, Qt::LayoutDirection direction)
+{
+    QImage image(size, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(Qt::black);
+    const int bottom = size.height() - SPEECH_BUBBLE_TAIL;
+    const int tip = direction == Qt::RightToLeft ? size.width() - TAIL_INSET : TAIL_INSET;
+    painter.drawPolygon(QPolygon(
+        {QPoint(tip - TAIL_HALF_WIDTH, bottom), QPoint(tip + TAIL_HALF_WIDTH, bottom), QPoint(tip, size.height())}));
+    painter.drawRoundedRect(QRect(0, 0, size.width(), bottom), BUBBLE_RADIUS, BUBBLE_RADIUS);
+    return image;
 }
 
 } // namespace Zelkor::Gallery

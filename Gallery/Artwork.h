@@ -15,4 +15,13 @@ QImage NoPictureImage(const QSize& size, const QColor& color, const QString& tex
 /// A still frame: colour bars above a grey ramp, with a white rim that shows where the frame ends.
 boost::intrusive_ptr<StandIn::VideoFrame> ColorBarsFrame(const QSize& size);
 
+/// A drawn portrait: somebody's head and shoulders before a wall with a window. Null for an empty size.
+QImage PortraitImage(const QSize& size);
+
+/// The outline of a speech bubble that fills `size`, opaque inside. Its tail points down, near the side where a line of
+/// text starts, and is `SPEECH_BUBBLE_TAIL` pixels high.
+QImage SpeechBubbleImage(const QSize& size, Qt::LayoutDirection direction);
+
+constexpr int SPEECH_BUBBLE_TAIL = 12;
+
 } // namespace Zelkor::Gallery

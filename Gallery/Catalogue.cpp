@@ -10,7 +10,7 @@ namespace Zelkor::Gallery {
 const QVector<Entry>& Entries()
 {
     static const QVector<Entry> entries =
-        ButtonEntries() + LabelledButtonEntries() + ChoiceEntries() + MediaEntries() + KitEntries();
+        ButtonEntries() + LabelledButtonEntries() + ChoiceEntries() + MediaEntries() + MeterEntries() + KitEntries();
     return entries;
 }
 

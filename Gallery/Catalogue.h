@@ -47,6 +47,7 @@ QVector<Entry> ButtonEntries();
 QVector<Entry> LabelledButtonEntries();
 QVector<Entry> ChoiceEntries();
 QVector<Entry> MediaEntries();
+QVector<Entry> MeterEntries();
 QVector<Entry> KitEntries();
 
 /// A state whose function takes the widget as what it is.
