@@ -1,6 +1,8 @@
 // Runs the live picture at 60 frames a second, with a stop and a start every second, and watches the memory. The first
 // argument is the number of seconds. Fails when the memory grows after the first third.
 
+#include "Resident.h"
+
 #include <UI/Widgets/VideoPreviewWidget.h>
 #include <UI/Widgets/WebCameraPreviewStream.h>
 
@@ -9,25 +11,11 @@
 #include <Zelkor/StandIn/CaptureDevice.h>
 #include <Zelkor/StandIn/CaptureEngine.h>
 
-#include <QFile>
 #include <QTimer>
 
 #include <malloc.h>
 
 #include <cstdio>
-
-namespace {
-
-// Megabytes that the process has in memory.
-double Resident()
-{
-    QFile file(QStringLiteral("/proc/self/statm"));
-    if (!file.open(QIODevice::ReadOnly))
-        return 0;
-    return file.readAll().split(' ').value(1).toDouble() * 4096 / 1e6;
-}
-
-} // namespace
 
 int main(int argc, char* argv[])
 {
@@ -54,9 +42,9 @@ int main(int argc, char* argv[])
         stream->SetDevice(device, QString::fromStdString(mode->GetName()), 60);
         stream->StartStream();
         double& peak = 3 * second <= seconds ? early : late;
-        peak = std::max(peak, Resident());
+        peak = std::max(peak, Support::Resident());
         if (second % 30 == 0)
-            std::printf("%4d s: %.1f MB\n", second, Resident());
+            std::printf("%4d s: %.1f MB\n", second, Support::Resident());
         std::fflush(stdout);
         if (++second > seconds)
             QCoreApplication::quit();

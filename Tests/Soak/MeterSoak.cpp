@@ -1,0 +1,64 @@
+// Feeds a visible level meter a hundred times a second. The first argument is the number of seconds. Fails when memory
+// or processor time grow after the first third.
+
+#include "Resident.h"
+
+#include <UI/Widgets/VolumeSlider.h>
+
+#include <Support/TestCase.h>
+
+#include <QTimer>
+
+#include <cmath>
+#include <cstdio>
+#include <ctime>
+
+int main(int argc, char* argv[])
+{
+    Support::PrepareProcess(argv[0]);
+    QApplication application(argc, argv);
+    const int seconds = argc > 1 ? std::max(6, std::atoi(argv[1])) : 12;
+
+    Zelkor::Vx::VolumeSlider slider(nullptr);
+    slider.resize(30, 200);
+    slider.show();
+    int step = 0;
+    QTimer feed;
+    feed.setTimerType(Qt::PreciseTimer);
+    QObject::connect(&feed, &QTimer::timeout, &slider,
+                     [&] { slider.SetVolumes(0.8F, float(std::abs(std::sin(++step * 0.11)))); });
+    feed.start(10);
+
+    // Per second, of the first third and of the rest.
+    double peakMemory[2] = {0, 0};
+    double processor[2] = {0, 0};
+    int counted[2] = {0, 0};
+    int second = 0;
+    std::clock_t last = std::clock();
+    QTimer watch;
+    QObject::connect(&watch, &QTimer::timeout, &slider, [&] {
+        const std::clock_t now = std::clock();
+        const int part = 3 * second < seconds ? 0 : 1;
+        if (second > 0) { // the first one has the start in it
+            processor[part] += double(now - last) / CLOCKS_PER_SEC;
+            ++counted[part];
+        }
+        peakMemory[part] = std::max(peakMemory[part], Support::Resident());
+        if (second % 60 == 0)
+            std::printf("%4d s: %.1f MB, %.2f %% of a processor\n", second, Support::Resident(),
+                        100.0 * double(now - last) / CLOCKS_PER_SEC);
+        std::fflush(stdout);
+        last = now;
+        if (++second >= seconds)
+            QCoreApplication::quit();
+    });
+    watch.start(1000);
+    QApplication::exec();
+
+    const double early = processor[0] / counted[0];
+    const double late = processor[1] / counted[1];
+    std::printf("%d levels; memory %.1f MB, then %.1f MB; processor %.2f %%, then %.2f %%\n", step, peakMemory[0],
+                peakMemory[1], 100 * early, 100 * late);
+    // Timers are late on a busy machine, but levels must have come; the clock's own grain is a percent.
+    return step > seconds * 20 && peakMemory[1] <= peakMemory[0] + 1 && late <= 1.5 * early + 0.01 ? 0 : 1;
+}
