@@ -54,7 +54,7 @@ Rounds ShadowEffect()
     auto* effect = new QGraphicsDropShadowEffect(&theirs);
     effect->setBlurRadius(SHADOW_WIDTH);
     theirs.setGraphicsEffect(effect);
-    return Interleave(Render(ours), Render(theirs), 15, 2);
+    return Interleave(Render(ours), Render(theirs), 9, 10);
 }
 
 // Has what was asked for painted.

@@ -88,18 +88,18 @@ void ZGraphicsShadowEffect::SetColor(const QColor& color)
 
 void ZGraphicsShadowEffect::draw(QPainter* painter)
 {
-    // Drawn by itself: a pixmap of the source would cost more than the rim, and more with each pixel of the widget.
-    drawSource(painter);
-    if (!(impl->brightnessLevel > 0)) // nor when it is not a number
+    if (!(impl->brightnessLevel > 0)) { // nor when it is not a number
+        drawSource(painter);
         return;
-    const QRectF source = boundingRectFor(sourceBoundingRect(Qt::LogicalCoordinates));
-    const QSize size(qRound(source.width()), qRound(source.height()));
+    }
+    // By way of a pixmap: drawSource() paints with a painter of its own, after which this one is of no use any more.
+    const QPixmap source = sourcePixmap(Qt::LogicalCoordinates, nullptr, QGraphicsEffect::PadToEffectiveBoundingRect);
+    const qreal ratio = source.devicePixelRatio();
+    const QSize size(qRound(source.width() / ratio), qRound(source.height() / ratio));
     const ShadowRim::Input rim{size, impl->offset, impl->brightnessLevel, impl->color.rgb()};
+    painter->drawPixmap(QPointF(0, 0), source);
     // Where logical pixels share device pixels, bands drawn one by one would show seams.
-    const QTransform transform = painter->deviceTransform();
-    const bool isWhole =
-        transform.m11() == std::floor(transform.m11()) && transform.m22() == std::floor(transform.m22());
-    if (isWhole)
+    if (ratio == std::floor(ratio))
         ShadowRim::DrawBands(*painter, rim);
     else
         painter->drawImage(QPointF(0, 0), ShadowRim::WholeImage(rim));
