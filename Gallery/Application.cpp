@@ -8,6 +8,7 @@
 #include <QDir>
 #include <QEventLoop>
 #include <QFileInfo>
+#include <QSettings>
 #include <QTimer>
 
 #include <cstdio>
@@ -17,6 +18,8 @@ namespace Zelkor::Gallery {
 namespace {
 
 constexpr int EXIT_BAD_USE = 2;
+constexpr int HINT_DELAY_MS = 800; ///< until the window system has put the window into its place
+const QString HINT_SHOWN = QStringLiteral("firstHintShown");
 
 void Wait(int milliseconds)
 {
@@ -68,6 +71,7 @@ int Application::Run()
     if (!options.shot.isEmpty())
         return TakePictureOfPage(page, options.shot);
     OpenPage(page);
+    GreetOnce();
     return QApplication::exec();
 }
 
@@ -103,6 +107,20 @@ QWidget* Application::OpenPage(const QString& name)
     gallery->OpenPage(name);
     Show(gallery.get(), options.size);
     return gallery.get();
+}
+
+// Somebody who has seen the hint once knows. Without a screen, nobody would see it.
+void Application::GreetOnce()
+{
+    if (!recorder || QApplication::platformName() == "offscreen")
+        return;
+    QTimer::singleShot(HINT_DELAY_MS, recorder.get(), [this] {
+        QSettings settings("VxUiWidgets", QApplication::applicationName());
+        if (!recorder->isVisible() || settings.value(HINT_SHOWN).toBool())
+            return;
+        settings.setValue(HINT_SHOWN, true);
+        recorder->ShowFirstHint();
+    });
 }
 
 // The gallery has the recorder as a page of its own, and a camera can be open only once: the one window goes while the

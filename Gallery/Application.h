@@ -28,6 +28,7 @@ private:
     void LoadLanguage();
     QWidget* OpenPage(const QString& name);
     void OpenWidgets();
+    void GreetOnce();
     int TakePictureOfPage(const QString& page, const QString& file);
     int TakeAllPictures();
 

@@ -9,8 +9,8 @@ namespace Zelkor::Gallery {
 
 const QVector<Entry>& Entries()
 {
-    static const QVector<Entry> entries =
-        ButtonEntries() + LabelledButtonEntries() + ChoiceEntries() + MediaEntries() + MeterEntries() + KitEntries();
+    static const QVector<Entry> entries = ButtonEntries() + LabelledButtonEntries() + ChoiceEntries() + MediaEntries() +
+                                          MeterEntries() + EffectEntries() + KitEntries();
     return entries;
 }
 

@@ -48,6 +48,7 @@ QVector<Entry> LabelledButtonEntries();
 QVector<Entry> ChoiceEntries();
 QVector<Entry> MediaEntries();
 QVector<Entry> MeterEntries();
+QVector<Entry> EffectEntries();
 QVector<Entry> KitEntries();
 
 /// A state whose function takes the widget as what it is.

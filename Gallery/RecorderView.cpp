@@ -1,7 +1,10 @@
 #include "RecorderView.h"
+#include "AudioPanel.h"
 #include "CaptureBar.h"
+#include "FirstHint.h"
 #include "PreviewStage.h"
 #include "RecorderModel.h"
+#include "Snapshot.h"
 #include "SourcePanel.h"
 #include "StyleSheet.h"
 #include "Texts.h"
@@ -57,7 +60,9 @@ RecorderView::RecorderView(RecorderModel* model, Role role, QWidget* parent)
     layout->addWidget(captureBar);
     layout->addWidget(CreateToolBar());
     CreateErrorBanner();
-    setTabOrder(sourceButton, settingsButton);
+    CoverStage();
+    setTabOrder(sourceButton, audioButton);
+    setTabOrder(audioButton, settingsButton);
     setTabOrder(settingsButton, runButton);
     setTabOrder(runButton, widgetsButton);
     runButton->setFocus();
@@ -108,18 +113,8 @@ QWidget* RecorderView::CreateToolBar()
     auto* layout = new QHBoxLayout(bar);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(SMALL_SPACING);
-    sourceButton = new ButtonWithPopUpContainer;
-    sourceButton->setFocusPolicy(Qt::StrongFocus);
-    sourceButton->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    sourceButton->setIcon(StyleIcon("camera"));
-    // The bar is at the lower end of the window, and often of the screen.
-    const bool mirrored = layoutDirection() == Qt::RightToLeft;
-    sourceButton->SetPreferredPopupAnchor(mirrored ? ButtonWithPopUpContainer::ANCHOR_TOP_RIGHT
-                                                   : ButtonWithPopUpContainer::ANCHOR_TOP_LEFT);
-    sourceButton->SetPreferredPopupDirection(mirrored ? ButtonWithPopUpContainer::DIRECTION_UP_LEFT
-                                                      : ButtonWithPopUpContainer::DIRECTION_UP_RIGHT);
-    sourceButton->SetPopupCanOverlapButton(false);
-    sourceButton->AppendWidget(new SourcePanel(model));
+    sourceButton = CreatePanelButton("camera", new SourcePanel(model));
+    audioButton = CreatePanelButton("microphone", new AudioPanel);
     settingsButton = new QToolButton;
     settingsButton->setFocusPolicy(Qt::StrongFocus);
     settingsButton->setIcon(StyleIcon("settings"));
@@ -130,13 +125,30 @@ QWidget* RecorderView::CreateToolBar()
     runButton->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
 
     layout->addWidget(sourceButton);
+    layout->addWidget(audioButton);
     layout->addWidget(settingsButton);
     layout->addStretch();
     layout->addWidget(runButton);
     return bar;
 }
 
-// Lies over the lower end of the picture, so that nothing moves when it comes.
+ButtonWithPopUpContainer* RecorderView::CreatePanelButton(const QString& icon, QWidget* panel)
+{
+    auto* button = new ButtonWithPopUpContainer;
+    button->setFocusPolicy(Qt::StrongFocus);
+    button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    button->setIcon(StyleIcon(icon));
+    // The bar is at the lower end of the window, and often of the screen.
+    const bool mirrored = layoutDirection() == Qt::RightToLeft;
+    button->SetPreferredPopupAnchor(mirrored ? ButtonWithPopUpContainer::ANCHOR_TOP_RIGHT
+                                             : ButtonWithPopUpContainer::ANCHOR_TOP_LEFT);
+    button->SetPreferredPopupDirection(mirrored ? ButtonWithPopUpContainer::DIRECTION_UP_LEFT
+                                                : ButtonWithPopUpContainer::DIRECTION_UP_RIGHT);
+    button->SetPopupCanOverlapButton(false);
+    button->AppendWidget(panel);
+    return button;
+}
+
 void RecorderView::CreateErrorBanner()
 {
     errorBanner = new QFrame;
@@ -149,11 +161,18 @@ void RecorderView::CreateErrorBanner()
     layout->setSpacing(SMALL_SPACING);
     layout->addWidget(CreateIconLabel("errorIcon", "warning", BANNER_ICON_SIZE), 0, Qt::AlignTop);
     layout->addWidget(errorText, 1);
+    errorBanner->hide();
+}
+
+// What lies over the picture, so that nothing moves when it comes.
+void RecorderView::CoverStage()
+{
+    snapshot = new Snapshot(stage->Preview());
+    snapshot->hide();
     auto* over = new QVBoxLayout(stage);
     over->setContentsMargins(SPACING, SPACING, SPACING, SPACING);
     over->addStretch();
     over->addWidget(errorBanner);
-    errorBanner->hide();
 }
 
 void RecorderView::RunPicture()
@@ -185,6 +204,7 @@ void RecorderView::ShowStatus()
         stage->SetLive(false);
     }
     stage->SetIdleText(runs ? tr("Waiting for the picture") : tr("No picture"));
+    snapshot->setVisible(CanHaveSnapshot());
     Util::ApplyWidgetStyle(stateDot, runs ? QStringLiteral("live") : QString(), "state");
     statusText->setOriginalText(StatusText());
 
@@ -200,6 +220,14 @@ void RecorderView::ShowStatus()
         QAccessible::updateAccessibility(&alert);
     }
     errorBanner->setVisible(failed);
+}
+
+// The thumbnail is the person in front of the camera; of the screen, it would show itself.
+bool RecorderView::CanHaveSnapshot() const
+{
+    const auto device = model->CurrentDevice();
+    return model->GetStatus() == RecorderModel::Status::Running && device &&
+           device->GetKind() != StandIn::CaptureDevice::Kind::Screen;
 }
 
 QString RecorderView::StatusText() const
@@ -235,10 +263,17 @@ void RecorderView::Retranslate()
     widgetsButton->setToolTip(tr("Shows all widgets, each in its states"));
     SetTextBesideIcon(sourceButton, tr("Source"));
     sourceButton->setToolTip(tr("Chooses what is shown"));
+    SetTextBesideIcon(audioButton, tr("Audio"));
+    audioButton->setToolTip(tr("Sets how loud microphone and system are"));
     settingsButton->setToolTip(tr("Settings of the device"));
     settingsButton->setAccessibleName(tr("Settings of the device"));
     stage->Preview()->setAccessibleName(tr("Live picture"));
     ShowStatus();
+}
+
+void RecorderView::ShowFirstHint()
+{
+    ShowSourceHint(sourceButton);
 }
 
 void RecorderView::showEvent(QShowEvent* event)

@@ -19,6 +19,7 @@ namespace Zelkor::Gallery {
 class CaptureBar;
 class PreviewStage;
 class RecorderModel;
+class Snapshot;
 
 /// The recorder: a large live picture, what it shows above, and the controls below. A window, or a page of another one.
 ///
@@ -33,6 +34,9 @@ public:
 
     RecorderView(RecorderModel* model, Role role, QWidget* parent = nullptr);
 
+    /// Tells somebody who is here for the first time where to begin. The view has to be visible.
+    void ShowFirstHint();
+
 Q_SIGNALS:
     /// The person wants to see the widgets.
     void WidgetsRequested();
@@ -45,9 +49,12 @@ protected:
 private:
     QWidget* CreateHeader(Role role);
     QWidget* CreateToolBar();
+    Vx::UI::ButtonWithPopUpContainer* CreatePanelButton(const QString& icon, QWidget* panel);
     void CreateErrorBanner();
+    void CoverStage();
     void RunPicture();
     void ToggleRunning();
+    bool CanHaveSnapshot() const;
     void ShowStatus();
     QString StatusText() const;
     QString ErrorText() const;
@@ -61,9 +68,11 @@ private:
     QWidget* stateDot;
     ZLabel* statusText;
     QToolButton* widgetsButton;
+    Snapshot* snapshot;
     QFrame* errorBanner;
     QLabel* errorText;
     Vx::UI::ButtonWithPopUpContainer* sourceButton;
+    Vx::UI::ButtonWithPopUpContainer* audioButton;
     QToolButton* settingsButton;
     QToolButton* runButton;
 };

@@ -12,6 +12,7 @@ vx_test(Gallery/tst_RecorderModel.cpp LIBRARIES VxGalleryWindows)
 vx_test(Gallery/tst_GalleryWindows.cpp LIBRARIES VxGalleryWindows)
 vx_test(Gallery/tst_SignalLog.cpp LIBRARIES VxGalleryWindows)
 vx_test(Gallery/tst_LevelBallistics.cpp LIBRARIES VxGalleryWindows)
+vx_test(Gallery/tst_RecorderParts.cpp LIBRARIES VxGalleryWindows LABELS threads)
 
 vx_test(Gallery/tst_Styles.cpp LIBRARIES VxCatalogue)
 target_compile_definitions(tst_Styles PRIVATE VX_STYLES_SOURCE="${PROJECT_SOURCE_DIR}/Styles")

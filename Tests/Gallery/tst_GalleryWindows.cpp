@@ -186,7 +186,7 @@ private Q_SLOTS:
             widget = widget->nextInFocusChain();
         } while (widget != start);
         QCOMPARE(names, QStringList({"Stop", "Widgets…", "Full screen", "Drawing colour", "Click sound", "Source",
-                                     "Settings of the device"}));
+                                     "Audio", "Settings of the device"}));
         QCOMPARE(widgets.size(), 1);
     }
 

@@ -3,9 +3,14 @@
 #include <Support/TestCase.h>
 
 #include <Acquis/GStreamer/CameraModes.h>
+#include <Acquis/GStreamer/GStreamerFrames.h>
+#include <Acquis/GStreamer/MicrophoneLevel.h>
 
 #include <Zelkor/StandIn/CaptureEngine.h>
 #include <Zelkor/StandIn/GStreamerDevice.h>
+
+#include <atomic>
+#include <cmath>
 
 using namespace Zelkor;
 using namespace Zelkor::StandIn;
@@ -173,6 +178,31 @@ private Q_SLOTS:
                                           "\n320×240 I420: 5/1"));
         QCOMPARE(CameraModes(caps.get(), false).size(), std::size_t(5));
         QVERIFY(CameraModes(GStreamerPtr<GstCaps>(gst_caps_new_any()).get(), true).empty());
+    }
+
+    void microphoneTellsItsLevelUntilItEnds()
+    {
+        QVERIFY(LoadGStreamer());
+        std::atomic<int> peaks{0};
+        std::atomic<bool> hasFailed{false};
+        std::atomic<double> newest{0};
+        {
+            MicrophoneLevel microphone(
+                [&](double decibels) {
+                    newest = decibels;
+                    ++peaks;
+                },
+                [&] { hasFailed = true; });
+            // A tone at four fifths of full scale.
+            QVERIFY(microphone.Open("audiotestsrc", std::chrono::milliseconds(20)));
+            QTRY_VERIFY(peaks > 20);
+            QVERIFY2(std::abs(newest - 20 * std::log10(0.8)) < 0.1, qPrintable(QString::number(newest)));
+        }
+        const int count = peaks;
+        QVERIFY(!hasFailed);
+        QVERIFY(!MicrophoneLevel([](double) {}, [] {}).Open("nosuchelement", std::chrono::milliseconds(20)));
+        QVERIFY(!MicrophoneLevel([](double) {}, [] {}).Open("fakesink", std::chrono::milliseconds(20)));
+        QCOMPARE(peaks.load(), count);
     }
 };
 

@@ -1,0 +1,45 @@
+#include "FirstHint.h"
+#include "Artwork.h"
+
+#include <UI/Widgets/MaskedToolTip.h>
+
+#include <QAbstractButton>
+#include <QCoreApplication>
+#include <QVariant>
+
+using Zelkor::Vx::UI::MaskedToolTip;
+
+namespace Zelkor::Gallery {
+
+namespace {
+
+constexpr QSize BUBBLE_SIZE(280, 96);
+constexpr int DISTANCE = 4;
+constexpr int DISPLAY_TIME_MS = 8000;
+
+QString Tr(const char* text)
+{
+    return QCoreApplication::translate("FirstHint", text);
+}
+
+} // namespace
+
+void ShowSourceHint(QAbstractButton* button)
+{
+    auto* hint = new MaskedToolTip(button->window());
+    hint->setAttribute(Qt::WA_DeleteOnClose);
+    hint->setAttribute(Qt::WA_ShowWithoutActivating);
+    hint->setProperty("role", QStringLiteral("bubble"));
+    hint->setFixedSize(BUBBLE_SIZE);
+    hint->SetMask(SpeechBubbleImage(BUBBLE_SIZE, button->layoutDirection()));
+    hint->SetTitle(Tr("Start here"));
+    hint->SetText(Tr("Choose what is shown: a camera, the screen or the test picture."));
+    hint->SetDisplayTime(DISPLAY_TIME_MS);
+    // It belongs to a window that is not active yet at the start.
+    hint->SetHideOnDeactivate(false);
+    QObject::connect(button, &QAbstractButton::pressed, hint, &QWidget::close);
+    const int x = button->layoutDirection() == Qt::RightToLeft ? button->width() - BUBBLE_SIZE.width() : 0;
+    hint->Show(button->mapToGlobal(QPoint(x, -BUBBLE_SIZE.height() - DISTANCE)));
+}
+
+} // namespace Zelkor::Gallery
