@@ -2,6 +2,7 @@
 #include "Artwork.h"
 
 #include <UI/Widgets/VideoPreviewWidget.h>
+#include <UI/Widgets/ZGraphicsShadowEffect.h>
 
 #include <QEvent>
 
@@ -15,6 +16,10 @@ constexpr QSize SHAPE(16, 9);
 constexpr QSize PREFERRED_SIZE(896, 504);
 constexpr QSize SMALLEST_SIZE(160, 90);
 
+// Sets the picture into the window, without darkening it.
+constexpr qreal SHADOW_WIDTH = 10;
+constexpr qreal SHADOW_STRENGTH = 0.35;
+
 QRect LargestOfShape(const QRect& area)
 {
     QRect rect(QPoint(), SHAPE.scaled(area.size(), Qt::KeepAspectRatio));
@@ -27,6 +32,10 @@ QRect LargestOfShape(const QRect& area)
 PreviewStage::PreviewStage(QWidget* parent) : QFrame(parent), preview(new VideoPreviewWidget(this))
 {
     setObjectName("previewStage");
+    auto* shadow = new ZGraphicsShadowEffect(preview);
+    shadow->SetOffset(SHADOW_WIDTH);
+    shadow->SetBrightnessLevel(SHADOW_STRENGTH);
+    preview->setGraphicsEffect(shadow);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
 }
 
