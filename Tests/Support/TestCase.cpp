@@ -13,6 +13,7 @@ namespace {
 std::mutex mutex;
 QStringList expected;
 QStringList stray;
+QString row;
 QtMessageHandler previousHandler = nullptr;
 
 // What the platform without a display says of itself, whatever a window does.
@@ -46,14 +47,22 @@ void TestCase::ExpectWarning(const QString& text)
     expected += text;
 }
 
+void TestCase::InRow(const QString& name)
+{
+    row = name;
+}
+
 void TestCase::init()
 {
+    row.clear();
     previousHandler = qInstallMessageHandler(HandleMessage);
 }
 
 void TestCase::cleanup()
 {
     qInstallMessageHandler(previousHandler);
+    if (QTest::currentTestFailed() && !row.isEmpty())
+        qInfo("%s", qPrintable(QStringLiteral("in the row: ") + row));
     QStringList strayNow;
     QStringList missingNow;
     {

@@ -17,6 +17,9 @@ protected:
     /// Announces one warning that contains `text`. Call it before the code that warns.
     void ExpectWarning(const QString& text);
 
+    /// Names the row of a table that runs now. A failure tells it.
+    void InRow(const QString& name);
+
 private Q_SLOTS:
     void init();
     void cleanup();

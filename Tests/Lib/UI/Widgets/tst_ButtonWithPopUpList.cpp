@@ -3,7 +3,8 @@
 #include <Support/TestCase.h>
 
 #include <QMenu>
-#include <QSignalSpy>
+
+#include <memory>
 
 using Zelkor::Vx::ButtonWithPopUpList;
 using Indexes = QList<int>;
@@ -36,15 +37,23 @@ void Perform(ButtonWithPopUpList& button, const QString& operation)
         button.Clear();
 }
 
-Indexes CheckedOf(const ButtonWithPopUpList& button)
+// The menu marks the current item, if there is one, and has no other items than the list.
+void CheckMenu(const ButtonWithPopUpList& button)
 {
-    Indexes checked;
     const auto choices = ChoicesOf(button);
-    for (int i = 0; i < choices.size(); ++i) {
-        if (choices[i]->isChecked())
-            checked += i;
-    }
-    return checked;
+    QCOMPARE(choices.size(), button.Count());
+    for (int i = 0; i < choices.size(); ++i)
+        QCOMPARE(choices[i]->isChecked(), i == button.CurrentIndex());
+}
+
+// With the items a, b and c, of which b is the current one.
+std::unique_ptr<ButtonWithPopUpList> ThreeItems()
+{
+    auto button = std::make_unique<ButtonWithPopUpList>();
+    for (int i = 0; i < 3; ++i)
+        Perform(*button, "append");
+    button->SetCurrentIndex(1);
+    return button;
 }
 
 } // namespace
@@ -54,51 +63,42 @@ class tst_ButtonWithPopUpList : public Support::TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void signalsInTheirOrder_data()
-    {
-        QTest::addColumn<QString>("operations"); // on a list of three, a, b, c, whose current item is b
-        QTest::addColumn<Indexes>("signalled");
-        QTest::addColumn<int>("current");
-        QTest::addColumn<Indexes>("checked");
-        QTest::newRow("append") << "append" << Indexes{} << 1 << Indexes{1};
-        QTest::newRow("set") << "set 2" << Indexes{2} << 2 << Indexes{2};
-        QTest::newRow("set the same") << "set 1" << Indexes{1} << 1 << Indexes{1};
-        QTest::newRow("set negative") << "set -3" << Indexes{-3, 0} << 0 << Indexes{0};
-        QTest::newRow("set past the end") << "set 3" << Indexes{3} << 3 << Indexes{};
-        QTest::newRow("set past the end, then fill up") << "set 3,append" << Indexes{3} << 3 << Indexes{3};
-        QTest::newRow("set past the end, remove") << "set 7,remove 0" << Indexes{7} << 6 << Indexes{};
-        QTest::newRow("remove before") << "remove 0" << Indexes{} << 0 << Indexes{0};
-        QTest::newRow("remove current") << "remove 1" << Indexes{0} << 0 << Indexes{0};
-        QTest::newRow("remove after") << "remove 2" << Indexes{} << 1 << Indexes{1};
-        QTest::newRow("remove out of range") << "remove 3,remove -1" << Indexes{} << 1 << Indexes{1};
-        QTest::newRow("remove all") << "remove 1,remove 0,remove 0" << Indexes{0, 0} << -1 << Indexes{};
-        QTest::newRow("clear") << "clear" << Indexes{} << -1 << Indexes{};
-        QTest::newRow("clear and append") << "clear,append,append" << Indexes{0} << 0 << Indexes{0};
-        QTest::newRow("clear and set") << "clear,set -1,set 4" << Indexes{-1, 4} << 4 << Indexes{};
-        QTest::newRow("trigger") << "trigger 2" << Indexes{2} << 2 << Indexes{2};
-        QTest::newRow("trigger the current one") << "trigger 1,trigger 1" << Indexes{1, 1} << 1 << Indexes{1};
-    }
-
     void signalsInTheirOrder()
     {
-        QFETCH(QString, operations);
-        QFETCH(Indexes, signalled);
-        QFETCH(int, current);
-        QFETCH(Indexes, checked);
-        ButtonWithPopUpList button;
-        QCOMPARE(button.popupMode(), QToolButton::MenuButtonPopup);
-        for (int i = 0; i < 3; ++i)
-            Perform(button, "append");
-        button.SetCurrentIndex(1);
-        Indexes seen;
-        connect(&button, &ButtonWithPopUpList::CurrentIndexChanged, [&](int index) { seen += index; });
-        for (const QString& operation : operations.split(','))
-            Perform(button, operation);
-        QCOMPARE(seen, signalled);
-        QCOMPARE(button.CurrentIndex(), current);
-        QCOMPARE(button.CurrentData(), button.ItemData(current));
-        QCOMPARE(CheckedOf(button), checked);
-        QCOMPARE(ChoicesOf(button).size(), button.Count());
+        // Operations on a list of three, a, b, c, whose current item is b; signals; current index.
+        using Row = std::tuple<QString, Indexes, int>;
+        const std::vector<Row> rows{
+            {"append", {}, 1},
+            {"set 2", {2}, 2},
+            {"set 1", {1}, 1},
+            {"set -3", {-3, 0}, 0},
+            {"set 3", {3}, 3},
+            {"set 3,append", {3}, 3},
+            {"set 7,remove 0", {7}, 6},
+            {"remove 0", {}, 0},
+            {"remove 1", {0}, 0},
+            {"remove 2", {}, 1},
+            {"remove 3,remove -1", {}, 1},
+            {"remove 1,remove 0,remove 0", {0, 0}, -1},
+            {"clear", {}, -1},
+            {"clear,append,append", {0}, 0},
+            {"clear,set -1,set 4", {-1, 4}, 4},
+            {"trigger 2", {2}, 2},
+            {"trigger 1,trigger 1", {1, 1}, 1},
+        };
+        for (const auto& [operations, signalled, current] : rows) {
+            InRow(operations);
+            const auto button = ThreeItems();
+            QCOMPARE(button->popupMode(), QToolButton::MenuButtonPopup);
+            Indexes seen;
+            connect(button.get(), &ButtonWithPopUpList::CurrentIndexChanged, [&](int index) { seen += index; });
+            for (const QString& operation : operations.split(','))
+                Perform(*button, operation);
+            QCOMPARE(seen, signalled);
+            QCOMPARE(button->CurrentIndex(), current);
+            QCOMPARE(button->CurrentData(), button->ItemData(current));
+            CheckMenu(*button);
+        }
     }
 
     void valuesAreFoundByEquality()
@@ -119,40 +119,29 @@ private Q_SLOTS:
         QCOMPARE(button.menu()->actions().size(), 2 + 3);
     }
 
-    void slotMayCallBack_data()
-    {
-        QTest::addColumn<QString>("operation");
-        for (const char* operation : {"append", "remove 0", "remove 1", "clear", "set 0", "delete", "delete later"})
-            QTest::newRow(operation) << operation;
-    }
-
     void slotMayCallBack()
     {
-        QFETCH(QString, operation);
-        for (const QString cause : {"set 1", "trigger 1", "remove 1"}) {
-            QPointer<ButtonWithPopUpList> button = new ButtonWithPopUpList;
-            for (int i = 0; i < 3; ++i)
-                Perform(*button, "append");
-            button->SetCurrentIndex(1);
-            int calls = 0;
-            connect(button, &ButtonWithPopUpList::CurrentIndexChanged, qApp, [&] {
-                if (++calls > 1)
-                    return;
-                if (operation == "delete later")
-                    button->deleteLater();
-                else if (operation == "delete" && !cause.startsWith("trigger")) // Qt's own rule for actions
-                    delete button;
-                else
-                    Perform(*button, operation);
-            });
-            Perform(*button, cause);
-            if (button) {
-                QCOMPARE(ChoicesOf(*button).size(), button->Count());
-                const bool inRange = button->CurrentIndex() >= 0 && button->CurrentIndex() < button->Count();
-                QCOMPARE(CheckedOf(*button), inRange ? Indexes{button->CurrentIndex()} : Indexes{});
+        for (const QString operation : {"append", "remove 0", "remove 1", "clear", "set 0", "delete", "delete later"}) {
+            for (const QString cause : {"set 1", "trigger 1", "remove 1"}) {
+                InRow(operation + " in the slot of " + cause);
+                QPointer<ButtonWithPopUpList> button = ThreeItems().release();
+                int calls = 0;
+                connect(button, &ButtonWithPopUpList::CurrentIndexChanged, qApp, [&] {
+                    if (++calls > 1)
+                        return;
+                    if (operation == "delete later")
+                        button->deleteLater();
+                    else if (operation == "delete" && !cause.startsWith("trigger")) // Qt's own rule for actions
+                        delete button;
+                    else
+                        Perform(*button, operation);
+                });
+                Perform(*button, cause);
+                if (button)
+                    CheckMenu(*button);
+                QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+                delete button;
             }
-            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-            delete button;
         }
     }
 };

@@ -21,12 +21,9 @@ void Choose(ColorButton& button, const std::function<void(QColorDialog*)>& insid
     button.click();
 }
 
-QStringList* Record(ColorButton& button, QStringList& log)
+bool IsNear(double a, double b)
 {
-    QObject::connect(&button, &ColorButton::ColorChanged, [&](const QColor& color) { log += color.name(); });
-    QObject::connect(&button, &ColorButton::ColorDialogWillBeOpened, [&] { log += "opens"; });
-    QObject::connect(&button, &ColorButton::ColorDialogClosed, [&] { log += "closed"; });
-    return &log;
+    return std::abs(a - b) < 0.004; // the dialog knows 256 levels
 }
 
 } // namespace
@@ -72,112 +69,90 @@ private Q_SLOTS:
         QCOMPARE(button.GetColorRectBorderDisabled(), QColor(Qt::red));
     }
 
-    void settingACompareAndClamp()
-    {
-        ColorButton button;
-        QCOMPARE(button.GetColor(), QColor(Qt::red));
-        QSignalSpy changed(&button, &ColorButton::ColorChanged);
-        button.SetColor(Qt::red);
-        QCOMPARE(changed.size(), 0);
-        button.SetAlphaEnabled(true);
-        button.SetMaximumAlpha(0.5);
-        QCOMPARE(button.GetColor().alphaF(), 1.0);
-        button.SetColor(Qt::blue);
-        QCOMPARE(changed.size(), 1);
-        QVERIFY(std::abs(changed[0][0].value<QColor>().alphaF() - 0.5) < 1e-4);
-        QCOMPARE(changed[0][0].value<QColor>(), button.GetColor());
-    }
-
-    void dialogSignals_data()
-    {
-        QTest::addColumn<QString>("end");
-        QTest::addColumn<QStringList>("signalled");
-        QTest::newRow("accept") << "accept" << QStringList{"opens", "#00ff00", "closed"};
-        QTest::newRow("accept unchanged") << "accept unchanged" << QStringList{"opens", "#ff0000", "closed"};
-        QTest::newRow("cancel") << "cancel" << QStringList{"opens", "closed"};
-        QTest::newRow("hide") << "hide" << QStringList{"opens", "closed"};
-        QTest::newRow("new parent") << "new parent" << QStringList{"opens", "closed"};
-        QTest::newRow("disable, click again, accept") << "disable" << QStringList{"opens", "#00ff00", "closed"};
-        QTest::newRow("destroy") << "destroy" << QStringList{"opens"};
-    }
-
     void dialogSignals()
     {
-        QFETCH(QString, end);
-        QFETCH(QStringList, signalled);
-        QWidget window;
-        QWidget other;
-        QPointer<ColorButton> button = new ColorButton(&window);
-        window.show();
-        QStringList log;
-        Record(*button, log);
-        Choose(*button, [&](QColorDialog* dialog) {
-            auto* ok = dialog->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok);
-            QCOMPARE(ok->property("SubStyle"), QVariant("Ok"));
-            if (!end.contains("unchanged"))
-                dialog->setCurrentColor(Qt::green);
-            if (end == "hide")
-                button->hide();
-            else if (end == "new parent")
-                button->setParent(&other);
-            else if (end == "destroy")
-                delete button;
-            else if (end == "cancel")
-                dialog->reject();
-            else {
-                button->setEnabled(end != "disable");
-                button->setEnabled(true);
-                button->click();
-                ok->click();
-            }
-        });
-        QCOMPARE(log, signalled);
-        if (button) {
+        const QVector<QPair<QString, QStringList>> rows{
+            {"accept", {"opens", "#00ff00", "closed"}},
+            {"accept unchanged", {"opens", "#ff0000", "closed"}},
+            {"cancel", {"opens", "closed"}},
+            {"hide", {"opens", "closed"}},
+            {"new parent", {"opens", "closed"}},
+            {"disable, click again, accept", {"opens", "#00ff00", "closed"}},
+            {"destroy", {"opens"}},
+        };
+        for (const auto& row : rows) {
+            const QString end = row.first;
+            InRow(end);
+            QWidget window;
+            QWidget other;
+            QPointer<ColorButton> button = new ColorButton(&window);
+            window.show();
+            QStringList log;
+            connect(button, &ColorButton::ColorChanged, [&](const QColor& color) { log += color.name(); });
+            connect(button, &ColorButton::ColorDialogWillBeOpened, [&] { log += "opens"; });
+            connect(button, &ColorButton::ColorDialogClosed, [&] { log += "closed"; });
+            Choose(*button, [&](QColorDialog* dialog) {
+                auto* ok = dialog->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok);
+                QCOMPARE(ok->property("SubStyle"), QVariant("Ok"));
+                if (!end.contains("unchanged"))
+                    dialog->setCurrentColor(Qt::green);
+                if (end == "hide")
+                    button->hide();
+                else if (end == "new parent")
+                    button->setParent(&other);
+                else if (end == "destroy")
+                    delete button;
+                else if (end == "cancel")
+                    dialog->reject();
+                else {
+                    button->setDisabled(end.startsWith("disable"));
+                    button->setEnabled(true);
+                    button->click();
+                    ok->click();
+                }
+            });
+            QCOMPARE(log, row.second);
             QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-            QVERIFY(!button->findChild<QColorDialog*>());
+            QVERIFY(!button || !button->findChild<QColorDialog*>());
         }
-    }
-
-    void alphaLimit_data()
-    {
-        QTest::addColumn<double>("maximum");
-        QTest::addColumn<double>("stored"); // of an opaque colour
-        QTest::addColumn<double>("shown");  // in the dialog
-        QTest::addColumn<double>("halved"); // stored after alpha 0.5 was chosen there
-        QTest::newRow("half") << 0.5 << 0.5 << 1.0 << 0.25;
-        QTest::newRow("a third") << 1 / 3.0 << 1 / 3.0 << 1.0 << 1 / 6.0;
-        QTest::newRow("one") << 1.0 << 1.0 << 1.0 << 0.5;
-        QTest::newRow("zero") << 0.0 << 0.0 << 0.0 << 0.0;
-        QTest::newRow("negative") << -3.0 << 0.0 << 0.0 << 0.0;
-        QTest::newRow("above one") << 7.0 << 1.0 << 1.0 << 0.5;
-        QTest::newRow("not a number") << std::nan("") << 1.0 << 1.0 << 0.5;
     }
 
     void alphaLimit()
     {
-        QFETCH(double, maximum);
-        QFETCH(double, stored);
-        QFETCH(double, shown);
-        QFETCH(double, halved);
-        const auto isNear = [](double a, double b) { return std::abs(a - b) < 0.004; }; // the dialog knows 256 levels
-        ColorButton button;
-        button.show();
-        button.SetAlphaEnabled(true);
-        button.SetMaximumAlpha(maximum);
-        button.SetColor(Qt::blue);
-        QVERIFY(isNear(button.GetColor().alphaF(), stored));
-        for (int i = 0; i < 100; ++i) {
-            Choose(button, [&](QColorDialog* dialog) {
-                QVERIFY(isNear(dialog->currentColor().alphaF(), shown));
+        // The limit; the alpha stored of an opaque colour, shown in the dialog, and stored when 0.5 was chosen there.
+        using Row = std::tuple<double, double, double, double>;
+        for (const auto& [maximum, stored, shown, halved] : std::vector<Row>{{0.5, 0.5, 1, 0.25},
+                                                                             {1 / 3.0, 1 / 3.0, 1, 1 / 6.0},
+                                                                             {1, 1, 1, 0.5},
+                                                                             {0, 0, 0, 0},
+                                                                             {-3, 0, 0, 0},
+                                                                             {7, 1, 1, 0.5},
+                                                                             {std::nan(""), 1, 1, 0.5}}) {
+            InRow(QString("limit %1").arg(maximum));
+            ColorButton button;
+            button.show();
+            button.SetAlphaEnabled(true);
+            QSignalSpy changed(&button, &ColorButton::ColorChanged);
+            button.SetColor(Qt::red); // as it is
+            button.SetMaximumAlpha(maximum);
+            QCOMPARE(button.GetColor(), QColor(Qt::red));
+            QCOMPARE(changed.size(), 0);
+            button.SetColor(Qt::blue);
+            QCOMPARE(changed, QList<QVariantList>{{button.GetColor()}});
+            QVERIFY(std::abs(button.GetColor().alphaF() - stored) < 1e-4);
+            for (int i = 0; i < 100; ++i) {
+                Choose(button, [shown = shown](QColorDialog* dialog) {
+                    QVERIFY(IsNear(dialog->currentColor().alphaF(), shown));
+                    dialog->accept();
+                });
+            }
+            QVERIFY(IsNear(button.GetColor().alphaF(), stored));
+            Choose(button, [](QColorDialog* dialog) {
+                dialog->setCurrentColor(QColor(0, 0, 255, 128));
                 dialog->accept();
             });
+            QVERIFY(button.GetColor().isValid() && IsNear(button.GetColor().alphaF(), halved));
         }
-        QVERIFY(isNear(button.GetColor().alphaF(), stored));
-        Choose(button, [](QColorDialog* dialog) {
-            dialog->setCurrentColor(QColor(0, 0, 255, 128));
-            dialog->accept();
-        });
-        QVERIFY(button.GetColor().isValid() && isNear(button.GetColor().alphaF(), halved));
     }
 };
 

@@ -3,7 +3,6 @@
 #include <Support/TestCase.h>
 
 #include <QAction>
-#include <QBoxLayout>
 #include <QLabel>
 #include <QSignalSpy>
 
@@ -29,44 +28,36 @@ class tst_FastPresetButton : public Support::TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void faceIsMadeOfLabels_data()
-    {
-        QTest::addColumn<Qt::Orientation>("orientation");
-        QTest::newRow("horizontal") << Qt::Horizontal;
-        QTest::newRow("vertical") << Qt::Vertical;
-    }
-
     void faceIsMadeOfLabels()
     {
-        QFETCH(Qt::Orientation, orientation);
-        QWidget window;
-        ButtonWithLabels button(orientation, &window);
-        button.setStyleSheet("#IconLabel { min-width: 16px; max-width: 16px }");
-        const QString text("A text that is rather long for a button of this kind");
-        button.SetLabelText(text);
-        button.SetHotkeyText("Ctrl+Shift+Alt+F12");
-        button.resize(button.sizeHint());
-        window.show();
-        QCOMPARE(button.text(), QString());
-        QLabel* textLabel = LabelOf(button, "TextLabel");
-        QLabel* hotKeyLabel = LabelOf(button, "HotKeyLabel");
-        QCOMPARE(LabelOf(button, "IconLabel")->geometry().left(), 0);
-        QVERIFY(LabelOf(button, "IconLabel")->geometry().right() < textLabel->geometry().left());
-        if (orientation == Qt::Horizontal)
-            QVERIFY(textLabel->geometry().right() < hotKeyLabel->geometry().left());
-        else
-            QVERIFY(textLabel->geometry().bottom() < hotKeyLabel->geometry().top());
-        // The preferred size has room for it all; a narrower one elides.
-        QCOMPARE(textLabel->toolTip(), QString());
-        button.resize(button.minimumSizeHint());
-        QVERIFY(button.width() < button.sizeHint().width());
-        QVERIFY(!textLabel->toolTip().isEmpty());
-        button.resize(button.sizeHint());
-        QTRY_COMPARE(textLabel->toolTip(), QString());
-
-        QSignalSpy clicked(&button, &QAbstractButton::clicked);
-        QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {}, textLabel->geometry().center());
-        QCOMPARE(clicked.size(), 1);
+        for (const Qt::Orientation orientation : {Qt::Horizontal, Qt::Vertical}) {
+            InRow(QVariant::fromValue(orientation).toString());
+            QWidget window;
+            ButtonWithLabels button(orientation, &window);
+            button.setStyleSheet("#IconLabel { min-width: 16px; max-width: 16px }");
+            button.SetLabelText("A text that is rather long for a button of this kind");
+            button.SetHotkeyText("Ctrl+Shift+Alt+F12");
+            button.resize(button.sizeHint());
+            window.show();
+            QCOMPARE(button.text(), QString());
+            QLabel* label = LabelOf(button, "TextLabel");
+            const QRect icon = LabelOf(button, "IconLabel")->geometry();
+            const QRect text = label->geometry();
+            const QRect hotKey = LabelOf(button, "HotKeyLabel")->geometry();
+            QCOMPARE(icon.left(), 0);
+            QVERIFY(icon.right() < text.left());
+            QVERIFY(orientation == Qt::Horizontal ? text.right() < hotKey.left() : text.bottom() < hotKey.top());
+            // The preferred size has room for it all; a narrower one elides.
+            QCOMPARE(label->toolTip(), QString());
+            button.resize(button.minimumSizeHint());
+            QVERIFY(button.width() < button.sizeHint().width());
+            QVERIFY(!label->toolTip().isEmpty());
+            button.resize(button.sizeHint());
+            QTRY_COMPARE(label->toolTip(), QString());
+            QSignalSpy clicked(&button, &QAbstractButton::clicked);
+            QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {}, text.center());
+            QCOMPARE(clicked.size(), 1);
+        }
     }
 
     void showsAndFollowsTheAction()
@@ -77,72 +68,60 @@ private Q_SLOTS:
         action->setToolTip("Records one window");
         action->setProperty("PresetType", "User");
         FastPresetButton button(action, "7", &window);
+        const auto text = [&] { return WholeText(button, "TextFastPresetLabel7"); };
+        const auto hotKey = [&] { return WholeText(button, "HotKeyFastPresetLabel7"); };
         QCOMPARE(action->parent(), &button);
         QCOMPARE(button.objectName(), QString("UserFastCaptureButton7"));
         QCOMPARE(button.property("Tag"), QVariant("User"));
         QCOMPARE(LabelOf(button, "TextFastPresetLabel7")->property("Tag"), QVariant("TextFastPresetLabel"));
-        QCOMPARE(WholeText(button, "TextFastPresetLabel7"), QString("Recordwindow"));
-        QCOMPARE(WholeText(button, "HotKeyFastPresetLabel7"), QString("Ctrl+Shift+R"));
+        QCOMPARE(text(), QString("Recordwindow"));
+        QCOMPARE(hotKey(), QString("Ctrl+Shift+R"));
         QCOMPARE(button.toolTip(), QString("Records one window"));
 
         // A style sheet may let the label wrap, and take it back.
         window.setStyleSheet("#TextFastPresetLabel7 { qproperty-wordWrap: true }");
         window.show();
-        QCOMPARE(WholeText(button, "TextFastPresetLabel7"), QString("Record\nwindow"));
+        QCOMPARE(text(), QString("Record\nwindow"));
         window.setStyleSheet("#TextFastPresetLabel7 { qproperty-wordWrap: false }");
-        QCOMPARE(WholeText(button, "TextFastPresetLabel7"), QString("Recordwindow"));
+        QCOMPARE(text(), QString("Recordwindow"));
         window.hide();
         action->setShortcut(QKeySequence());
         action->setText("Record\nscreen");
-        QCOMPARE(WholeText(button, "TextFastPresetLabel7"), QString("Recordscreen"));
-        QCOMPARE(WholeText(button, "HotKeyFastPresetLabel7"), QString());
+        QCOMPARE(text(), QString("Recordscreen"));
+        QCOMPARE(hotKey(), QString());
         QCOMPARE(button.accessibleName(), QString("Recordscreen"));
     }
 
-    void clickTriggersAndLeavesTheCheckAlone()
+    void clickTriggersAndEitherMayDieFirst()
     {
-        QAction action("Preset");
         QObject owner;
-        action.setParent(&owner);
-        action.setCheckable(true);
-        FastPresetButton button(&action, "", nullptr);
-        QCOMPARE(action.parent(), &owner);
-        QStringList order;
-        connect(&action, &QAction::triggered, [&](bool on) { order += on ? "triggered on" : "triggered off"; });
-        connect(&button, &FastPresetButton::Clicked,
-                [&](QAction* sent) { order += sent == &action ? "clicked" : "?"; });
-        button.click();
-        action.setChecked(true);
-        button.click();
-        QCOMPARE(order, QStringList({"triggered off", "clicked", "triggered off", "clicked"}));
-        QVERIFY(action.isChecked());
-        action.setParent(nullptr);
-    }
-
-    void eitherMayDieFirst()
-    {
-        auto* action = new QAction("Preset");
-        QObject owner;
-        action->setParent(&owner);
+        QPointer<QAction> action = new QAction("Preset", &owner);
+        action->setCheckable(true);
         QPointer<FastPresetButton> button = new FastPresetButton(action, "", nullptr);
-        bool clicked = false;
-        connect(button, &FastPresetButton::Clicked, [&] { clicked = true; });
+        QCOMPARE(action->parent(), &owner);
+        QStringList order;
+        connect(action, &QAction::triggered, [&](bool on) { order += on ? "triggered on" : "triggered off"; });
+        connect(button, &FastPresetButton::Clicked, [&](QAction* sent) { order += sent == action ? "clicked" : "?"; });
+        button->click();
+        action->setChecked(true);
+        button->click();
+        QCOMPARE(order, QStringList({"triggered off", "clicked", "triggered off", "clicked"}));
+        QVERIFY(action->isChecked());
+
+        order.clear();
         connect(action, &QAction::triggered, qApp, [&] { delete action; });
         button->click();
         button->click();
-        QVERIFY(!clicked);
+        QCOMPARE(order, QStringList("triggered off"));
         QCOMPARE(WholeText(*button, "TextFastPresetLabel"), QString("Preset"));
         delete button;
 
-        QAction survivor("Survivor");
-        survivor.setParent(&owner);
+        QAction survivor("Survivor", &owner);
         button = new FastPresetButton(&survivor, "", nullptr);
         connect(button, &FastPresetButton::Clicked, qApp, [&] { button->deleteLater(); });
         button->click();
         QTRY_VERIFY(!button);
         survivor.setText("Changed");
-        survivor.setParent(nullptr);
-
         FastPresetButton idle(nullptr, "1", nullptr);
         QCOMPARE(idle.objectName(), QString("FastCaptureButton1"));
         idle.click();

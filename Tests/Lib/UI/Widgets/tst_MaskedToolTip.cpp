@@ -31,25 +31,19 @@ class tst_MaskedToolTip : public Support::TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void imageIsTheShape_data()
-    {
-        QTest::addColumn<QImage>("mask");
-        for (int format = QImage::Format_Mono; format < QImage::NImageFormats; ++format) {
-            const QImage mask = Bubble(QImage::Format(format));
-            QTest::newRow(qPrintable(QString("format %1").arg(format))) << mask;
-        }
-        QTest::newRow("pixel ratio 2") << Bubble(QImage::Format_ARGB32, 2);
-    }
-
     void imageIsTheShape()
     {
-        QFETCH(QImage, mask);
-        MaskedToolTip tip(nullptr);
-        tip.SetMask(mask);
-        tip.SetText("Hint");
-        tip.Show(QPoint(50, 40));
-        const QRegion whole(0, 0, 100, 60);
-        QCOMPARE(tip.mask(), mask.hasAlphaChannel() ? whole - QRegion(0, 0, 20, 10) : whole);
+        // Format_Invalid stands for one of two pixels to a point.
+        for (int format = QImage::Format_Invalid; format < QImage::NImageFormats; ++format) {
+            InRow(QString("format %1").arg(format));
+            const QImage mask = format ? Bubble(QImage::Format(format)) : Bubble(QImage::Format_ARGB32, 2);
+            MaskedToolTip tip(nullptr);
+            tip.SetMask(mask);
+            tip.SetText("Hint");
+            tip.Show(QPoint(50, 40));
+            const QRegion whole(0, 0, 100, 60);
+            QCOMPARE(tip.mask(), mask.hasAlphaChannel() ? whole - QRegion(0, 0, 20, 10) : whole);
+        }
     }
 
     void labelsAndPlace()
@@ -58,8 +52,8 @@ private Q_SLOTS:
         tip.setStyleSheet("#MaskedToolTip { qproperty-offsetX: 7; qproperty-offsetY: -3 }");
         tip.SetTitle("Title");
         tip.Show(QPoint(50, 40));
-        auto* title = tip.findChild<QLabel*>("titleLabel");
-        auto* text = tip.findChild<QLabel*>("textLabel");
+        const auto* title = tip.findChild<QLabel*>("titleLabel");
+        const auto* text = tip.findChild<QLabel*>("textLabel");
         QVERIFY(title->isVisible() && !text->isVisible());
         QCOMPARE(tip.pos(), QPoint(57, 37));
         // A label that was empty stays hidden; the window moves on from where it stands.
@@ -75,10 +69,24 @@ private Q_SLOTS:
         QVERIFY(empty.isVisible() && !empty.findChild<QLabel*>("titleLabel")->isVisible());
     }
 
-    void closesByTimeAndPress()
+    void closesByPressTimeAndAnotherWindow()
     {
-        MaskedToolTip tip(nullptr);
+        QWidget window;
+        window.setGeometry(400, 300, 200, 100);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        MaskedToolTip tip(&window);
         tip.SetText("Hint");
+        for (const bool hides : {true, false}) {
+            tip.SetHideOnDeactivate(hides);
+            tip.Show(QPoint(50, 40));
+            tip.activateWindow();
+            QVERIFY(QTest::qWaitForWindowActive(&tip));
+            QVERIFY(tip.isVisible());
+            Support::Click(window.geometry().center());
+            QVERIFY(QTest::qWaitForWindowActive(&window));
+            QTRY_COMPARE(tip.isVisible(), !hides);
+        }
         tip.SetDisplayTime(-5);
         tip.Show(QPoint(50, 40));
         QTest::mousePress(&tip, Qt::RightButton);
@@ -90,26 +98,6 @@ private Q_SLOTS:
         QVERIFY(tip.isVisible());
         QTRY_VERIFY(!tip.isVisible());
         QVERIFY(timer.elapsed() >= 140);
-    }
-
-    void closesWhenAnotherWindowIsActive()
-    {
-        QWidget window;
-        window.setGeometry(400, 300, 200, 100);
-        window.show();
-        QVERIFY(QTest::qWaitForWindowActive(&window));
-        MaskedToolTip tip(&window);
-        tip.SetText("Hint");
-        for (const bool hides : {false, true}) {
-            tip.SetHideOnDeactivate(hides);
-            tip.Show(QPoint(50, 40));
-            tip.activateWindow();
-            QVERIFY(QTest::qWaitForWindowActive(&tip));
-            QVERIFY(tip.isVisible());
-            Support::Click(window.geometry().center());
-            QVERIFY(QTest::qWaitForWindowActive(&window));
-            QTRY_COMPARE(tip.isVisible(), !hides);
-        }
     }
 };
 

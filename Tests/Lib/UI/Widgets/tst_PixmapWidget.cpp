@@ -40,10 +40,8 @@ int LargestDifference(const QImage& a, const QImage& b)
     const QImage first = a.convertToFormat(QImage::Format_ARGB32_Premultiplied);
     const QImage second = b.convertToFormat(QImage::Format_ARGB32_Premultiplied);
     int largest = 0;
-    for (int y = 0; y < first.height(); ++y) {
-        for (int i = 0; i < 4 * first.width(); ++i)
-            largest = qMax(largest, qAbs(first.constScanLine(y)[i] - second.constScanLine(y)[i]));
-    }
+    for (int i = 0; i < first.sizeInBytes(); ++i)
+        largest = qMax(largest, qAbs(first.constBits()[i] - second.constBits()[i]));
     return largest;
 }
 
@@ -54,57 +52,41 @@ class tst_PixmapWidget : public Support::TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void cut_data()
-    {
-        QTest::addColumn<QSize>("picture");
-        QTest::addColumn<QSize>("area");
-        QTest::addColumn<QVector<QPoint>>("corners"); // for each anchor
-        QTest::addColumn<QSize>("size");
-        using Corners = QVector<QPoint>;
-        QTest::newRow("wide") << QSize(400, 300) << QSize(100, 100)
-                              << Corners{{50, 0}, {0, 0}, {100, 0}, {0, 0}, {100, 0}} << QSize(300, 300);
-        QTest::newRow("tall") << QSize(300, 400) << QSize(200, 100)
-                              << Corners{{0, 125}, {0, 0}, {0, 0}, {0, 250}, {0, 250}} << QSize(300, 150);
-        QTest::newRow("same shape") << QSize(64, 48) << QSize(32, 24) << Corners{{0, 0}, {0, 0}, {0, 0}, {0, 0}, {0, 0}}
-                                    << QSize(64, 48);
-        QTest::newRow("one pixel") << QSize(1, 1) << QSize(32, 24) << Corners{{0, 0}, {0, 0}, {0, 0}, {0, 0}, {0, 0}}
-                                   << QSize(1, 1);
-        QTest::newRow("no height") << QSize(64, 48) << QSize(32, 0) << Corners{{0, 0}, {0, 0}, {0, 0}, {0, 0}, {0, 0}}
-                                   << QSize(0, 0);
-    }
-
     void cut()
     {
-        QFETCH(QSize, picture);
-        QFETCH(QSize, area);
-        QFETCH(QVector<QPoint>, corners);
-        QFETCH(QSize, size);
-        for (int anchor = 0; anchor < corners.size(); ++anchor)
-            QCOMPARE(PixmapCut::CutRect(picture, area, PixmapWidget::MaskAnchor(anchor)), QRect(corners[anchor], size));
-        QCOMPARE(PixmapCut::CutRect(picture, area, PixmapWidget::MaskAnchor(9)), QRect(QPoint(), size));
-    }
-
-    void orderOfScalingAndMaskingDoesNotShow_data()
-    {
-        QTest::addColumn<QSize>("size");
-        for (const QSize size : {QSize(300, 300), QSize(150, 150), QSize(97, 97), QSize(40, 40), QSize(700, 700)})
-            QTest::newRow(qPrintable(QString::number(size.width()))) << size;
+        using Row = std::tuple<const char*, QSize, QSize, QVector<QPoint>, QSize>;
+        const QVector<QPoint> origin(5);
+        const std::vector<Row> rows{
+            {"wide", {400, 300}, {100, 100}, {{50, 0}, {0, 0}, {100, 0}, {0, 0}, {100, 0}}, {300, 300}},
+            {"tall", {300, 400}, {200, 100}, {{0, 125}, {0, 0}, {0, 0}, {0, 250}, {0, 250}}, {300, 150}},
+            {"same shape", {64, 48}, {32, 24}, origin, {64, 48}},
+            {"one pixel", {1, 1}, {32, 24}, origin, {1, 1}},
+            {"no height", {64, 48}, {32, 0}, origin, {0, 0}},
+        };
+        for (const auto& [name, picture, area, corners, size] : rows) {
+            InRow(name);
+            for (int anchor = 0; anchor < 5; ++anchor)
+                QCOMPARE(PixmapCut::CutRect(picture, area, PixmapWidget::MaskAnchor(anchor)),
+                         QRect(corners[anchor], size));
+            QCOMPARE(PixmapCut::CutRect(picture, area, PixmapWidget::MaskAnchor(9)), QRect(QPoint(), size));
+        }
     }
 
     void orderOfScalingAndMaskingDoesNotShow()
     {
-        QFETCH(QSize, size);
         const QImage picture = Picture({400, 300});
         const QRect cut(50, 0, 300, 300);
-        const QImage rendered = PixmapCut::Render(picture, cut, size, true);
-        QCOMPARE(rendered.size(), size);
-        // An edge is opaque in other steps in a large picture than in a small one; inside there is rounding alone.
-        const int difference = LargestDifference(rendered, Straightforward(picture, cut, size));
-        QVERIFY2(difference <= 32, qPrintable(QString::number(difference)));
-        const QRect inside(size.width() / 4, size.height() / 4, size.width() / 2, size.height() / 2);
-        const int insideDifference =
-            LargestDifference(rendered.copy(inside), Straightforward(picture, cut, size).copy(inside));
-        QVERIFY2(insideDifference <= 2, qPrintable(QString::number(insideDifference)));
+        for (const int side : {300, 150, 97, 40, 700}) {
+            InRow(QString::number(side));
+            const QSize size(side, side);
+            const QImage rendered = PixmapCut::Render(picture, cut, size, true);
+            const QImage expected = Straightforward(picture, cut, size);
+            QCOMPARE(rendered.size(), size);
+            // An edge is opaque in other steps in a large picture than in a small one; inside there is rounding alone.
+            QVERIFY(LargestDifference(rendered, expected) <= 32);
+            const QRect inside(side / 4, side / 4, side / 2, side / 2);
+            QVERIFY(LargestDifference(rendered.copy(inside), expected.copy(inside)) <= 2);
+        }
     }
 
     void showsCutAndStretched()

@@ -1,11 +1,11 @@
 #include <UI/Widgets/VideoPreviewWidget.h>
 
+#include <Support/EventWatch.h>
 #include <Support/Frames.h>
 #include <Support/LogCapture.h>
 #include <Support/TestCase.h>
 
 #include <atomic>
-#include <chrono>
 #include <thread>
 
 using namespace Zelkor;
@@ -37,11 +37,10 @@ struct Scene
     {
         const QImage image = Grab();
         QRect picture;
-        for (int y = 0; y < image.height(); ++y) {
-            for (int x = 0; x < image.width(); ++x) {
-                if (image.pixelColor(x, y) != BACKGROUND)
-                    picture |= QRect(x, y, 1, 1);
-            }
+        for (int i = 0; i < image.width() * image.height(); ++i) {
+            const QPoint point(i % image.width(), i / image.width());
+            if (image.pixelColor(point) != BACKGROUND)
+                picture |= QRect(point, QSize(1, 1));
         }
         return picture;
     }
@@ -57,38 +56,33 @@ class tst_VideoPreviewWidget : public Support::TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void pictureIsFittedAndCentred_data()
-    {
-        QTest::addColumn<QSize>("preview");
-        QTest::addColumn<QSize>("frame");
-        QTest::addColumn<QRect>("picture");
-        QTest::newRow("shrunk") << QSize(320, 240) << QSize(1280, 720) << QRect(0, 30, 320, 180);
-        QTest::newRow("small ones keep their size") << QSize(320, 240) << QSize(160, 120) << QRect(80, 60, 160, 120);
-        QTest::newRow("one pixel too wide") << QSize(320, 240) << QSize(321, 100) << QRect(0, 70, 320, 99);
-        QTest::newRow("one pixel too high") << QSize(320, 240) << QSize(100, 241) << QRect(110, 0, 99, 240);
-        QTest::newRow("exact") << QSize(320, 240) << QSize(320, 240) << QRect(0, 0, 320, 240);
-        QTest::newRow("an odd rest rounds down") << QSize(301, 240) << QSize(100, 101) << QRect(100, 69, 100, 101);
-        QTest::newRow("a line") << QSize(32, 24) << QSize(2000, 1) << QRect(0, 11, 32, 1);
-    }
-
     void pictureIsFittedAndCentred()
     {
-        QFETCH(QSize, preview);
-        QFETCH(QSize, frame);
-        QFETCH(QRect, picture);
-        Scene scene(preview);
-        QCOMPARE(scene.preview->size(), preview);
-        scene.preview->UpdateView(SolidFrame(frame, Qt::green));
-        QCOMPARE(scene.Picture(), picture);
-        QCOMPARE(scene.Grab().pixelColor(picture.center()), QColor(Qt::green));
-        // The picture of a fitting frame is the frame's own memory, not a copy.
-        const auto own = SolidFrame(frame, Qt::green);
-        scene.preview->UpdateView(own);
-        QCOMPARE(own->GetRefCount() > 1, frame == picture.size());
-        // Converted frames go the same way.
-        scene.preview->UpdateView(GreyFrame(frame, 200));
-        QCOMPARE(scene.Picture(), picture);
-        QVERIFY(qAbs(scene.Grab().pixelColor(picture.center()).green() - 200) <= 2);
+        using Row = std::tuple<const char*, QSize, QSize, QRect>; // preview, frame, picture
+        const std::vector<Row> rows{
+            {"shrunk", {320, 240}, {1280, 720}, {0, 30, 320, 180}},
+            {"small ones keep their size", {320, 240}, {160, 120}, {80, 60, 160, 120}},
+            {"one pixel too wide", {320, 240}, {321, 100}, {0, 70, 320, 99}},
+            {"one pixel too high", {320, 240}, {100, 241}, {110, 0, 99, 240}},
+            {"exact", {320, 240}, {320, 240}, {0, 0, 320, 240}},
+            {"an odd rest rounds down", {301, 240}, {100, 101}, {100, 69, 100, 101}},
+            {"a line", {32, 24}, {2000, 1}, {0, 11, 32, 1}},
+        };
+        for (const auto& [name, preview, frame, picture] : rows) {
+            InRow(name);
+            Scene scene(preview);
+            QCOMPARE(scene.preview->size(), preview);
+            const auto own = SolidFrame(frame, Qt::green);
+            scene.preview->UpdateView(own);
+            QCOMPARE(scene.Picture(), picture);
+            QCOMPARE(scene.Grab().pixelColor(picture.center()), QColor(Qt::green));
+            // The picture of a fitting frame is the frame's own memory, not a copy.
+            QCOMPARE(own->GetRefCount() > 1, frame == picture.size());
+            // Converted frames go the same way.
+            scene.preview->UpdateView(GreyFrame(frame, 200));
+            QCOMPARE(scene.Picture(), picture);
+            QVERIFY(qAbs(scene.Grab().pixelColor(picture.center()).green() - 200) <= 2);
+        }
     }
 
     void defaultImageShowsWithoutAFrame()
@@ -101,7 +95,6 @@ private Q_SLOTS:
         scene.preview->SetDefaultImage(image);
         QCOMPARE(scene.Picture(), QRect(109, 95, 101, 50));
         QCOMPARE(scene.preview->GetDefaultImage().convertToFormat(image.format()), image);
-
         scene.preview->UpdateView(SolidFrame({40, 40}, Qt::green));
         QCOMPARE(scene.Picture(), QRect(140, 100, 40, 40));
         scene.preview->UpdateView(nullptr);
@@ -127,10 +120,10 @@ private Q_SLOTS:
         format.width = 32;
         format.height = 32;
         const auto storage = std::make_shared<std::array<std::uint8_t, 1024>>();
+        const StandIn::Plane tooSmall{storage->data(), 32, 500};
         for (const auto pixFmt : {Proc::PixFmt::None, Proc::PixFmt(777), Proc::PixFmt::NV12, Proc::PixFmt::BGRA}) {
             scene.preview->UpdateView(SolidFrame({32, 32}, Qt::green));
             format.pixFmt = pixFmt;
-            const StandIn::Plane tooSmall{storage->data(), 32, 500};
             scene.preview->UpdateView(StandIn::VideoFrame::Reference(format, {tooSmall, tooSmall, tooSmall}, storage));
             QCOMPARE(scene.Picture(), QRect());
         }
@@ -142,23 +135,13 @@ private Q_SLOTS:
     // nothing is left.
     void busyGuiThreadPaintsTheNewestFrame()
     {
-        struct PaintCounter : QObject
-        {
-            bool eventFilter(QObject*, QEvent* event) override
-            {
-                paints += event->type() == QEvent::Paint;
-                posted += event->type() == QEvent::User;
-                return false;
-            }
-            int paints = 0;
-            int posted = 0;
-        } counter;
         Scene scene(QSize(64, 48));
         scene.Grab();
         QCoreApplication::processEvents();
-        scene.preview->installEventFilter(&counter);
+        QVector<QEvent::Type> events;
+        const Support::EventWatch watch(scene.preview, [&](QEvent::Type type, QEvent*) { events += type; });
         std::vector<boost::intrusive_ptr<StandIn::VideoFrame>> frames;
-        for (int grey = 0; grey < 256; ++grey)
+        for (int grey = 0; grey < 200; ++grey)
             frames.push_back(GreyFrame({64, 48}, grey));
         std::thread feeder([&] {
             for (int i = 0; i < 5000; ++i)
@@ -166,8 +149,8 @@ private Q_SLOTS:
             scene.preview->UpdateView(SolidFrame({64, 48}, Qt::magenta));
         });
         feeder.join();
-        QTRY_COMPARE(counter.paints, 1);
-        QCOMPARE(counter.posted, 1);
+        QTRY_COMPARE(events.count(QEvent::Paint), 1);
+        QCOMPARE(events.count(QEvent::User), 1);
         QCOMPARE(scene.Grab().pixelColor(30, 30), QColor(Qt::magenta));
         for (const auto& frame : frames)
             QCOMPARE(frame->GetRefCount(), 1);
@@ -202,38 +185,21 @@ private Q_SLOTS:
 
     void feederLearnsOfTheEndWhileFramesAreTaken()
     {
-        struct Feeder : QObject
-        {
-            explicit Feeder(VideoPreviewWidget* preview) : QObject(preview), preview(preview)
-            {
-                preview->installEventFilter(this);
-                thread = std::thread([this] {
-                    while (!end)
-                        this->preview->UpdateView(GreyFrame({64, 48}, 100));
-                });
-            }
-            ~Feeder() override
-            {
-                if (thread.joinable())
-                    std::terminate();
-            }
-            bool eventFilter(QObject*, QEvent* event) override
-            {
-                if (event->type() == QEvent::Destroy) {
-                    end = true;
-                    thread.join();
-                }
-                return false;
-            }
-            VideoPreviewWidget* preview;
-            std::atomic<bool> end{false};
-            std::thread thread;
-        };
         for (int i = 0; i < 50; ++i) {
             auto preview = std::make_unique<VideoPreviewWidget>(nullptr);
             preview->SetPreviewWidth(64);
-            new Feeder(preview.get());
+            std::atomic<bool> end{false};
+            std::thread feeder([&end, view = preview.get()] {
+                while (!end)
+                    view->UpdateView(GreyFrame({64, 48}, 100));
+            });
+            const Support::EventWatch watch(preview.get(), [&](QEvent::Type type, QEvent*) {
+                if (type == QEvent::Destroy && !end.exchange(true)) // each class of a widget tells its end
+                    feeder.join();
+            });
             QCoreApplication::processEvents();
+            preview.reset();
+            QVERIFY(!feeder.joinable());
         }
     }
 };

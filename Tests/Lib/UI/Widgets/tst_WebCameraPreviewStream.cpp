@@ -23,7 +23,12 @@ namespace {
 
 const QColor PLACEHOLDER(200, 30, 40);
 
-// A shown preview with a red default image, and a stream on it.
+boost::intrusive_ptr<ScriptedReader> ReaderOf(const QColor& color)
+{
+    return new ScriptedReader([frame = SolidFrame({64, 48}, color)] { return frame; });
+}
+
+// A scripted engine, a shown preview with a red default image, a stream on it, and a reader of green frames.
 struct Scene
 {
     Scene() : preview(new VideoPreviewWidget(nullptr)), stream(new WebCameraPreviewStream(preview.get()))
@@ -36,27 +41,27 @@ struct Scene
         preview->show();
     }
 
+    void SetDevice(int rate = 100) const { stream->SetDevice(OrdinaryDevice(rate), "only", rate); }
+
     void Run(int rate = 100) const
     {
-        stream->SetDevice(OrdinaryDevice(rate), "only", rate);
+        SetDevice(rate);
         stream->StartStream();
+    }
+
+    // Each start is answered on a thread of the engine.
+    void AnswerWith(std::function<void(const ScriptedEngine::Session&)> answer)
+    {
+        engine.onStart = [=](const auto& session) { engine.OnThread([=] { answer(session); }); };
     }
 
     QColor Centre() const { return preview->grab().toImage().pixelColor(32, 24); }
 
+    ScriptedEngine engine;
     std::unique_ptr<VideoPreviewWidget> preview;
     QPointer<WebCameraPreviewStream> stream;
+    boost::intrusive_ptr<ScriptedReader> reader = ReaderOf(Qt::green);
 };
-
-boost::intrusive_ptr<ScriptedReader> ReaderOf(const QColor& color)
-{
-    return new ScriptedReader([frame = SolidFrame({64, 48}, color)] { return frame; });
-}
-
-QStringList Repeated(const QString& line, int count)
-{
-    return QVector<QString>(count, line).toList();
-}
 
 const QString ERROR_LINE("E Lib/UI/Widgets/WebCameraPreviewStream:212"
                          " Zelkor::Vx::WebCameraPreviewStream::Impl::handleError:"
@@ -64,82 +69,65 @@ const QString ERROR_LINE("E Lib/UI/Widgets/WebCameraPreviewStream:212"
 
 } // namespace
 
-using Rates = std::vector<Acquis::Rational>;
-Q_DECLARE_METATYPE(Rates)
-
 class tst_WebCameraPreviewStream : public Support::TestCase
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void choosesModeAndRate_data()
-    {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<double>("rate");
-        QTest::addColumn<Rates>("rates");
-        QTest::addColumn<int>("mode");
-        QTest::addColumn<double>("chosen");
-        const Rates usual{{15, 1}, {25, 1}, {30000, 1001}};
-        QTest::newRow("by name and rate") << "B" << 25.0 << usual << 1 << 25.0;
-        QTest::newRow("two of a name: the first") << "A" << 15.0 << usual << 0 << 15.0;
-        QTest::newRow("unknown name: the first; inexact rate: the last") << "C" << 30.0 << usual << 0 << 30000 / 1001.0;
-        QTest::newRow("bad: not a number: the last") << "A" << std::nan("") << usual << 0 << 30000 / 1001.0;
-        QTest::newRow("bad: zero denominator is passed over")
-            << "A" << 0.0 << Rates{{24, 1}, {0, 0}, {30, -1}} << 0 << 24.0;
-        QTest::newRow("bad: below one is passed over") << "A" << 0.5 << Rates{{10, 1}, {1, 2}} << 0 << 10.0;
-        QTest::newRow("bad: nothing usable") << "A" << 0.5 << Rates{{1, 2}, {0, 0}, {-30, 1}} << -1 << 0.0;
-        QTest::newRow("bad: no rates") << "A" << 30.0 << Rates() << -1 << 0.0;
-    }
-
     void choosesModeAndRate()
     {
-        QFETCH(QString, name);
-        QFETCH(double, rate);
-        QFETCH(Rates, rates);
-        QFETCH(int, mode);
-        QFETCH(double, chosen);
-        LogCapture log;
-        ScriptedEngine engine;
-        Scene scene;
-        boost::intrusive_ptr<ScriptedDevice> device(new ScriptedDevice);
-        std::vector<boost::intrusive_ptr<ScriptedMode>> modes;
-        for (const char* modeName : {"A", "B", "A"}) {
-            modes.emplace_back(new ScriptedMode(modeName, rates));
-            device->modes.push_back(modes.back());
+        using Rates = std::vector<Acquis::Rational>;
+        const Rates usual{{15, 1}, {25, 1}, {30000, 1001}};
+        // What is asked for and the rates of each mode; then the mode and the rate that are chosen.
+        using Row = std::tuple<QString, QString, double, Rates, int, double>;
+        const std::vector<Row> rows{
+            {"by name and rate", "B", 25.0, usual, 1, 25.0},
+            {"two of a name: the first", "A", 15.0, usual, 0, 15.0},
+            {"unknown name: the first; inexact rate: the last", "C", 30.0, usual, 0, 30000 / 1001.0},
+            {"bad: not a number: the last", "A", std::nan(""), usual, 0, 30000 / 1001.0},
+            {"bad: zero denominator is passed over", "A", 0.0, {{24, 1}, {0, 0}, {30, -1}}, 0, 24.0},
+            {"bad: below one is passed over", "A", 0.5, {{10, 1}, {1, 2}}, 0, 10.0},
+            {"bad: nothing usable", "A", 0.5, {{1, 2}, {0, 0}, {-30, 1}}, -1, 0.0},
+            {"bad: no rates", "A", 30.0, {}, -1, 0.0},
+        };
+        for (const auto& [description, name, rate, rates, mode, chosen] : rows) {
+            InRow(description);
+            LogCapture log;
+            Scene scene;
+            boost::intrusive_ptr<ScriptedDevice> device(new ScriptedDevice);
+            for (const char* modeName : {"A", "B", "A"})
+                device->modes.emplace_back(new ScriptedMode(modeName, rates));
+            scene.stream->SetDevice(device, name, rate);
+            for (int i = 0; i < 3; ++i) {
+                const Acquis::Rational& set = dynamic_cast<const ScriptedMode&>(*device->modes[i]).chosen;
+                QCOMPARE(double(set.numerator) / set.denominator, i == mode ? chosen : -1.0);
+            }
+            QCOMPARE(scene.engine.created.load(), mode < 0 ? 0 : 1);
+            QCOMPARE(log.Lines().size(), description.startsWith("bad") ? 1 : 0);
+            QCOMPARE(scene.engine.starts.load(), 0);
+            scene.stream->StartStream();
+            QCOMPARE(scene.engine.starts.load(), mode < 0 ? 0 : 1);
         }
-        scene.stream->SetDevice(device, name, rate);
-        for (int i = 0; i < 3; ++i) {
-            const Acquis::Rational& set = modes[i]->chosen;
-            QCOMPARE(double(set.numerator) / set.denominator, i == mode ? chosen : -1.0);
-        }
-        QCOMPARE(engine.created.load(), mode < 0 ? 0 : 1);
-        QCOMPARE(log.Lines().size(), QString(QTest::currentDataTag()).startsWith("bad") ? 1 : 0);
-        QCOMPARE(engine.starts.load(), 0);
-        scene.stream->StartStream();
-        QCOMPARE(engine.starts.load(), mode < 0 ? 0 : 1);
     }
 
     void devicesThatCannotBeUsed()
     {
         LogCapture log;
-        ScriptedEngine engine;
         Scene scene;
         boost::intrusive_ptr<ScriptedDevice> device(new ScriptedDevice);
         scene.stream->SetDevice(device, "A", 30); // no modes at all
         QCOMPARE(log.Take().size(), 1);
-
         device = OrdinaryDevice(); // one whose modes do not belong to it
         device->deniesItsModes = true;
         scene.stream->SetDevice(device, "only", 30);
         QCOMPARE(log.Take(), QStringList("E Lib/UI/Widgets/WebCameraPreviewStream:150"
                                          " Zelkor::Vx::WebCameraPreviewStream::Impl::BuildSession:"
                                          " Incompatible device and settings"));
-        engine.refusesSessions = true;
-        scene.stream->SetDevice(OrdinaryDevice(), "only", 30);
-        scene.stream->StartStream();
+        scene.engine.refusesSessions = true;
+        scene.Run();
         scene.stream->SetDevice(nullptr, "only", 30);
         scene.stream->StartStream();
-        QCOMPARE(engine.starts.load(), 0);
+        QCOMPARE(scene.engine.starts.load(), 0);
         QCOMPARE(log.Take(), QStringList());
     }
 
@@ -150,252 +138,209 @@ private Q_SLOTS:
             void ShowSettingsDialog() override { ++shown; }
             int shown = 0;
         };
-        ScriptedEngine engine;
         Scene scene;
         boost::intrusive_ptr<Dialog> first(new Dialog);
-        engine.deviceSettings = {first, new Dialog};
-        scene.stream->ShowCurrentDeviceSettings();
-        QVERIFY(!scene.stream->IsWebcameraSettingsAvailable());
-        scene.stream->SetDevice(OrdinaryDevice(), "only", 30);
-        QVERIFY(scene.stream->IsWebcameraSettingsAvailable());
-        scene.stream->ShowCurrentDeviceSettings();
-        QCOMPARE(first->shown, 1);
-        scene.stream->SetDevice(nullptr, "", 0);
-        QVERIFY(!scene.stream->IsWebcameraSettingsAvailable());
-        scene.stream->ShowCurrentDeviceSettings();
-        QCOMPARE(first->shown, 1);
+        scene.engine.deviceSettings = {first, new Dialog};
+        for (const int shown : {0, 1, 1}) { // without a device, with one, without it again
+            scene.stream->SetDevice(shown > first->shown ? OrdinaryDevice() : nullptr, "only", 30);
+            QCOMPARE(scene.stream->IsWebcameraSettingsAvailable(), shown > first->shown);
+            scene.stream->ShowCurrentDeviceSettings();
+            QCOMPARE(first->shown, shown);
+        }
     }
 
-    void pictureRunsStopsAndRunsAgain()
+    void pictureRunsAfterTwoErrorsStopsAndRunsAgain()
     {
-        ScriptedEngine engine;
         Scene scene;
-        const auto reader = ReaderOf(Qt::green);
+        QSignalSpy failed(scene.stream, &WebCameraPreviewStream::WebCameraOpenError);
         ScriptedEngine::Session running;
-        engine.onStart = [&](const auto& session) {
-            running = session;
-            engine.OnThread([&engine, session, reader] { session->ReportStarted(reader); });
-        };
-        scene.stream->StartStream();
         QElapsedTimer timer;
-        timer.start();
+        scene.AnswerWith([&](const auto& session) {
+            running = session;
+            timer.start();
+            if (scene.engine.starts < 3)
+                session->ReportError(1);
+            else
+                session->ReportStarted(scene.reader);
+        });
+        scene.stream->StartStream();
         scene.Run();
         QTRY_COMPARE(scene.Centre(), QColor(Qt::green));
+        QCOMPARE(failed.size(), 0);
         // The schedule is absolute: never more ticks than periods, and late ones are made up for.
-        QTRY_VERIFY(reader->reads >= 20);
+        QTRY_VERIFY(scene.reader->reads >= 20);
         QVERIFY(timer.elapsed() >= 20 * 10);
-        QCOMPARE(reader->outputName, std::string("WebCameraPreview"));
-        QCOMPARE(reader->shift->MapTime(-12345), std::int64_t(-12345));
+        QCOMPARE(scene.reader->outputName, std::string("WebCameraPreview"));
+        QCOMPARE(scene.reader->shift->MapTime(-12345), std::int64_t(-12345));
 
         // The session ends by itself: it is kept and can be started again.
-        engine.OnThread([&] { running->ReportStopped(); });
-        engine.Join();
+        scene.engine.OnThread([&] { running->ReportStopped(); });
+        scene.engine.Join();
         QCOMPARE(scene.Centre(), PLACEHOLDER);
         scene.stream->StartStream();
         QTRY_COMPARE(scene.Centre(), QColor(Qt::green));
 
         scene.stream->StopStream();
         QCOMPARE(scene.Centre(), PLACEHOLDER);
-        const int reads = reader->reads;
+        const int reads = scene.reader->reads;
         scene.stream->StartStream();
-        QCOMPARE(engine.starts.load(), 2);
-        QCOMPARE(engine.stops.load(), 1);
-        QCOMPARE(reader->reads.load(), reads);
+        QCOMPARE(scene.engine.starts.load(), 4);
+        QCOMPARE(scene.engine.stops.load(), 1);
+        QCOMPARE(scene.reader->reads.load(), reads);
         running = nullptr;
-        QCOMPARE(engine.alive.load(), 0);
-    }
-
-    void sevenErrorsGiveOneSignal_data()
-    {
-        QTest::addColumn<int>("threads");
-        QTest::addColumn<int>("errorsEach");
-        QTest::newRow("at once, inside start") << 0 << 1;
-        QTest::newRow("on an engine thread") << 1 << 1;
-        QTest::newRow("many at a time from several threads") << 4 << 25;
-        QTest::newRow("once, then there is no session any more") << 0 << 0;
+        QCOMPARE(scene.engine.alive.load(), 0);
     }
 
     void sevenErrorsGiveOneSignal()
     {
-        QFETCH(int, threads);
-        QFETCH(int, errorsEach);
-        LogCapture log;
-        ScriptedEngine engine;
-        Scene scene;
-        QSignalSpy failed(scene.stream, &WebCameraPreviewStream::WebCameraOpenError);
-        QThread* emitter = nullptr;
-        connect(
-            scene.stream, &WebCameraPreviewStream::WebCameraOpenError, scene.stream,
-            [&] { emitter = QThread::currentThread(); }, Qt::DirectConnection);
-        engine.onStart = [&](const auto& session) {
-            if (threads == 0)
-                session->ReportError(5);
-            engine.refusesSessions = errorsEach == 0;
-            for (int i = 0; i < threads; ++i) {
-                engine.OnThread([=] {
-                    for (int k = 0; k < errorsEach; ++k)
+        using Row = std::tuple<const char*, int, int, int>; // threads, errors of each, starts
+        const std::vector<Row> rows{
+            {"at once, inside start", 0, 1, 7},
+            {"on an engine thread", 1, 1, 7},
+            {"many at a time from several threads", 4, 25, 7},
+            {"once, then there is no session any more", 0, 1, 1},
+        };
+        for (const auto& [name, threads, errors, starts] : rows) {
+            InRow(name);
+            LogCapture log;
+            Scene scene;
+            QSignalSpy failed(scene.stream, &WebCameraPreviewStream::WebCameraOpenError);
+            const auto isOnGuiThread = [] { QCOMPARE(QThread::currentThread(), qApp->thread()); };
+            connect(scene.stream, &WebCameraPreviewStream::WebCameraOpenError, isOnGuiThread);
+            scene.engine.onStart = [&, threads = threads, errors = errors, starts = starts](const auto& session) {
+                const auto report = [=] {
+                    for (int i = 0; i < errors; ++i)
                         session->ReportError(5);
-                });
+                };
+                if (threads == 0)
+                    report();
+                scene.engine.refusesSessions = starts == 1;
+                for (int i = 0; i < threads; ++i)
+                    scene.engine.OnThread(report);
+            };
+            scene.SetDevice();
+            for (int round = 1; round <= 2; ++round) {
+                QElapsedTimer timer;
+                timer.start();
+                if (scene.engine.refusesSessions) {
+                    scene.engine.refusesSessions = false;
+                    scene.SetDevice();
+                }
+                scene.stream->StartStream();
+                QTRY_COMPARE_WITH_TIMEOUT(failed.size(), round, 20000);
+                QVERIFY(timer.elapsed() >= 7 * 200);
+                scene.engine.Join();
+                QCOMPARE(scene.engine.starts.load(), starts * round);
+                const QVector<QString> lines(starts * qMax(1, threads) * errors, ERROR_LINE.arg(5));
+                QCOMPARE(log.Take(), QStringList(lines.toList()));
             }
-        };
-        scene.stream->SetDevice(OrdinaryDevice(), "only", 100);
-        const int starts = errorsEach > 0 ? 7 : 1;
-        for (int round = 1; round <= 2; ++round) {
-            QElapsedTimer timer;
-            timer.start();
-            if (starts == 1) {
-                engine.refusesSessions = false;
-                scene.stream->SetDevice(OrdinaryDevice(), "only", 100);
-            }
-            scene.stream->StartStream();
-            QTRY_COMPARE_WITH_TIMEOUT(failed.size(), round, 20000);
-            QVERIFY(timer.elapsed() >= 7 * 200);
-            engine.Join();
-            QCOMPARE(engine.starts.load(), starts * round);
-            QCOMPARE(log.Take(), Repeated(ERROR_LINE.arg(5), starts * qMax(1, threads) * qMax(1, errorsEach)));
+            scene.stream->StopStream();
+            QCOMPARE(scene.engine.alive.load(), 0);
         }
-        QCOMPARE(emitter, qApp->thread());
-        scene.stream->StopStream();
-        QCOMPARE(engine.alive.load(), 0);
-    }
-
-    void retrySucceeds()
-    {
-        ScriptedEngine engine;
+        // A slot of the signal may delete the preview.
         Scene scene;
-        QSignalSpy failed(scene.stream, &WebCameraPreviewStream::WebCameraOpenError);
-        const auto reader = ReaderOf(Qt::green);
-        engine.onStart = [&](const auto& session) {
-            engine.OnThread([&, session] {
-                if (engine.starts < 3)
-                    session->ReportError(1);
-                else
-                    session->ReportStarted(reader);
-            });
-        };
+        scene.engine.onStart = [](const auto& session) { session->ReportError(1); };
+        connect(scene.stream, &WebCameraPreviewStream::WebCameraOpenError, qApp, [&] { scene.preview.reset(); });
         scene.Run();
-        QTRY_COMPARE(scene.Centre(), QColor(Qt::green));
-        QCOMPARE(engine.starts.load(), 3);
-        QCOMPARE(failed.size(), 0);
+        QTRY_VERIFY_WITH_TIMEOUT(!scene.preview, 20000);
     }
 
     // What the application stopped does not start again. A second stream, left alone, tells when a retry would have
     // come.
-    void stopCancelsARetry_data()
-    {
-        QTest::addColumn<bool>("byStop");
-        QTest::newRow("StopStream") << true;
-        QTest::newRow("SetDevice") << false;
-    }
-
     void stopCancelsARetry()
     {
-        QFETCH(bool, byStop);
-        ScriptedEngine engine;
-        Scene stopped;
-        Scene other;
-        engine.onStart = [&](const auto& session) { session->ReportError(1); };
-        for (const Scene* scene : {&stopped, &other})
-            scene->stream->SetDevice(OrdinaryDevice(), "only", 100);
-        stopped.stream->StartStream();
-        if (byStop)
-            stopped.stream->StopStream();
-        else
-            stopped.stream->SetDevice(OrdinaryDevice(), "only", 100);
-        other.stream->StartStream();
-        QTRY_VERIFY(engine.starts >= 4);
-        QCOMPARE(engine.starts.load(), 4);
-        QCOMPARE(engine.created.load(), 2 + 2 + (byStop ? 0 : 1));
+        for (const bool byStop : {true, false}) {
+            Scene scene;
+            VideoPreviewWidget preview(nullptr);
+            auto* other = new WebCameraPreviewStream(&preview);
+            scene.engine.onStart = [&](const auto& session) { session->ReportError(1); };
+            other->SetDevice(OrdinaryDevice(), "only", 100);
+            scene.Run();
+            if (byStop)
+                scene.stream->StopStream();
+            else
+                scene.SetDevice();
+            other->StartStream();
+            QTRY_VERIFY(scene.engine.starts >= 4);
+            QCOMPARE(scene.engine.starts.load(), 4);
+            QCOMPARE(scene.engine.created.load(), 2 + 2 + (byStop ? 0 : 1));
+        }
     }
 
     void lateCallsOfAReplacedSessionTouchNothing()
     {
         LogCapture log;
-        ScriptedEngine engine;
         Scene scene;
         std::vector<ScriptedEngine::Session> sessions;
         const auto stale = ReaderOf(Qt::blue);
-        const auto current = ReaderOf(Qt::green);
-        engine.onStop = [](const auto&) {};
-        engine.onStart = [&](const auto& session) { sessions.push_back(session); };
+        const auto reportLate = [&](int index) {
+            sessions[index]->ReportStarted(stale);
+            sessions[index]->ReportError(3);
+            sessions[index]->ReportStopped();
+        };
+        scene.engine.onStop = [](const auto&) {};
+        scene.engine.onStart = [&](const auto& session) { sessions.push_back(session); };
         for (int i = 0; i < 2; ++i)
             scene.Run();
         sessions[0]->ReportStarted(stale);
-        sessions[1]->ReportStarted(current);
-        engine.OnThread([&] {
-            sessions[0]->ReportStarted(stale);
-            sessions[0]->ReportError(3);
-            sessions[0]->ReportStopped();
-        });
-        engine.Join();
-        const int reads = current->reads;
-        QTRY_VERIFY(current->reads > reads + 25); // beyond the time of a retry
+        sessions[1]->ReportStarted(scene.reader);
+        scene.engine.OnThread([&] { reportLate(0); });
+        scene.engine.Join();
+        const int reads = scene.reader->reads;
+        QTRY_VERIFY(scene.reader->reads > reads + 25); // beyond the time of a retry
         QCOMPARE(stale->reads.load(), 0);
-        QCOMPARE(engine.starts.load(), 2);
+        QCOMPARE(scene.engine.starts.load(), 2);
         QCOMPARE(scene.Centre(), QColor(Qt::green));
         QCOMPARE(log.Lines(), QStringList(ERROR_LINE.arg(3)));
 
         scene.preview.reset();
-        for (const auto& session : sessions) {
-            session->ReportStarted(stale);
-            session->ReportError(3);
-            session->ReportStopped();
-        }
+        reportLate(0);
+        reportLate(1);
         QCOMPARE(stale->reads.load(), 0);
-    }
-
-    void destroyedWhileRunning_data()
-    {
-        QTest::addColumn<QString>("what");
-        for (const char* what : {"preview", "stream", "preview without its stream", "while an error is pending"})
-            QTest::newRow(what) << what;
     }
 
     void destroyedWhileRunning()
     {
-        QFETCH(QString, what);
-        for (int i = 0; i < 20; ++i) {
-            ScriptedEngine engine;
-            Scene scene;
-            const auto reader = ReaderOf(Qt::green);
-            engine.onStart = [&](const auto& session) {
-                engine.OnThread([=] {
+        for (const QString what : {"preview", "stream", "preview without its stream", "preview, an error is pending"}) {
+            InRow(what);
+            for (int i = 0; i < 20; ++i) {
+                Scene scene;
+                const auto reader = scene.reader;
+                scene.AnswerWith([=](const auto& session) {
                     session->ReportStarted(reader);
                     if (what.contains("error"))
                         session->ReportError(1);
                 });
-            };
-            scene.Run(1000);
-            QTRY_VERIFY(reader->reads > i % 3);
-            std::unique_ptr<WebCameraPreviewStream> orphan;
-            if (what == "preview without its stream") {
-                orphan.reset(scene.stream);
-                orphan->setParent(nullptr);
+                scene.Run(1000);
+                QTRY_VERIFY(reader->reads > i % 3);
+                std::unique_ptr<WebCameraPreviewStream> orphan;
+                if (what.contains("stream")) {
+                    orphan.reset(scene.stream);
+                    orphan->setParent(nullptr);
+                }
+                if (what == "stream")
+                    orphan.reset();
+                else
+                    scene.preview.reset();
+                const int reads = reader->reads;
+                if (orphan) {
+                    orphan->StartStream();
+                    orphan->SetDevice(OrdinaryDevice(), "only", 100);
+                    orphan->StartStream();
+                    orphan->StopStream();
+                }
+                scene.engine.Join();
+                QCOMPARE(reader->reads.load(), reads);
             }
-            if (what == "stream")
-                delete scene.stream.data();
-            else
-                scene.preview.reset();
-            const int reads = reader->reads;
-            if (orphan) {
-                orphan->StartStream();
-                orphan->SetDevice(OrdinaryDevice(), "only", 100);
-                orphan->StartStream();
-                orphan->StopStream();
-            }
-            engine.Join();
-            QCOMPARE(reader->reads.load(), reads);
         }
     }
 
     void startAndStopFromTwoThreads()
     {
-        ScriptedEngine engine;
         Scene scene;
-        const auto reader = ReaderOf(Qt::green);
-        engine.onStart = [&](const auto& session) {
-            const int turn = engine.starts % 3;
-            engine.OnThread([=] {
+        scene.engine.onStart = [&](const auto& session) {
+            const int turn = scene.engine.starts % 3;
+            scene.engine.OnThread([=, reader = scene.reader] {
                 if (turn == 0)
                     session->ReportError(1);
                 else
@@ -406,54 +351,50 @@ private Q_SLOTS:
         };
         FLAGS_minloglevel = google::GLOG_FATAL;
         for (int i = 0; i < 1000; ++i) {
-            scene.stream->SetDevice(OrdinaryDevice(1000), "only", 1000);
+            scene.SetDevice(1000);
             std::thread starter([&] { scene.stream->StartStream(); });
             std::thread stopper([&] { scene.stream->StopStream(); });
             QCoreApplication::processEvents();
             starter.join();
             stopper.join();
             if (i % 50 == 0)
-                engine.Join();
+                scene.engine.Join();
         }
         FLAGS_minloglevel = google::GLOG_INFO;
-        engine.Join();
+        scene.engine.Join();
         scene.stream->StopStream();
-        QCOMPARE(engine.alive.load(), 0);
-        const int reads = reader->reads;
+        QCOMPARE(scene.engine.alive.load(), 0);
+        const int reads = scene.reader->reads;
         QCoreApplication::processEvents();
-        QCOMPARE(reader->reads.load(), reads);
+        QCOMPARE(scene.reader->reads.load(), reads);
         QCOMPARE(scene.Centre(), PLACEHOLDER);
     }
 
     void stopFreesAStartThatHangs()
     {
-        ScriptedEngine engine;
         Scene scene;
         QSemaphore hanging;
         QSemaphore stopped;
-        engine.onStart = [&](const auto&) {
+        scene.engine.onStart = [&](const auto&) {
             hanging.release();
             stopped.acquire();
         };
-        engine.onStop = [&](const auto&) { stopped.release(); };
-        scene.stream->SetDevice(OrdinaryDevice(), "only", 100);
+        scene.engine.onStop = [&](const auto&) { stopped.release(); };
+        scene.SetDevice();
         std::thread starter([&] { scene.stream->StartStream(); });
         hanging.acquire();
         scene.stream->StopStream();
         starter.join();
-        QCOMPARE(engine.alive.load(), 0);
+        QCOMPARE(scene.engine.alive.load(), 0);
     }
 
     // An engine may notice the end of a device while it is read, on the pump's own thread.
     void sessionEndsWhileItIsRead()
     {
-        ScriptedEngine engine;
         Scene scene;
-        ScriptedEngine::Session running;
         std::atomic<int> reads{0};
-        engine.onStart = [&](const auto& session) {
-            running = session;
-            session->ReportStarted(new ScriptedReader([&]() -> boost::intrusive_ptr<Proc::IDataVideo> {
+        scene.engine.onStart = [&](const auto& session) {
+            session->ReportStarted(new ScriptedReader([&, running = session.get()] {
                 if (++reads == 3)
                     running->ReportStopped();
                 return SolidFrame({64, 48}, Qt::green);
@@ -466,28 +407,24 @@ private Q_SLOTS:
         scene.stream->StopStream();
     }
 
-    void slotMayDeleteThePreview()
-    {
-        ScriptedEngine engine;
-        Scene scene;
-        engine.onStart = [](const auto& session) { session->ReportError(1); };
-        connect(scene.stream, &WebCameraPreviewStream::WebCameraOpenError, qApp, [&] { scene.preview.reset(); });
-        scene.Run();
-        QTRY_VERIFY_WITH_TIMEOUT(!scene.preview, 20000);
-    }
-
     void testPictureRunsInThePreview()
     {
-        Scene scene;
+        auto preview = std::make_unique<VideoPreviewWidget>(nullptr);
+        auto* stream = new WebCameraPreviewStream(preview.get());
+        preview->SetPreviewWidth(64);
+        preview->SetPreviewHeight(48);
+        preview->show();
+        const auto grab = [&] { return preview->grab().toImage(); };
+        const QImage placeholder = grab();
         const auto device = StandIn::CreateTestPictureDevice();
         for (const auto& mode : device->GetModes()) {
-            scene.stream->SetDevice(device, QString::fromStdString(mode->GetName()), 30);
-            scene.stream->StartStream();
-            QTRY_VERIFY(scene.Centre() != PLACEHOLDER);
-            const QImage before = scene.preview->grab().toImage();
-            QTRY_VERIFY(scene.preview->grab().toImage() != before);
+            stream->SetDevice(device, QString::fromStdString(mode->GetName()), 30);
+            stream->StartStream();
+            QTRY_VERIFY(grab() != placeholder);
+            const QImage before = grab();
+            QTRY_VERIFY(grab() != before);
         }
-        scene.preview.reset();
+        preview.reset();
         QVERIFY(StandIn::WaitForEngineIdle(std::chrono::seconds(5)));
     }
 };

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QEvent>
+#include <QObject>
+
+#include <functional>
+#include <utility>
+
+namespace Support {
+
+/// While it lives, shows `see` each event of `object` before the object gets it.
+class EventWatch : public QObject
+{
+public:
+    EventWatch(QObject* object, std::function<void(QEvent::Type, QEvent*)> see) : see(std::move(see))
+    {
+        object->installEventFilter(this);
+    }
+
+private:
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        see(event->type(), event);
+        return false;
+    }
+
+    std::function<void(QEvent::Type, QEvent*)> see;
+};
+
+} // namespace Support
