@@ -60,8 +60,10 @@ int main(int argc, char* argv[])
         std::printf("the engine still has threads\n");
         return 1;
     }
-    // Every mode was there in the first third, so what comes later is growth; the allocator has its own ups and downs.
+    // Every mode was there in the first third, so what comes later is growth. The allocator has its ups and downs, and
+    // at the moment of a measurement there is now one picture more, now one less.
     constexpr double TOLERANCE = 1.1;
+    constexpr double LARGEST_PICTURE = 1920 * 1080 * 4 / 1e6;
     std::printf("peak %.1f MB, then %.1f MB\n", early, late);
-    return late <= early * TOLERANCE ? 0 : 1;
+    return late <= early * TOLERANCE + LARGEST_PICTURE ? 0 : 1;
 }

@@ -71,7 +71,7 @@ void MaskedToolTip::Show(const QPoint& globalPos)
 
 void MaskedToolTip::changeEvent(QEvent* event)
 {
-    QWidget::changeEvent(event);
+    ZFrame::changeEvent(event);
     if (event->type() == QEvent::ActivationChange && hideOnDeactivate && !isActiveWindow())
         close();
 }

@@ -33,7 +33,7 @@ QImage PartOf(const QImage& image, const QRect& part)
     const bool isPlain = image.depth() % 8 == 0 && image.colorCount() == 0;
     if (!isPlain || !image.rect().contains(part))
         return image.copy(part);
-    const uchar* corner = image.constScanLine(part.top()) + part.left() * bytes;
+    const uchar* corner = image.constScanLine(part.top()) + std::ptrdiff_t(part.left()) * bytes;
     return QImage(corner, part.width(), part.height(), image.bytesPerLine(), image.format());
 }
 
