@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <vector>
 
 namespace Zelkor::ShadowRim {
 
@@ -95,18 +96,14 @@ void DrawBands(QPainter& painter, const Input& input)
     }
     const int between = height - 2 * rows;
     if (columns > 0 && height / 2 > rows) {
+        // All rows between the corners are alike, but for the middle one of an odd height, which stays clear.
+        std::vector<QRgb> row;
+        for (int x = 0; x < columns; ++x)
+            row.push_back(ColorAt(input, x, rows));
         QImage band = MakeImage(columns, between);
         for (int y = 0; y < between; ++y) {
-            if (height % 2 == 1 && y == between / 2)
-                continue; // the middle row
-            auto* row = reinterpret_cast<QRgb*>(band.scanLine(y));
-            if (y == 0) {
-                for (int x = 0; x < columns; ++x)
-                    row[x] = ColorAt(input, x, rows);
-            } else {
-                const auto* first = reinterpret_cast<const QRgb*>(band.constScanLine(0));
-                std::copy(first, first + columns, row);
-            }
+            if (between % 2 == 0 || y != between / 2)
+                std::copy(row.begin(), row.end(), reinterpret_cast<QRgb*>(band.scanLine(y)));
         }
         painter.drawImage(QPointF(0, rows), band);
         painter.drawImage(QPointF(width - columns, rows), band.mirrored(true, false));

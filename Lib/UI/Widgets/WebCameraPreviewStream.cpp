@@ -26,8 +26,9 @@ namespace {
 
 const UI::Common::LogSource LOG_SOURCE("Lib/UI/Widgets/WebCameraPreviewStream");
 
-using Clock =
-    std::chrono::steady_clock; /// The preview shows frames as they come: their time stamps are left as they are.
+using Clock = std::chrono::steady_clock;
+
+/// The preview shows frames as they come: their time stamps are left as they are.
 class TimeShift : public Acquis::TimeShift
 {
 public:
