@@ -1,0 +1,113 @@
+#include "Catalogue.h"
+
+#include <UI/Widgets/CountdownIndicatorWidget.h>
+#include <UI/Widgets/CursorHighlightPreviewWidget.h>
+
+#include <QColor>
+
+using Zelkor::Vx::CountdownIndicatorWidget;
+using Zelkor::Vx::UI::CursorHighlightPreviewWidget;
+
+namespace Zelkor::Gallery {
+
+namespace {
+
+constexpr unsigned long long MINUTE = 60;
+constexpr unsigned long long HOUR = 60 * MINUTE;
+constexpr unsigned long long DAY = 24 * HOUR;
+
+constexpr int TYPICAL_RADIUS = 28;
+constexpr int LARGE_RADIUS = 64;
+constexpr int THICK_BORDER = 8;
+constexpr QColor HIGHLIGHT(255, 184, 0);
+constexpr QColor TRANSLUCENT_HIGHLIGHT(255, 92, 95, 112);
+const QString THICK_BORDER_SHEET = QStringLiteral("* { qproperty-borderColor: #3567e0 }");
+
+template<class Widget>
+QWidget* Create(QWidget* parent)
+{
+    return new Widget(parent);
+}
+
+State CountdownState(const QString& name, unsigned long long seconds)
+{
+    return MakeState<CountdownIndicatorWidget>(
+        name, [seconds](CountdownIndicatorWidget& countdown) { countdown.SetSeconds(seconds); });
+}
+
+Entry CountdownEntry()
+{
+    return {
+        "CountdownIndicatorWidget",
+        Catalogue::tr("Indicators"),
+        Catalogue::tr("Shows a remaining time as three numbers with captions, in the units that suit it."),
+        "CountdownIndicatorWidget",
+        "countdown",
+        Create<CountdownIndicatorWidget>,
+        {
+            CountdownState(Catalogue::tr("Fresh"), 0),
+            CountdownState(Catalogue::tr("Short"), 5),
+            CountdownState(Catalogue::tr("Hours"), 12 * HOUR + 34 * MINUTE + 56),
+            CountdownState(Catalogue::tr("Days"), 8 * DAY + 6 * HOUR + 45 * MINUTE),
+            CountdownState(Catalogue::tr("Months"), 200 * DAY + 21 * HOUR),
+            CountdownState(Catalogue::tr("Years"), 800 * DAY),
+            MakeState<CountdownIndicatorWidget>(Catalogue::tr("Disabled"),
+                                                [](CountdownIndicatorWidget& countdown) {
+                                                    countdown.SetSeconds(90 * MINUTE);
+                                                    countdown.setEnabled(false);
+                                                }),
+        },
+    };
+}
+
+State DiscState(const QString& name, int radius, const QColor& color)
+{
+    return MakeState<CursorHighlightPreviewWidget>(name, [radius, color](CursorHighlightPreviewWidget& preview) {
+        preview.SetColor(color);
+        preview.SetRadius(radius);
+    });
+}
+
+QWidget* CreateFramed(int borderWidth, QWidget* parent)
+{
+    auto* preview = new CursorHighlightPreviewWidget(parent);
+    preview->SetBorderWidth(borderWidth);
+    preview->SetColor(HIGHLIGHT);
+    preview->SetRadius(TYPICAL_RADIUS);
+    return preview;
+}
+
+Entry CursorHighlightEntry()
+{
+    return {
+        "CursorHighlightPreviewWidget",
+        Catalogue::tr("Indicators"),
+        Catalogue::tr("Shows how the highlight around the mouse cursor will look."),
+        "CursorHighlightPreviewWidget",
+        "pointer",
+        Create<CursorHighlightPreviewWidget>,
+        {
+            MakeState<CursorHighlightPreviewWidget>(Catalogue::tr("Fresh"), [](CursorHighlightPreviewWidget&) {}),
+            DiscState(Catalogue::tr("Typical"), TYPICAL_RADIUS, HIGHLIGHT),
+            DiscState(Catalogue::tr("Translucent colour"), TYPICAL_RADIUS, TRANSLUCENT_HIGHLIGHT),
+            DiscState(Catalogue::tr("Larger than the preview"), LARGE_RADIUS, HIGHLIGHT),
+            MadeState(Catalogue::tr("Thick border"),
+                      [](QWidget* parent) {
+                          QWidget* preview = CreateFramed(THICK_BORDER, parent);
+                          // What the application's style sheet sets would come back with every change of it.
+                          preview->setStyleSheet(THICK_BORDER_SHEET);
+                          return preview;
+                      }),
+            MadeState(Catalogue::tr("No border"), [](QWidget* parent) { return CreateFramed(0, parent); }),
+        },
+    };
+}
+
+} // namespace
+
+QVector<Entry> IndicatorEntries()
+{
+    return {CountdownEntry(), CursorHighlightEntry()};
+}
+
+} // namespace Zelkor::Gallery

@@ -1,0 +1,152 @@
+#include <UI/Widgets/CursorHighlightPreviewWidget.h>
+
+#include <UI/Common/AccessibleFactory.h>
+
+#include <Zelkor/Util/ImageGenerator.h>
+
+#include <QAccessibleWidget>
+#include <QCoreApplication>
+#include <QPainter>
+
+namespace Zelkor::Vx::UI {
+
+namespace {
+
+constexpr int SIDE = 84;
+constexpr int SQUARE = 6;
+
+// The corners of the preview are 60 pixels from the centre. That is an eighth of this radius, where a cubic has fallen
+// by a five hundredth: less than one of 255 steps, so a larger disc would look the same. It could be gigabytes, though.
+constexpr int LARGEST_RADIUS = 512;
+
+// Beyond these, the widget would have a size that Qt does not take.
+constexpr int SMALLEST_BORDER = -SIDE / 2;
+constexpr int LARGEST_BORDER = (QWIDGETSIZE_MAX - SIDE) / 2;
+
+int UsableBorder(int borderWidth)
+{
+    return qBound(SMALLEST_BORDER, borderWidth, LARGEST_BORDER);
+}
+
+void PaintCheckerboard(QPainter& painter, const QPoint& corner, const QSize& size)
+{
+    for (int i = 0; i < size.width() / SQUARE; ++i) {
+        for (int j = 0; j < size.height() / SQUARE; ++j) {
+            const QRect square(corner + QPoint(i, j) * SQUARE, QSize(SQUARE, SQUARE));
+            painter.fillRect(square, (i + j) % 2 == 0 ? Qt::white : Qt::darkGray);
+        }
+    }
+}
+
+// Filled and not drawn with a pen: that would round the corners of a thick frame, miss the edge at some device pixel
+// ratios, and draw a line even for a width of 0. `width` may be negative, then there is nothing to fill.
+void PaintFrame(QPainter& painter, const QRect& outside, int width, const QColor& color)
+{
+    for (const QRect& part : QRegion(outside) - outside.adjusted(width, width, -width, -width))
+        painter.fillRect(part, color);
+}
+
+class AccessiblePreview : public QAccessibleWidget
+{
+public:
+    explicit AccessiblePreview(QWidget* preview) : QAccessibleWidget(preview, QAccessible::Graphic) {}
+
+    QString text(QAccessible::Text kind) const override
+    {
+        QString own = QAccessibleWidget::text(kind);
+        if (kind != QAccessible::Name || !own.isEmpty())
+            return own;
+        return QCoreApplication::translate("CursorHighlightPreviewWidget", "Preview of the cursor highlight");
+    }
+};
+
+} // namespace
+
+const QSize CursorHighlightPreviewWidget::previewSize(SIDE, SIDE);
+
+CursorHighlightPreviewWidget::CursorHighlightPreviewWidget(QWidget* parent) : QWidget(parent)
+{
+    Common::AccessibleFactory<CursorHighlightPreviewWidget, AccessiblePreview>::Install();
+    UpdateSize();
+}
+
+CursorHighlightPreviewWidget::~CursorHighlightPreviewWidget() = default;
+
+int CursorHighlightPreviewWidget::GetRadius() const
+{
+    return radius;
+}
+
+QColor CursorHighlightPreviewWidget::GetColor()
+{
+    return color;
+}
+
+int CursorHighlightPreviewWidget::GetBorderWidth() const
+{
+    return borderWidth;
+}
+
+void CursorHighlightPreviewWidget::SetBorderWidth(int width)
+{
+    borderWidth = width;
+    UpdateSize();
+}
+
+QColor CursorHighlightPreviewWidget::GetBorderColor() const
+{
+    return borderColor;
+}
+
+void CursorHighlightPreviewWidget::SetBorderColor(const QColor& newColor)
+{
+    borderColor = newColor;
+    update();
+}
+
+void CursorHighlightPreviewWidget::SetRadius(int newRadius)
+{
+    radius = newRadius;
+    UpdateImage();
+    update();
+}
+
+void CursorHighlightPreviewWidget::SetDiameter(int diameter)
+{
+    SetRadius(diameter / 2);
+}
+
+void CursorHighlightPreviewWidget::SetColor(const QColor& newColor)
+{
+    color = newColor;
+    UpdateImage();
+    update();
+}
+
+void CursorHighlightPreviewWidget::paintEvent(QPaintEvent* event)
+{
+    QWidget::paintEvent(event);
+    QPainter painter(this);
+    const int border = UsableBorder(borderWidth);
+    PaintCheckerboard(painter, QPoint(border, border), previewSize);
+    // The disc has a pixel per pixel of the widget. Where the screen has more, they are blended, which suits its soft
+    // edge as well as a larger disc would.
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    const int place = border + (previewSize.width() - image.width()) / 2;
+    painter.drawImage(place, place, image);
+    PaintFrame(painter, rect(), border, borderColor);
+}
+
+void CursorHighlightPreviewWidget::UpdateImage()
+{
+    const int side = 2 * qBound(0, radius, LARGEST_RADIUS);
+    image = Zelkor::Util::ImageGenerator::CreateCircleWithAlphaGradientCubic(QSize(side, side), color);
+}
+
+void CursorHighlightPreviewWidget::UpdateSize()
+{
+    const int border = UsableBorder(borderWidth);
+    setFixedSize(previewSize + QSize(2 * border, 2 * border));
+}
+
+} // namespace Zelkor::Vx::UI
