@@ -1,0 +1,171 @@
+#include "Catalogue.h"
+
+#include <UI/Kit/ZFrame.h>
+#include <UI/Widgets/CustomTabWidget.h>
+#include <UI/Widgets/HorizontalTabBar.h>
+#include <UI/Widgets/ResizableStackedWidget.h>
+
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+#include <QVariant>
+
+namespace Zelkor::Gallery {
+
+namespace {
+
+constexpr int SCROLLED_WIDTH = 280;
+constexpr QSize PAGES_SIZE(400, 160);
+
+QStringList SourceNames()
+{
+    return {Catalogue::tr("&Screen"), Catalogue::tr("&Camera"), Catalogue::tr("&Microphone")};
+}
+
+QWidget* CreateTabBar(QWidget* parent)
+{
+    auto* bar = new Vx::HorizontalTabBar(parent);
+    for (const QString& name : SourceNames())
+        bar->addTab(name);
+    return bar;
+}
+
+// The style sheet has the icons of the tabs with this role, and room for them.
+void ShowIcons(QTabBar& bar)
+{
+    bar.setProperty("role", QStringLiteral("sources"));
+}
+
+void ShowMany(QTabBar& bar)
+{
+    for (int i = 1; i < 10; ++i)
+        bar.addTab(Catalogue::tr("Recording %1").arg(i));
+    bar.setCurrentIndex(5);
+    bar.setFixedWidth(SCROLLED_WIDTH);
+}
+
+void MakeMovable(QTabBar& bar)
+{
+    bar.setTabsClosable(true);
+    bar.setMovable(true);
+    QObject::connect(&bar, &QTabBar::tabCloseRequested, &bar, &QTabBar::removeTab);
+}
+
+void MakeVertical(QTabBar& bar)
+{
+    ShowIcons(bar);
+    bar.setShape(QTabBar::RoundedWest);
+    bar.setExpanding(false);
+}
+
+QWidget* CreatePage(const QString& text)
+{
+    auto* page = new QWidget;
+    auto* layout = new QVBoxLayout(page);
+    auto* label = new QLabel(text);
+    label->setWordWrap(true);
+    layout->addWidget(label);
+    layout->addStretch();
+    return page;
+}
+
+QWidget* CreateTabWidget(QWidget* parent)
+{
+    auto* tabs = new Vx::CustomTabWidget(parent);
+    tabs->addTab(CreatePage(Catalogue::tr("What is on the screen, or a part of it.")), SourceNames()[0]);
+    tabs->addTab(CreatePage(Catalogue::tr("A camera, in a corner of the picture.")), SourceNames()[1]);
+    tabs->addTab(CreatePage(Catalogue::tr("The sound of what is said.")), SourceNames()[2]);
+    tabs->setFixedSize(PAGES_SIZE);
+    return tabs;
+}
+
+// Three pages of different size; the button of each leads to the next.
+QWidget* CreateStack(QWidget* parent)
+{
+    auto* stack = new ResizableStackedWidget(parent);
+    const QStringList texts = {Catalogue::tr("A small page"), Catalogue::tr("A page that is wider than the others"),
+                               Catalogue::tr("A page\nthat is higher\nthan the others\nand not wide")};
+    for (int i = 0; i < texts.size(); ++i) {
+        auto* page = new ZFrame;
+        auto* layout = new QVBoxLayout(page);
+        auto* button = new QPushButton(Catalogue::tr("Next page"));
+        layout->addWidget(new QLabel(texts[i]));
+        layout->addWidget(button);
+        page->setProperty("role", QStringLiteral("card"));
+        stack->addWidget(page);
+        QObject::connect(button, &QPushButton::clicked, stack,
+                         [stack, i, count = texts.size()] { stack->setCurrentIndex((i + 1) % count); });
+    }
+    return stack;
+}
+
+Entry TabBarEntry()
+{
+    return {
+        "HorizontalTabBar",
+        Catalogue::tr("Tabs"),
+        Catalogue::tr("A tab bar whose style sheet says where text and icon of a tab are, and how they change with the "
+                      "selection."),
+        "HorizontalTabBar",
+        "tabs",
+        CreateTabBar,
+        {
+            MakeState<QTabBar>(Catalogue::tr("Text"), [](QTabBar&) {}),
+            MakeState<QTabBar>(Catalogue::tr("Icons"), ShowIcons),
+            MakeState<QTabBar>(Catalogue::tr("One disabled"), [](QTabBar& bar) { bar.setTabEnabled(1, false); }),
+            MakeState<QTabBar>(Catalogue::tr("Scrolled"), ShowMany),
+            MakeState<QTabBar>(Catalogue::tr("Closable and movable"), MakeMovable),
+            MakeState<QTabBar>(Catalogue::tr("Vertical"), MakeVertical),
+            DisabledState(),
+        },
+    };
+}
+
+Entry TabWidgetEntry()
+{
+    return {
+        "CustomTabWidget",
+        Catalogue::tr("Tabs"),
+        Catalogue::tr("A tab widget with that tab bar."),
+        "CustomTabWidget",
+        "panel",
+        CreateTabWidget,
+        {
+            MakeState<QTabWidget>(Catalogue::tr("Text"), [](QTabWidget&) {}),
+            MakeState<QTabWidget>(Catalogue::tr("Icons"),
+                                  [](QTabWidget& tabs) { ShowIcons(*tabs.findChild<QTabBar*>()); }),
+            MakeState<QTabWidget>(Catalogue::tr("At the side"),
+                                  [](QTabWidget& tabs) { tabs.setTabPosition(QTabWidget::West); }),
+            DisabledState(),
+        },
+    };
+}
+
+Entry StackEntry()
+{
+    return {
+        "ResizableStackedWidget",
+        Catalogue::tr("Tabs"),
+        Catalogue::tr("A stack of pages that is fixed to the size of the page it shows."),
+        "ResizableStackedWidget",
+        "layers",
+        CreateStack,
+        {
+            MakeState<QStackedWidget>(Catalogue::tr("Small page"), [](QStackedWidget&) {}),
+            MakeState<QStackedWidget>(Catalogue::tr("Wide page"),
+                                      [](QStackedWidget& stack) { stack.setCurrentIndex(1); }),
+            MakeState<QStackedWidget>(Catalogue::tr("High page"),
+                                      [](QStackedWidget& stack) { stack.setCurrentIndex(2); }),
+            DisabledState(),
+        },
+    };
+}
+
+} // namespace
+
+QVector<Entry> TabEntries()
+{
+    return {TabBarEntry(), TabWidgetEntry(), StackEntry()};
+}
+
+} // namespace Zelkor::Gallery

@@ -1,0 +1,254 @@
+#include <UI/Widgets/HorizontalTabBar.h>
+
+#include <QChildEvent>
+#include <QFileInfo>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QScopedValueRollback>
+#include <QStyleOptionTab>
+
+namespace Zelkor::Vx {
+
+namespace {
+
+const QLatin1Char PATH_SEPARATOR(';');
+
+// Asking first spares the warning that the reader of SVG files gives.
+QIcon LoadIcon(const QString& path)
+{
+    return QFileInfo::exists(path) ? QIcon(path) : QIcon();
+}
+
+// Leads from a tab's face, on which text is level and the origin is the top left corner, to the tab in its bar.
+QTransform FaceToBar(const QRect& tab, bool turned, bool atEast)
+{
+    if (!turned)
+        return QTransform::fromTranslate(tab.x(), tab.y());
+    if (atEast)
+        return QTransform::fromTranslate(tab.x() + tab.width(), tab.y()).rotate(90);
+    return QTransform::fromTranslate(tab.x(), tab.y() + tab.height()).rotate(-90);
+}
+
+QString Elided(const QString& text, const QFontMetrics& metrics, Qt::TextElideMode mode, int width)
+{
+    // A text of several lines that fits stays as it is.
+    if (mode == Qt::ElideNone || metrics.size(Qt::TextShowMnemonic, text).width() <= width)
+        return text;
+    return metrics.elidedText(text, mode, width, Qt::TextShowMnemonic);
+}
+
+// What is left of a text's place beside a button, on the side with more room.
+QRect Beside(const QRect& button, QRect text)
+{
+    if (!button.intersects(text))
+        return text;
+    if (button.left() - text.left() > text.right() - button.right())
+        text.setRight(button.left() - 1);
+    else
+        text.setLeft(button.right() + 1);
+    return text;
+}
+
+} // namespace
+
+HorizontalTabBar::HorizontalTabBar(QWidget* parent) : QTabBar(parent)
+{
+    connect(this, &QTabBar::currentChanged, this, &HorizontalTabBar::UpdateIcons);
+    // Icons belong to positions, and a tab that moves takes its own along.
+    connect(this, &QTabBar::tabMoved, this, &HorizontalTabBar::UpdateIcons);
+}
+
+HorizontalTabBar::~HorizontalTabBar() = default;
+
+QString HorizontalTabBar::GetPathsNormalIcons() const
+{
+    return pathsNormalIcons.join(PATH_SEPARATOR);
+}
+
+void HorizontalTabBar::SetPathsNormalIcons(const QString& paths)
+{
+    SetPaths(pathsNormalIcons, paths);
+}
+
+QString HorizontalTabBar::GetPathsSelectedIcons() const
+{
+    return pathsSelectedIcons.join(PATH_SEPARATOR);
+}
+
+void HorizontalTabBar::SetPathsSelectedIcons(const QString& paths)
+{
+    SetPaths(pathsSelectedIcons, paths);
+}
+
+void HorizontalTabBar::SetPaths(QStringList& list, const QString& paths)
+{
+    list = paths.split(PATH_SEPARATOR);
+    icons.clear();
+    UpdateIcons();
+}
+
+void HorizontalTabBar::UpdateIcons()
+{
+    for (int i = 0; i < count(); ++i) {
+        const QStringList& paths = i == currentIndex() ? pathsSelectedIcons : pathsNormalIcons;
+        if (i >= paths.size())
+            continue;
+        auto icon = icons.find(paths[i]);
+        if (icon == icons.end())
+            icon = icons.insert(paths[i], LoadIcon(paths[i]));
+        // Setting an icon may lay out the whole bar.
+        if (icon->cacheKey() != tabIcon(i).cacheKey())
+            setTabIcon(i, *icon);
+    }
+}
+
+void HorizontalTabBar::tabInserted(int index)
+{
+    QTabBar::tabInserted(index);
+    UpdateIcons();
+}
+
+void HorizontalTabBar::tabRemoved(int index)
+{
+    QTabBar::tabRemoved(index);
+    UpdateIcons();
+}
+
+// While a tab is dragged, QTabBar shows a picture of it in a child widget. That picture is the style's, with text and
+// icon where the style has them, and it is QTabBar's paint event that moves it. So we paint and move that widget as
+// well.
+
+void HorizontalTabBar::mousePressEvent(QMouseEvent* event)
+{
+    if (event->button() == Qt::LeftButton)
+        pressedAt = event->pos();
+    QTabBar::mousePressEvent(event);
+}
+
+void HorizontalTabBar::mouseMoveEvent(QMouseEvent* event)
+{
+    {
+        // The drag starts with the child; nothing else makes one before signals go out.
+        QScopedValueRollback<bool> awaits(awaitsDraggedTab, !draggedTab);
+        QTabBar::mouseMoveEvent(event);
+    }
+    if (!draggedTab || !draggedTab->isVisible())
+        return;
+    const QPoint distance = event->pos() - pressedAt;
+    draggedTab->move(draggedFrom + (IsVertical() ? QPoint(0, distance.y()) : QPoint(distance.x(), 0)));
+}
+
+void HorizontalTabBar::childEvent(QChildEvent* event)
+{
+    QTabBar::childEvent(event);
+    if (!awaitsDraggedTab || !event->added() || !event->child()->isWidgetType())
+        return;
+    awaitsDraggedTab = false;
+    draggedTab = static_cast<QWidget*>(event->child());
+    draggedTab->installEventFilter(this);
+}
+
+bool HorizontalTabBar::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == draggedTab && event->type() == QEvent::Show)
+        draggedFrom = draggedTab->pos();
+    if (watched != draggedTab || event->type() != QEvent::Paint)
+        return QTabBar::eventFilter(watched, event);
+    PaintDraggedTab();
+    return true;
+}
+
+bool HorizontalTabBar::IsVertical() const
+{
+    return shape() == RoundedWest || shape() == RoundedEast || shape() == TriangularWest || shape() == TriangularEast;
+}
+
+// Left to itself, QTabBar makes the tabs of a vertical bar for text that runs along them.
+bool HorizontalTabBar::AreTextsTurned() const
+{
+    for (int i = 0; IsVertical() && i < count(); ++i) {
+        const QSize tab = tabRect(i).size();
+        const int text = fontMetrics().size(Qt::TextShowMnemonic, tabText(i)).width() + paddingLeft + paddingRight;
+        if (text > tab.width() && tab.height() > tab.width())
+            return true;
+    }
+    return false;
+}
+
+bool HorizontalTabBar::IsDragged(const QStyleOptionTab& option) const
+{
+    return draggedTab && draggedTab->isVisible() && (option.state & QStyle::State_Sunken);
+}
+
+QRect HorizontalTabBar::TextRect(const QRect& face, const QTransform& toBar, const QStyleOptionTab& option) const
+{
+    QRect text = face.adjusted(paddingLeft, paddingTop, -paddingRight, -paddingBottom);
+    text = QStyle::visualRect(layoutDirection(), face, text);
+    for (const auto part : {QStyle::SE_TabBarTabLeftButton, QStyle::SE_TabBarTabRightButton}) {
+        const QSize& button = part == QStyle::SE_TabBarTabLeftButton ? option.leftButtonSize : option.rightButtonSize;
+        if (!button.isEmpty())
+            text = Beside(toBar.inverted().mapRect(style()->subElementRect(part, &option, this)), text);
+    }
+    return text;
+}
+
+void HorizontalTabBar::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    const bool turned = AreTextsTurned();
+    for (int i = 0; i < count(); ++i) {
+        QStyleOptionTab option;
+        initStyleOption(&option, i);
+        if (option.rect.intersects(rect()) && !IsDragged(option))
+            PaintTab(painter, i, option, turned);
+    }
+}
+
+void HorizontalTabBar::PaintTab(QPainter& painter, int index, QStyleOptionTab& option, bool turned) const
+{
+    // The style draws no more than the shape and the focus.
+    option.icon = QIcon();
+    option.text = QStringLiteral(" ");
+    style()->drawControl(QStyle::CE_TabBarTab, &option, &painter, this);
+
+    const QTransform toBar = FaceToBar(option.rect, turned, shape() == RoundedEast || shape() == TriangularEast);
+    const QRect face(QPoint(), turned ? option.rect.size().transposed() : option.rect.size());
+    const QRect textRect = TextRect(face, toBar, option);
+    if (!textRect.isEmpty()) {
+        const QString text = Elided(tabText(index), fontMetrics(), elideMode(), textRect.width());
+        const bool underlines = style()->styleHint(QStyle::SH_UnderlineShortcut, &option, this);
+        painter.save();
+        painter.setTransform(toBar, true);
+        painter.setFont(font());
+        painter.setPen(option.state & QStyle::State_Selected    ? selectedTextColor
+                       : option.state & QStyle::State_MouseOver ? hoverTextColor
+                                                                : normalTextColor);
+        // The bar says at which side a text is, the text itself how it runs: dots and brackets stay where they belong.
+        painter.setLayoutDirection(text.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
+        painter.drawText(textRect,
+                         int(QStyle::visualAlignment(layoutDirection(), alignText)) |
+                             (underlines ? Qt::TextShowMnemonic : Qt::TextHideMnemonic),
+                         text);
+        painter.restore();
+    }
+    const QRect iconRect(QPoint(xPosTabIcon, yPosTabIcon), iconSize());
+    tabIcon(index).paint(&painter, toBar.mapRect(QStyle::visualRect(layoutDirection(), face, iconRect)),
+                         Qt::AlignTop | Qt::AlignHCenter);
+}
+
+// The widget is wider than the tab by what the style lets neighbours overlap.
+void HorizontalTabBar::PaintDraggedTab() const
+{
+    QPainter painter(draggedTab);
+    for (int i = 0; i < count(); ++i) {
+        QStyleOptionTab option;
+        initStyleOption(&option, i);
+        if (IsDragged(option)) {
+            option.position = QStyleOptionTab::OnlyOneTab;
+            option.rect.moveCenter(draggedTab->rect().center());
+            PaintTab(painter, i, option, AreTextsTurned());
+        }
+    }
+}
+
+} // namespace Zelkor::Vx

@@ -1,0 +1,71 @@
+#include <UI/Widgets/ResizableStackedWidget.h>
+
+#include <Support/EventWatch.h>
+#include <Support/TestCase.h>
+
+#include <QVBoxLayout>
+
+namespace {
+
+struct Page : QWidget
+{
+    explicit Page(int width, int height) : preferred(width, height) {}
+    QSize sizeHint() const override { return preferred; }
+
+    QSize preferred;
+};
+
+} // namespace
+
+class tst_ResizableStackedWidget : public Support::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void takesTheSizeOfThePage()
+    {
+        QWidget window;
+        QVBoxLayout layout(&window);
+        layout.setSizeConstraint(QLayout::SetFixedSize);
+        ResizableStackedWidget stack(&window);
+        layout.addWidget(&stack);
+        const QVector<Page*> pages{new Page(400, 300), new Page(200, 100)};
+        pages[1]->setFixedSize(10, 10); // gives way
+        for (Page* page : pages)
+            stack.addWidget(page);
+        QCOMPARE(stack.size(), QSize(400, 300));
+        window.show();
+        const QSize around = window.size() - stack.size();
+
+        int resized = 0;
+        Support::EventWatch watch(&stack, [&](QEvent::Type type, QEvent*) { resized += type == QEvent::Resize; });
+        for (int i = 1; i <= 1000; ++i) {
+            stack.setCurrentIndex(i % 2);
+            QCoreApplication::processEvents();
+            QCOMPARE(resized, i);
+            const QWidget& page = *stack.currentWidget();
+            for (const QSize& size : {stack.minimumSize(), stack.maximumSize(), page.minimumSize(), page.maximumSize()})
+                QCOMPARE(size, page.sizeHint());
+            QCOMPARE(window.size(), page.sizeHint() + around);
+        }
+        // What the content needs later counts from the next time on.
+        pages[0]->preferred = QSize(50, 60);
+        pages[0]->updateGeometry();
+        QCoreApplication::processEvents();
+        QCOMPARE(stack.size(), QSize(400, 300));
+        stack.setCurrentIndex(1);
+        {
+            // This one leads on while it is measured.
+            Support::EventWatch leadOn(pages[0], [&](QEvent::Type, QEvent*) { stack.setCurrentIndex(1); });
+            stack.setCurrentIndex(0);
+        }
+        QCOMPARE(stack.size(), QSize(200, 100));
+        delete pages[1];
+        QCOMPARE(stack.size(), QSize(50, 60));
+        delete pages[0];
+        QCOMPARE(stack.size(), QSize(50, 60));
+    }
+};
+
+VX_TEST_MAIN(tst_ResizableStackedWidget)
+#include "tst_ResizableStackedWidget.moc"
