@@ -1,0 +1,205 @@
+#include "Catalogue.h"
+#include "StyleSheet.h"
+#include "Texts.h"
+
+#include <UI/Widgets/CustomTitleBar.h>
+#include <UI/Widgets/StyledAboutBoxDialog.h>
+
+#include <QCloseEvent>
+#include <QLabel>
+#include <QPushButton>
+#include <QToolButton>
+#include <QUrl>
+#include <QVBoxLayout>
+#include <QVariant>
+
+using Zelkor::Vx::UI::CustomTitleBar;
+using Zelkor::Vx::UI::StyledAboutBoxDialog;
+
+namespace Zelkor::Gallery {
+
+namespace {
+
+constexpr QSize DESKTOP_SIZE(336, 152);
+constexpr QSize SAMPLE_SIZE(296, 112);
+constexpr int CONTENT_MARGIN = 12;
+constexpr int DISTANCE = 12;
+constexpr Qt::WindowFlags CLOSE_BUTTON = Qt::WindowCloseButtonHint;
+constexpr Qt::WindowFlags BOTH_BUTTONS = CLOSE_BUTTON | Qt::WindowMinimizeButtonHint;
+
+/// A window within the page, for a title bar. It can be dragged about, but neither minimised nor closed.
+class SampleWindow : public QFrame
+{
+public:
+    SampleWindow(Qt::WindowFlags buttons, QWidget* parent) : QFrame(parent, buttons)
+    {
+        setObjectName(QStringLiteral("sampleWindow"));
+        setWindowTitle(Catalogue::tr("Recorder"));
+        setWindowIcon(StyleIcon("app"));
+        auto* layout = new QVBoxLayout(this);
+        layout->setContentsMargins(CONTENT_MARGIN, CONTENT_MARGIN, CONTENT_MARGIN, CONTENT_MARGIN);
+        auto* label = new QLabel(Catalogue::tr("Drag the window by its title bar or by this text."));
+        label->setWordWrap(true);
+        AlignAtStart(label);
+        layout->addWidget(label);
+        layout->addStretch();
+        bar = new CustomTitleBar(this);
+        resize(SAMPLE_SIZE);
+    }
+
+    CustomTitleBar* bar;
+
+protected:
+    void closeEvent(QCloseEvent* event) override { event->ignore(); }
+
+    void changeEvent(QEvent* event) override
+    {
+        QFrame::changeEvent(event);
+        if (event->type() == QEvent::WindowStateChange && isMinimized())
+            setWindowState(Qt::WindowNoState);
+    }
+};
+
+/// The piece of a screen on which the sample lies.
+class SampleDesktop : public QFrame
+{
+public:
+    SampleDesktop(Qt::WindowFlags buttons, QWidget* parent) : QFrame(parent), window(new SampleWindow(buttons, this))
+    {
+        setObjectName(QStringLiteral("sampleDesktop"));
+        setFixedSize(DESKTOP_SIZE);
+        window->move(QRect(QPoint(), DESKTOP_SIZE).center() - window->rect().center());
+    }
+
+    SampleWindow* window;
+};
+
+QWidget* CreateDesktop(QWidget* parent)
+{
+    return new SampleDesktop(BOTH_BUTTONS, parent);
+}
+
+State WindowState(const QString& name, void (*apply)(SampleWindow&))
+{
+    return MakeState<SampleDesktop>(name, [apply](SampleDesktop& desktop) { apply(*desktop.window); });
+}
+
+QToolButton* MakeTool(const char* icon, const QString& name)
+{
+    auto* button = new QToolButton;
+    button->setAutoRaise(true);
+    button->setIcon(StyleIcon(icon));
+    button->setToolTip(name);
+    button->setAccessibleName(name);
+    return button;
+}
+
+void AddTools(SampleWindow& window)
+{
+    window.bar->AddWidget(MakeTool("hint", Catalogue::tr("Help")));
+    window.bar->AddWidget(MakeTool("settings", Catalogue::tr("Settings")));
+    window.bar->AddSeparator();
+}
+
+Entry CustomTitleBarEntry()
+{
+    return {
+        "CustomTitleBar",
+        Catalogue::tr("Windows"),
+        Catalogue::tr("A title bar that the application draws itself, for a window without a frame."),
+        "CustomTitleBar",
+        "window",
+        CreateDesktop,
+        {
+            MadeState(Catalogue::tr("Typical"), CreateDesktop),
+            WindowState(Catalogue::tr("With tools"), AddTools),
+            MadeState(Catalogue::tr("Close only"),
+                      [](QWidget* parent) { return new SampleDesktop(CLOSE_BUTTON, parent); }),
+            WindowState(Catalogue::tr("Long title"),
+                        [](SampleWindow& window) {
+                            window.setWindowTitle(
+                                Catalogue::tr("Recording of the weekly meeting, second part - Recorder"));
+                        }),
+            WindowState(Catalogue::tr("No icon"), [](SampleWindow& window) { window.setWindowIcon(QIcon()); }),
+            WindowState(Catalogue::tr("Disabled"),
+                        [](SampleWindow& window) {
+                            AddTools(window);
+                            window.setEnabled(false);
+                        }),
+        },
+    };
+}
+
+/// The dialog's look in its place: always there, and without taking the keyboard from the page.
+class AboutLook : public StyledAboutBoxDialog
+{
+public:
+    AboutLook(const QString& legal, QWidget* parent)
+        : StyledAboutBoxDialog(Catalogue::tr("Recorder"), "2.4.1", legal, parent)
+    {
+        setWindowFlags(Qt::Widget);
+    }
+
+    void done(int) override {}
+
+protected:
+    void showEvent(QShowEvent* event) override { QWidget::showEvent(event); }
+};
+
+/// The dialog's look, and the dialog itself when the button is pressed.
+class AboutHost : public QWidget
+{
+public:
+    AboutHost(const QString& legal, QWidget* parent) : QWidget(parent), look(new AboutLook(legal, this))
+    {
+        auto* button = new QPushButton(Catalogue::tr("Show the dialog"));
+        auto* layout = new QVBoxLayout(this);
+        layout->setContentsMargins(0, 0, 0, 0);
+        layout->setSpacing(DISTANCE);
+        layout->addWidget(look, 0, Qt::AlignLeading);
+        layout->addWidget(button, 0, Qt::AlignLeading);
+        connect(button, &QPushButton::clicked, this,
+                [this, legal] { StyledAboutBoxDialog::ShowAbout(Catalogue::tr("Recorder"), "2.4.1", legal, this); });
+    }
+
+    AboutLook* look;
+};
+
+QWidget* CreateAbout(QWidget* parent)
+{
+    return new AboutHost(Catalogue::tr("Copyright 2026 Example Company"), parent);
+}
+
+Entry StyledAboutBoxDialogEntry()
+{
+    return {
+        "StyledAboutBoxDialog",
+        Catalogue::tr("Windows"),
+        Catalogue::tr("The about dialog, whose links take their style from the style sheet."),
+        "StyledAboutBoxDialog",
+        "information",
+        CreateAbout,
+        {
+            MadeState(Catalogue::tr("Typical"), CreateAbout),
+            MakeState<AboutHost>(Catalogue::tr("Link of its own"),
+                                 [](AboutHost& host) { host.look->SetCustomUrl(QUrl("https://example.com/news")); }),
+            MadeState(Catalogue::tr("Long text"),
+                      [](QWidget* parent) {
+                          return new AboutHost(
+                              Catalogue::tr("Copyright 2026 Example Company. All rights reserved. Protected "
+                                            "by law; made with the help of many."),
+                              parent);
+                      }),
+            DisabledState(),
+        },
+    };
+}
+
+} // namespace
+
+QVector<Entry> WindowEntries()
+{
+    return {CustomTitleBarEntry(), StyledAboutBoxDialogEntry()};
+}
+
+} // namespace Zelkor::Gallery

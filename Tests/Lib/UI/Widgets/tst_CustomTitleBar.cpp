@@ -1,0 +1,156 @@
+#include <UI/Widgets/CustomTitleBar.h>
+
+#include <Support/Mouse.h>
+#include <Support/TestCase.h>
+
+#include <QDialog>
+#include <QLabel>
+#include <QMainWindow>
+#include <QMenuBar>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+using Zelkor::Vx::UI::CustomTitleBar;
+
+namespace {
+
+constexpr QPoint WAY(50, 30);
+
+// A window with its title bar and the kinds of content that matter: a label, and a group with another label in it.
+class Window : public QDialog
+{
+public:
+    explicit Window(Qt::WindowFlags flags, bool showFirst = false) : QDialog(nullptr, flags)
+    {
+        auto* layout = new QVBoxLayout(this);
+        layout->setMenuBar(new QMenuBar);
+        layout->setSizeConstraint(QLayout::SetFixedSize);
+        auto* group = new QFrame;
+        for (auto [part, name] : {std::pair<QFrame*, const char*>(new QLabel("label"), "label"), {group, "group"}}) {
+            part->setObjectName(name);
+            layout->addWidget(part);
+        }
+        auto* nested = new QLabel("nested");
+        nested->setObjectName("nested");
+        (new QVBoxLayout(group))->addWidget(nested);
+        setSizeGripEnabled(true);
+        setWindowTitle("<b>A</b> & B");
+        move(300, 300);
+        if (showFirst) {
+            show();
+            QVERIFY(QTest::qWaitForWindowActive(this));
+        }
+        bar = new CustomTitleBar(this);
+        bar->setStyleSheet("QLabel { min-height: 30px; min-width: 60px } QToolButton { min-width: 30px }");
+    }
+
+    QWidget* Part(const char* name) const { return findChild<QWidget*>(name); }
+
+    // What the window moves by when the pointer drags at the lower left of `part`.
+    QPoint DragAt(const QWidget* part, int button = 1) const
+    {
+        const QPoint origin = pos();
+        if (Support::Drag(part->mapToGlobal(part->rect().bottomLeft() + QPoint(3, -3)), WAY, button))
+            [&] { QTRY_VERIFY(pos() != origin); }();
+        return pos() - origin;
+    }
+
+    CustomTitleBar* bar;
+};
+
+} // namespace
+
+class tst_CustomTitleBar : public Support::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void windowIsRebuilt()
+    {
+        for (int row = 0; row < 8; ++row) {
+            InRow(QString::number(row, 2));
+            const bool minimizes = row & 1;
+            const bool closes = row & 2;
+            Qt::WindowFlags flags = Qt::Window | Qt::CustomizeWindowHint;
+            flags.setFlag(Qt::WindowMinimizeButtonHint, minimizes).setFlag(Qt::WindowCloseButtonHint, closes);
+            Window window(flags, row & 4);
+            QCOMPARE(window.isVisible(), bool(row & 4));
+            window.show();
+            QVERIFY(QTest::qWaitForWindowActive(&window));
+            QVERIFY(window.windowFlags() & Qt::FramelessWindowHint);
+            QWidget* content = window.Part("contentFrame");
+            QCOMPARE(window.findChild<QMenuBar*>()->parentWidget(), content);
+            QTRY_COMPARE(window.height(), window.bar->height() + content->sizeHint().height());
+            QVERIFY(window.childAt(window.rect().bottomRight())->inherits("QSizeGrip"));
+            auto* minimize = window.findChild<QToolButton*>("minimizeButton");
+            auto* close = window.findChild<QToolButton*>("closeButton");
+            QCOMPARE(minimize->isVisible(), minimizes);
+            QCOMPARE(close->isVisible(), closes);
+            minimize->click();
+            QTRY_COMPARE(window.isMinimized(), minimizes);
+            close->click();
+            QCOMPARE(window.isVisible(), !closes);
+        }
+    }
+
+    void titleAndIconFollow()
+    {
+        Window window(Qt::Window);
+        const auto* title = window.findChild<QLabel*>("titleLabel");
+        const auto icon = [&] { return window.findChild<QLabel*>("iconLabel")->pixmap(Qt::ReturnByValue).toImage(); };
+        QCOMPARE(title->text(), QString("<b>A</b> & B"));
+        QPixmap pixmap(64, 64);
+        for (const Qt::GlobalColor color : {Qt::red, Qt::blue}) {
+            pixmap.fill(color);
+            window.setWindowIcon(pixmap);
+            QCOMPARE(icon().isNull(), color == Qt::red);
+            for (const int size : {16, 0, -3, 24}) {
+                window.bar->SetWindowIconSize(size);
+                QCOMPARE(icon().width(), qMax(size, 0));
+            }
+            QCOMPARE(icon().pixelColor(5, 5), QColor(color));
+        }
+        // However long the title, the window may be as narrow as before.
+        const int narrow = window.minimumSizeHint().width();
+        window.setWindowTitle(QString(500, 'W'));
+        QCOMPARE(title->text().size(), 500);
+        QCOMPARE(window.minimumSizeHint().width(), narrow);
+    }
+
+    void leftButtonDragsByTheHandles()
+    {
+        Window window(Qt::Window);
+        window.bar->AddWidget(new QLabel("user"));
+        window.show();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        // The window manager tells where it first put a window while it still moves it. After this move all agree.
+        window.move(310, 310);
+        QTRY_COMPARE(window.pos(), QPoint(310, 310));
+        for (const char* name : {"CustomTitleBar", "titleLabel", "userWidgetsFrame", "contentFrame", "label"})
+            QCOMPARE(window.DragAt(window.Part(name)), WAY);
+        QCOMPARE(window.DragAt(window.Part("label"), 3), QPoint());
+        for (const char* name : {"closeButton", "group", "nested"})
+            QCOMPARE(window.DragAt(window.Part(name)), QPoint());
+        delete window.bar;
+        QCoreApplication::processEvents();
+        QCOMPARE(window.DragAt(window.Part("label")), WAY);
+    }
+
+    void otherParents()
+    {
+        CustomTitleBar(nullptr).SetWindowIconSize(16);
+        QMainWindow mainWindow;
+        ExpectWarning("a QMainWindow cannot part with its layout");
+        new CustomTitleBar(&mainWindow);
+        QWidget empty;
+        ExpectWarning("Cannot set layout to 0");
+        new CustomTitleBar(&empty);
+        QVERIFY(empty.findChild<QFrame*>("contentFrame")->children().isEmpty());
+        mainWindow.show();
+        empty.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&mainWindow) && QTest::qWaitForWindowExposed(&empty));
+    }
+};
+
+VX_TEST_MAIN(tst_CustomTitleBar)
+#include "tst_CustomTitleBar.moc"
