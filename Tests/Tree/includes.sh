@@ -32,7 +32,10 @@ PixmapCut:PixmapWidget
 PixmapWidget:PixmapCut
 ZGraphicsShadowEffect:ShadowRim
 FastPresetButton:ButtonWithLabels
-CustomTabWidget:HorizontalTabBar'
+CustomTabWidget:HorizontalTabBar
+SliderWithTickLabels:TickLabelRow
+SliderWithTickLabels:TickSlider
+TickLabelRow:TickSlider'
 while IFS=: read -r file _ include; do
     from=$(basename "${file%.*}")
     to=$(sed -E 's|.*UI/Widgets/([A-Za-z]+)\.h.*|\1|' <<<"$include")

@@ -1,0 +1,229 @@
+#include <UI/Widgets/ScrollablePanelWithItem.h>
+
+#include <UI/Common/AppendToLayout.h>
+#include <UI/Common/BoxLayouts.h>
+
+#include <QCoreApplication>
+#include <QEvent>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QStyle>
+#include <QToolButton>
+#include <QWheelEvent>
+
+#include <utility>
+
+namespace Zelkor::Vx::UI {
+
+namespace {
+
+// As wide as Qt lets a scroll area wish to be, in heights of a line of text.
+constexpr int PREFERRED_LINES = 36;
+
+// The scroll value nearest to `value` at which a view of this width shows the item, its beginning before its end.
+int ValueToShow(const QRect& item, int value, int viewWidth)
+{
+    return qMin(qMax(value, item.x() + item.width() - viewWidth), item.x());
+}
+
+} // namespace
+
+struct ScrollablePanelWithItem::Items
+{
+    QList<QToolButton*> list; ///< in order of appending
+};
+
+/// The scroll area: moves sideways only, and takes the height of what it holds.
+class Q_DECL_HIDDEN ScrollablePanelWithItem::Strip : public QScrollArea
+{
+public:
+    Strip(QWidget* parent, Items* items) : QScrollArea(parent), items(items) {}
+
+    QSize sizeHint() const override
+    {
+        const QSize contents = widget()->sizeHint();
+        return WithFrame({qMin(contents.width(), PREFERRED_LINES * fontMetrics().height()), contents.height()});
+    }
+
+    // Room for something like one item.
+    QSize minimumSizeHint() const override
+    {
+        const QSize contents = widget()->sizeHint();
+        return WithFrame({qMin(contents.width(), contents.height()), contents.height()});
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (watched == widget()) {
+            // Whatever takes an item away tells the frame: its owner may delete it at any time.
+            if (event->type() == QEvent::ChildRemoved)
+                Forget(static_cast<QChildEvent*>(event)->child());
+            else if (event->type() == QEvent::LayoutRequest)
+                updateGeometry();
+        } else if (event->type() == QEvent::FocusIn && watched->parent() == widget()) {
+            Show(static_cast<QWidget*>(watched));
+        }
+        return QScrollArea::eventFilter(watched, event);
+    }
+
+protected:
+    // A horizontal scroll bar takes either wheel, and leaves alone what would move it beyond its ends.
+    void wheelEvent(QWheelEvent* event) override
+    {
+        if (isRightToLeft() && qAbs(event->angleDelta().x()) > qAbs(event->angleDelta().y())) {
+            // A bar does not know that its values run to the left.
+            QWheelEvent mirrored(event->position(), event->globalPosition(), -event->pixelDelta(), -event->angleDelta(),
+                                 event->buttons(), event->modifiers(), event->phase(), event->inverted(),
+                                 event->source());
+            QCoreApplication::sendEvent(horizontalScrollBar(), &mirrored);
+            event->setAccepted(mirrored.isAccepted());
+        } else {
+            QCoreApplication::sendEvent(horizontalScrollBar(), event);
+        }
+    }
+
+    // The scroll area would move to the item by itself, but not from right to left, and not only sideways.
+    bool focusNextPrevChild(bool next) override { return QWidget::focusNextPrevChild(next); }
+
+private:
+    QSize WithFrame(const QSize& contents) const { return contents + QSize(2 * frameWidth(), 2 * frameWidth()); }
+
+    void Show(QWidget* item)
+    {
+        // An item may get the keyboard before it got its place.
+        widget()->layout()->activate();
+        QScrollBar* bar = horizontalScrollBar();
+        const QRect place = QStyle::visualRect(layoutDirection(), widget()->rect(), item->geometry());
+        bar->setValue(ValueToShow(place, bar->value(), viewport()->width()));
+    }
+
+    void Forget(QObject* child)
+    {
+        for (int i = 0; i < items->list.size(); ++i) {
+            if (static_cast<QObject*>(items->list[i]) == child) {
+                items->list.removeAt(i);
+                return;
+            }
+        }
+    }
+
+    Items* items;
+};
+
+struct ScrollablePanelWithItem::Parts
+{
+    QToolButton* leftScrollButton;
+    QToolButton* rightScrollButton;
+    Strip* panelScrollArea;
+    QFrame* itemsFrame;
+    QHBoxLayout* itemsLayout;
+};
+
+ScrollablePanelWithItem::ScrollablePanelWithItem(QWidget* parent)
+    : ZFrame(parent), items(std::make_unique<Items>()), parts(std::make_unique<Parts>())
+{
+    const auto makeScrollButton = [this](const QString& objectName, const QString& name) {
+        auto* button = new QToolButton(this);
+        button->setObjectName(objectName);
+        button->setAccessibleName(name);
+        // The keyboard goes to the items, which come into view by themselves.
+        button->setFocusPolicy(Qt::NoFocus);
+        return button;
+    };
+    parts->leftScrollButton = makeScrollButton(QStringLiteral("leftScrollButton"), tr("Previous"));
+    parts->rightScrollButton = makeScrollButton(QStringLiteral("rightScrollButton"), tr("Next"));
+    Strip* area = parts->panelScrollArea = new Strip(this, items.get());
+    area->setObjectName(QStringLiteral("panelScrollArea"));
+    area->setFocusPolicy(Qt::NoFocus);
+    area->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    area->setAlignment(Qt::AlignVCenter);
+    parts->itemsFrame = new QFrame(area);
+    parts->itemsFrame->setObjectName(QStringLiteral("itemsFrame"));
+    parts->itemsLayout = Common::MakeBoxLayout<QHBoxLayout>(parts->itemsFrame);
+    parts->itemsLayout->setSizeConstraint(QLayout::SetFixedSize);
+
+    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    area->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    area->setWidgetResizable(true);
+    area->setWidget(parts->itemsFrame);
+    auto* layout = Common::MakeBoxLayout<QHBoxLayout>(this);
+    layout->addWidget(parts->leftScrollButton);
+    layout->addWidget(area);
+    layout->addWidget(parts->rightScrollButton);
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    area->verticalScrollBar()->setEnabled(false);
+
+    connect(parts->leftScrollButton, &QToolButton::clicked, this, [this] { Scroll(-1); });
+    connect(parts->rightScrollButton, &QToolButton::clicked, this, [this] { Scroll(1); });
+    const QScrollBar* bar = area->horizontalScrollBar();
+    connect(bar, &QScrollBar::valueChanged, this, &ScrollablePanelWithItem::UpdateScrollButtons);
+    connect(bar, &QScrollBar::rangeChanged, this, &ScrollablePanelWithItem::UpdateScrollButtons);
+    area->installEventFilter(this);
+    parts->leftScrollButton->setEnabled(false);
+    parts->rightScrollButton->setEnabled(false);
+    ensurePolished();
+}
+
+ScrollablePanelWithItem::~ScrollablePanelWithItem()
+{
+    // While the list is there: an item that goes may take others along.
+    delete parts->panelScrollArea;
+}
+
+int ScrollablePanelWithItem::GetItemsScpacing() const
+{
+    return parts->itemsLayout->spacing();
+}
+
+void ScrollablePanelWithItem::SetItemsSpacing(int spacing)
+{
+    parts->itemsLayout->setSpacing(spacing);
+    parts->panelScrollArea->updateGeometry();
+}
+
+void ScrollablePanelWithItem::Append(QToolButton* item)
+{
+    if (!item)
+        return;
+    // Only what is in the frame already can be in the list.
+    if (item->parentWidget() == parts->itemsFrame)
+        items->list.removeOne(item);
+    items->list.append(item);
+    Common::AppendToLayout(parts->itemsLayout, item);
+    item->installEventFilter(parts->panelScrollArea);
+    parts->panelScrollArea->updateGeometry();
+}
+
+void ScrollablePanelWithItem::RemoveItems()
+{
+    const QList<QToolButton*> removed = std::exchange(items->list, {});
+    for (QToolButton* item : removed) {
+        parts->itemsLayout->removeWidget(item);
+        item->deleteLater();
+    }
+    parts->panelScrollArea->updateGeometry();
+}
+
+bool ScrollablePanelWithItem::SelectItem(int index)
+{
+    if (index < 0 || index >= items->list.size())
+        return false;
+    items->list[index]->click();
+    return true;
+}
+
+void ScrollablePanelWithItem::Scroll(int direction)
+{
+    QScrollBar* bar = parts->panelScrollArea->horizontalScrollBar();
+    const qint64 step = qint64(parts->panelScrollArea->width()) + GetItemsScpacing();
+    bar->setValue(int(qBound(qint64(bar->minimum()), bar->value() + direction * step, qint64(bar->maximum()))));
+}
+
+void ScrollablePanelWithItem::UpdateScrollButtons()
+{
+    const QScrollBar* bar = parts->panelScrollArea->horizontalScrollBar();
+    parts->leftScrollButton->setEnabled(bar->value() != bar->minimum());
+    parts->rightScrollButton->setEnabled(bar->value() != bar->maximum());
+}
+
+} // namespace Zelkor::Vx::UI

@@ -1,0 +1,185 @@
+#include <UI/Widgets/SliderWithTickLabels.h>
+
+#include <Support/EventWatch.h>
+#include <Support/TestCase.h>
+
+#include <QLabel>
+#include <QMouseEvent>
+#include <QSignalSpy>
+#include <QSlider>
+#include <QStyle>
+#include <QStyleOptionSlider>
+
+#include <memory>
+
+using Zelkor::Vx::SliderWithTickLabels;
+
+namespace {
+
+QSlider* SliderOf(SliderWithTickLabels& widget)
+{
+    return widget.findChild<QSlider*>("slider");
+}
+
+QList<QLabel*> LabelsOf(SliderWithTickLabels& widget)
+{
+    return widget.findChild<QFrame*>("labelsFrame")->findChildren<QLabel*>();
+}
+
+/// A property of all labels; "-" for one that has none.
+QStringList Marks(SliderWithTickLabels& widget, const char* property)
+{
+    QStringList marks;
+    for (const QLabel* label : LabelsOf(widget))
+        marks.append(label->property(property).isValid() ? label->property(property).toString() : "-");
+    return marks;
+}
+
+QRect PartOf(QSlider* slider, int value, QStyle::SubControl part)
+{
+    QStyleOptionSlider option;
+    option.initFrom(slider);
+    option.maximum = slider->maximum();
+    option.tickPosition = slider->tickPosition();
+    option.upsideDown = slider->isRightToLeft();
+    option.direction = Qt::LeftToRight;
+    option.sliderPosition = value;
+    return slider->style()->subControlRect(QStyle::CC_Slider, &option, part, slider);
+}
+
+/// A press alone: the widget may be gone when it is to be released.
+void Press(QWidget* widget, const QPoint& point)
+{
+    QMouseEvent event(QEvent::MouseButtonPress, point, Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(widget, &event);
+}
+
+} // namespace
+
+class tst_SliderWithTickLabels : public Support::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void itemsAndMarks()
+    {
+        SliderWithTickLabels widget(nullptr);
+        QSignalSpy changed(&widget, &SliderWithTickLabels::CurrentIndexChanged);
+        QCOMPARE(widget.CurrentText(), QString());
+        QCOMPARE(widget.FindText(QString()), -1);
+        widget.SetCurrentIndex(5);
+        widget.AddItem("Low");
+        QCOMPARE(Marks(widget, "Position"), QStringList("Last"));
+        widget.AddItems({"High", "Best"});
+        QCOMPARE(Marks(widget, "Position"), QStringList({"First", "", "Last"}));
+        QCOMPARE(Marks(widget, "SubStyle"), QStringList({"-", "-", "-"}));
+        QVERIFY(widget.FindText("High") == 1 && widget.FindText("high") == -1);
+        QCOMPARE(SliderOf(widget)->accessibleName(), QString("Low"));
+        QVERIFY(changed.isEmpty());
+
+        // The signal comes before the marks.
+        QStringList marksAtSignal;
+        connect(&widget, &SliderWithTickLabels::CurrentIndexChanged,
+                [&] { marksAtSignal = Marks(widget, "SubStyle"); });
+        widget.SetCurrentIndex(1);
+        QCOMPARE(marksAtSignal, QStringList({"-", "-", "-"}));
+        QCOMPARE(Marks(widget, "SubStyle"), QStringList({"", "Current", ""}));
+        QTest::mouseClick(LabelsOf(widget)[2], Qt::LeftButton);
+        LabelsOf(widget)[0]->setProperty("SubStyle", "Current");
+        QTest::mouseClick(LabelsOf(widget)[2], Qt::LeftButton); // marks again, and that is all
+        QCOMPARE(Marks(widget, "SubStyle"), QStringList({"", "", "Current"}));
+        widget.SetCurrentIndex(7);
+        QCOMPARE(Marks(widget, "SubStyle"), QStringList({"", "", ""}));
+        widget.SetCurrentIndex(-3);
+        QCOMPARE(marksAtSignal, QStringList({"", "", ""}));
+        QCOMPARE(Marks(widget, "SubStyle"), QStringList({"", "", ""}));
+        QTest::keyClick(SliderOf(widget), Qt::Key_End);
+        QCOMPARE(changed, QList<QVariantList>({{1}, {2}, {0}, {2}}));
+        QCOMPARE(SliderOf(widget)->accessibleName(), widget.CurrentText());
+        SliderOf(widget)->setAccessibleName("Quality");
+        widget.SetCurrentIndex(1);
+        QCOMPARE(SliderOf(widget)->accessibleName(), QString("Quality"));
+        QCOMPARE(SliderOf(widget)->accessibleDescription(), QString("High"));
+    }
+
+    void labelsStandOverTheirTicks()
+    {
+        const QString sentence("A text that is much longer than all of the others");
+        const std::vector<QStringList> rows{{"Low", sentence, "Best", "x", "y"}, {sentence, "x", "y"}, {"x", sentence}};
+        for (const QStringList& texts : rows) {
+            for (const auto direction : {Qt::LeftToRight, Qt::RightToLeft}) {
+                SliderWithTickLabels widget(nullptr);
+                widget.setLayoutDirection(direction);
+                widget.AddItems(texts);
+                widget.show();
+                for (const int width : {widget.sizeHint().width(), 1200, 500, 200, 60, 1}) {
+                    InRow(QString("%1, width %2, direction %3").arg(texts.join('|')).arg(width).arg(direction));
+                    widget.resize(width, widget.height());
+                    QTest::qWait(0);
+                    int requests = 0;
+                    const Support::EventWatch watch(widget.findChild<QFrame*>("labelsFrame"), [&](auto type, auto) {
+                        requests += type == QEvent::LayoutRequest;
+                    });
+                    QCoreApplication::processEvents();
+                    QCOMPARE(requests, 0); // at rest
+                    checkPlaces(widget, texts);
+                }
+            }
+        }
+    }
+
+    void listenersMayDoAnything()
+    {
+        using Action = std::function<void(SliderWithTickLabels&)>;
+        const std::vector<std::pair<const char*, Action>> actions{
+            {"set", [](auto& widget) { widget.SetCurrentIndex(2); }},
+            {"out of range", [](auto& widget) { widget.SetCurrentIndex(9); }},
+            {"label", [](auto& widget) { Press(LabelsOf(widget)[2], QPoint(1, 1)); }},
+            {"groove",
+             [](auto& widget) {
+                 Press(SliderOf(widget), PartOf(SliderOf(widget), 0, QStyle::SC_SliderGroove).center());
+             }},
+            {"key",
+             [](auto& widget) { QTest::sendKeyEvent(QTest::Press, SliderOf(widget), Qt::Key_End, QString(), {}); }},
+        };
+        for (const auto& [name, act] : actions) {
+            InRow(name);
+            auto widget = std::make_unique<SliderWithTickLabels>(nullptr);
+            widget->AddItems({"a", "b", "c"});
+            connect(widget.get(), &SliderWithTickLabels::CurrentIndexChanged, [&] { widget.reset(); });
+            act(*widget);
+            QVERIFY(!widget);
+
+            SliderWithTickLabels growing(nullptr);
+            growing.AddItems({"a", "b", "c"});
+            connect(&growing, &SliderWithTickLabels::CurrentIndexChanged, [&] { growing.AddItems({"d", "e"}); });
+            act(growing);
+            QCOMPARE(growing.CurrentText(), QString(name == QString("groove") ? "b" : "c"));
+            QCOMPARE(Marks(growing, "Position"), QStringList({"First", "", "", "", "Last"}));
+        }
+    }
+
+private:
+    void checkPlaces(SliderWithTickLabels& widget, const QStringList& texts)
+    {
+        const QList<QLabel*> labels = LabelsOf(widget);
+        const int last = labels.size() - 1;
+        const auto place = [&](int i) {
+            return QStyle::visualRect(widget.layoutDirection(), widget.rect(), labels[i]->geometry());
+        };
+        QCOMPARE(place(0).left(), 0);
+        QCOMPARE(place(last).right(), widget.width() - 1);
+        for (int i = 0; i <= last && widget.width() > 60; ++i) {
+            QVERIFY(i == 0 || place(i).left() > place(i - 1).right());
+            // A sentence may end early for lack of room, a letter not.
+            if (widget.width() >= widget.sizeHint().width() || texts[i].size() == 1)
+                QVERIFY2(labels[i]->toolTip().isEmpty(), qPrintable(texts[i]));
+            const QRect handle = PartOf(SliderOf(widget), i, QStyle::SC_SliderHandle);
+            if (i > 0 && i < last)
+                QVERIFY(qAbs(labels[i]->geometry().center().x() - handle.center().x()) <= 2);
+        }
+    }
+};
+
+VX_TEST_MAIN(tst_SliderWithTickLabels)
+#include "tst_SliderWithTickLabels.moc"
