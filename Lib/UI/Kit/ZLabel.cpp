@@ -7,6 +7,26 @@
 
 using namespace Zelkor::Vx::UI;
 
+namespace {
+
+// Whether a text is sure to fit, found without laying it out, which takes longer than all the rest of a new text. Qt
+// has the widths of Latin-1 letters at hand; an eighth more is room for kerning. False says nothing.
+bool SurelyFits(const QFont& font, const QString& text, int width)
+{
+    if (font.letterSpacing() != 0 || font.wordSpacing() != 0 || font.capitalization() != QFont::MixedCase)
+        return false;
+    const QFontMetrics metrics(font);
+    int sum = 0;
+    for (const QChar letter : text) {
+        if (letter.unicode() > 0xff || !letter.isPrint())
+            return false;
+        sum += metrics.horizontalAdvance(letter);
+    }
+    return sum + sum / 8 < width;
+}
+
+} // namespace
+
 ZLabel::ZLabel(QWidget* parent) : QLabel(parent)
 {
     setText(storedText);
@@ -50,8 +70,10 @@ void ZLabel::refreshText()
         setToolTip(QString());
         return;
     }
-    const QString displayedText =
-        QFontMetrics(font()).elidedText(storedText, Qt::ElideRight, width() - 2 * frameWidth(), 0);
+    const int available = width() - 2 * frameWidth();
+    QString displayedText = storedText;
+    if (!SurelyFits(font(), originalText(), available))
+        displayedText = QFontMetrics(font()).elidedText(storedText, Qt::ElideRight, available, 0);
     setText(displayedText);
     setToolTip(displayedText == storedText ? QString() : storedText);
 }

@@ -1,0 +1,137 @@
+#include "SpeedTable.h"
+
+#include <UI/Kit/QLedMatrix.h>
+#include <UI/Kit/ZLabel.h>
+#include <UI/Kit/ZUndoStack.h>
+
+#include <QCoreApplication>
+#include <QPainter>
+#include <QUndoStack>
+
+namespace SpeedTable {
+
+namespace {
+
+constexpr int LEDS = 64;
+constexpr int CELL = 10;
+constexpr int STEPS = 1000000;
+
+QRgb ColorOf(int row, int column)
+{
+    constexpr QRgb COLORS[] = {QLedMatrix::NoColor, QLedMatrix::Red, QLedMatrix::Green, QLedMatrix::Orange};
+    return COLORS[(row * 7 + column * 3) / 5 % 4];
+}
+
+void Fill(QLedMatrix& matrix)
+{
+    matrix.setRowCount(LEDS);
+    matrix.setColumnCount(LEDS);
+    for (int row = 0; row < LEDS; ++row) {
+        for (int column = 0; column < LEDS; ++column)
+            matrix.setColorAt(row, column, ColorOf(row, column), false);
+    }
+    matrix.resize(LEDS * CELL, LEDS * CELL);
+}
+
+Rounds LedMatrix()
+{
+    QLedMatrix matrix;
+    Fill(matrix);
+    QImage canvas(matrix.size(), QImage::Format_RGB32);
+    return Interleave([&] { matrix.render(&canvas, QPoint(), QRegion(), QWidget::RenderFlags()); },
+                      [&] {
+                          QPainter painter(&canvas);
+                          painter.setRenderHint(QPainter::Antialiasing);
+                          painter.setPen(Qt::NoPen);
+                          painter.fillRect(canvas.rect(), Qt::black);
+                          for (int row = 0; row < LEDS; ++row) {
+                              for (int column = 0; column < LEDS; ++column) {
+                                  painter.setBrush(QColor(ColorOf(row, column)));
+                                  painter.drawEllipse(column * CELL + 1, row * CELL + 1, CELL - 2, CELL - 2);
+                              }
+                          }
+                      },
+                      31, 4);
+}
+
+// Has what was asked for painted.
+void PaintNow()
+{
+    QCoreApplication::sendPostedEvents();
+    QCoreApplication::processEvents();
+}
+
+Rounds OneLed()
+{
+    QLedMatrix matrix;
+    Fill(matrix);
+    matrix.show();
+    PaintNow();
+    int led = 0;
+    return Interleave(
+        [&] {
+            led = (led + 197) % (LEDS * LEDS);
+            matrix.setColorAt(led / LEDS, led % LEDS, QLedMatrix::White);
+            PaintNow();
+        },
+        [&] {
+            matrix.update();
+            PaintNow();
+        },
+        31, 20);
+}
+
+// Everything there and back on a new stack, commands included.
+template<class Stack>
+std::function<void()> History()
+{
+    return [] {
+        Stack stack;
+        for (int i = 0; i < STEPS; ++i)
+            stack.push(new QUndoCommand);
+        while (stack.canUndo())
+            stack.undo();
+        while (stack.canRedo())
+            stack.redo();
+    };
+}
+
+Rounds UndoStack()
+{
+    return Interleave(History<ZUndoStack>(), History<QUndoStack>(), 5, 1);
+}
+
+// Up to what a person sees: a plain label puts all its work off until it is painted.
+template<class Label>
+std::function<void()> ShowTexts(Label& label, void (Label::*set)(const QString&))
+{
+    label.resize(400, 30);
+    label.show();
+    PaintNow();
+    const QString texts[] = {QStringLiteral("Built-in camera, 1280×720"), QStringLiteral("Built-in camera, 1920×1080")};
+    return [&label, set, texts, turn = 0]() mutable {
+        (label.*set)(texts[++turn % 2]);
+        PaintNow();
+    };
+}
+
+Rounds LabelText()
+{
+    ZLabel ours;
+    QLabel theirs;
+    return Interleave(ShowTexts(ours, &ZLabel::setOriginalText), ShowTexts(theirs, &QLabel::setText), 61, 200);
+}
+
+} // namespace
+
+std::vector<Row> KitRows()
+{
+    return {
+        {"led-matrix", "LED matrix 64x64 at 640x640", "4096 antialiased drawEllipse calls", 0.06, LedMatrix},
+        {"led-change", "LED matrix, one LED changed", "full repaint of the same matrix", 0.05, OneLed},
+        {"undo", "undo stack, 10^6 push, undo, redo", "QUndoStack", 0.5, UndoStack},
+        {"label-text", "ZLabel::setOriginalText and repaint, text fits", "QLabel::setText and repaint", 1.5, LabelText},
+    };
+}
+
+} // namespace SpeedTable

@@ -1,0 +1,314 @@
+#include <UI/Kit/QLedMatrix.h>
+
+#include <UI/Common/AccessibleFactory.h>
+#include <UI/Kit/LedStamps.h>
+
+#include <QAccessibleWidget>
+#include <QPaintEngine>
+#include <QPaintEvent>
+#include <QPainter>
+#include <QVector>
+
+#include <algorithm>
+#include <cmath>
+
+using namespace Zelkor::Vx::UI;
+
+namespace {
+
+// In units of the grid. An LED is a circle in its cell, with an even border around it.
+constexpr int CELL = 10;
+constexpr double LED = LedStamps::DIAMETER;
+constexpr double BORDER = 1;
+
+constexpr int MAXIMUM_COUNT = QWIDGETSIZE_MAX / CELL;
+constexpr qint64 MAXIMUM_LEDS = 1 << 24;
+
+// In pixels. Further than this, the raster engine paints nothing.
+constexpr double LARGEST_LINE = 32767;
+
+bool IsReasonable(qint64 rows, qint64 columns)
+{
+    return qMax(rows, columns) <= MAXIMUM_COUNT && rows * columns <= MAXIMUM_LEDS;
+}
+
+struct Range
+{
+    int first;
+    int last; ///< less than first when there is nothing
+};
+
+// The indexes of cells between two coordinates, with one to spare at each end.
+Range CellsBetween(double begin, double end, int count)
+{
+    const auto index = [=](double coordinate) {
+        return int(qBound(-1.0, std::floor(coordinate / CELL), double(count)));
+    };
+    return {qMax(0, index(begin) - 1), qMin(count - 1, index(end) + 1)};
+}
+
+// Whether pixels are painted, upright and square ones. Anything else, a printer or a turned view, is given circles.
+bool TakesStamps(const QPainter& painter, const QRectF& exposed)
+{
+    const QTransform transform = painter.deviceTransform();
+    const bool isUpright = transform.type() <= QTransform::TxScale && transform.m11() > 0 &&
+                           qFuzzyCompare(transform.m11(), transform.m22());
+    return painter.paintEngine()->type() == QPaintEngine::Raster && isUpright &&
+           transform.m11() <= LedStamps::LARGEST_SCALE && exposed.width() <= LARGEST_LINE;
+}
+
+class AccessibleMatrix : public QAccessibleWidget
+{
+public:
+    explicit AccessibleMatrix(QWidget* matrix) : QAccessibleWidget(matrix, QAccessible::Graphic) {}
+
+    QString text(QAccessible::Text kind) const override
+    {
+        const QString own = QAccessibleWidget::text(kind);
+        return kind == QAccessible::Name && own.isEmpty() ? QLedMatrix::tr("LED matrix") : own;
+    }
+};
+
+} // namespace
+
+struct QLedMatrix::Impl
+{
+    explicit Impl(QLedMatrix* owner) : owner(owner) {}
+
+    bool Has(int row, int column) const { return row >= 0 && row < rows && column >= 0 && column < columns; }
+    void Resize(int newRows, int newColumns);
+    void UpdateAll();
+    void UpdateStale();
+    QTransform GridToWidget() const;
+    void PaintCircles(QPainter& painter, Range rowRange, Range columnRange) const;
+    void PaintStamps(QPainter& painter, Range rowRange, Range columnRange);
+
+    QLedMatrix* owner;
+    QBrush background{Qt::black, Qt::SolidPattern};
+    Qt::BGMode backgroundMode = Qt::OpaqueMode;
+    QColor darkLedColor = QColor::fromRgba(NoColor);
+    QVector<QVector<QRgb>> leds; ///< by column, then row
+    int rows = 0;
+    int columns = 0;
+    double logicalHeight = 0;
+    double logicalWidth = 0;
+    double aspect = 0;
+
+    QRect stale; ///< LEDs that have changed and were not updated, as columns and rows
+    LedStamps stamps;
+};
+
+// New LEDs are off.
+void QLedMatrix::Impl::Resize(int newRows, int newColumns)
+{
+    rows = newRows;
+    columns = newColumns;
+    logicalHeight = double(rows) * CELL;
+    logicalWidth = double(columns) * CELL;
+    if (logicalHeight > 0)
+        aspect = logicalWidth / logicalHeight;
+    leds.resize(columns);
+    for (QVector<QRgb>& column : leds) {
+        const int kept = qMin(column.size(), rows);
+        column.resize(rows);
+        std::fill(column.begin() + kept, column.end(), darkLedColor.rgba());
+    }
+    owner->updateGeometry();
+    UpdateAll();
+}
+
+void QLedMatrix::Impl::UpdateAll()
+{
+    stale = QRect();
+    owner->update();
+}
+
+// A pixel more at each side, for device pixels that lie across the border of two.
+void QLedMatrix::Impl::UpdateStale()
+{
+    const QRectF cells(stale.x() * CELL, stale.y() * CELL, stale.width() * CELL, stale.height() * CELL);
+    const QRectF circles = cells.adjusted(0, 0, LED - CELL, LED - CELL);
+    owner->update(GridToWidget().mapRect(circles).toAlignedRect().adjusted(-1, -1, 1, 1));
+    stale = QRect();
+}
+
+// From units of the grid, whose origin is the first LED. A widget without width or height makes everything a point.
+QTransform QLedMatrix::Impl::GridToWidget() const
+{
+    const double factor = qMin(owner->width() / logicalWidth, owner->height() / logicalHeight);
+    QTransform transform = QTransform::fromTranslate(owner->width() / 2.0, owner->height() / 2.0);
+    transform.scale(factor, factor);
+    return transform.translate(BORDER - logicalWidth / 2, BORDER - logicalHeight / 2);
+}
+
+void QLedMatrix::Impl::PaintCircles(QPainter& painter, Range rowRange, Range columnRange) const
+{
+    for (int row = rowRange.first; row <= rowRange.last; ++row) {
+        for (int column = columnRange.first; column <= columnRange.last; ++column) {
+            painter.setBrush(QColor::fromRgba(leds[column][row]));
+            painter.drawEllipse(QRectF(column * CELL, row * CELL, LED, LED));
+        }
+    }
+}
+
+// Row by row by way of an image, in pixels of the device.
+void QLedMatrix::Impl::PaintStamps(QPainter& painter, Range rowRange, Range columnRange)
+{
+    const QTransform transform = painter.deviceTransform();
+    painter.setWorldTransform(transform.inverted(), true);
+    stamps.setScale(transform.m11());
+    QVector<LedStamps::Place> places;
+    for (int column = columnRange.first; column <= columnRange.last; ++column)
+        places.append(LedStamps::Place(transform.dx() + double(column) * CELL * transform.m11()));
+    const int left = places.first().pixel;
+    const bool areApart = stamps.areApart(CELL * transform.m11());
+    QImage line = stamps.lineBetween(left, places.last().pixel);
+    for (int row = rowRange.first; row <= rowRange.last; ++row) {
+        const LedStamps::Place y(transform.dy() + double(row) * CELL * transform.m22());
+        line.fill(Qt::transparent);
+        for (int i = 0; i < places.size(); ++i) {
+            const QRgb color = leds.at(columnRange.first + i).at(row);
+            stamps.draw(line, places[i].pixel - left, places[i].phase, y.phase, color, areApart);
+        }
+        painter.drawImage(left, y.pixel, line);
+    }
+}
+
+QLedMatrix::QLedMatrix(QWidget* parent) : QWidget(parent), impl(std::make_unique<Impl>(this))
+{
+    Common::AccessibleFactory<QLedMatrix, AccessibleMatrix>::Install();
+}
+
+QLedMatrix::~QLedMatrix() = default;
+
+QColor QLedMatrix::backgroundColor() const
+{
+    return impl->background.color();
+}
+
+void QLedMatrix::setBackgroundColor(const QColor& color)
+{
+    if (backgroundColor() == color)
+        return;
+    impl->background.setColor(color);
+    update();
+}
+
+Qt::BGMode QLedMatrix::backgroundMode() const
+{
+    return impl->backgroundMode;
+}
+
+void QLedMatrix::setBackgroundMode(Qt::BGMode mode)
+{
+    if (impl->backgroundMode == mode)
+        return;
+    impl->backgroundMode = mode;
+    update();
+}
+
+QColor QLedMatrix::darkLedColor() const
+{
+    return impl->darkLedColor;
+}
+
+void QLedMatrix::setDarkLedColor(const QColor& color)
+{
+    if (impl->darkLedColor == color)
+        return;
+    const QRgb previous = impl->darkLedColor.rgba();
+    impl->darkLedColor = color;
+    for (QVector<QRgb>& column : impl->leds)
+        std::replace(column.begin(), column.end(), previous, color.rgba());
+    impl->UpdateAll();
+}
+
+int QLedMatrix::rows() const
+{
+    return impl->rows;
+}
+
+void QLedMatrix::setRowCount(int count)
+{
+    if (count < 0 || count == impl->rows)
+        return;
+    if (IsReasonable(count, impl->columns))
+        impl->Resize(count, impl->columns);
+    else
+        qWarning("QLedMatrix::setRowCount: %d rows of %d LEDs are too many", count, impl->columns);
+}
+
+int QLedMatrix::columns() const
+{
+    return impl->columns;
+}
+
+void QLedMatrix::setColumnCount(int count)
+{
+    if (count < 0 || count == impl->columns)
+        return;
+    if (IsReasonable(impl->rows, count))
+        impl->Resize(impl->rows, count);
+    else
+        qWarning("QLedMatrix::setColumnCount: %d columns of %d LEDs are too many", count, impl->rows);
+}
+
+QRgb QLedMatrix::colorAt(int row, int column) const
+{
+    if (!impl->Has(row, column)) {
+        qWarning("QLedMatrix::colorAt: coordinate (row=%d, col=%d) out of range", row, column);
+        return impl->darkLedColor.rgba();
+    }
+    return impl->leds[column][row];
+}
+
+void QLedMatrix::setColorAt(int row, int column, QRgb color, bool update)
+{
+    if (!impl->Has(row, column)) {
+        qWarning("QLedMatrix::setColorAt: coordinate (row=%d, col=%d) out of range", row, column);
+        return;
+    }
+    impl->leds[column][row] = color;
+    // One that is hidden is painted as a whole when it is shown.
+    if (isVisible())
+        impl->stale |= QRect(column, row, 1, 1);
+    if (update && !impl->stale.isNull())
+        impl->UpdateStale();
+}
+
+void QLedMatrix::clear()
+{
+    for (QVector<QRgb>& column : impl->leds)
+        column.fill(impl->darkLedColor.rgba());
+    impl->UpdateAll();
+}
+
+QSize QLedMatrix::sizeHint() const
+{
+    if (impl->rows > 0 && impl->columns > 0)
+        return {qRound(impl->logicalWidth), qRound(impl->logicalHeight)};
+    qWarning("QLedMatrix::sizeHint: no rows or columns to display, defaulting size to (10,10)");
+    return {CELL, CELL};
+}
+
+void QLedMatrix::paintEvent(QPaintEvent* event)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    if (impl->backgroundMode == Qt::OpaqueMode)
+        painter.fillRect(rect(), impl->background);
+    if (impl->rows == 0 || impl->columns == 0 || size().isEmpty())
+        return;
+    const QTransform gridToWidget = impl->GridToWidget();
+    const QRectF exposed = gridToWidget.inverted().mapRect(QRectF(event->rect()));
+    const Range rowRange = CellsBetween(exposed.top(), exposed.bottom(), impl->rows);
+    const Range columnRange = CellsBetween(exposed.left(), exposed.right(), impl->columns);
+    if (rowRange.last < rowRange.first || columnRange.last < columnRange.first)
+        return;
+    painter.setTransform(gridToWidget, true);
+    if (TakesStamps(painter, painter.deviceTransform().mapRect(exposed)))
+        impl->PaintStamps(painter, rowRange, columnRange);
+    else
+        impl->PaintCircles(painter, rowRange, columnRange);
+}

@@ -1,0 +1,353 @@
+#include <UI/Kit/ZSliderButton.h>
+
+#include <UI/Common/AccessibleFactory.h>
+#include <UI/Common/BoxLayouts.h>
+#include <UI/Common/WheelPolicy.h>
+
+#include <QAccessibleWidget>
+#include <QKeyEvent>
+#include <QPointer>
+#include <QScreen>
+#include <QSignalBlocker>
+#include <QSlider>
+#include <QStackedWidget>
+#include <QStyleOptionToolButton>
+#include <QStylePainter>
+#include <QToolButton>
+
+#ifdef Q_OS_WIN
+#include <QtCore/qt_windows.h>
+#endif
+
+using namespace Zelkor::Vx::UI;
+
+namespace {
+
+constexpr char STYLE_TAG[] = "styleTag";
+constexpr int MAXIMUM = 100;
+constexpr int STEP = 25; // levels to a page, behind the one for 0
+constexpr int VERTICAL_MARGIN = 5;
+
+// One level step. It has no focus of its own, and shows that of the button.
+class LevelButton : public QToolButton
+{
+public:
+    explicit LevelButton(const QWidget* button) : button(button) {}
+
+protected:
+    void paintEvent(QPaintEvent*) override
+    {
+        QStyleOptionToolButton option;
+        initStyleOption(&option);
+        if (button->hasFocus())
+            option.state |= QStyle::State_HasFocus;
+        QStylePainter(this).drawComplexControl(QStyle::CC_ToolButton, option);
+    }
+
+private:
+    const QWidget* button;
+};
+
+QRect OnScreen(const QWidget* widget)
+{
+    return {widget->mapToGlobal(QPoint(0, 0)), widget->size()};
+}
+
+class SliderFrame : public QFrame
+{
+public:
+    explicit SliderFrame(QWidget* button) : QFrame(button, Qt::Popup), button(button) {}
+
+protected:
+    void mousePressEvent(QMouseEvent* event) override
+    {
+        // A press outside closes the pop-up and is then given to what lies under it. The button would open it again.
+        setAttribute(Qt::WA_NoMouseReplay, OnScreen(button).contains(event->globalPos()));
+        QFrame::mousePressEvent(event);
+    }
+
+private:
+    QWidget* button;
+};
+
+// Above the button with its left edge. Where the screen has no room, below it and moved to the side.
+QPoint PopUpPosition(const QRect& button, const QSize& popUp, const QRect& screen)
+{
+    QRect place(button.topLeft() - QPoint(0, popUp.height()), popUp);
+    if (screen.contains(place))
+        return place.topLeft();
+    if (place.top() < screen.top())
+        place.moveTop(button.top() + button.height());
+    place.moveLeft(qMax(screen.left(), qMin(place.left(), screen.left() + screen.width() - place.width())));
+    place.moveTop(qMax(screen.top(), qMin(place.top(), screen.top() + screen.height() - place.height())));
+    return place.topLeft();
+}
+
+// Windows alone has a call for this.
+void RemoveShadow([[maybe_unused]] const QWidget* popUp)
+{
+#ifdef Q_OS_WIN
+    const auto window = reinterpret_cast<HWND>(popUp->winId());
+    const DWORD style = GetClassLongW(window, GCL_STYLE);
+    if (style & CS_DROPSHADOW)
+        SetClassLongW(window, GCL_STYLE, LONG(style & ~DWORD(CS_DROPSHADOW)));
+#endif
+}
+
+QString NameOf(const QWidget* button)
+{
+    return button->accessibleName().isEmpty() ? ZSliderButton::tr("Level") : button->accessibleName();
+}
+
+// A slider for assistive technology: this is how it works by keyboard, and the pop-up is not needed then.
+class AccessibleSliderButton : public QAccessibleWidget, public QAccessibleValueInterface
+{
+public:
+    explicit AccessibleSliderButton(ZSliderButton* button)
+        : QAccessibleWidget(button, QAccessible::Slider), button(button)
+    {}
+
+    int childCount() const override { return 0; }
+    QAccessibleInterface* child(int) const override { return nullptr; }
+    int indexOfChild(const QAccessibleInterface*) const override { return -1; }
+
+    void* interface_cast(QAccessible::InterfaceType type) override
+    {
+        if (type == QAccessible::ValueInterface)
+            return static_cast<QAccessibleValueInterface*>(this);
+        return QAccessibleWidget::interface_cast(type);
+    }
+
+    QString text(QAccessible::Text kind) const override
+    {
+        if (kind == QAccessible::Name)
+            return NameOf(button);
+        return kind == QAccessible::Value ? QString::number(button->value()) : QAccessibleWidget::text(kind);
+    }
+
+    QVariant currentValue() const override { return button->value(); }
+    void setCurrentValue(const QVariant& value) override { button->setValue(value.toInt()); }
+    QVariant maximumValue() const override { return MAXIMUM; }
+    QVariant minimumValue() const override { return 0; }
+    QVariant minimumStepSize() const override { return 1; }
+
+private:
+    ZSliderButton* button;
+};
+
+} // namespace
+
+ZSliderButton::ZSliderButton(QWidget* parent) : QWidget(parent)
+{
+    Common::AccessibleFactory<ZSliderButton, AccessibleSliderButton>::Install();
+    setFocusPolicy(Qt::TabFocus);
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    createLevelButtons();
+    createSlider();
+}
+
+ZSliderButton::~ZSliderButton()
+{
+    // The slider may be open, and loses the focus now.
+    slider->removeEventFilter(this);
+    if (!sliderFrame->parent())
+        delete sliderFrame;
+}
+
+void ZSliderButton::createLevelButtons()
+{
+    for (int i = 0; i < LEVELS; ++i) {
+        levelButtons[i] = new LevelButton(this);
+        levelButtons[i]->setCheckable(true);
+        levelButtons[i]->setFocusPolicy(Qt::NoFocus);
+        levelButtons[i]->setProperty(STYLE_TAG, QStringLiteral("ZSliderButton%1").arg(i));
+        connect(levelButtons[i], &QAbstractButton::clicked, this, &ZSliderButton::showSlider);
+    }
+    stack = new QStackedWidget(this);
+    stack->setProperty(STYLE_TAG, QStringLiteral("ZSliderButtonMain"));
+    for (QToolButton* button : levelButtons)
+        stack->addWidget(button);
+    stack->setCurrentIndex(LEVELS - 1);
+    Common::MakeBoxLayout<QHBoxLayout>(this)->addWidget(stack);
+}
+
+void ZSliderButton::createSlider()
+{
+    sliderFrame = new SliderFrame(this);
+    sliderFrame->setObjectName(QStringLiteral("sliderFrame"));
+    sliderFrame->hide();
+    slider = new QSlider(Qt::Vertical);
+    slider->setObjectName(QStringLiteral("slider"));
+    slider->setRange(0, MAXIMUM);
+    slider->installEventFilter(this);
+    connect(slider, &QSlider::valueChanged, this, &ZSliderButton::setValue);
+
+    auto* layout = Common::MakeBoxLayout<QHBoxLayout>(sliderFrame);
+    layout->setContentsMargins(0, VERTICAL_MARGIN, 0, VERTICAL_MARGIN);
+    // The frame is as wide as the button and as high as it was told, even where the slider would like more.
+    layout->setSizeConstraint(QLayout::SetNoConstraint);
+    layout->addStretch();
+    layout->addWidget(slider);
+    layout->addStretch();
+}
+
+int ZSliderButton::value() const
+{
+    return slider->value();
+}
+
+void ZSliderButton::setOnTop(bool isOnTop)
+{
+    if (onTop == isOnTop)
+        return;
+    onTop = isOnTop;
+    sliderFrame->hide();
+    const Qt::WindowType previous = onTop ? Qt::Popup : Qt::SplashScreen;
+    const Qt::WindowType next = onTop ? Qt::SplashScreen : Qt::Popup;
+    // In one step: a change of the parent alone would make the frame a part of it, and no window.
+    sliderFrame->setParent(onTop ? nullptr : this, (sliderFrame->windowFlags() ^ previous) | next);
+}
+
+void ZSliderButton::setShadow(bool hasShadow)
+{
+    if (shadow == hasShadow)
+        return;
+    shadow = hasShadow;
+    if (!shadow)
+        RemoveShadow(sliderFrame);
+}
+
+void ZSliderButton::setSliderHeight(int height)
+{
+    popUpHeight = height;
+}
+
+void ZSliderButton::setValue(int newValue)
+{
+    newValue = qBound(0, newValue, MAXIMUM);
+    showValue(newValue);
+    Q_EMIT valueChanged(newValue);
+}
+
+void ZSliderButton::toggle()
+{
+    toggle(!on);
+}
+
+void ZSliderButton::toggle(bool isOn)
+{
+    const QPointer<ZSliderButton> self(this);
+    if (isOn) {
+        setValue(rememberedValue);
+    } else {
+        rememberedValue = slider->value();
+        setValue(0);
+    }
+    if (!self)
+        return;
+    on = isOn;
+    Q_EMIT toggled(on);
+}
+
+void ZSliderButton::showSlider()
+{
+    const QRect screenRect = screen()->geometry();
+    sliderFrame->resize(width(), qBound(1, popUpHeight, screenRect.height()));
+    sliderFrame->move(PopUpPosition(OnScreen(this), sliderFrame->size(), screenRect));
+    slider->setAccessibleName(NameOf(this));
+    // The pop-up grabs the mouse, so the level button would not learn that the pointer left it.
+    stack->currentWidget()->setAttribute(Qt::WA_UnderMouse, false);
+    sliderFrame->show();
+    if (onTop)
+        sliderFrame->activateWindow();
+    slider->setFocus(Qt::OtherFocusReason);
+}
+
+bool ZSliderButton::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched != slider)
+        return QWidget::eventFilter(watched, event);
+    switch (event->type()) {
+    case QEvent::FocusIn:
+        setLevelsChecked(true);
+        break;
+    case QEvent::FocusOut:
+        setLevelsChecked(false);
+        sliderFrame->hide();
+        break;
+    case QEvent::Hide:
+        // Where no window of ours is active, the slider keeps the focus.
+        setLevelsChecked(false);
+        break;
+    case QEvent::KeyPress: {
+        const int key = static_cast<QKeyEvent*>(event)->key();
+        if (key == Qt::Key_Escape || key == Qt::Key_Space || key == Qt::Key_Return || key == Qt::Key_Enter)
+            sliderFrame->hide();
+        break;
+    }
+    default:
+        break;
+    }
+    return false;
+}
+
+void ZSliderButton::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::EnabledChange && !isEnabled())
+        sliderFrame->hide();
+    QWidget::changeEvent(event);
+}
+
+void ZSliderButton::hideEvent(QHideEvent* event)
+{
+    sliderFrame->hide();
+    QWidget::hideEvent(event);
+}
+
+void ZSliderButton::keyPressEvent(QKeyEvent* event)
+{
+    switch (event->key()) {
+    case Qt::Key_Space:
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+    case Qt::Key_Select:
+        showSlider();
+        break;
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+    case Qt::Key_PageUp:
+    case Qt::Key_PageDown:
+    case Qt::Key_Home:
+    case Qt::Key_End:
+        static_cast<QObject*>(slider)->event(event);
+        break;
+    default:
+        QWidget::keyPressEvent(event);
+    }
+}
+
+void ZSliderButton::wheelEvent(QWheelEvent* event)
+{
+    if (!Common::TakesWheel(*this, *event, true))
+        return;
+    static_cast<QObject*>(slider)->event(event);
+    // At the end of the range as well: the panel around shall not scroll suddenly.
+    event->accept();
+}
+
+void ZSliderButton::setLevelsChecked(bool checked)
+{
+    for (QToolButton* button : levelButtons)
+        button->setChecked(checked);
+}
+
+void ZSliderButton::showValue(int newValue)
+{
+    const QSignalBlocker blocker(slider);
+    slider->setValue(newValue);
+    const int page = newValue == 0 ? 0 : newValue / STEP + 1;
+    if (page < stack->count())
+        stack->setCurrentIndex(page);
+    QAccessibleValueChangeEvent event(this, newValue);
+    QAccessible::updateAccessibility(&event);
+}

@@ -1,0 +1,209 @@
+#include <UI/Kit/QLedMatrix.h>
+
+#include <Support/EventWatch.h>
+#include <Support/TestCase.h>
+
+#include <QAccessible>
+#include <QPaintEvent>
+#include <QPainter>
+
+namespace {
+
+// Of 255: what a 32nd of a pixel makes at the edge of a circle.
+constexpr int ROUNDING = 8;
+
+QRgb ColorOf(int row, int column)
+{
+    const QRgb colors[] = {QLedMatrix::NoColor, QLedMatrix::Red, QLedMatrix::Green, 0x800000ff};
+    return colors[(row * 5 + column * 3) % 7 % 4];
+}
+
+void Fill(QLedMatrix& matrix, int rows, int columns)
+{
+    matrix.setRowCount(rows);
+    matrix.setColumnCount(columns);
+    for (int row = 0; row < rows; ++row) {
+        for (int column = 0; column < columns; ++column)
+            matrix.setColorAt(row, column, ColorOf(row, column), false);
+    }
+}
+
+QImage Canvas(const QSize& size, double pixelRatio)
+{
+    QImage image((QSizeF(size) * pixelRatio).toSize(), QImage::Format_RGB32);
+    image.setDevicePixelRatio(pixelRatio);
+    image.fill(Qt::gray);
+    return image;
+}
+
+QImage Render(QLedMatrix& matrix, double pixelRatio, const QRect& part = {})
+{
+    QImage image = Canvas(matrix.size(), pixelRatio);
+    matrix.render(&image, part.topLeft(), part, QWidget::RenderFlags());
+    return image;
+}
+
+// The same, circle by circle.
+QImage Circles(const QLedMatrix& matrix, double pixelRatio)
+{
+    QImage image = Canvas(matrix.size(), pixelRatio);
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.fillRect(matrix.rect(), Qt::black);
+    const double width = matrix.columns() * 10;
+    const double height = matrix.rows() * 10;
+    const double scale = qMin(matrix.width() / width, matrix.height() / height);
+    painter.translate(matrix.width() / 2.0, matrix.height() / 2.0);
+    painter.scale(scale, scale);
+    painter.translate(1.0 - width / 2, 1.0 - height / 2);
+    for (int row = 0; row < matrix.rows(); ++row) {
+        for (int column = 0; column < matrix.columns(); ++column) {
+            painter.setBrush(QColor::fromRgba(matrix.colorAt(row, column)));
+            painter.drawEllipse(QRectF(column * 10, row * 10, 8, 8));
+        }
+    }
+    return image;
+}
+
+int LargestDifference(const QImage& a, const QImage& b)
+{
+    int largest = a.size() == b.size() ? 0 : 256;
+    for (int i = 0; largest < 256 && i < a.sizeInBytes(); ++i)
+        largest = qMax(largest, qAbs(int(a.constBits()[i]) - int(b.constBits()[i])));
+    return largest;
+}
+
+} // namespace
+
+class tst_QLedMatrix : public Support::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void pixelsAreThoseOfCircles()
+    {
+        // LEDs of many pixels, which are drawn as circles, of some, which are stamped, and of less than one.
+        for (const QSize size : {QSize(30, 20), QSize(60, 20), QSize(97, 211), QSize(333, 160), QSize(16, 16),
+                                 QSize(5, 4), QSize(700, 900)}) {
+            for (const QSize grid : {QSize(3, 2), QSize(1, 1), QSize(16, 9), QSize(40, 40)}) {
+                for (const double pixelRatio : {1.0, 1.25, 2.0}) {
+                    InRow(QString("%1 rows, %2 high, at %3").arg(grid.height()).arg(size.height()).arg(pixelRatio));
+                    QLedMatrix matrix;
+                    Fill(matrix, grid.height(), grid.width());
+                    matrix.resize(size);
+                    QVERIFY(LargestDifference(Render(matrix, pixelRatio), Circles(matrix, pixelRatio)) <= ROUNDING);
+                }
+            }
+        }
+    }
+
+    void aPartIsPaintedAsInTheWhole()
+    {
+        QLedMatrix matrix;
+        Fill(matrix, 20, 20);
+        matrix.resize(333, 257);
+        const QRect part(100, 40, 61, 83);
+        QCOMPARE(Render(matrix, 1, part).copy(part), Render(matrix, 1).copy(part));
+        // Turned, and thus circle by circle.
+        QImage turned(257, 333, QImage::Format_RGB32);
+        turned.fill(Qt::gray);
+        QPainter painter(&turned);
+        painter.translate(257, 0);
+        painter.rotate(90);
+        matrix.render(&painter, QPoint(), QRegion(), QWidget::RenderFlags());
+        painter.end();
+        QVERIFY(LargestDifference(turned, Circles(matrix, 1).transformed(QTransform().rotate(90))) <= ROUNDING);
+    }
+
+    void onlyWhatChangedIsPainted()
+    {
+        QLedMatrix matrix;
+        Fill(matrix, 10, 20);
+        matrix.resize(400, 200);
+        matrix.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&matrix));
+        QCoreApplication::processEvents();
+        QVector<QRect> painted;
+        const Support::EventWatch watch(&matrix, [&](QEvent::Type type, QEvent* event) {
+            if (type == QEvent::Paint)
+                painted += static_cast<QPaintEvent*>(event)->region().boundingRect();
+        });
+        const auto paintedNow = [&] {
+            painted.clear();
+            QCoreApplication::sendPostedEvents();
+            QCoreApplication::processEvents();
+            return painted;
+        };
+        matrix.setColorAt(2, 3, QLedMatrix::White);
+        QCOMPARE(paintedNow(), QVector<QRect>({QRect(61, 41, 18, 18)}));
+        matrix.setColorAt(2, 3, QLedMatrix::Blue, false);
+        QCOMPARE(matrix.colorAt(2, 3), QRgb(QLedMatrix::Blue));
+        QCOMPARE(paintedNow(), QVector<QRect>());
+        // What waited comes along.
+        matrix.setColorAt(3, 5, QLedMatrix::Blue);
+        QCOMPARE(paintedNow(), QVector<QRect>({QRect(61, 41, 58, 38)}));
+        matrix.clear();
+        QCOMPARE(paintedNow(), QVector<QRect>({matrix.rect()}));
+        QCOMPARE(matrix.colorAt(3, 5), QRgb(QLedMatrix::NoColor));
+    }
+
+    void countsAndCoordinates()
+    {
+        QLedMatrix matrix;
+        ExpectWarning("QLedMatrix::sizeHint: no rows or columns to display, defaulting size to (10,10)");
+        QCOMPARE(matrix.sizeHint(), QSize(10, 10));
+        matrix.resize(20, 20);
+        QCOMPARE(Render(matrix, 1).pixel(10, 10), 0xff000000);
+        matrix.setRowCount(2);
+        matrix.setColumnCount(3);
+        matrix.setRowCount(-1);
+        QCOMPARE(matrix.sizeHint(), QSize(30, 20));
+        // Far too many, each by itself and together.
+        ExpectWarning("QLedMatrix::setRowCount: 1677722 rows");
+        matrix.setRowCount(1677722);
+        ExpectWarning("QLedMatrix::setColumnCount: 2147483647 columns");
+        matrix.setColumnCount(INT_MAX);
+        matrix.setRowCount(4096);
+        ExpectWarning("QLedMatrix::setColumnCount: 4097 columns");
+        matrix.setColumnCount(4097);
+        QCOMPARE(QSize(matrix.columns(), matrix.rows()), QSize(3, 4096));
+
+        matrix.setRowCount(2);
+        matrix.setColorAt(1, 2, QLedMatrix::Orange);
+        for (const QPoint bad : {QPoint(-1, 0), QPoint(3, 0), QPoint(0, 2), QPoint(0, -1)}) {
+            ExpectWarning(QString("::colorAt: coordinate (row=%1, col=%2) out of range").arg(bad.y()).arg(bad.x()));
+            QCOMPARE(matrix.colorAt(bad.y(), bad.x()), 0xFF222222);
+            ExpectWarning(QString("::setColorAt: coordinate (row=%1, col=%2) out of range").arg(bad.y()).arg(bad.x()));
+            matrix.setColorAt(bad.y(), bad.x(), QLedMatrix::Red);
+        }
+        // LEDs stay when the grid grows; those that come, and those that were off, are off in the colour of the day.
+        matrix.setDarkLedColor(Qt::darkBlue);
+        matrix.setRowCount(3);
+        matrix.setColumnCount(4);
+        QCOMPARE(matrix.colorAt(1, 2), QRgb(QLedMatrix::Orange));
+        for (const QPoint dark : {QPoint(0, 0), QPoint(2, 2), QPoint(3, 1)})
+            QCOMPARE(matrix.colorAt(dark.y(), dark.x()), QColor(Qt::darkBlue).rgba());
+    }
+
+    void backgroundByStyleSheet()
+    {
+        QLedMatrix matrix;
+        Fill(matrix, 1, 1);
+        matrix.resize(40, 20);
+        matrix.setStyleSheet("QLedMatrix { qproperty-backgroundColor: #123456; qproperty-darkLedColor: #654321 }");
+        QImage image = Render(matrix, 1);
+        QCOMPARE(image.pixel(1, 1), 0xff123456);
+        QCOMPARE(image.pixel(20, 10), 0xff654321);
+        matrix.setStyleSheet("QLedMatrix { qproperty-backgroundMode: TransparentMode }");
+        matrix.setAttribute(Qt::WA_NoSystemBackground);
+        image = Render(matrix, 1);
+        QCOMPARE(image.pixel(1, 1), QColor(Qt::gray).rgb());
+        QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(&matrix);
+        QCOMPARE(accessible->role(), QAccessible::Graphic);
+        QVERIFY(!accessible->text(QAccessible::Name).isEmpty());
+    }
+};
+
+VX_TEST_MAIN(tst_QLedMatrix)
+#include "tst_QLedMatrix.moc"
