@@ -1,0 +1,152 @@
+#include <UI/Kit/AdvancedComboView.h>
+
+#include <UI/Kit/ZComboBox.h>
+
+#include <QGuiApplication>
+#include <QLayout>
+#include <QPaintEvent>
+#include <QPainter>
+#include <QScreen>
+#include <QScrollBar>
+#include <QTimer>
+
+#include <algorithm>
+
+namespace {
+
+// Lays the items of a list out again when it goes. It goes by itself once the event loop is back, when the list has
+// taken whatever change is under way.
+class DeferredFlow : public QObject
+{
+public:
+    explicit DeferredFlow(QListView* view) : QObject(view) { QTimer::singleShot(0, this, &QObject::deleteLater); }
+
+    ~DeferredFlow() override
+    {
+        // A list that is about to die has its children deleted when it is but a widget, or an object, itself.
+        if (auto* view = qobject_cast<QListView*>(parent()))
+            view->setFlow(QListView::TopToBottom);
+    }
+};
+
+QRect ScreenOf(const QWidget& widget)
+{
+    const QScreen* screen = QGuiApplication::screenAt(widget.mapToGlobal(widget.rect().center()));
+    if (!screen)
+        screen = widget.screen();
+    return screen->availableGeometry();
+}
+
+// What a pop-up has beside its list.
+int WidthAround(const QWidget* popUp)
+{
+    if (!popUp || !popUp->layout())
+        return 0;
+    const QMargins margins = popUp->contentsMargins() + popUp->layout()->contentsMargins();
+    return margins.left() + margins.right();
+}
+
+// Where a pop-up that would begin at `left` begins, to be on the screen: whole, or at least with its beginning.
+int PopUpLeft(int left, int width, const QRect& screen, bool isRightToLeft)
+{
+    const int last = screen.x() + screen.width() - width;
+    return isRightToLeft ? std::min(std::max(left, screen.x()), last) : std::max(std::min(left, last), screen.x());
+}
+
+} // namespace
+
+AdvancedComboView::AdvancedComboView(ZComboBox* combo, bool wide) : combo(combo), wide(wide)
+{
+    if (wide)
+        setTextElideMode(Qt::ElideNone);
+}
+
+void AdvancedComboView::fitToItems()
+{
+    if (!wide || !combo)
+        return;
+    const QScrollBar* bar = verticalScrollBar();
+    const int barWidth = bar && bar->maximum() != 0 ? bar->width() : 0;
+    // A style sheet may give the list a border and padding of its own.
+    const int frame = width() - maximumViewportSize().width();
+    const int needed = sizeHintForColumn(combo->modelColumn()) + barWidth + frame;
+    setMinimumWidth(std::min(needed, ScreenOf(*combo).width() - WidthAround(parentWidget())));
+}
+
+QStyleOptionViewItem AdvancedComboView::viewOptions() const
+{
+    QStyleOptionViewItem option = QListView::viewOptions();
+    option.showDecorationSelected = true;
+    if (combo)
+        option.font = combo->font();
+    return option;
+}
+
+void AdvancedComboView::resizeEvent(QResizeEvent* event)
+{
+    resizeContents(viewport()->width(), contentsSize().height());
+    QListView::resizeEvent(event);
+    fitToItems();
+}
+
+bool AdvancedComboView::eventFilter(QObject* watched, QEvent* event)
+{
+    if (wide && watched == parent() && event->type() == QEvent::Resize)
+        keepPopUpOnScreen();
+    return QListView::eventFilter(watched, event);
+}
+
+void AdvancedComboView::paintEvent(QPaintEvent* event)
+{
+    if (combo)
+        paintMenuBackground(event->rect());
+    QListView::paintEvent(event);
+}
+
+// Some styles make the list of a combo box a menu.
+void AdvancedComboView::paintMenuBackground(const QRect& area)
+{
+    QStyleOptionComboBox comboOption;
+    comboOption.initFrom(combo);
+    comboOption.editable = combo->isEditable();
+    if (!combo->style()->styleHint(QStyle::SH_ComboBox_Popup, &comboOption, combo))
+        return;
+    QStyleOptionMenuItem option;
+    option.initFrom(this);
+    option.palette = palette();
+    option.state = QStyle::State_None;
+    option.checkType = QStyleOptionMenuItem::NotCheckable;
+    option.menuRect = area;
+    option.maxIconWidth = 0;
+    option.tabWidth = 0;
+    QPainter painter(viewport());
+    combo->style()->drawControl(QStyle::CE_MenuEmptyArea, &option, &painter, this);
+}
+
+void AdvancedComboView::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::LayoutDirectionChange && combo && combo->view()->isVisible()) {
+        // Opened anew, the pop-up stands as the other direction has it.
+        combo->hidePopup();
+        combo->showPopup();
+    } else if (event->type() == QEvent::ParentChange && parent()) {
+        parent()->installEventFilter(this);
+    } else if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) {
+        new DeferredFlow(this);
+    }
+    QListView::changeEvent(event);
+}
+
+// The combo box places its pop-up before it is as wide as it gets.
+void AdvancedComboView::keepPopUpOnScreen()
+{
+    QWidget* popUp = window();
+    if (!combo || popUp == this || popUp == combo->window() || popUp->graphicsProxyWidget())
+        return;
+    const QPoint comboLeft = combo->mapToGlobal(QPoint(0, 0));
+    const bool isRightToLeft = combo->isRightToLeft();
+    const int left = isRightToLeft ? comboLeft.x() + combo->width() - popUp->width() : popUp->x();
+    const QPoint place(PopUpLeft(left, popUp->width(), ScreenOf(*combo), isRightToLeft), popUp->y());
+    if (popUp->pos() != place)
+        popUp->setGeometry(QRect(place, popUp->size()));
+}

@@ -1,0 +1,65 @@
+#include <UI/Kit/ZCustomSlider.h>
+
+#include <UI/Common/WheelPolicy.h>
+
+using namespace Zelkor::Vx::UI;
+
+namespace {
+
+// Swallows what would push the slider beyond its end. Only touch pads and the like tell pixels; the notches of a mouse
+// wheel go on to the panel.
+class WheelFilter : public QObject
+{
+public:
+    explicit WheelFilter(QSlider* slider) : QObject(slider), slider(slider) {}
+
+private:
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() == QEvent::Wheel) {
+            const int delta = static_cast<QWheelEvent*>(event)->pixelDelta().y();
+            const int position = slider->sliderPosition();
+            if ((position == slider->minimum() && delta < 0) || (position == slider->maximum() && delta > 0)) {
+                event->accept();
+                return true;
+            }
+        }
+        return QObject::eventFilter(watched, event);
+    }
+
+    QSlider* slider;
+};
+
+} // namespace
+
+ZCustomSlider::ZCustomSlider(QWidget* parent) : QSlider(parent) {}
+
+void ZCustomSlider::setEditableInFocus(bool on)
+{
+    editableInFocus = on;
+    if (on)
+        installWheelFilter();
+    else
+        removeWheelFilter();
+}
+
+void ZCustomSlider::wheelEvent(QWheelEvent* event)
+{
+    if (Common::TakesWheel(*this, *event, editableInFocus))
+        QSlider::wheelEvent(event);
+}
+
+void ZCustomSlider::installWheelFilter()
+{
+    if (!wheelFilter)
+        wheelFilter = new WheelFilter(this);
+    installEventFilter(wheelFilter);
+}
+
+void ZCustomSlider::removeWheelFilter()
+{
+    if (!wheelFilter)
+        return;
+    removeEventFilter(wheelFilter);
+    wheelFilter.clear();
+}

@@ -1,0 +1,83 @@
+#include <UI/Kit/ZDoubleSpinBox.h>
+
+#include <UI/Common/WheelPolicy.h>
+
+#include <QLineEdit>
+
+#include <algorithm>
+#include <cmath>
+
+using namespace Zelkor::Vx::UI;
+
+namespace {
+
+constexpr double MOST_STEPS = 1LL << 52; ///< from here on, a double has no room for parts of a step
+constexpr double TOLERANCE = 1e-9;       ///< of a step: 0.3 has three steps of 0.1, whatever the binary digits say
+
+// `text` without what a field puts around its number.
+QString Bare(QString text, const QString& prefix, const QString& suffix)
+{
+    if (text.startsWith(prefix))
+        text.remove(0, prefix.size());
+    if (text.endsWith(suffix))
+        text.chop(suffix.size());
+    return text.trimmed();
+}
+
+} // namespace
+
+ZDoubleSpinBox::ZDoubleSpinBox(QWidget* parent) : QDoubleSpinBox(parent)
+{
+    connect(lineEdit(), &QLineEdit::textEdited, this, [this] { typed = true; });
+    // Made here, the connection comes before those of others: they find the rounded value.
+    connect(this, &QDoubleSpinBox::editingFinished, this, &ZDoubleSpinBox::finishTyping);
+}
+
+void ZDoubleSpinBox::setFixupWithStep(bool on)
+{
+    fixupWithStep = on;
+}
+
+void ZDoubleSpinBox::setEditableInFocus(bool on)
+{
+    editableInFocus = on;
+    Common::LetWheelGiveFocus(*this, !on);
+}
+
+void ZDoubleSpinBox::fixup(QString& text) const
+{
+    QDoubleSpinBox::fixup(text);
+    bool isNumber = false;
+    const double number = locale().toDouble(Bare(text, prefix(), suffix()), &isNumber);
+    if (fixupWithStep && isNumber)
+        text = prefix() + textFromValue(roundedToStep(std::clamp(number, minimum(), maximum()))) + suffix();
+}
+
+double ZDoubleSpinBox::valueFromText(const QString& text) const
+{
+    const double number = QDoubleSpinBox::valueFromText(text);
+    // Without tracking, what was typed is read when the editing is finished.
+    return fixupWithStep && typed && !keyboardTracking() ? roundedToStep(number) : number;
+}
+
+void ZDoubleSpinBox::wheelEvent(QWheelEvent* event)
+{
+    if (Common::TakesWheel(*this, *event, editableInFocus))
+        QDoubleSpinBox::wheelEvent(event);
+}
+
+double ZDoubleSpinBox::roundedToStep(double number) const
+{
+    const double stepsInRange = std::floor((maximum() - minimum()) / singleStep() + TOLERANCE);
+    const double steps = std::round((number - minimum()) / singleStep());
+    if (!(std::abs(steps) < MOST_STEPS))
+        return number;
+    return minimum() + std::min(steps, stepsInRange) * singleStep();
+}
+
+void ZDoubleSpinBox::finishTyping()
+{
+    if (typed && fixupWithStep)
+        setValue(roundedToStep(value()));
+    typed = false;
+}

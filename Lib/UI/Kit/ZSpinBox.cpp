@@ -1,0 +1,19 @@
+#include <UI/Kit/ZSpinBox.h>
+
+#include <UI/Common/WheelPolicy.h>
+
+using namespace Zelkor::Vx::UI;
+
+ZSpinBox::ZSpinBox(QWidget* parent) : QSpinBox(parent) {}
+
+void ZSpinBox::setEditableInFocus(bool on)
+{
+    editableInFocus = on;
+    Common::LetWheelGiveFocus(*this, !on);
+}
+
+void ZSpinBox::wheelEvent(QWheelEvent* event)
+{
+    if (Common::TakesWheel(*this, *event, editableInFocus))
+        QSpinBox::wheelEvent(event);
+}

@@ -1,0 +1,170 @@
+#include <UI/Kit/ZComboBox.h>
+#include <UI/Kit/ZDoubleSlider.h>
+#include <UI/Kit/ZDoubleSpinBox.h>
+#include <UI/Kit/ZSpinBox.h>
+
+#include <Support/EventWatch.h>
+#include <Support/TestCase.h>
+
+#include <QAccessible>
+#include <QSignalSpy>
+#include <QWheelEvent>
+#include <QWindow>
+
+#include <limits>
+
+constexpr double INF = std::numeric_limits<double>::infinity();
+
+class tst_KitFields : public Support::TestCase
+{
+    Q_OBJECT
+
+private:
+    // How many wheel events the field leaves to its window. Sent as by the window system; a touch pad tells pixels.
+    static int PassedOn(QWidget* field, int notches, int pixels = 0)
+    {
+        int count = 0;
+        QWidget* window = field->window();
+        const Support::EventWatch watch(window, [&](QEvent::Type type, QEvent*) { count += type == QEvent::Wheel; });
+        const QPoint place = field->pos() + QPoint(2, 2);
+        QWheelEvent event(place, window->mapToGlobal(place), QPoint(0, pixels), QPoint(0, 120 * notches), Qt::NoButton,
+                          Qt::NoModifier, Qt::NoScrollPhase, false);
+        QSpontaneKeyEvent::setSpontaneous(&event);
+        qApp->notify(window->windowHandle(), &event);
+        return count;
+    }
+
+private Q_SLOTS:
+    void wheelOnlyInFocus()
+    {
+        QWidget window;
+        for (QWidget* field : QWidgetList{new ZCustomSlider, new ZSpinBox, new ZDoubleSpinBox}) {
+            InRow(field->metaObject()->className());
+            field->setParent(&window);
+            window.show();
+            field->show();
+            window.activateWindow();
+            QVERIFY(QTest::qWaitForWindowActive(&window));
+            const auto value = [&] { return field->property("value").toDouble(); };
+            QCOMPARE(PassedOn(field, 1), 0);
+            const double before = value();
+            QVERIFY(before > 0);
+            window.setFocus();
+            field->setProperty("editableInFocus", true);
+            QCOMPARE(PassedOn(field, 1), 1);
+            QVERIFY(!field->hasFocus());
+            QCOMPARE(value(), before);
+            field->setFocus();
+            QCOMPARE(PassedOn(field, 1), 0);
+            QVERIFY(value() > before);
+            field->hide();
+        }
+    }
+
+    void comboBoxCanLeaveTheWheel()
+    {
+        QWidget window;
+        ZComboBox combo(&window);
+        combo.addItems({"a", "b", "c"});
+        window.show();
+        combo.setMouseWheelEnabled(false);
+        combo.setFocus();
+        QCOMPARE(PassedOn(&combo, -1), 1);
+        QCOMPARE(combo.currentIndex(), 0);
+        combo.setMouseWheelEnabled(true);
+        window.setFocus();
+        QCOMPARE(PassedOn(&combo, -1), 0);
+        QCOMPARE(combo.currentIndex(), 1);
+        QVERIFY(!combo.hasFocus());
+    }
+
+    void sliderAtItsEndSwallowsScrolling()
+    {
+        QWidget window;
+        ZCustomSlider slider(&window);
+        window.show();
+        const auto passed = [&] {
+            QVector<int> counts;
+            for (const int value : {0, 50, 99}) {
+                slider.setValue(value);
+                counts << PassedOn(&slider, 0, -5) << PassedOn(&slider, 0, 5);
+            }
+            return counts;
+        };
+        slider.setEditableInFocus(true);
+        slider.setEditableInFocus(true);
+        QCOMPARE(passed(), QVector<int>({0, 1, 1, 1, 1, 0}));
+        slider.setEditableInFocus(false);
+        QCOMPARE(passed(), QVector<int>({1, 1, 1, 1, 1, 1}));
+    }
+
+    void doubleSlider()
+    {
+        ZDoubleSlider slider;
+        slider.setRange(-50, 100);
+        slider.setValue(25);
+        QSignalSpy changed(&slider, &ZDoubleSlider::doubleValueChanged);
+        slider.setMultiplier(0.1);
+        slider.setMultiplier(0.1);
+        for (const double bad : {0.0, -1e-12, INF, qQNaN()})
+            slider.setMultiplier(bad);
+        slider.setDoubleValue(2.46);
+        slider.setDoubleValue(qQNaN());
+        QCOMPARE(changed, (QList<QVariantList>{{2.5}, {2.5}}));
+        const QVector<QPair<double, int>> rows{{2.44, 24},   {2.46, 25}, {-2.46, -24},  {-2.56, -25}, {11, 100},
+                                               {1e300, 100}, {INF, 100}, {-1e300, -50}, {-INF, -50}};
+        for (const auto& row : rows) {
+            slider.setDoubleValue(row.first);
+            QCOMPARE(slider.value(), row.second);
+            QCOMPARE(changed.last(), QVariantList{row.second * 0.1});
+        }
+        slider.setMultiplier(-0.5);
+        QAccessibleValueInterface* value = QAccessible::queryAccessibleInterface(&slider)->valueInterface();
+        QCOMPARE(QVariantList({value->minimumValue(), value->currentValue(), value->maximumValue()}),
+                 QVariantList({-50.0, 25.0, 25.0}));
+        value->setCurrentValue(-10);
+        QCOMPARE(slider.value(), 20);
+    }
+
+    void typedNumbersAreRoundedToSteps()
+    {
+        struct Row
+        {
+            double minimum, step;
+            const char* typed;
+            double expected;
+        };
+        // Down, up, from the minimum, below zero, last step, the end, below the range, no number, no step, too far.
+        for (const Row& row : {Row{0, 0.25, "1.3", 1.25}, Row{0, 0.25, "1.4", 1.5}, Row{0.1, 0.5, "2.2", 2.1},
+                               Row{-3.1, 1, "-2", -2.1}, Row{0, 3, "10", 9}, Row{0, 0.1, "9.99", 10}, Row{5, 2, "4", 5},
+                               Row{-5, 3, "-", 1}, Row{0, 0, "1.3", 1.3}, Row{-1e300, 3, "1.3", 1.3}}) {
+            for (const bool tracking : {true, false}) {
+                InRow(row.typed);
+                ZDoubleSpinBox field;
+                field.setFixupWithStep(true);
+                field.setKeyboardTracking(tracking);
+                field.setLocale(QLocale::c());
+                field.setRange(row.minimum, 10);
+                field.setSingleStep(row.step);
+                field.setSuffix(" s");
+                field.setValue(1.2);
+                double atEnd = 0;
+                connect(&field, &QDoubleSpinBox::editingFinished, &field, [&] { atEnd = field.value(); });
+                QSignalSpy changed(&field, QOverload<double>::of(&QDoubleSpinBox::valueChanged));
+                field.selectAll();
+                QTest::keyClicks(&field, row.typed);
+                QTest::keyClick(&field, Qt::Key_Return);
+                QCOMPARE(atEnd, row.expected);
+                QCOMPARE(field.text(), field.textFromValue(row.expected) + " s");
+                QVERIFY(tracking || changed.size() <= 1);
+                // What was not typed stays.
+                field.setValue(7.7);
+                QTest::keyClick(&field, Qt::Key_Return);
+                QCOMPARE(field.value(), 7.7);
+            }
+        }
+    }
+};
+
+VX_TEST_MAIN(tst_KitFields)
+#include "tst_KitFields.moc"

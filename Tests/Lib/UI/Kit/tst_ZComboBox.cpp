@@ -1,0 +1,168 @@
+#include <UI/Kit/AdvancedComboView.h>
+#include <UI/Kit/ZComboBox.h>
+
+#include <Support/TestCase.h>
+
+#include <QScreen>
+#include <QScrollBar>
+#include <QSignalSpy>
+
+#include <memory>
+
+const QString LONG_TEXT = QStringLiteral("An item too long for its combo box");
+
+class tst_ZComboBox : public Support::TestCase
+{
+    Q_OBJECT
+
+private:
+    static void prepare(QComboBox& combo)
+    {
+        combo.addItems({"Short", LONG_TEXT});
+        combo.setCurrentIndex(1);
+        combo.resize(120, 30);
+    }
+
+private Q_SLOTS:
+    void face()
+    {
+        for (const char* style : {"", "QComboBox { border: 2px solid red; padding: 5px 11px; color: green }"}) {
+            ZComboBox combo;
+            QComboBox plain;
+            for (QComboBox* box : {static_cast<QComboBox*>(&combo), &plain}) {
+                box->setStyleSheet(style);
+                box->setLayoutDirection(*style ? Qt::RightToLeft : Qt::LeftToRight);
+                box->setPlaceholderText("Choose");
+                prepare(*box);
+            }
+            const auto looksPlain = [&] { return combo.grab().toImage() == plain.grab().toImage(); };
+            combo.setEliding(false);
+            QVERIFY(looksPlain());
+            combo.setEliding(true);
+            combo.setToolTip("of somebody else");
+            QVERIFY(!looksPlain());
+            QCOMPARE(combo.toolTip(), QString());
+            // Like one whose item ends in time.
+            QStyleOptionComboBox option;
+            option.initFrom(&combo);
+            const QFontMetrics metrics = combo.fontMetrics();
+            const int room = combo.style()
+                                 ->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, &combo)
+                                 .width();
+            plain.setItemText(1, metrics.elidedText(LONG_TEXT, Qt::ElideRight, room));
+            QVERIFY(looksPlain());
+            // A text of its own, whatever is chosen.
+            combo.setDisplayText("Mine");
+            plain.setItemText(1, "Mine");
+            QVERIFY(looksPlain());
+            QCOMPARE(combo.currentText(), LONG_TEXT);
+            const int width = combo.minimumSizeHint().width() - metrics.horizontalAdvance("Mine");
+            combo.setDisplayText(LONG_TEXT);
+            QCOMPARE(combo.minimumSizeHint().width(), width + metrics.horizontalAdvance(LONG_TEXT));
+            combo.setDisplayText(QString());
+            combo.setCurrentIndex(-1);
+            plain.setCurrentIndex(-1);
+            QVERIFY(looksPlain());
+        }
+    }
+
+    void changesAreToldOnceAndMakeAFreshList()
+    {
+        ZComboBox combo;
+        prepare(combo);
+        for (const char* name : {"mouseWheelEnabled", "widePopupEnabled", "eliding", "displayText"}) {
+            const QMetaProperty property = combo.metaObject()->property(combo.metaObject()->indexOfProperty(name));
+            QSignalSpy changed(&combo, "2" + property.notifySignal().methodSignature());
+            const QVariant value = property.type() == QVariant::Bool ? QVariant(false) : QVariant("text");
+            property.write(&combo, value);
+            property.write(&combo, value);
+            QCOMPARE(property.read(&combo), value);
+            QCOMPARE(changed.size(), 1);
+        }
+        // In the middle of what the open one does.
+        combo.show();
+        combo.showPopup();
+        const QPointer<QAbstractItemView> old = combo.view();
+        connect(old->verticalScrollBar(), &QScrollBar::rangeChanged, &combo, [&] { combo.setWidePopupEnabled(true); });
+        old->verticalScrollBar()->setRange(0, 9);
+        QVERIFY(old && combo.view() != old && !old->isVisible() && combo.view()->isVisible());
+        QCOMPARE(combo.view()->textElideMode(), Qt::ElideNone);
+        QTRY_VERIFY(!old);
+    }
+
+    void widePopUpStaysOnTheScreen()
+    {
+        const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+        ZComboBox combo;
+        prepare(combo);
+        for (const auto direction : {Qt::LeftToRight, Qt::RightToLeft}) {
+            for (const int x : {screen.left(), screen.center().x(), screen.right() - 119}) {
+                for (const int length : {1, 20}) {
+                    combo.setLayoutDirection(direction);
+                    combo.setItemText(1, LONG_TEXT.repeated(length));
+                    combo.move(x, 100);
+                    combo.show();
+                    combo.showPopup();
+                    const QWidget* popUp = combo.view()->window();
+                    const int items = static_cast<AdvancedComboView*>(combo.view())->sizeHintForColumn(0);
+                    QVERIFY(items > 120);
+                    QTRY_VERIFY(popUp->width() >= std::min(items, screen.width()));
+                    QTRY_VERIFY(screen.contains(popUp->geometry()));
+                    // It begins where the combo box does if it can.
+                    const int begin = direction == Qt::LeftToRight
+                                          ? popUp->x() - combo.geometry().left()
+                                          : popUp->geometry().right() - combo.geometry().right();
+                    QVERIFY(begin == 0 || length > 1 || x != screen.center().x());
+                    combo.hidePopup();
+                }
+            }
+        }
+    }
+
+    void popUpWidget()
+    {
+        ZComboBox combo;
+        prepare(combo);
+        combo.move(40, 100);
+        combo.show();
+        combo.showPopup();
+        auto* panel = new QWidget(nullptr, Qt::Popup);
+        combo.setPopupWidget(panel);
+        QVERIFY(!combo.view()->isVisible());
+        const int top = combo.mapToGlobal(QPoint()).y();
+        for (const int height : {80, top - 1, top}) {
+            panel->setFixedSize(90, height);
+            combo.showPopup();
+            QVERIFY(panel->isVisible() && !combo.view()->isVisible());
+            QCOMPARE(panel->pos(), combo.mapToGlobal(QPoint(0, height < top ? -height : combo.height())));
+            combo.hidePopup();
+            QVERIFY(!panel->isVisible());
+        }
+        delete panel;
+        combo.showPopup();
+        QVERIFY(combo.view()->isVisible());
+    }
+
+    void itemsFlowAnewLater()
+    {
+        auto combo = std::make_unique<ZComboBox>();
+        prepare(*combo);
+        auto* view = static_cast<QListView*>(combo->view());
+        QCoreApplication::processEvents();
+        view->setFlow(QListView::LeftToRight);
+        view->setFont(QFont(view->font().family(), 30));
+        QCOMPARE(view->flow(), QListView::LeftToRight);
+        QTRY_COMPARE(view->flow(), QListView::TopToBottom);
+        // With the flow under way, list and open box go.
+        view->setFont(QFont());
+        combo->setWidePopupEnabled(false);
+        combo->show();
+        combo->showPopup();
+        combo->view()->setFont(QFont(view->font().family(), 20));
+        combo.reset();
+        QCoreApplication::processEvents();
+    }
+};
+
+VX_TEST_MAIN(tst_ZComboBox)
+#include "tst_ZComboBox.moc"
