@@ -1,0 +1,120 @@
+#include "Catalogue.h"
+
+#include <UI/Kit/ZRuntimeStylesheetEditor.h>
+
+#include <QCheckBox>
+#include <QCoreApplication>
+#include <QHBoxLayout>
+#include <QPushButton>
+
+namespace Zelkor::Gallery {
+
+namespace {
+
+constexpr QSize BENCH_SIZE(520, 480);
+constexpr int DISTANCE = 12;
+
+const char SHEET[] = "/* The sample above wears this sheet. */\n"
+                     "QPushButton {\n"
+                     "    color: #ffffff;\n"
+                     "    background-color: #3567e0;\n"
+                     "    border-radius: 6px;\n"
+                     "    qproperty-text: \"Record\";\n"
+                     "}\n"
+                     "\n"
+                     "QPushButton#stop:hover {\n"
+                     "    background-color: rgba(201, 58, 62, 80%);\n"
+                     "}\n";
+
+const char SHEET_WITH_MISTAKES[] = "QPushButton {\n"
+                                   "    color: #fffff;\n"
+                                   "    background-color: blue\n"
+                                   "    border-radius: 6px;\n"
+                                   "\n"
+                                   "QCheckBox {\n"
+                                   "    color: gray;\n"
+                                   "}\n";
+
+QString Tr(const char* text)
+{
+    return QCoreApplication::translate("Catalogue", text);
+}
+
+/// The editor as a part of the page, and a sample that it works on instead of the application.
+class EditorBench : public QWidget
+{
+public:
+    explicit EditorBench(QWidget* parent)
+        : QWidget(parent), sample(new QWidget), editor(new ZRuntimeStylesheetEditor(this))
+    {
+        sample->setObjectName(QStringLiteral("sample"));
+        auto* row = new QHBoxLayout(sample);
+        row->setContentsMargins(0, 0, 0, 0);
+        row->addWidget(new QPushButton(Tr("Start")));
+        auto* stop = new QPushButton(Tr("Stop"));
+        stop->setObjectName(QStringLiteral("stop"));
+        row->addWidget(stop);
+        row->addWidget(new QCheckBox(Tr("Microphone")));
+        row->addStretch();
+        auto* layout = new QVBoxLayout(this);
+        layout->setContentsMargins(0, 0, 0, 0);
+        layout->setSpacing(DISTANCE);
+        layout->addWidget(sample);
+        layout->addWidget(editor, 1);
+        setFixedSize(BENCH_SIZE);
+        editor->setTarget(sample);
+    }
+
+    QWidget* sample;
+    ZRuntimeStylesheetEditor* editor;
+};
+
+State EditorState(const QString& name, void (*apply)(EditorBench&))
+{
+    return MakeState<EditorBench>(name, apply);
+}
+
+void WearSheet(EditorBench& bench)
+{
+    bench.editor->setText(QString::fromLatin1(SHEET));
+    bench.editor->setApplyingWhileTyping(true);
+    bench.editor->apply();
+}
+
+void Search(EditorBench& bench)
+{
+    WearSheet(bench);
+    bench.editor->openSearch();
+}
+
+Entry RuntimeStylesheetEditorEntry()
+{
+    return {
+        "ZRuntimeStylesheetEditor",
+        Tr("Kit"),
+        Tr("An editor for the style sheet of the running application; here it works on the sample above it."),
+        "ZRuntimeStylesheetEditor",
+        "palette",
+        [](QWidget* parent) -> QWidget* { return new EditorBench(parent); },
+        {
+            EditorState(Tr("With a sheet"), WearSheet),
+            EditorState(Tr("With mistakes"),
+                        [](EditorBench& bench) {
+                            bench.editor->setText(QString::fromLatin1(SHEET_WITH_MISTAKES));
+                            bench.editor->apply();
+                        }),
+            EditorState(Tr("Find and replace"), Search),
+            EditorState(Tr("Empty"), [](EditorBench&) {}),
+            DisabledState(),
+        },
+    };
+}
+
+} // namespace
+
+QVector<Entry> EditorEntries()
+{
+    return {RuntimeStylesheetEditorEntry()};
+}
+
+} // namespace Zelkor::Gallery

@@ -1,0 +1,89 @@
+#include <UI/Kit/StyleSheetEdit.h>
+
+#include <UI/Kit/StyleSheetCompleter.h>
+#include <UI/Kit/StyleSheetHighlighter.h>
+
+#include <algorithm>
+
+using StyleSheetSyntax::Mistake;
+using StyleSheetSyntax::Scope;
+
+namespace {
+
+constexpr int MOST_MARKS = 100; ///< more would help nobody, and take their time in a file that is no sheet
+constexpr int LIGHT_TEXT = 128; ///< of 255; a text that is lighter lies on a dark ground
+
+} // namespace
+
+StyleSheetEdit::StyleSheetEdit(const QWidget* except, QWidget* parent)
+    : ZCodeEditor(parent), highlighter(new StyleSheetHighlighter(document())),
+      completer(new StyleSheetCompleter(this, except))
+{
+    followColors();
+}
+
+void StyleSheetEdit::setScope(Scope newScope)
+{
+    scope = newScope;
+    check();
+}
+
+void StyleSheetEdit::check()
+{
+    const QString text = toPlainText();
+    found = StyleSheetSyntax::Check(text, scope);
+    QVector<Mark> marks;
+    for (int i = 0; i < std::min(found.size(), MOST_MARKS); ++i)
+        marks.append({found[i].position, StyleSheetSyntax::Describe(found[i].problem)});
+    setMarks(marks);
+    // Before the first declaration ends, it could as well be a selector.
+    const bool declarationsAlone =
+        scope == Scope::WIDGET && text.contains(QLatin1Char(';')) && !text.contains(QLatin1Char('{'));
+    highlighter->setDeclarationsAlone(declarationsAlone);
+    completer->setDeclarationsAlone(declarationsAlone);
+}
+
+void StyleSheetEdit::goToNextMistake()
+{
+    if (found.isEmpty())
+        return;
+    const int here = textCursor().position();
+    const auto next =
+        std::find_if(found.cbegin(), found.cend(), [here](const Mistake& mistake) { return mistake.position > here; });
+    goTo(next == found.cend() ? found.first().position : next->position);
+    setFocus();
+}
+
+void StyleSheetEdit::replaceText(const QString& text)
+{
+    const int here = textCursor().position();
+    QTextCursor cursor(document());
+    cursor.select(QTextCursor::Document);
+    cursor.insertText(text);
+    cursor.setPosition(std::min(here, document()->characterCount() - 1));
+    setTextCursor(cursor);
+}
+
+void StyleSheetEdit::complete()
+{
+    completer->open();
+}
+
+// By the text when it is enabled: it is readable then, whatever the ground is made of.
+void StyleSheetEdit::followColors()
+{
+    highlighter->setOnDark(palette().color(QPalette::Active, QPalette::Text).lightness() > LIGHT_TEXT);
+}
+
+void StyleSheetEdit::changeEvent(QEvent* event)
+{
+    ZCodeEditor::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange || event->type() == QEvent::StyleChange)
+        followColors();
+}
+
+void StyleSheetEdit::showEvent(QShowEvent* event)
+{
+    ZCodeEditor::showEvent(event);
+    followColors();
+}

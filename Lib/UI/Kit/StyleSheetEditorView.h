@@ -1,0 +1,64 @@
+#pragma once
+
+#include <QVector>
+
+class QAction;
+class QCheckBox;
+class QLabel;
+class QMenu;
+class QMenuBar;
+class QPushButton;
+class QToolButton;
+class QWidget;
+class StyleSheetEdit;
+class StyleSheetTargetBox;
+class ZMessageLabel;
+class ZQuestionBar;
+class ZSearchBar;
+
+/// The parts of the style sheet editor's window, and where they lie. They do nothing by themselves.
+class StyleSheetEditorView
+{
+public:
+    /// The parts belong to the window.
+    explicit StyleSheetEditorView(QWidget* window);
+
+    /// Gives every part its text in the language of the application.
+    void retranslate();
+
+    /// What the window says; marked when it is about something that is wrong.
+    void say(const QString& text, bool isProblem);
+
+    StyleSheetEdit* editor;
+    ZSearchBar* search;
+    ZQuestionBar* question;
+    StyleSheetTargetBox* targetBox;
+    QToolButton* pickButton;
+    QCheckBox* typingBox;
+    QPushButton* revertButton;
+    QPushButton* applyButton;
+    ZMessageLabel* messageLabel;
+    QLabel* placeLabel;
+
+    QAction* open;
+    QAction* save;
+    QAction* saveAs;
+    QAction* find;
+    QAction* findNext;
+    QAction* findPrevious;
+    QAction* nextMistake;
+    QAction* complete;
+    QAction* apply;
+    QAction* revert;
+    QAction* read;
+    QAction* pick;
+
+private:
+    void makeCommands(QWidget* window, QMenuBar* bar);
+    void layOut(QWidget* window, QMenuBar* bar);
+
+    QLabel* targetLabel;
+    QMenu* fileMenu;
+    QMenu* editMenu;
+    QMenu* sheetMenu;
+};

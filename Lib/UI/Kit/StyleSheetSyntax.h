@@ -1,0 +1,46 @@
+#pragma once
+
+#include <QString>
+#include <QVector>
+
+/// Finds the mistakes in a style sheet. Qt only says that it could not read a sheet, and drops it whole, or a part of
+/// it without a word; a person who writes one wants to know where.
+namespace StyleSheetSyntax {
+
+enum class Problem {
+    OPEN_COMMENT,     ///< a comment without end
+    OPEN_STRING,      ///< a string without end
+    OPEN_BLOCK,       ///< a "{" without "}"
+    OPEN_PARENTHESIS, ///< a "(" without ")"
+    OPEN_BRACKET,     ///< a "[" without "]"
+    EXTRA_BRACE,      ///< a "}" without "{"
+    NO_SELECTOR,      ///< nothing where a selector has to be
+    NO_BLOCK,         ///< a selector without its declarations
+    BAD_SELECTOR,     ///< something that cannot stand in a selector
+    NO_PROPERTY,      ///< no name where the name of a property has to be
+    NO_COLON,         ///< no ":" behind the name of a property
+    NO_VALUE,         ///< nothing behind the ":"
+    NO_SEMICOLON,     ///< two declarations with no ";" between them
+    BAD_VALUE,        ///< something that cannot stand in a value
+    BAD_COLOR         ///< no colour behind a "#"
+};
+
+struct Mistake
+{
+    Problem problem;
+    int position; ///< characters before it
+    int line;     ///< from 1
+    int column;   ///< from 1
+};
+
+/// For whom a sheet is. That of one widget may be declarations alone, without a selector and braces.
+enum class Scope { APPLICATION, WIDGET };
+
+/// The mistakes of `sheet` in the order of their places. A sheet without any is one that Qt reads; whether there are
+/// such properties and such widgets is another matter.
+QVector<Mistake> Check(const QString& sheet, Scope scope = Scope::APPLICATION);
+
+/// What is wrong and what to do, in the language of the application.
+QString Describe(Problem problem);
+
+} // namespace StyleSheetSyntax

@@ -1,0 +1,108 @@
+#include <UI/Kit/StyleSheetTargetBox.h>
+
+#include <UI/Common/WheelPolicy.h>
+
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QKeyEvent>
+
+namespace {
+
+constexpr int FEWEST_LETTERS = 8; ///< that the box has room for, in a narrow window
+
+} // namespace
+
+StyleSheetTargetBox::StyleSheetTargetBox(QWidget* parent) : QComboBox(parent), widgets{nullptr}
+{
+    setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    setMinimumContentsLength(FEWEST_LETTERS);
+    addItem(tr("Application"));
+    setPlaceholderText(tr("Choose a widget"));
+    connect(this, qOverload<int>(&QComboBox::activated), this, [this](int index) {
+        QWidget* widget = widgets.value(index);
+        if (index > 0 && !widget) {
+            // It went while the list was open; what was chosen before stays so.
+            setCurrentIndex(hasChoice ? widgets.indexOf(current) : -1);
+            return;
+        }
+        watch(widget);
+        Q_EMIT chosen(widget);
+    });
+}
+
+void StyleSheetTargetBox::setTarget(QWidget* widget)
+{
+    watch(widget);
+    refill();
+}
+
+QString StyleSheetTargetBox::nameOf(const QWidget* widget)
+{
+    const QString className = QString::fromLatin1(widget->metaObject()->className());
+    if (!widget->objectName().isEmpty())
+        return className + QStringLiteral(" #") + widget->objectName();
+    return widget->windowTitle().isEmpty() ? className : className + QStringLiteral(" - ") + widget->windowTitle();
+}
+
+void StyleSheetTargetBox::watch(QWidget* widget)
+{
+    disconnect(watching);
+    current = widget;
+    hasChoice = true;
+    if (!widget)
+        return;
+    watching = connect(widget, &QObject::destroyed, this, [this] {
+        hasChoice = false;
+        setCurrentIndex(-1);
+        Q_EMIT gone();
+    });
+}
+
+// The windows of the application but our own, and the widget that is chosen.
+void StyleSheetTargetBox::refill()
+{
+    clear();
+    widgets = {nullptr};
+    addItem(tr("Application"));
+    const auto add = [this](QWidget* widget) {
+        widgets.append(widget);
+        addItem(nameOf(widget));
+    };
+    for (QWidget* widget : QApplication::topLevelWidgets()) {
+        const bool isWindow = widget->windowType() == Qt::Window || widget->windowType() == Qt::Dialog;
+        if (isWindow && widget->isVisible() && widget != window())
+            add(widget);
+    }
+    if (current && !widgets.contains(current))
+        add(current);
+    setCurrentIndex(hasChoice ? widgets.indexOf(current) : -1);
+}
+
+void StyleSheetTargetBox::showPopup()
+{
+    refill();
+    QComboBox::showPopup();
+}
+
+// Arrow keys go through what is there now, too.
+void StyleSheetTargetBox::keyPressEvent(QKeyEvent* event)
+{
+    if (!view()->isVisible())
+        refill();
+    QComboBox::keyPressEvent(event);
+}
+
+void StyleSheetTargetBox::wheelEvent(QWheelEvent* event)
+{
+    if (Zelkor::Vx::UI::Common::TakesWheel(*this, *event, true))
+        QComboBox::wheelEvent(event);
+}
+
+void StyleSheetTargetBox::changeEvent(QEvent* event)
+{
+    QComboBox::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange) {
+        setItemText(0, tr("Application"));
+        setPlaceholderText(tr("Choose a widget"));
+    }
+}

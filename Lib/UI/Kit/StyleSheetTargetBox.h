@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QComboBox>
+#include <QPointer>
+#include <QVector>
+
+/// A choice of the application and its windows; opened, it has those that are there then. A widget that is no window
+/// joins them when it is set. One that goes leaves the box without a choice.
+class StyleSheetTargetBox : public QComboBox
+{
+    Q_OBJECT
+
+public:
+    explicit StyleSheetTargetBox(QWidget* parent = nullptr);
+
+    /// Null is the application. Does not emit.
+    void setTarget(QWidget* widget);
+
+    /// How a person knows it: its class, and its object name or title.
+    static QString nameOf(const QWidget* widget);
+
+    void showPopup() override;
+
+Q_SIGNALS:
+    /// A person chose; null is the application.
+    void chosen(QWidget* widget);
+
+    /// The widget that was set or chosen does not exist any more.
+    void gone();
+
+protected:
+    void changeEvent(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+
+private:
+    void refill();
+    void watch(QWidget* widget);
+
+    QVector<QPointer<QWidget>> widgets; ///< by index; the first is the application
+    QPointer<QWidget> current;
+    bool hasChoice = true;
+    QMetaObject::Connection watching;
+};

@@ -1,0 +1,40 @@
+#include <UI/Kit/ZMessageLabel.h>
+
+#include <QHelpEvent>
+#include <QPainter>
+#include <QStyle>
+#include <QToolTip>
+
+ZMessageLabel::ZMessageLabel(QWidget* parent) : QLabel(parent)
+{
+    setTextFormat(Qt::PlainText);
+}
+
+QSize ZMessageLabel::minimumSizeHint() const
+{
+    return QSize(0, QLabel::minimumSizeHint().height());
+}
+
+QString ZMessageLabel::shownText() const
+{
+    return fontMetrics().elidedText(text(), Qt::ElideRight, contentsRect().width());
+}
+
+bool ZMessageLabel::event(QEvent* event)
+{
+    if (event->type() != QEvent::ToolTip)
+        return QLabel::event(event);
+    const QString text = this->text();
+    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), shownText() == text ? QString() : text, this);
+    return true;
+}
+
+void ZMessageLabel::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    // The full stop goes with the language of the text, not with the window.
+    painter.setLayoutDirection(text().isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
+    const Qt::Alignment place = QStyle::visualAlignment(layoutDirection(), Qt::AlignLeading | Qt::AlignVCenter);
+    style()->drawItemText(&painter, contentsRect(), static_cast<int>(place | Qt::AlignAbsolute), palette(), isEnabled(),
+                          shownText(), foregroundRole());
+}

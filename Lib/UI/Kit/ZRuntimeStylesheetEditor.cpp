@@ -1,0 +1,431 @@
+#include <UI/Kit/ZRuntimeStylesheetEditor.h>
+
+#include <UI/Kit/StyleSheetEdit.h>
+#include <UI/Kit/StyleSheetEditorView.h>
+#include <UI/Kit/StyleSheetFile.h>
+#include <UI/Kit/StyleSheetTarget.h>
+#include <UI/Kit/StyleSheetTargetBox.h>
+#include <UI/Kit/ZMessageLabel.h>
+#include <UI/Kit/ZQuestionBar.h>
+#include <UI/Kit/ZSearchBar.h>
+#include <UI/Kit/ZWidgetPicker.h>
+
+#include <QAction>
+#include <QCheckBox>
+#include <QCloseEvent>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QLabel>
+#include <QPushButton>
+#include <QTimer>
+#include <QToolButton>
+
+#include <functional>
+
+using StyleSheetSyntax::Mistake;
+using StyleSheetSyntax::Scope;
+
+namespace {
+
+constexpr QSize WINDOW_SIZE(640, 600);
+constexpr int PAUSE = 300; ///< milliseconds without a key before the text is looked at
+
+QString Place(int line, int column)
+{
+    return ZRuntimeStylesheetEditor::tr("Line %1, column %2").arg(line).arg(column);
+}
+
+} // namespace
+
+struct ZRuntimeStylesheetEditor::Impl
+{
+    explicit Impl(ZRuntimeStylesheetEditor* window);
+
+    void connectParts();
+    void connectCommands();
+    void retranslate();
+
+    void say(const QString& text, bool isProblem = false);
+    const QVector<Mistake>& mistakes() const { return view.editor->mistakes(); }
+    void sayMistake();
+    void showPlace();
+    void check();
+    void checkAndFollow();
+    void goToNextMistake();
+
+    void chooseTarget(QWidget* widget);
+    void applyText();
+    void readUntouched();
+
+    void settle(const QString& file);
+    void whenSettled(std::function<void()> action);
+    void showFileDialog(bool saving);
+    void saveAgain();
+
+    ZRuntimeStylesheetEditor* const window;
+    StyleSheetEditorView view;
+    ZWidgetPicker* const picker;
+    StyleSheetTarget target;
+    QString fileName;
+    bool saysMistake = false;
+    int seenRevision = -1; ///< of the text, when it was looked at last
+    QTimer pause;
+    QObject context; ///< of all connections to this record, which the window's parts outlive
+};
+
+ZRuntimeStylesheetEditor::Impl::Impl(ZRuntimeStylesheetEditor* window)
+    : window(window), view(window), picker(new ZWidgetPicker(window, window))
+{
+    pause.setSingleShot(true);
+    pause.setInterval(PAUSE);
+    connectParts();
+    connectCommands();
+}
+
+ZRuntimeStylesheetEditor::ZRuntimeStylesheetEditor(QWidget* parent)
+    : QWidget(parent), impl(std::make_unique<Impl>(this))
+{
+    resize(WINDOW_SIZE);
+    impl->retranslate();
+    impl->readUntouched();
+}
+
+ZRuntimeStylesheetEditor::~ZRuntimeStylesheetEditor() = default;
+
+void ZRuntimeStylesheetEditor::Impl::connectParts()
+{
+    connect(&pause, &QTimer::timeout, &context, [this] { checkAndFollow(); });
+    // New colours are no new text.
+    connect(view.editor, &QPlainTextEdit::textChanged, &context, [this] {
+        if (view.editor->document()->revision() != seenRevision)
+            pause.start();
+    });
+    connect(view.editor, &QPlainTextEdit::modificationChanged, window, &QWidget::setWindowModified);
+    connect(view.editor, &QPlainTextEdit::cursorPositionChanged, &context, [this] { showPlace(); });
+    connect(view.typingBox, &QCheckBox::toggled, &context, [this](bool on) {
+        pause.start();
+        Q_EMIT window->applyingWhileTypingChanged(on);
+    });
+    connect(view.question, &ZQuestionBar::saveWanted, &context, [this] { saveAgain(); });
+    connect(view.question, &ZQuestionBar::discarded, &context, [this] { settle(QString()); });
+    connect(view.targetBox, &StyleSheetTargetBox::chosen, &context, [this](QWidget* widget) { chooseTarget(widget); });
+    connect(view.targetBox, &StyleSheetTargetBox::gone, &context,
+            [this] { say(ZRuntimeStylesheetEditor::tr("The widget is gone. Choose another one."), true); });
+    connect(view.pickButton, &QToolButton::toggled, &context, [this](bool on) {
+        if (!on)
+            return picker->stop();
+        picker->start();
+        say(ZRuntimeStylesheetEditor::tr("Click on a widget of the application, or press Escape."));
+    });
+    connect(picker, &ZWidgetPicker::pointed, &context,
+            [this](QWidget* widget) { say(StyleSheetTargetBox::nameOf(widget)); });
+    connect(picker, &ZWidgetPicker::stopped, &context, [this] {
+        view.pickButton->setChecked(false);
+        say(QString());
+    });
+    connect(picker, &ZWidgetPicker::picked, window, &ZRuntimeStylesheetEditor::setTarget);
+}
+
+void ZRuntimeStylesheetEditor::Impl::connectCommands()
+{
+    const auto on = [this](QAction* action, auto slot) { connect(action, &QAction::triggered, &context, slot); };
+    on(view.open, [this] { whenSettled([this] { showFileDialog(false); }); });
+    on(view.save, [this] { saveAgain(); });
+    on(view.saveAs, [this] { showFileDialog(true); });
+    on(view.find, [this] { window->openSearch(); });
+    on(view.findNext, [this] { view.search->findNext(); });
+    on(view.findPrevious, [this] { view.search->findPrevious(); });
+    on(view.nextMistake, [this] { goToNextMistake(); });
+    on(view.complete, [this] { view.editor->complete(); });
+    on(view.apply, [this] { window->apply(); });
+    on(view.revert, [this] { window->revert(); });
+    on(view.read, [this] { window->readFromTarget(); });
+    on(view.pick, [this] { view.pickButton->toggle(); });
+    connect(view.applyButton, &QPushButton::clicked, window, &ZRuntimeStylesheetEditor::apply);
+    connect(view.revertButton, &QPushButton::clicked, window, &ZRuntimeStylesheetEditor::revert);
+}
+
+void ZRuntimeStylesheetEditor::Impl::retranslate()
+{
+    view.retranslate();
+    const QString file = QFileInfo(fileName).fileName();
+    window->setWindowTitle((file.isEmpty() ? QString() : file + QStringLiteral(" - ")) +
+                           ZRuntimeStylesheetEditor::tr("Style sheet editor") + QStringLiteral("[*]"));
+    showPlace();
+    check();
+}
+
+// What the window says
+
+void ZRuntimeStylesheetEditor::Impl::say(const QString& text, bool isProblem)
+{
+    saysMistake = false;
+    view.say(text, isProblem);
+}
+
+void ZRuntimeStylesheetEditor::Impl::sayMistake()
+{
+    const Mistake& first = mistakes().first();
+    QString text = Place(first.line, first.column) + QStringLiteral(": ") + StyleSheetSyntax::Describe(first.problem);
+    if (mistakes().size() > 1)
+        text += QLatin1Char(' ') + ZRuntimeStylesheetEditor::tr("(and %n more)", nullptr, mistakes().size() - 1);
+    say(text, true);
+    saysMistake = true;
+}
+
+QString ZRuntimeStylesheetEditor::message() const
+{
+    return impl->view.messageLabel->text();
+}
+
+void ZRuntimeStylesheetEditor::Impl::showPlace()
+{
+    const QTextCursor cursor = view.editor->textCursor();
+    view.placeLabel->setText(Place(cursor.blockNumber() + 1, cursor.positionInBlock() + 1));
+}
+
+void ZRuntimeStylesheetEditor::Impl::check()
+{
+    pause.stop();
+    seenRevision = view.editor->document()->revision();
+    view.editor->check();
+    if (!mistakes().isEmpty())
+        sayMistake();
+    else if (saysMistake)
+        say(QString());
+}
+
+void ZRuntimeStylesheetEditor::Impl::checkAndFollow()
+{
+    check();
+    if (window->isApplyingWhileTyping() && mistakes().isEmpty() && target.exists() && target.sheet() != window->text())
+        applyText();
+}
+
+void ZRuntimeStylesheetEditor::Impl::goToNextMistake()
+{
+    check();
+    if (mistakes().isEmpty())
+        say(ZRuntimeStylesheetEditor::tr("There are no mistakes."));
+    view.editor->goToNextMistake();
+}
+
+// Target
+
+void ZRuntimeStylesheetEditor::setTarget(QWidget* widget)
+{
+    impl->view.targetBox->setTarget(widget);
+    impl->chooseTarget(widget);
+}
+
+void ZRuntimeStylesheetEditor::Impl::chooseTarget(QWidget* widget)
+{
+    target.set(widget);
+    say(QString());
+    view.editor->setScope(widget ? Scope::WIDGET : Scope::APPLICATION);
+    readUntouched();
+    check();
+}
+
+QWidget* ZRuntimeStylesheetEditor::target() const
+{
+    return impl->target.widget();
+}
+
+bool ZRuntimeStylesheetEditor::hasTarget() const
+{
+    return impl->target.exists();
+}
+
+bool ZRuntimeStylesheetEditor::isApplyingWhileTyping() const
+{
+    return impl->view.typingBox->isChecked();
+}
+
+void ZRuntimeStylesheetEditor::setApplyingWhileTyping(bool on)
+{
+    impl->view.typingBox->setChecked(on);
+}
+
+bool ZRuntimeStylesheetEditor::apply()
+{
+    impl->check();
+    if (!hasTarget()) {
+        impl->say(tr("Not applied: the widget is gone. Choose another one."), true);
+        return false;
+    }
+    if (!impl->mistakes().isEmpty()) {
+        impl->say(tr("Not applied. %1").arg(message()), true);
+        return false;
+    }
+    impl->applyText();
+    return true;
+}
+
+void ZRuntimeStylesheetEditor::Impl::applyText()
+{
+    target.apply(window->text());
+    say(target.widget()
+            ? ZRuntimeStylesheetEditor::tr("Applied to %1.").arg(StyleSheetTargetBox::nameOf(target.widget()))
+            : ZRuntimeStylesheetEditor::tr("Applied to the application."));
+    Q_EMIT window->applied();
+}
+
+void ZRuntimeStylesheetEditor::revert()
+{
+    // What was typed last would come back by itself.
+    impl->pause.stop();
+    if (!impl->target.revert()) {
+        impl->say(tr("Nothing was applied that could be reverted."));
+        return;
+    }
+    impl->say(tr("Reverted."));
+    Q_EMIT reverted();
+}
+
+// Text and files
+
+QString ZRuntimeStylesheetEditor::text() const
+{
+    return impl->view.editor->toPlainText();
+}
+
+void ZRuntimeStylesheetEditor::setText(const QString& text)
+{
+    impl->view.editor->replaceText(text);
+    impl->check();
+}
+
+void ZRuntimeStylesheetEditor::readFromTarget()
+{
+    if (!hasTarget())
+        return;
+    impl->view.question->dismiss();
+    impl->view.editor->replaceText(impl->target.sheet());
+    impl->settle(QString());
+    impl->check();
+}
+
+// A text that nobody touched is that of the target.
+void ZRuntimeStylesheetEditor::Impl::readUntouched()
+{
+    if (!window->isModified() && fileName.isEmpty() && target.exists() && target.sheet() != window->text())
+        window->readFromTarget();
+}
+
+bool ZRuntimeStylesheetEditor::isModified() const
+{
+    return impl->view.editor->document()->isModified();
+}
+
+QString ZRuntimeStylesheetEditor::fileName() const
+{
+    return impl->fileName;
+}
+
+bool ZRuntimeStylesheetEditor::load(const QString& fileName)
+{
+    QString error;
+    const auto text = StyleSheetFile::Read(fileName, error);
+    if (!text) {
+        impl->say(error, true);
+        return false;
+    }
+    impl->view.question->dismiss();
+    impl->view.editor->setPlainText(*text);
+    impl->settle(fileName);
+    impl->check();
+    return true;
+}
+
+bool ZRuntimeStylesheetEditor::save(const QString& fileName)
+{
+    QString error;
+    if (!StyleSheetFile::Write(fileName, text(), error)) {
+        impl->say(error, true);
+        return false;
+    }
+    impl->settle(fileName);
+    impl->say(tr("Saved."));
+    impl->view.question->proceed();
+    return true;
+}
+
+// The text is that of the file, or of none, and has no changes of its own.
+void ZRuntimeStylesheetEditor::Impl::settle(const QString& file)
+{
+    fileName = file;
+    view.editor->document()->setModified(false);
+    retranslate();
+}
+
+void ZRuntimeStylesheetEditor::Impl::whenSettled(std::function<void()> action)
+{
+    if (window->isModified())
+        view.question->ask(std::move(action));
+    else
+        action();
+}
+
+// The dialog stands beside the program and does not hold it up.
+void ZRuntimeStylesheetEditor::Impl::showFileDialog(bool saving)
+{
+    auto* dialog = new QFileDialog(window,
+                                   saving ? ZRuntimeStylesheetEditor::tr("Save the style sheet")
+                                          : ZRuntimeStylesheetEditor::tr("Open a style sheet"),
+                                   QFileInfo(fileName).path(),
+                                   ZRuntimeStylesheetEditor::tr("Style sheets (*.qss);;All files (*)"));
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setAcceptMode(saving ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+    dialog->setFileMode(saving ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+    dialog->setDefaultSuffix(QStringLiteral("qss"));
+    connect(dialog, &QFileDialog::fileSelected, window,
+            saving ? &ZRuntimeStylesheetEditor::save : &ZRuntimeStylesheetEditor::load);
+    dialog->open();
+}
+
+void ZRuntimeStylesheetEditor::Impl::saveAgain()
+{
+    if (fileName.isEmpty())
+        showFileDialog(true);
+    else
+        window->save(fileName);
+}
+
+void ZRuntimeStylesheetEditor::openSearch()
+{
+    impl->view.search->open();
+}
+
+// Events
+
+void ZRuntimeStylesheetEditor::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange)
+        impl->retranslate();
+}
+
+void ZRuntimeStylesheetEditor::showEvent(QShowEvent* event)
+{
+    QWidget::showEvent(event);
+    if (!event->spontaneous())
+        impl->readUntouched();
+}
+
+void ZRuntimeStylesheetEditor::hideEvent(QHideEvent* event)
+{
+    QWidget::hideEvent(event);
+    if (!event->spontaneous())
+        impl->picker->stop();
+}
+
+void ZRuntimeStylesheetEditor::closeEvent(QCloseEvent* event)
+{
+    if (!isModified()) {
+        QWidget::closeEvent(event);
+        return;
+    }
+    event->ignore();
+    impl->view.question->ask([this] { close(); });
+}

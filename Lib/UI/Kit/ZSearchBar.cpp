@@ -1,0 +1,220 @@
+#include <UI/Kit/ZSearchBar.h>
+
+#include <UI/Kit/ZMessageLabel.h>
+
+#include <QCheckBox>
+#include <QGridLayout>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QToolButton>
+
+namespace {
+
+constexpr int SPACING = 4;
+
+} // namespace
+
+ZSearchBar::ZSearchBar(QPlainTextEdit* editor, QWidget* parent)
+    : QWidget(parent), editor(editor), searched(new QLineEdit), replacement(new QLineEdit),
+      previousButton(new QToolButton), nextButton(new QToolButton), replaceButton(new QPushButton),
+      replaceAllButton(new QPushButton), closeButton(new QPushButton), caseBox(new QCheckBox), wordsBox(new QCheckBox),
+      messageLabel(new ZMessageLabel)
+{
+    previousButton->setText(QStringLiteral("\u2191"));
+    nextButton->setText(QStringLiteral("\u2193"));
+    messageLabel->setObjectName(QStringLiteral("searchMessage"));
+    layOut();
+    connect(previousButton, &QToolButton::clicked, this, &ZSearchBar::findPrevious);
+    connect(nextButton, &QToolButton::clicked, this, &ZSearchBar::findNext);
+    connect(replaceButton, &QPushButton::clicked, this, &ZSearchBar::replace);
+    connect(replaceAllButton, &QPushButton::clicked, this, &ZSearchBar::replaceAll);
+    connect(closeButton, &QPushButton::clicked, this, &ZSearchBar::shut);
+    // While the text is typed, the place that is selected may grow with it.
+    connect(searched, &QLineEdit::textEdited, this, [this] {
+        QTextCursor from = this->editor->textCursor();
+        from.setPosition(from.selectionStart());
+        find(from, {});
+    });
+    retranslate();
+}
+
+void ZSearchBar::layOut()
+{
+    auto* grid = new QGridLayout(this);
+    grid->setContentsMargins(0, 0, 0, 0);
+    grid->setSpacing(SPACING);
+    grid->addWidget(searched, 0, 0);
+    grid->addWidget(previousButton, 0, 1);
+    grid->addWidget(nextButton, 0, 2);
+    grid->addWidget(closeButton, 0, 3);
+    grid->addWidget(replacement, 1, 0);
+    grid->addWidget(replaceButton, 1, 1, 1, 2);
+    grid->addWidget(replaceAllButton, 1, 3);
+    auto* boxes = new QHBoxLayout;
+    boxes->setSpacing(2 * SPACING);
+    boxes->addWidget(caseBox);
+    boxes->addWidget(wordsBox);
+    boxes->addWidget(messageLabel, 1);
+    grid->addLayout(boxes, 2, 0, 1, 4);
+    grid->setColumnStretch(0, 1);
+    setTabOrder(searched, replacement);
+    setTabOrder(replacement, previousButton);
+}
+
+void ZSearchBar::retranslate()
+{
+    const auto name = [](QWidget* widget, const QString& text) {
+        widget->setAccessibleName(text);
+        widget->setToolTip(text);
+    };
+    searched->setPlaceholderText(tr("Find"));
+    searched->setAccessibleName(tr("Find"));
+    replacement->setPlaceholderText(tr("Replace with"));
+    replacement->setAccessibleName(tr("Replace with"));
+    name(previousButton, tr("Previous"));
+    name(nextButton, tr("Next"));
+    replaceButton->setText(tr("Re&place"));
+    replaceAllButton->setText(tr("Replace a&ll"));
+    closeButton->setText(tr("Cl&ose"));
+    caseBox->setText(tr("&Match case"));
+    wordsBox->setText(tr("&Whole words"));
+}
+
+void ZSearchBar::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange)
+        retranslate();
+}
+
+void ZSearchBar::open()
+{
+    const QString selection = editor->textCursor().selectedText();
+    if (!selection.isEmpty() && !selection.contains(QChar::ParagraphSeparator))
+        searched->setText(selection);
+    messageLabel->clear();
+    show();
+    searched->setFocus();
+    searched->selectAll();
+}
+
+void ZSearchBar::shut()
+{
+    hide();
+    editor->setFocus();
+}
+
+void ZSearchBar::setSearchedText(const QString& text)
+{
+    searched->setText(text);
+}
+
+void ZSearchBar::setReplacement(const QString& text)
+{
+    replacement->setText(text);
+}
+
+void ZSearchBar::setCaseSensitive(bool on)
+{
+    caseBox->setChecked(on);
+}
+
+void ZSearchBar::setWholeWords(bool on)
+{
+    wordsBox->setChecked(on);
+}
+
+QString ZSearchBar::message() const
+{
+    return messageLabel->text();
+}
+
+QTextDocument::FindFlags ZSearchBar::flags() const
+{
+    QTextDocument::FindFlags flags;
+    flags.setFlag(QTextDocument::FindCaseSensitively, caseBox->isChecked());
+    flags.setFlag(QTextDocument::FindWholeWords, wordsBox->isChecked());
+    return flags;
+}
+
+bool ZSearchBar::findNext()
+{
+    return find(editor->textCursor(), {});
+}
+
+bool ZSearchBar::findPrevious()
+{
+    return find(editor->textCursor(), QTextDocument::FindBackward);
+}
+
+bool ZSearchBar::find(const QTextCursor& from, QTextDocument::FindFlags direction)
+{
+    messageLabel->clear();
+    const QString text = searched->text();
+    if (text.isEmpty())
+        return false;
+    QTextDocument* document = editor->document();
+    QTextCursor place = document->find(text, from, flags() | direction);
+    if (place.isNull()) {
+        QTextCursor end(document);
+        if (direction)
+            end.movePosition(QTextCursor::End);
+        place = document->find(text, end, flags() | direction);
+        messageLabel->setText(place.isNull() ? tr("Nothing was found.")
+                              : direction    ? tr("Found from the end on.")
+                                             : tr("Found from the beginning on."));
+    }
+    if (place.isNull())
+        return false;
+    editor->setTextCursor(place);
+    return true;
+}
+
+bool ZSearchBar::selectsPlace() const
+{
+    const QTextCursor selection = editor->textCursor();
+    QTextCursor from = selection;
+    from.setPosition(selection.selectionStart());
+    const QTextCursor place = editor->document()->find(searched->text(), from, flags());
+    return selection.hasSelection() && place.selectionStart() == selection.selectionStart() &&
+           place.selectionEnd() == selection.selectionEnd();
+}
+
+void ZSearchBar::replace()
+{
+    if (!searched->text().isEmpty() && selectsPlace())
+        editor->textCursor().insertText(replacement->text());
+    findNext();
+}
+
+int ZSearchBar::replaceAll()
+{
+    int count = 0;
+    QTextDocument* document = editor->document();
+    QTextCursor edit(document);
+    edit.beginEditBlock();
+    // From behind each one that was replaced: the replacement may have what is searched within it.
+    for (QTextCursor place = edit; !searched->text().isEmpty(); ++count) {
+        place = document->find(searched->text(), place, flags());
+        if (place.isNull())
+            break;
+        place.insertText(replacement->text());
+    }
+    edit.endEditBlock();
+    messageLabel->setText(count == 0 ? tr("Nothing was found.") : tr("%n replaced.", nullptr, count));
+    return count;
+}
+
+void ZSearchBar::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Escape)
+        shut();
+    else if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter)
+        QWidget::keyPressEvent(event);
+    else if (event->modifiers().testFlag(Qt::ShiftModifier))
+        findPrevious();
+    else
+        findNext();
+}

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QObject>
+
+class QWidget;
+
+/// Lets a person choose a widget of the application with the mouse. While it runs, a click chooses the widget under the
+/// pointer and does nothing else; Escape gives up.
+class ZWidgetPicker : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Clicks on `except` and within it are left alone.
+    explicit ZWidgetPicker(QWidget* except, QObject* parent = nullptr);
+    ~ZWidgetPicker() override;
+
+    bool isRunning() const { return running; }
+
+    /// Starting twice, and stopping what does not run, does nothing.
+    void start();
+    void stop();
+
+Q_SIGNALS:
+    /// The pointer came upon this widget, which a click would choose.
+    void pointed(QWidget* widget);
+
+    /// Comes after the picker stopped.
+    void picked(QWidget* widget);
+
+    /// The picker stopped, by whatever.
+    void stopped();
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    bool isPickable(const QWidget* widget) const;
+
+    QWidget* except;
+    bool running = false;
+    bool swallowsRelease = false; ///< of the button whose press chose
+};

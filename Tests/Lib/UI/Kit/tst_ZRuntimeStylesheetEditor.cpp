@@ -1,0 +1,358 @@
+#include <UI/Kit/StyleSheetCompleter.h>
+#include <UI/Kit/StyleSheetHighlighter.h>
+#include <UI/Kit/StyleSheetSyntax.h>
+#include <UI/Kit/ZCodeEditor.h>
+#include <UI/Kit/ZRuntimeStylesheetEditor.h>
+#include <UI/Kit/ZSearchBar.h>
+#include <UI/Kit/ZWidgetPicker.h>
+
+#include <Support/TestCase.h>
+
+#include <QComboBox>
+#include <QFile>
+#include <QLabel>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTextBlock>
+#include <QToolButton>
+
+#include <memory>
+
+using StyleSheetSyntax::Problem;
+using StyleSheetSyntax::Scope;
+
+namespace {
+
+const QString RED = "QLabel { color: #ff0000; }";
+const QString BROKEN = "QLabel {\n    color: red;\n";
+
+QColor ColorOf(QLabel& label)
+{
+    label.ensurePolished();
+    return label.palette().color(QPalette::WindowText);
+}
+
+QPushButton* ButtonOf(QWidget& widget, const QString& text)
+{
+    for (auto* button : widget.findChildren<QPushButton*>()) {
+        if (button->text().remove('&') == text && button->isVisible())
+            return button;
+    }
+    return nullptr;
+}
+
+} // namespace
+
+class tst_ZRuntimeStylesheetEditor : public Support::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void mistakesAreFound_data()
+    {
+        QTest::addColumn<QString>("sheet");
+        QTest::addColumn<QString>("expected"); // "line:column problem", one after another
+        const auto row = [](const char* name, const char* sheet, int line, int column, Problem problem) {
+            QTest::newRow(name) << sheet << QString("%1:%2 %3;").arg(line).arg(column).arg(static_cast<int>(problem));
+        };
+        QTest::newRow("nothing") << ""
+                                 << "";
+        QTest::newRow("selectors") << "*, .A > B#c[d=\"e\"][f]:g:!h::i C--D { ; a: b;; }"
+                                   << "";
+        QTest::newRow("values")
+            << "A { a: -6px 1.5em #abc \"x;}\" , url(:/a;b.png) f(x:0, (y), stop:1 #fff) !important }"
+            << "";
+        QTest::newRow("comments, at-rules") << "@import \"a\"; /* { \n */ @media screen { A { b: c } } @page { d: e }"
+                                            << "";
+        row("open comment", "A {}\n /* b {", 2, 2, Problem::OPEN_COMMENT);
+        row("open string", "A { b: \"c\n; d: e }", 1, 8, Problem::OPEN_STRING);
+        row("open block at the end", "A {\n b: c;", 1, 3, Problem::OPEN_BLOCK);
+        row("open block before a rule", "A {\n b: c;\nD:e { f: g }", 1, 3, Problem::OPEN_BLOCK);
+        row("open parenthesis", "A { b: rgb(1, 2;\n }", 1, 11, Problem::OPEN_PARENTHESIS);
+        row("open bracket", "A[b { c: d }", 1, 2, Problem::OPEN_BRACKET);
+        row("brace too many", "A { b: c }\n} D { e: f }", 2, 1, Problem::EXTRA_BRACE);
+        row("no selector", "A, { b: c }", 1, 4, Problem::NO_SELECTOR);
+        row("no block", "A { } B", 1, 8, Problem::NO_BLOCK);
+        row("space in a state", "A: b { c: d }", 1, 4, Problem::BAD_SELECTOR);
+        row("number in a selector", "A 1 { c: d }", 1, 3, Problem::BAD_SELECTOR);
+        row("no property", "A { : b }", 1, 5, Problem::NO_PROPERTY);
+        row("no colon", "A {\n  b c;\n}", 2, 4, Problem::NO_COLON);
+        row("no value", "A { b: ; }", 1, 7, Problem::NO_VALUE);
+        row("no semicolon", "A {\n  b: c d\n  e: f;\n}", 2, 9, Problem::NO_SEMICOLON);
+        row("bad value", "A { b: c | d }", 1, 10, Problem::BAD_VALUE);
+        row("bad colour", "A { b: #ggg }", 1, 8, Problem::BAD_COLOR);
+        row("declarations alone", "a: b; /* c */", 1, 4, Problem::BAD_SELECTOR);
+        QTest::newRow("two mistakes") << "A { b c; d }"
+                                      << "1:6 10;1:11 10;";
+    }
+
+    void mistakesAreFound()
+    {
+        QFETCH(QString, sheet);
+        QFETCH(QString, expected);
+        QString found;
+        for (const auto& mistake : StyleSheetSyntax::Check(sheet)) {
+            found += QString("%1:%2 %3;").arg(mistake.line).arg(mistake.column).arg(static_cast<int>(mistake.problem));
+            QVERIFY(!StyleSheetSyntax::Describe(mistake.problem).isEmpty());
+        }
+        QCOMPARE(found, expected);
+        // What is said to be good, Qt reads without a warning; a stray one fails the test.
+        if (found.isEmpty()) {
+            qApp->setStyleSheet(sheet);
+            QLabel().ensurePolished();
+            qApp->setStyleSheet(QString());
+        }
+        QVERIFY(StyleSheetSyntax::Check("a: b; c: d", Scope::WIDGET).isEmpty());
+    }
+
+    void appliesAndReverts()
+    {
+        for (const bool toApplication : {true, false}) {
+            InRow(toApplication ? "application" : "widget");
+            auto label = std::make_unique<QLabel>();
+            const QString before = "QLabel { color: #0000ff; }";
+            toApplication ? qApp->setStyleSheet(before) : label->setStyleSheet(before);
+            auto editor = std::make_unique<ZRuntimeStylesheetEditor>();
+            editor->setTarget(toApplication ? nullptr : label.get());
+            QCOMPARE(editor->text(), before);
+            QVERIFY(!editor->isModified());
+            QSignalSpy reverted(editor.get(), &ZRuntimeStylesheetEditor::reverted);
+            editor->revert();
+            QCOMPARE(reverted.size(), 0);
+            for (const QString color : {"#ff0000", "#00ff00"}) {
+                editor->setText("QLabel { color: " + color + "; }");
+                QVERIFY(editor->apply());
+                QCOMPARE(ColorOf(*label), QColor(color));
+            }
+            // A broken sheet changes nothing, and the reason is said.
+            editor->setText(BROKEN);
+            QVERIFY(!editor->apply());
+            QVERIFY2(editor->message().contains("Line 1, column 8"), qPrintable(editor->message()));
+            QCOMPARE(ColorOf(*label), QColor("#00ff00"));
+            editor->revert();
+            QCOMPARE(ColorOf(*label), QColor("#0000ff"));
+            QCOMPARE(editor->text(), BROKEN);
+            editor->readFromTarget();
+            QCOMPARE(editor->text(), before);
+            if (!toApplication) {
+                editor->setText(RED);
+                label.reset();
+                QVERIFY(!editor->hasTarget() && !editor->target());
+                QVERIFY(!editor->message().isEmpty());
+                QVERIFY(!editor->apply());
+                editor->revert();
+                editor->readFromTarget();
+                QCOMPARE(editor->text(), RED);
+                QCOMPARE(editor->findChild<QComboBox*>()->currentIndex(), -1);
+            }
+            qApp->setStyleSheet(QString());
+            // One that goes before its target, which is a part of it, does not follow it any more.
+            auto* part = new QLabel(editor.get());
+            editor->setTarget(part);
+            editor.reset();
+        }
+    }
+
+    void followsTyping()
+    {
+        QLabel label;
+        ZRuntimeStylesheetEditor editor;
+        editor.setTarget(&label);
+        editor.setApplyingWhileTyping(true);
+        editor.show();
+        QSignalSpy applied(&editor, &ZRuntimeStylesheetEditor::applied);
+        auto* code = editor.findChild<ZCodeEditor*>();
+        QTest::keyClicks(code, "QLabel { color: #00ff0");
+        QTRY_COMPARE(code->marks().size(), 2);
+        QCOMPARE(label.styleSheet(), QString());
+        QTest::keyClicks(code, "0 }");
+        QTRY_COMPARE(ColorOf(label), QColor("#00ff00"));
+        QVERIFY(code->marks().isEmpty() && applied.size() == 1);
+        // Reverted, it does not come back by itself; another one that is typed after it would come later.
+        QTest::keyClick(code, Qt::Key_Space);
+        editor.revert();
+        QLabel laterLabel;
+        ZRuntimeStylesheetEditor later;
+        later.setTarget(&laterLabel);
+        later.setApplyingWhileTyping(true);
+        QTest::keyClicks(later.findChild<ZCodeEditor*>(), RED);
+        QTRY_COMPARE(laterLabel.styleSheet(), RED);
+        QCOMPARE(label.styleSheet(), QString());
+        QCOMPARE(applied.size(), 1);
+    }
+
+    void picksWithTheMouse()
+    {
+        QWidget window;
+        auto* button = new QPushButton("A", &window);
+        window.show();
+        ZRuntimeStylesheetEditor editor;
+        editor.show();
+        QSignalSpy clicked(button, &QPushButton::clicked);
+        auto* pick = editor.findChild<QToolButton*>();
+        auto* picker = editor.findChild<ZWidgetPicker*>();
+        QTest::mouseClick(pick, Qt::LeftButton);
+        QVERIFY(picker->isRunning());
+        QTest::mouseClick(button, Qt::LeftButton);
+        QCOMPARE(editor.target(), button);
+        QVERIFY(!picker->isRunning() && !pick->isChecked() && !QApplication::overrideCursor());
+        QCOMPARE(clicked.size(), 0);
+        QTest::mouseClick(button, Qt::LeftButton);
+        QCOMPARE(clicked.size(), 1);
+        pick->setChecked(true);
+        QTest::keyClick(&window, Qt::Key_Escape);
+        QVERIFY(!picker->isRunning() && !pick->isChecked());
+    }
+
+    void findsAndReplaces()
+    {
+        ZCodeEditor editor;
+        ZSearchBar bar(&editor);
+        editor.setPlainText("red Red\nredder red");
+        bar.setSearchedText("red");
+        QVector<int> places;
+        for (int i = 0; i < 5; ++i) {
+            QVERIFY(bar.findNext());
+            places.append(editor.textCursor().selectionStart());
+        }
+        QCOMPARE(places, QVector<int>({0, 4, 8, 15, 0}));
+        QVERIFY(!bar.message().isEmpty());
+        bar.setCaseSensitive(true);
+        bar.setWholeWords(true);
+        QVERIFY(bar.findPrevious());
+        QCOMPARE(editor.textCursor().selectionStart(), 15);
+        QVERIFY(bar.message().contains("end"));
+        bar.setReplacement("red red");
+        QCOMPARE(bar.replaceAll(), 2);
+        QCOMPARE(editor.toPlainText(), QString("red red Red\nredder red red"));
+        editor.undo();
+        QCOMPARE(editor.toPlainText(), QString("red Red\nredder red"));
+        editor.moveCursor(QTextCursor::Start);
+        bar.setReplacement("a");
+        bar.replace();
+        bar.replace();
+        QCOMPARE(editor.toPlainText(), QString("a Red\nredder red"));
+        bar.setSearchedText("blue");
+        QVERIFY(!bar.findNext() && bar.replaceAll() == 0);
+        QCOMPARE(bar.message(), QString("Nothing was found."));
+    }
+
+    void indents()
+    {
+        ZCodeEditor editor;
+        QTest::keyClicks(&editor, "A {");
+        QTest::keyClick(&editor, Qt::Key_Return);
+        QTest::keyClicks(&editor, "b:");
+        QTest::keyClick(&editor, Qt::Key_Tab);
+        QTest::keyClicks(&editor, "c");
+        QTest::keyClick(&editor, Qt::Key_Return);
+        QTest::keyClicks(&editor, "}");
+        QCOMPARE(editor.toPlainText(), QString("A {\n    b:  c\n}"));
+        editor.selectAll();
+        QTest::keyClick(&editor, Qt::Key_Tab);
+        QTest::keyClick(&editor, Qt::Key_Backtab, Qt::ShiftModifier);
+        QTest::keyClick(&editor, Qt::Key_Backtab, Qt::ShiftModifier);
+        QCOMPARE(editor.toPlainText(), QString("A {\nb:  c\n}"));
+        editor.undo();
+        QCOMPARE(editor.toPlainText(), QString("A {\n    b:  c\n}"));
+    }
+
+    void loadsAndSaves()
+    {
+        QTemporaryDir folder;
+        const QString name = folder.filePath("a.qss");
+        ZRuntimeStylesheetEditor editor;
+        editor.show();
+        const QString text = QString::fromUtf8("/* Größe */\nA { b: c }\n");
+        editor.setText(text);
+        QVERIFY(editor.isModified() && editor.save(name) && !editor.isModified());
+        QVERIFY(editor.windowTitle().startsWith("a.qss"));
+        editor.setText(RED);
+        // Closing asks in the window; cancelled, discarded, or saved.
+        QVERIFY(!editor.close());
+        QTest::mouseClick(ButtonOf(editor, "Cancel"), Qt::LeftButton);
+        QVERIFY(editor.isVisible() && editor.isModified());
+        QVERIFY(editor.load(name));
+        QCOMPARE(editor.text(), text);
+        editor.setText(RED);
+        QVERIFY(!editor.close());
+        QTest::mouseClick(ButtonOf(editor, "Save"), Qt::LeftButton);
+        QVERIFY(!editor.isVisible() && editor.load(name));
+        QCOMPARE(editor.text(), RED);
+        editor.show();
+        editor.setText(text);
+        QVERIFY(!editor.close());
+        QTest::mouseClick(ButtonOf(editor, "Discard"), Qt::LeftButton);
+        QVERIFY(!editor.isVisible());
+
+        QFile file(name);
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write("A { b: \xff }") > 0);
+        file.close();
+        editor.setText(RED);
+        for (const QString& bad : {name, folder.path(), folder.filePath("none.qss")}) {
+            QVERIFY(!editor.load(bad));
+            QVERIFY(editor.message().contains(bad));
+        }
+        QVERIFY(!editor.save(folder.filePath("none/a.qss")));
+        QVERIFY(editor.message().contains("none") && editor.text() == RED && editor.isModified());
+    }
+
+    void offersNames()
+    {
+        QPushButton known;
+        known.setObjectName("knownObject");
+        ZRuntimeStylesheetEditor editor;
+        editor.show();
+        QVERIFY(QTest::qWaitForWindowActive(&editor));
+        auto* code = editor.findChild<ZCodeEditor*>();
+        auto* completer = editor.findChild<StyleSheetCompleter*>();
+        const auto offered = [&](const QString& text) {
+            code->setPlainText(text);
+            code->moveCursor(QTextCursor::End);
+            completer->open();
+            return completer->offered();
+        };
+        QCOMPARE(offered("QLabel, #known"), QStringList("knownObject"));
+        QVERIFY(offered("QPush").contains("QPushButton"));
+        QVERIFY(offered("QPushButton { qproperty-te").contains("qproperty-text"));
+        QVERIFY(!offered("QPushButton { qproperty-").contains("qproperty-readOnly"));
+        QVERIFY(offered("QPushButton { border-ra").contains("border-radius"));
+        QVERIFY(offered("QPushButton:pre").contains("pressed"));
+        QVERIFY(offered("QPushButton::i").contains("indicator"));
+        QVERIFY(offered("A { color: ora").contains("orange"));
+        QVERIFY(offered("A { } /* QPush").isEmpty());
+
+        // Two letters bring it up by themselves; Return takes what is chosen.
+        code->clear();
+        code->setFocus();
+        QTest::keyClick(code, 'Q');
+        QVERIFY(!completer->isOpen());
+        QTest::keyClick(code, 'P');
+        QVERIFY(completer->isOpen());
+        QWidget* popup = QApplication::activePopupWidget();
+        QTest::keyClicks(popup, "ushB");
+        QTest::keyClick(popup, Qt::Key_Return);
+        QCOMPARE(editor.text(), QString("QPushButton"));
+        QVERIFY(!completer->isOpen());
+    }
+
+    void coloursGoOnOverLines()
+    {
+        QTextDocument document("A /* b\nc */ d {\ncolor: \"x\"");
+        StyleSheetHighlighter highlighter(&document);
+        highlighter.rehighlight();
+        QVector<QColor> first;
+        for (QTextBlock block = document.begin(); block.isValid(); block = block.next())
+            first.append(block.layout()->formats().value(0).format.foreground().color());
+        const auto comment = document.begin().layout()->formats().value(1).format.foreground().color();
+        QVERIFY(comment.isValid() && first[1] == comment);
+        QVERIFY(first[0] != comment && first[2] != comment && first[2] != first[0]);
+        highlighter.setOnDark(true);
+        QVERIFY(document.begin().layout()->formats().value(0).format.foreground().color().lightness() >
+                first[0].lightness());
+    }
+};
+
+VX_TEST_MAIN(tst_ZRuntimeStylesheetEditor)
+#include "tst_ZRuntimeStylesheetEditor.moc"
