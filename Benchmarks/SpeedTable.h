@@ -30,6 +30,9 @@ double Median(std::vector<double> values);
 
 std::vector<Row> PreviewRows();
 std::vector<Row> EffectRows();
+std::vector<Row> PanelRows();
+std::vector<Row> KitRows();
+std::vector<Row> SliderRows();
 
 /// Prints what the shadow's rim costs on widgets of growing size.
 void PrintShadowCurve();

@@ -44,8 +44,10 @@ int main(int argc, char* argv[])
     }
 
     std::vector<SpeedTable::Row> rows = SpeedTable::PreviewRows();
-    for (SpeedTable::Row& row : SpeedTable::EffectRows())
-        rows.push_back(std::move(row));
+    for (auto* more : {SpeedTable::EffectRows, SpeedTable::PanelRows, SpeedTable::KitRows, SpeedTable::SliderRows}) {
+        for (SpeedTable::Row& row : more())
+            rows.push_back(std::move(row));
+    }
     bool found = false;
     for (const SpeedTable::Row& row : rows) {
         if (parser.isSet(only) && parser.value(only) != QLatin1String(row.name))

@@ -1,0 +1,142 @@
+#include "Catalogue.h"
+
+#include <UI/Kit/ZSlider.h>
+#include <UI/Kit/ZSliderThumb.h>
+
+#include <QVariant>
+
+namespace Zelkor::Gallery {
+
+namespace {
+
+constexpr int LENGTH = 320;
+constexpr int STEP = 5;
+constexpr int STEP_UNITS = 120;
+
+// What a step is, is the owner's to say.
+void Step(ZSliderThumb* thumb)
+{
+    QObject::connect(thumb, &ZSliderThumb::stepped, thumb,
+                     [thumb](int factor) { thumb->setValue(thumb->value() + STEP * factor / STEP_UNITS); });
+}
+
+ZSliderThumb* AddThumb(ZSlider& slider, const QString& name, int value)
+{
+    ZSliderThumb* thumb = slider.addThumb(name);
+    Step(thumb);
+    thumb->setValue(value);
+    return thumb;
+}
+
+ZSlider* CreateSlider(Qt::Orientation orientation, QWidget* parent)
+{
+    auto* slider = new ZSlider(parent);
+    slider->setOrientation(orientation);
+    slider->setAccessibleName(Catalogue::tr("Position"));
+    slider->defaultThumb()->setName(Catalogue::tr("Position"));
+    Step(slider->defaultThumb());
+    if (orientation == Qt::Horizontal)
+        slider->setMinimumWidth(LENGTH);
+    slider->setValue(40);
+    return slider;
+}
+
+QWidget* CreateHorizontalSlider(QWidget* parent)
+{
+    return CreateSlider(Qt::Horizontal, parent);
+}
+
+// Two brackets that do not pass each other, and what lies between them.
+void Trim(ZSlider& slider)
+{
+    slider.setProperty("role", QStringLiteral("trim"));
+    ZSliderThumb* left = AddThumb(slider, QStringLiteral("left"), 20);
+    ZSliderThumb* right = AddThumb(slider, QStringLiteral("right"), 70);
+    left->setName(Catalogue::tr("Start"));
+    right->setName(Catalogue::tr("End"));
+    const auto follow = [&slider, left, right] {
+        left->setUpperLimit(right->value());
+        right->setLowerLimit(left->value());
+        slider.setSegments({{left->value(), right->value(), true}});
+    };
+    QObject::connect(left, &ZSliderThumb::valueChanged, &slider, follow);
+    QObject::connect(right, &ZSliderThumb::valueChanged, &slider, follow);
+    follow();
+}
+
+void AddMarks(ZSlider& slider)
+{
+    slider.setProperty("role", QStringLiteral("trim"));
+    for (const int value : {15, 60, 80})
+        AddThumb(slider, Catalogue::tr("Mark at %1").arg(value), value)->setStyleTag(QStringLiteral("mark"));
+    slider.setSelectedThumb(slider.thumb(Catalogue::tr("Mark at %1").arg(60)));
+}
+
+void AddChapters(ZSlider& slider)
+{
+    slider.setProperty("role", QStringLiteral("trim"));
+    slider.setSegments({{0, 30, false}, {30, 55, true}, {70, 100, false}});
+}
+
+QWidget* CreateUprightChapters(QWidget* parent)
+{
+    ZSlider* slider = CreateSlider(Qt::Vertical, parent);
+    AddChapters(*slider);
+    return slider;
+}
+
+void LimitPosition(ZSlider& slider)
+{
+    Trim(slider);
+    ZSliderThumb* position = slider.defaultThumb();
+    const auto follow = [&slider, position] {
+        position->setLowerLimit(slider.thumb(QStringLiteral("left"))->value());
+        position->setUpperLimit(slider.thumb(QStringLiteral("right"))->value());
+    };
+    for (const char* name : {"left", "right"})
+        QObject::connect(slider.thumb(QLatin1String(name)), &ZSliderThumb::valueChanged, position, follow);
+    follow();
+}
+
+void Snap(ZSlider& slider)
+{
+    AddMarks(slider);
+    slider.setSnapping(true);
+    slider.setSnapDistance(50);
+}
+
+Entry SliderEntry()
+{
+    return {
+        "ZSlider",
+        Catalogue::tr("Kit"),
+        Catalogue::tr("A slider with any number of thumbs and highlighted stretches, for trimming and timelines."),
+        "ZSlider",
+        "trim",
+        CreateHorizontalSlider,
+        {
+            MakeState<ZSlider>(Catalogue::tr("One thumb"), [](ZSlider&) {}),
+            MakeState<ZSlider>(Catalogue::tr("Trimming"), Trim),
+            MakeState<ZSlider>(Catalogue::tr("Trimming, position limited"), LimitPosition),
+            MakeState<ZSlider>(Catalogue::tr("Segments"), AddChapters),
+            MakeState<ZSlider>(Catalogue::tr("Marks, one selected"), AddMarks),
+            MakeState<ZSlider>(Catalogue::tr("Marks that snap to the position"), Snap),
+            MadeState(Catalogue::tr("Upright"), [](QWidget* parent) { return CreateSlider(Qt::Vertical, parent); }),
+            MadeState(Catalogue::tr("Upright, segments"), CreateUprightChapters),
+            MakeState<ZSlider>(Catalogue::tr("Disabled"),
+                               [](ZSlider& slider) {
+                                   Trim(slider);
+                                   slider.setEnabled(false);
+                               }),
+        },
+    };
+}
+
+} // namespace
+
+QVector<Entry> SliderEntries()
+{
+    return {SliderEntry()};
+}
+
+} // namespace Zelkor::Gallery

@@ -1,0 +1,39 @@
+#include <UI/Kit/SliderTrack.h>
+
+#include <QtGlobal>
+
+namespace {
+
+// No widget lies further out. What would is cut before it becomes an integer.
+constexpr double FARTHEST = 1 << 24;
+
+double Span(const SliderTrack& track)
+{
+    const double span = double(track.maximum) - track.minimum;
+    return span == 0 ? 1 : span;
+}
+
+double GrooveLength(const SliderTrack& track)
+{
+    return track.extent - 2.0 * track.inset;
+}
+
+} // namespace
+
+int SliderTrack::pixelOfThumb(int value) const
+{
+    const double position = GrooveLength(*this) * value / Span(*this) + 0.5;
+    return int(qBound(-FARTHEST, position, FARTHEST)) + inset;
+}
+
+int SliderTrack::pixelOfSegment(int value) const
+{
+    return int((double(value) - minimum) * GrooveLength(*this) / Span(*this)) + inset;
+}
+
+int SliderTrack::valueAt(int pixel) const
+{
+    const double length = qMax(GrooveLength(*this), 1.0);
+    const double offset = qBound(0.0, double(pixel) - inset, length);
+    return int(minimum + (double(maximum) - minimum) * offset / length);
+}

@@ -1,0 +1,346 @@
+#include <UI/Kit/ZSliderThumb.h>
+
+#include <UI/Common/AccessibleFactory.h>
+#include <UI/Kit/SliderTrack.h>
+#include <UI/Kit/ZSlider.h>
+
+#include <QAccessibleWidget>
+#include <QMouseEvent>
+#include <QPointer>
+#include <QStyle>
+#include <QStyleOptionToolButton>
+#include <QStylePainter>
+
+#include <algorithm>
+
+namespace {
+
+constexpr QSize SIZE(14, 14);
+constexpr QPoint NOWHERE(-1, -1);
+constexpr int STEP = 120; // what one notch of a wheel counts
+
+bool IsUpwards(int key)
+{
+    return key == Qt::Key_Up || key == Qt::Key_Right;
+}
+
+bool IsDownwards(int key)
+{
+    return key == Qt::Key_Down || key == Qt::Key_Left;
+}
+
+/// For assistive technology a thumb is a slider of its own rather than a button.
+class AccessibleThumb : public QAccessibleWidget, public QAccessibleValueInterface
+{
+public:
+    explicit AccessibleThumb(ZSliderThumb* thumb) : QAccessibleWidget(thumb, QAccessible::Slider), thumb(thumb) {}
+
+    void* interface_cast(QAccessible::InterfaceType type) override
+    {
+        if (type == QAccessible::ValueInterface)
+            return static_cast<QAccessibleValueInterface*>(this);
+        return QAccessibleWidget::interface_cast(type);
+    }
+
+    QAccessible::State state() const override
+    {
+        QAccessible::State state = QAccessibleWidget::state();
+        state.selectable = thumb->isSelectable();
+        state.selected = thumb->isChecked();
+        return state;
+    }
+
+    QString text(QAccessible::Text kind) const override
+    {
+        return kind == QAccessible::Value ? QString::number(thumb->value()) : QAccessibleWidget::text(kind);
+    }
+
+    QVariant currentValue() const override { return thumb->value(); }
+    void setCurrentValue(const QVariant& value) override { thumb->setValue(value.toInt()); }
+    QVariant minimumValue() const override { return qMax(slider().minimum(), thumb->lowerLimit()); }
+    QVariant maximumValue() const override { return qMin(slider().maximum(), thumb->upperLimit()); }
+    QVariant minimumStepSize() const override { return slider().singleStep(); }
+
+private:
+    const QSlider& slider() const { return *static_cast<QSlider*>(thumb->parentWidget()); }
+
+    ZSliderThumb* thumb;
+};
+
+} // namespace
+
+ZSliderThumb::ZSliderThumb(ZSlider* slider) : QToolButton(slider), slider(slider), currentValue(slider->minimum())
+{
+    Zelkor::Vx::UI::Common::AccessibleFactory<ZSliderThumb, AccessibleThumb>::Install();
+    setCheckable(true);
+    setFixedSize(SIZE);
+    setMouseTracking(true);
+    setFocusPolicy(Qt::ClickFocus);
+}
+
+ZSliderThumb::~ZSliderThumb()
+{
+    slider->forget(this);
+}
+
+void ZSliderThumb::setName(const QString& name)
+{
+    // A name that somebody else gave stays.
+    if (accessibleName().isEmpty() || accessibleName() == currentName)
+        setAccessibleName(name);
+    currentName = name;
+}
+
+void ZSliderThumb::setStyleTag(const QString& tag)
+{
+    currentStyleTag = tag;
+    style()->unpolish(this);
+    style()->polish(this);
+    update();
+}
+
+void ZSliderThumb::setPointOffset(int offset)
+{
+    currentPointOffset = offset;
+    setValue(currentValue);
+}
+
+void ZSliderThumb::setParentMargin(int margin)
+{
+    currentParentMargin = margin;
+    setValue(currentValue);
+    slider->updateGeometry();
+}
+
+void ZSliderThumb::setZOrder(int order)
+{
+    currentZOrder = order;
+    slider->restack();
+}
+
+int ZSliderThumb::bounded(int value) const
+{
+    return qMin(upperBound, qMax(lowerBound, qBound(slider->minimum(), value, slider->maximum())));
+}
+
+void ZSliderThumb::setValue(int value)
+{
+    const int newValue = bounded(value);
+    const bool changes = newValue != currentValue;
+    currentValue = newValue;
+    place();
+    if (!changes)
+        return;
+    QAccessibleValueChangeEvent accessibleEvent(this, newValue);
+    QAccessible::updateAccessibility(&accessibleEvent);
+    Q_EMIT valueChanged(newValue);
+}
+
+void ZSliderThumb::setLowerLimit(int limit)
+{
+    lowerBound = limit;
+    setValue(currentValue);
+}
+
+void ZSliderThumb::setUpperLimit(int limit)
+{
+    upperBound = limit;
+    setValue(currentValue);
+}
+
+void ZSliderThumb::place()
+{
+    const int position = slider->track().pixelOfThumb(currentValue) - currentPointOffset;
+    if (slider->orientation() == Qt::Horizontal)
+        move(position, currentParentMargin);
+    else
+        move(currentParentMargin, position);
+}
+
+QSize ZSliderThumb::sizeHint() const
+{
+    return {1, 1}; // the fixed size governs
+}
+
+// What setChecked() does, but with the signal last: a slot may delete the thumb, which the button would not survive.
+void ZSliderThumb::check(bool on)
+{
+    if (!isCheckable() || on == isChecked())
+        return;
+    {
+        const QSignalBlocker silence(this);
+        setChecked(on);
+    }
+    Q_EMIT toggled(on);
+}
+
+void ZSliderThumb::nextCheckState()
+{
+    if (selectable)
+        check(!isChecked());
+}
+
+void ZSliderThumb::finishDrag()
+{
+    armed = false;
+    pressPosition = NOWHERE;
+    if (!dragging)
+        return;
+    dragging = false;
+    Q_EMIT dragFinished();
+}
+
+// A tool button toggles on its own, also at the end of a drag. This has `handler` run while it cannot, and without the
+// look that goes with that. Returns whether the thumb still lives.
+bool ZSliderThumb::handleUnchecked(void (ZSliderThumb::*handler)(QMouseEvent*), QMouseEvent* event)
+{
+    const QPointer<ZSliderThumb> self(this);
+    const auto restore = [this](bool isCheckable, bool isChecked) {
+        const QSignalBlocker silence(this);
+        setCheckable(isCheckable);
+        setChecked(isChecked);
+    };
+    const bool wasCheckable = isCheckable();
+    const bool wasChecked = isChecked();
+    setUpdatesEnabled(false);
+    restore(false, false);
+    (this->*handler)(event);
+    if (!self)
+        return false;
+    restore(wasCheckable, wasChecked);
+    setUpdatesEnabled(true);
+    // Whoever selected another thumb meanwhile could not see that this one was checked.
+    if (wasChecked && slider->selectedThumb() != this)
+        check(false);
+    return !self.isNull();
+}
+
+void ZSliderThumb::pressButton(QMouseEvent* event)
+{
+    QToolButton::mousePressEvent(event);
+}
+
+void ZSliderThumb::releaseButton(QMouseEvent* event)
+{
+    QToolButton::mouseReleaseEvent(event);
+}
+
+void ZSliderThumb::mousePressEvent(QMouseEvent* event)
+{
+    if (event->button() == Qt::LeftButton && draggable) {
+        armed = true;
+        pressPosition = event->pos();
+    }
+    if (!handleUnchecked(&ZSliderThumb::pressButton, event))
+        event->accept();
+}
+
+void ZSliderThumb::mouseMoveEvent(QMouseEvent* event)
+{
+    if (!armed) {
+        event->ignore();
+        return;
+    }
+    event->accept();
+    // Window systems tell of moves that are none, and these shall not make a drag of a click.
+    if (!dragging && event->pos() == pressPosition)
+        return;
+    const QPointer<ZSliderThumb> self(this);
+    if (!dragging) {
+        dragging = true;
+        Q_EMIT dragStarted();
+        if (!self || !dragging)
+            return;
+    }
+    const QPoint offset(currentPointOffset, currentPointOffset);
+    const int value = slider->valueAt(mapToParent(event->pos()) + offset - pressPosition);
+    setValue(slider->snapped(*this, value));
+    if (!self)
+        return;
+    QAbstractButton::mouseMoveEvent(event);
+    event->accept();
+}
+
+void ZSliderThumb::mouseReleaseEvent(QMouseEvent* event)
+{
+    if (event->button() != Qt::LeftButton) {
+        QToolButton::mouseReleaseEvent(event);
+        return;
+    }
+    const QPointer<ZSliderThumb> self(this);
+    const QPoint place = mapToParent(event->pos());
+    const bool wasDragging = dragging;
+    pressPosition = NOWHERE;
+    const bool isAlive = handleUnchecked(&ZSliderThumb::releaseButton, event);
+    // Qt asks the receiver about an event that nobody took, and a slot may delete it.
+    event->accept();
+    if (!isAlive)
+        return;
+    finishDrag();
+    if (!self || wasDragging)
+        return;
+    nextCheckState();
+    if (self && !isChecked() && slider->hasOtherThumbAt(place, *this))
+        lower();
+}
+
+void ZSliderThumb::keyPressEvent(QKeyEvent* event)
+{
+    if (slider->moveFocus(*event, this))
+        return;
+    const bool isStep = keyStepping && (IsUpwards(event->key()) || IsDownwards(event->key()));
+    if (!isStep) {
+        QAbstractButton::keyPressEvent(event);
+        return;
+    }
+    event->accept();
+    Q_EMIT stepped(IsUpwards(event->key()) ? STEP : -STEP);
+}
+
+void ZSliderThumb::wheelEvent(QWheelEvent* event)
+{
+    const QPoint angle = event->angleDelta();
+    const int delta = angle.y() != 0 ? angle.y() : angle.x();
+    if (!isChecked() || !wheelStepping || delta == 0) {
+        QToolButton::wheelEvent(event);
+        return;
+    }
+    event->accept();
+    Q_EMIT stepped(delta);
+}
+
+void ZSliderThumb::focusInEvent(QFocusEvent* event)
+{
+    // It may lie under others, where it could be neither seen nor taken.
+    raise();
+    QToolButton::focusInEvent(event);
+}
+
+void ZSliderThumb::focusOutEvent(QFocusEvent* event)
+{
+    slider->restack();
+    QToolButton::focusOutEvent(event);
+}
+
+void ZSliderThumb::hideEvent(QHideEvent* event)
+{
+    QToolButton::hideEvent(event);
+    finishDrag();
+}
+
+void ZSliderThumb::changeEvent(QEvent* event)
+{
+    QToolButton::changeEvent(event);
+    if (event->type() == QEvent::EnabledChange && !isEnabled())
+        finishDrag();
+}
+
+void ZSliderThumb::paintEvent(QPaintEvent*)
+{
+    QStyleOptionToolButton option;
+    initStyleOption(&option);
+    // The slider itself shows nothing of its focus; the thumb does that its keys go to.
+    if (slider->hasFocus() && slider->keyThumb() == this)
+        option.state |= QStyle::State_HasFocus;
+    QStylePainter(this).drawComplexControl(QStyle::CC_ToolButton, option);
+}
