@@ -1,6 +1,6 @@
 #include "Application.h"
 #include "GalleryWindow.h"
-#include "RecorderView.h"
+#include "RecorderWindow.h"
 #include "Screenshot.h"
 
 #include <QAbstractButton>
@@ -47,7 +47,10 @@ void Complain(const QString& text)
 
 Application::Application(Options options) : options(std::move(options))
 {
-    LoadLanguage();
+    if (!this->options.language.isEmpty())
+        preferences.SetLanguage(this->options.language);
+    preferences.SetStyleName(this->options.styleName);
+    UseLanguage(preferences.Language());
     if (this->options.rightToLeft)
         QApplication::setLayoutDirection(Qt::RightToLeft);
     ApplyStyleSheet(this->options.style);
@@ -58,6 +61,10 @@ Application::Application(Options options) : options(std::move(options))
 
     QObject::connect(&devices, &StandIn::DeviceList::Changed, &model,
                      [this] { model.SetDevices(devices.GetDevices()); });
+    QObject::connect(&preferences, &Preferences::LanguageChanged, &model,
+                     [this](const QString& code) { UseLanguage(code); });
+    QObject::connect(&preferences, &Preferences::StyleNameChanged, &model,
+                     [this](const QString& name) { UseStyle(name); });
     model.SetDevices(devices.GetDevices());
 }
 
@@ -75,35 +82,33 @@ int Application::Run()
     return QApplication::exec();
 }
 
-// Beside the program in the build folder, or where an installed program has its data.
-void Application::LoadLanguage()
+void Application::UseLanguage(const QString& code)
 {
-    if (options.language.isEmpty())
-        return;
-    const QDir program(QApplication::applicationDirPath());
-    for (const char* folder : {"../Translations", "../share/VxUiWidgets/Translations"}) {
-        if (translator.load("VxUiWidgets_" + options.language, program.filePath(folder))) {
-            QApplication::installTranslator(&translator);
-            return;
-        }
-    }
-    Complain(QString("there are no texts for the language '%1'; going on in English").arg(options.language));
+    if (!translations.Use(code))
+        Complain(QString("there are no texts for the language '%1'; going on in English").arg(code));
+}
+
+void Application::UseStyle(const QString& name)
+{
+    QString error;
+    if (const auto sheet = LoadStyleSheet(name, error))
+        ApplyStyleSheet(*sheet);
 }
 
 QWidget* Application::OpenPage(const QString& name)
 {
     if (name == RecorderPageName()) {
         if (!recorder) {
-            recorder = std::make_unique<RecorderView>(&model, RecorderView::Role::Window);
+            recorder = std::make_unique<RecorderWindow>(&model, &preferences);
             recorder->resize(recorder->sizeHint());
-            QObject::connect(recorder.get(), &RecorderView::WidgetsRequested, recorder.get(),
+            QObject::connect(recorder.get(), &RecorderWindow::WidgetsRequested, recorder.get(),
                              [this] { OpenWidgets(); });
         }
         Show(recorder.get(), options.size);
         return recorder.get();
     }
     if (!gallery)
-        gallery = std::make_unique<GalleryWindow>(&model);
+        gallery = std::make_unique<GalleryWindow>(&model, &preferences);
     gallery->OpenPage(name);
     Show(gallery.get(), options.size);
     return gallery.get();
@@ -128,7 +133,7 @@ void Application::GreetOnce()
 void Application::OpenWidgets()
 {
     if (!gallery) {
-        gallery = std::make_unique<GalleryWindow>(&model);
+        gallery = std::make_unique<GalleryWindow>(&model, &preferences);
         QObject::connect(gallery.get(), &GalleryWindow::Closed, recorder.get(), [this] { recorder->show(); });
     }
     gallery->OpenPage(PageNames().value(1));

@@ -1,18 +1,18 @@
 #pragma once
 
+#include "Languages.h"
 #include "Options.h"
+#include "Preferences.h"
 #include "RecorderModel.h"
 
 #include <Zelkor/StandIn/DeviceList.h>
-
-#include <QTranslator>
 
 #include <memory>
 
 namespace Zelkor::Gallery {
 
 class GalleryWindow;
-class RecorderView;
+class RecorderWindow;
 
 /// The program behind its command line: windows, devices, and pictures. Needs a `QApplication`.
 class Application
@@ -25,7 +25,8 @@ public:
     int Run();
 
 private:
-    void LoadLanguage();
+    void UseLanguage(const QString& code);
+    void UseStyle(const QString& name);
     QWidget* OpenPage(const QString& name);
     void OpenWidgets();
     void GreetOnce();
@@ -33,10 +34,11 @@ private:
     int TakeAllPictures();
 
     const Options options;
-    QTranslator translator;
+    Translations translations;
+    Preferences preferences;
     StandIn::DeviceList devices;
     RecorderModel model;
-    std::unique_ptr<RecorderView> recorder;
+    std::unique_ptr<RecorderWindow> recorder;
     std::unique_ptr<GalleryWindow> gallery;
 };
 

@@ -1,6 +1,5 @@
 #include "Catalogue.h"
 
-#include <QCoreApplication>
 #include <QWidget>
 
 #include <algorithm>
@@ -9,8 +8,10 @@ namespace Zelkor::Gallery {
 
 const QVector<Entry>& Entries()
 {
-    static const QVector<Entry> entries = ButtonEntries() + LabelledButtonEntries() + ChoiceEntries() + MediaEntries() +
-                                          MeterEntries() + EffectEntries() + KitEntries();
+    static const QVector<Entry> entries =
+        ButtonEntries() + LabelledButtonEntries() + ChoiceEntries() + MediaEntries() + MeterEntries() +
+        IndicatorEntries() + PanelEntries() + TabEntries() + WindowEntries() + HintEntries() + EffectEntries() +
+        KitEntries() + SliderEntries() + TimeEntries() + MatrixEntries() + FieldEntries() + EditorEntries();
     return entries;
 }
 
@@ -35,7 +36,7 @@ State MadeState(const QString& name, std::function<QWidget*(QWidget*)> create)
 
 State DisabledState()
 {
-    return {QCoreApplication::translate("Catalogue", "Disabled"), [](QWidget* widget) { widget->setEnabled(false); }};
+    return {Catalogue::tr("Disabled"), [](QWidget* widget) { widget->setEnabled(false); }};
 }
 
 } // namespace Zelkor::Gallery

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QString>
 #include <QVector>
 
@@ -8,6 +9,12 @@
 class QWidget;
 
 namespace Zelkor::Gallery {
+
+/// The texts of the catalogue, for translation.
+class Catalogue
+{
+    Q_DECLARE_TR_FUNCTIONS(Catalogue)
+};
 
 /// A situation in which a widget is worth looking at.
 struct State
@@ -48,8 +55,18 @@ QVector<Entry> LabelledButtonEntries();
 QVector<Entry> ChoiceEntries();
 QVector<Entry> MediaEntries();
 QVector<Entry> MeterEntries();
+QVector<Entry> IndicatorEntries();
+QVector<Entry> PanelEntries();
+QVector<Entry> TabEntries();
+QVector<Entry> WindowEntries();
+QVector<Entry> HintEntries();
 QVector<Entry> EffectEntries();
 QVector<Entry> KitEntries();
+QVector<Entry> SliderEntries();
+QVector<Entry> TimeEntries();
+QVector<Entry> MatrixEntries();
+QVector<Entry> FieldEntries();
+QVector<Entry> EditorEntries();
 
 /// A state whose function takes the widget as what it is.
 template<class Widget, class Function>

@@ -6,7 +6,6 @@
 
 #include <QCheckBox>
 #include <QComboBox>
-#include <QCoreApplication>
 #include <QLabel>
 
 using Zelkor::Vx::UI::ButtonWithPopUpContainer;
@@ -15,20 +14,15 @@ namespace Zelkor::Gallery {
 
 namespace {
 
-QString Tr(const char* text)
-{
-    return QCoreApplication::translate("Catalogue", text);
-}
-
 void FillPanel(ButtonWithPopUpContainer& button)
 {
     auto* quality = new QComboBox;
-    quality->addItems({Tr("High quality"), Tr("Balanced"), Tr("Small file")});
-    quality->setAccessibleName(Tr("Quality"));
-    button.AppendWidget(new QLabel(Tr("Quality")));
+    quality->addItems({Catalogue::tr("High quality"), Catalogue::tr("Balanced"), Catalogue::tr("Small file")});
+    quality->setAccessibleName(Catalogue::tr("Quality"));
+    button.AppendWidget(new QLabel(Catalogue::tr("Quality")));
     button.AppendWidget(quality);
-    button.AppendWidget(new QCheckBox(Tr("Record the pointer")));
-    button.AppendWidget(new QCheckBox(Tr("Record clicks")));
+    button.AppendWidget(new QCheckBox(Catalogue::tr("Record the pointer")));
+    button.AppendWidget(new QCheckBox(Catalogue::tr("Record clicks")));
 }
 
 void ShowIconAndText(ButtonWithPopUpContainer& button, const QString& text)
@@ -42,7 +36,7 @@ void ShowIconAndText(ButtonWithPopUpContainer& button, const QString& text)
 QWidget* CreateButton(QWidget* parent)
 {
     auto* button = new ButtonWithPopUpContainer(parent);
-    button->setText(Tr("Quality"));
+    button->setText(Catalogue::tr("Quality"));
     return button;
 }
 
@@ -51,34 +45,38 @@ Entry ButtonWithPopUpEntry()
     using Button = ButtonWithPopUpContainer;
     return {
         "ButtonWithPopUpContainer",
-        Tr("Buttons"),
-        Tr("Opens a floating panel of the application's widgets beside itself."),
+        Catalogue::tr("Buttons"),
+        Catalogue::tr("Opens a floating panel of the application's widgets beside itself."),
         "ButtonWithPopUpContainer",
         "panel",
         CreateButton,
         {
-            MakeState<Button>(Tr("Typical"), FillPanel),
-            MakeState<Button>(Tr("Icon and text"), [](Button& button) { ShowIconAndText(button, Tr("Quality")); }),
-            MakeState<Button>(Tr("Icon only"),
+            MakeState<Button>(Catalogue::tr("Typical"), FillPanel),
+            MakeState<Button>(Catalogue::tr("Icon and text"),
+                              [](Button& button) { ShowIconAndText(button, Catalogue::tr("Quality")); }),
+            MakeState<Button>(Catalogue::tr("Icon only"),
                               [](Button& button) {
-                                  ShowIconAndText(button, Tr("Quality"));
+                                  ShowIconAndText(button, Catalogue::tr("Quality"));
                                   button.setToolButtonStyle(Qt::ToolButtonIconOnly);
                               }),
-            MakeState<Button>(
-                Tr("Long text"),
-                [](Button& button) { ShowIconAndText(button, Tr("Quality, pointer and clicks of this recording")); }),
-            MakeState<Button>(Tr("Checked"),
+            MakeState<Button>(Catalogue::tr("Long text"),
                               [](Button& button) {
-                                  ShowIconAndText(button, Tr("Quality"));
+                                  ShowIconAndText(button,
+                                                  Catalogue::tr("Quality, pointer and clicks of this recording"));
+                              }),
+            MakeState<Button>(Catalogue::tr("Checked"),
+                              [](Button& button) {
+                                  ShowIconAndText(button, Catalogue::tr("Quality"));
                                   button.setChecked(true);
                               }),
-            MakeState<Button>(Tr("Opens upwards"),
+            MakeState<Button>(Catalogue::tr("Opens upwards"),
                               [](Button& button) {
-                                  ShowIconAndText(button, Tr("Quality"));
+                                  ShowIconAndText(button, Catalogue::tr("Quality"));
                                   button.SetPreferredPopupAnchor(Button::ANCHOR_TOP_CENTER);
                                   button.SetPreferredPopupDirection(Button::DIRECTION_UP_CENTER);
                               }),
-            MakeState<Button>(Tr("Empty panel"), [](Button& button) { button.setText(Tr("Nothing")); }),
+            MakeState<Button>(Catalogue::tr("Empty panel"),
+                              [](Button& button) { button.setText(Catalogue::tr("Nothing")); }),
             DisabledState(),
         },
     };

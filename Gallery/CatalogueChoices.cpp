@@ -6,8 +6,6 @@
 #include <UI/Widgets/ClickSoundComboBox.h>
 #include <UI/Widgets/ColorButton.h>
 
-#include <QCoreApplication>
-
 using Zelkor::Vx::ButtonWithPopUpList;
 using Zelkor::Vx::ColorButton;
 using Zelkor::Vx::UI::ClickSoundComboBox;
@@ -23,11 +21,6 @@ constexpr int BAR_BUTTON_WIDTH = 160;
 constexpr QRect BAR(12, 10, 135, 11);
 constexpr double HIGHEST_ALPHA = 0.6;
 
-QString Tr(const char* text)
-{
-    return QCoreApplication::translate("Catalogue", text);
-}
-
 void Fill(ButtonWithPopUpList& button, const QStringList& texts)
 {
     button.Clear();
@@ -39,7 +32,7 @@ QStringList ManyTexts()
 {
     QStringList texts;
     for (int i = 1; i <= MANY; ++i)
-        texts.append(Tr("Take %1").arg(i));
+        texts.append(Catalogue::tr("Take %1").arg(i));
     return texts;
 }
 
@@ -51,16 +44,16 @@ QWidget* CreateList(QWidget* parent)
     button->setIcon(StyleIcon("list"));
     QObject::connect(button, &ButtonWithPopUpList::CurrentIndexChanged, button, [button] {
         const QString text = button->CurrentData().toString();
-        SetTextBesideIcon(button, text.isEmpty() ? Tr("Format") : text);
+        SetTextBesideIcon(button, text.isEmpty() ? Catalogue::tr("Format") : text);
     });
-    Fill(*button, {Tr("Video"), Tr("Animated picture"), Tr("Sound only")});
+    Fill(*button, {Catalogue::tr("Video"), Catalogue::tr("Animated picture"), Catalogue::tr("Sound only")});
     return button;
 }
 
 QWidget* CreateColorButton(QWidget* parent)
 {
     auto* button = new ColorButton(parent);
-    button->setText(Tr("Drawing colour"));
+    button->setText(Catalogue::tr("Drawing colour"));
     button->SetColor(QColor(0x2f, 0x9e, 0x6b));
     return button;
 }
@@ -75,7 +68,7 @@ void MakeTranslucent(ColorButton& button)
 void PlaceSquareElsewhere(ColorButton& button)
 {
     button.setText(QString());
-    button.setAccessibleName(Tr("Drawing colour"));
+    button.setAccessibleName(Catalogue::tr("Drawing colour"));
     button.setFixedWidth(BAR_BUTTON_WIDTH);
     button.SetColorRect(BAR);
 }
@@ -84,8 +77,9 @@ QWidget* CreateSoundBox(QWidget* parent)
 {
     auto* combo = new ClickSoundComboBox(parent);
     StyleItems(combo);
-    combo->setAccessibleName(Tr("Click sound"));
-    combo->addItems({Tr("No sound"), Tr("Soft click"), Tr("Mechanical keyboard"), Tr("Typewriter")});
+    combo->setAccessibleName(Catalogue::tr("Click sound"));
+    combo->addItems({Catalogue::tr("No sound"), Catalogue::tr("Soft click"), Catalogue::tr("Mechanical keyboard"),
+                     Catalogue::tr("Typewriter")});
     combo->setCurrentIndex(1);
     combo->setFixedWidth(COMBO_WIDTH);
     return combo;
@@ -93,7 +87,7 @@ QWidget* CreateSoundBox(QWidget* parent)
 
 void AddLongText(ClickSoundComboBox& combo)
 {
-    combo.addItem(Tr("Mechanical keyboard of the office next door, recorded twice"));
+    combo.addItem(Catalogue::tr("Mechanical keyboard of the office next door, recorded twice"));
     combo.setCurrentIndex(combo.count() - 1);
 }
 
@@ -109,25 +103,26 @@ Entry ButtonWithPopUpListEntry()
     using Button = ButtonWithPopUpList;
     return {
         "ButtonWithPopUpList",
-        Tr("Buttons"),
-        Tr("A tool button with a menu of choices, of which one is current."),
+        Catalogue::tr("Buttons"),
+        Catalogue::tr("A tool button with a menu of choices, of which one is current."),
         "ButtonWithPopUpList",
         "list",
         CreateList,
         {
-            MakeState<Button>(Tr("Typical"), [](Button&) {}),
-            MakeState<Button>(Tr("Empty"),
+            MakeState<Button>(Catalogue::tr("Typical"), [](Button&) {}),
+            MakeState<Button>(Catalogue::tr("Empty"),
                               [](Button& button) {
                                   button.Clear();
-                                  SetTextBesideIcon(&button, Tr("Nothing to choose"));
+                                  SetTextBesideIcon(&button, Catalogue::tr("Nothing to choose"));
                               }),
-            MakeState<Button>(Tr("Many items"), [](Button& button) { Fill(button, ManyTexts()); }),
-            MakeState<Button>(Tr("Long texts"),
+            MakeState<Button>(Catalogue::tr("Many items"), [](Button& button) { Fill(button, ManyTexts()); }),
+            MakeState<Button>(Catalogue::tr("Long texts"),
                               [](Button& button) {
-                                  Fill(button, {Tr("Video for people who see it on a telephone"),
-                                                Tr("Video for a lecture hall with a large screen")});
+                                  Fill(button, {Catalogue::tr("Video for people who see it on a telephone"),
+                                                Catalogue::tr("Video for a lecture hall with a large screen")});
                               }),
-            MakeState<Button>(Tr("Nothing checked"), [](Button& button) { button.SetCurrentIndex(button.Count()); }),
+            MakeState<Button>(Catalogue::tr("Nothing checked"),
+                              [](Button& button) { button.SetCurrentIndex(button.Count()); }),
             DisabledState(),
         },
     };
@@ -137,15 +132,15 @@ Entry ColorButtonEntry()
 {
     return {
         "ColorButton",
-        Tr("Buttons"),
-        Tr("Shows a colour, and opens a dialog that chooses another one."),
+        Catalogue::tr("Buttons"),
+        Catalogue::tr("Shows a colour, and opens a dialog that chooses another one."),
         "ColorButton",
         "palette",
         CreateColorButton,
         {
-            MakeState<ColorButton>(Tr("Opaque"), [](ColorButton&) {}),
-            MakeState<ColorButton>(Tr("Translucent, up to 60 %"), MakeTranslucent),
-            MakeState<ColorButton>(Tr("Square placed elsewhere"), PlaceSquareElsewhere),
+            MakeState<ColorButton>(Catalogue::tr("Opaque"), [](ColorButton&) {}),
+            MakeState<ColorButton>(Catalogue::tr("Translucent, up to 60 %"), MakeTranslucent),
+            MakeState<ColorButton>(Catalogue::tr("Square placed elsewhere"), PlaceSquareElsewhere),
             DisabledState(),
         },
     };
@@ -156,22 +151,22 @@ Entry ClickSoundEntry()
     using Combo = ClickSoundComboBox;
     return {
         "ClickSoundComboBox",
-        Tr("Choices"),
-        Tr("A combo box that elides texts too long for it instead of growing with them."),
+        Catalogue::tr("Choices"),
+        Catalogue::tr("A combo box that elides texts too long for it instead of growing with them."),
         "ClickSoundComboBox",
         "sound",
         CreateSoundBox,
         {
-            MakeState<Combo>(Tr("Typical"), [](Combo&) {}),
-            MakeState<Combo>(Tr("Long text"), AddLongText),
-            MakeState<Combo>(Tr("With icons"),
+            MakeState<Combo>(Catalogue::tr("Typical"), [](Combo&) {}),
+            MakeState<Combo>(Catalogue::tr("Long text"), AddLongText),
+            MakeState<Combo>(Catalogue::tr("With icons"),
                              [](Combo& combo) {
                                  for (int i = 0; i < combo.count(); ++i)
                                      combo.setItemIcon(i, StyleIcon("sound"));
                              }),
-            MakeState<Combo>(Tr("Editable"), [](Combo& combo) { combo.setEditable(true); }),
-            MakeState<Combo>(Tr("Narrow"), [](Combo& combo) { combo.setFixedWidth(NARROW_COMBO_WIDTH); }),
-            MakeState<Combo>(Tr("Right-to-left"), ShowRightToLeft),
+            MakeState<Combo>(Catalogue::tr("Editable"), [](Combo& combo) { combo.setEditable(true); }),
+            MakeState<Combo>(Catalogue::tr("Narrow"), [](Combo& combo) { combo.setFixedWidth(NARROW_COMBO_WIDTH); }),
+            MakeState<Combo>(Catalogue::tr("Right-to-left"), ShowRightToLeft),
             DisabledState(),
         },
     };

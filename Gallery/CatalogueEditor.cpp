@@ -3,7 +3,6 @@
 #include <UI/Kit/ZRuntimeStylesheetEditor.h>
 
 #include <QCheckBox>
-#include <QCoreApplication>
 #include <QHBoxLayout>
 #include <QPushButton>
 
@@ -35,11 +34,6 @@ const char SHEET_WITH_MISTAKES[] = "QPushButton {\n"
                                    "    color: gray;\n"
                                    "}\n";
 
-QString Tr(const char* text)
-{
-    return QCoreApplication::translate("Catalogue", text);
-}
-
 /// The editor as a part of the page, and a sample that it works on instead of the application.
 class EditorBench : public QWidget
 {
@@ -50,11 +44,11 @@ public:
         sample->setObjectName(QStringLiteral("sample"));
         auto* row = new QHBoxLayout(sample);
         row->setContentsMargins(0, 0, 0, 0);
-        row->addWidget(new QPushButton(Tr("Start")));
-        auto* stop = new QPushButton(Tr("Stop"));
+        row->addWidget(new QPushButton(Catalogue::tr("Start")));
+        auto* stop = new QPushButton(Catalogue::tr("Stop"));
         stop->setObjectName(QStringLiteral("stop"));
         row->addWidget(stop);
-        row->addWidget(new QCheckBox(Tr("Microphone")));
+        row->addWidget(new QCheckBox(Catalogue::tr("Microphone")));
         row->addStretch();
         auto* layout = new QVBoxLayout(this);
         layout->setContentsMargins(0, 0, 0, 0);
@@ -91,20 +85,21 @@ Entry RuntimeStylesheetEditorEntry()
 {
     return {
         "ZRuntimeStylesheetEditor",
-        Tr("Kit"),
-        Tr("An editor for the style sheet of the running application; here it works on the sample above it."),
+        Catalogue::tr("Kit"),
+        Catalogue::tr(
+            "An editor for the style sheet of the running application; here it works on the sample above it."),
         "ZRuntimeStylesheetEditor",
         "palette",
         [](QWidget* parent) -> QWidget* { return new EditorBench(parent); },
         {
-            EditorState(Tr("With a sheet"), WearSheet),
-            EditorState(Tr("With mistakes"),
+            EditorState(Catalogue::tr("With a sheet"), WearSheet),
+            EditorState(Catalogue::tr("With mistakes"),
                         [](EditorBench& bench) {
                             bench.editor->setText(QString::fromLatin1(SHEET_WITH_MISTAKES));
                             bench.editor->apply();
                         }),
-            EditorState(Tr("Find and replace"), Search),
-            EditorState(Tr("Empty"), [](EditorBench&) {}),
+            EditorState(Catalogue::tr("Find and replace"), Search),
+            EditorState(Catalogue::tr("Empty"), [](EditorBench&) {}),
             DisabledState(),
         },
     };

@@ -4,8 +4,6 @@
 #include <UI/Widgets/PixmapWidget.h>
 #include <UI/Widgets/ZGraphicsShadowEffect.h>
 
-#include <QCoreApplication>
-
 using Zelkor::ZGraphicsShadowEffect;
 using Zelkor::Vx::PixmapWidget;
 
@@ -16,17 +14,12 @@ namespace {
 constexpr QSize PICTURE_SIZE(640, 480);
 constexpr QSize SHADED_SIZE(224, 168);
 
-QString Tr(const char* text)
-{
-    return QCoreApplication::translate("Catalogue", text);
-}
-
 QWidget* CreateShaded(QWidget* parent)
 {
     auto* card = new PixmapWidget(parent, Qt::WindowFlags());
     card->setFixedSize(SHADED_SIZE);
     card->SetPixmap(QPixmap::fromImage(PortraitImage(PICTURE_SIZE)));
-    card->setAccessibleName(Tr("A drawn portrait"));
+    card->setAccessibleName(Catalogue::tr("A drawn portrait"));
     card->setGraphicsEffect(new ZGraphicsShadowEffect(card));
     return card;
 }
@@ -45,17 +38,17 @@ Entry ShadowEffectEntry()
 {
     return {
         "ZGraphicsShadowEffect",
-        Tr("Effects"),
-        Tr("Draws a soft rim inside the edges of a widget; here, of a picture."),
+        Catalogue::tr("Effects"),
+        Catalogue::tr("Draws a soft rim inside the edges of a widget; here, of a picture."),
         "ZGraphicsShadowEffect",
         "shadow",
         CreateShaded,
         {
-            ShadowState(Tr("Off"), 0, 0),
-            ShadowState(Tr("Typical"), 12, 0.6),
-            ShadowState(Tr("Wide"), 36, 1),
-            ShadowState(Tr("Strong"), 12, 3),
-            ShadowState(Tr("Coloured"), 24, 1.5, QColor(0x35, 0x67, 0xe0)),
+            ShadowState(Catalogue::tr("Off"), 0, 0),
+            ShadowState(Catalogue::tr("Typical"), 12, 0.6),
+            ShadowState(Catalogue::tr("Wide"), 36, 1),
+            ShadowState(Catalogue::tr("Strong"), 12, 3),
+            ShadowState(Catalogue::tr("Coloured"), 24, 1.5, QColor(0x35, 0x67, 0xe0)),
         },
     };
 }

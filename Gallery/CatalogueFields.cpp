@@ -9,7 +9,6 @@
 #include <UI/Kit/ZSpinBox.h>
 
 #include <QCheckBox>
-#include <QCoreApplication>
 #include <QRegularExpressionValidator>
 #include <QVBoxLayout>
 #include <QVariant>
@@ -23,21 +22,16 @@ constexpr int NARROW_WIDTH = 96;
 constexpr int NUMBER_WIDTH = 128;
 constexpr int TALL = 140;
 
-QString Tr(const char* text)
-{
-    return QCoreApplication::translate("Catalogue", text);
-}
-
 QString LongName()
 {
-    return Tr("Built-in camera of the laptop in the lecture hall");
+    return Catalogue::tr("Built-in camera of the laptop in the lecture hall");
 }
 
 QWidget* CreateCombo(QWidget* parent)
 {
     auto* combo = new ZComboBox(parent);
-    combo->setAccessibleName(Tr("Camera"));
-    combo->addItems({Tr("No camera"), LongName(), Tr("Document camera")});
+    combo->setAccessibleName(Catalogue::tr("Camera"));
+    combo->addItems({Catalogue::tr("No camera"), LongName(), Catalogue::tr("Document camera")});
     combo->setCurrentIndex(2);
     combo->setFixedWidth(FIELD_WIDTH);
     return combo;
@@ -49,14 +43,15 @@ void OpenCheckBoxes(ZComboBox& combo)
     auto* window = new ZFrame(&combo, Qt::Popup);
     auto* layout = new QVBoxLayout(window);
     window->setProperty("role", QStringLiteral("card"));
-    combo.setAccessibleName(Tr("Sound sources"));
+    combo.setAccessibleName(Catalogue::tr("Sound sources"));
     const auto tell = [&combo, window] {
         int count = 0;
         for (const auto* box : window->findChildren<QCheckBox*>())
             count += box->isChecked();
-        combo.setDisplayText(Tr("Sources: %1").arg(count));
+        combo.setDisplayText(Catalogue::tr("Sources: %1").arg(count));
     };
-    for (const QString& text : {Tr("Microphone"), Tr("System sound"), Tr("Click sounds")}) {
+    for (const QString& text :
+         {Catalogue::tr("Microphone"), Catalogue::tr("System sound"), Catalogue::tr("Click sounds")}) {
         auto* box = new QCheckBox(text);
         layout->addWidget(box);
         box->setChecked(layout->count() < 3);
@@ -71,37 +66,40 @@ Entry ComboEntry()
     using Combo = ZComboBox;
     return {
         "ZComboBox",
-        Tr("Kit"),
-        Tr("A combo box that elides its text, opens a list as wide as its items or a widget of yours, and can leave "
-           "the "
-           "wheel to its panel."),
+        Catalogue::tr("Kit"),
+        Catalogue::tr(
+            "A combo box that elides its text, opens a list as wide as its items or a widget of yours, and can leave "
+            "the "
+            "wheel to its panel."),
         "ZComboBox",
         "combo",
         CreateCombo,
         {
-            MakeState<Combo>(Tr("Typical"), [](Combo&) {}),
-            MakeState<Combo>(Tr("Elided, wide list"), [](Combo& combo) { combo.setCurrentIndex(1); }),
-            MakeState<Combo>(Tr("Narrow list"),
+            MakeState<Combo>(Catalogue::tr("Typical"), [](Combo&) {}),
+            MakeState<Combo>(Catalogue::tr("Elided, wide list"), [](Combo& combo) { combo.setCurrentIndex(1); }),
+            MakeState<Combo>(Catalogue::tr("Narrow list"),
                              [](Combo& combo) {
                                  combo.setCurrentIndex(1);
                                  combo.setWidePopupEnabled(false);
                              }),
-            MakeState<Combo>(Tr("Cut, not elided"),
+            MakeState<Combo>(Catalogue::tr("Cut, not elided"),
                              [](Combo& combo) {
                                  combo.setCurrentIndex(1);
                                  combo.setEliding(false);
                              }),
-            MakeState<Combo>(Tr("Display text"), [](Combo& combo) { combo.setDisplayText(Tr("Choose a camera…")); }),
-            MakeState<Combo>(Tr("Opens a widget"), OpenCheckBoxes),
-            MakeState<Combo>(Tr("With icons, elided"),
+            MakeState<Combo>(Catalogue::tr("Display text"),
+                             [](Combo& combo) { combo.setDisplayText(Catalogue::tr("Choose a camera…")); }),
+            MakeState<Combo>(Catalogue::tr("Opens a widget"), OpenCheckBoxes),
+            MakeState<Combo>(Catalogue::tr("With icons, elided"),
                              [](Combo& combo) {
                                  for (int i = 0; i < combo.count(); ++i)
                                      combo.setItemIcon(i, StyleIcon("camera"));
                                  combo.setCurrentIndex(1);
                              }),
-            MakeState<Combo>(Tr("Narrow"), [](Combo& combo) { combo.setFixedWidth(NARROW_WIDTH); }),
-            MakeState<Combo>(Tr("Editable"), [](Combo& combo) { combo.setEditable(true); }),
-            MakeState<Combo>(Tr("Wheel left to the panel"), [](Combo& combo) { combo.setMouseWheelEnabled(false); }),
+            MakeState<Combo>(Catalogue::tr("Narrow"), [](Combo& combo) { combo.setFixedWidth(NARROW_WIDTH); }),
+            MakeState<Combo>(Catalogue::tr("Editable"), [](Combo& combo) { combo.setEditable(true); }),
+            MakeState<Combo>(Catalogue::tr("Wheel left to the panel"),
+                             [](Combo& combo) { combo.setMouseWheelEnabled(false); }),
             DisabledState(),
         },
     };
@@ -110,9 +108,9 @@ Entry ComboEntry()
 QWidget* CreateLineEdit(QWidget* parent)
 {
     auto* edit = new ZLineEdit(parent);
-    edit->setAccessibleName(Tr("Name"));
-    edit->setOriginalText(Tr("Document camera"));
-    edit->setPlaceholderText(Tr("Name of the camera"));
+    edit->setAccessibleName(Catalogue::tr("Name"));
+    edit->setOriginalText(Catalogue::tr("Document camera"));
+    edit->setPlaceholderText(Catalogue::tr("Name of the camera"));
     edit->setFixedWidth(FIELD_WIDTH);
     return edit;
 }
@@ -136,22 +134,25 @@ Entry LineEditEntry()
     using Edit = ZLineEdit;
     return {
         "ZLineEdit",
-        Tr("Kit"),
-        Tr("A line edit that elides its text until it gets the focus, and reports an edit when the focus leaves."),
+        Catalogue::tr("Kit"),
+        Catalogue::tr(
+            "A line edit that elides its text until it gets the focus, and reports an edit when the focus leaves."),
         "ZLineEdit",
         "field",
         CreateLineEdit,
         {
-            MakeState<Edit>(Tr("Fits"), [](Edit&) {}),
-            EditState(Tr("Elided"), LongName()),
-            EditState(Tr("Right-to-left text"), QString::fromUtf8("המצלמה המובנית של המחשב הנייד באולם ההרצאות")),
-            EditState(Tr("Cut, not elided"), LongName(), [](Edit& edit) { edit.setEliding(false); }),
-            EditState(Tr("Read-only"), LongName(), [](Edit& edit) { edit.setReadOnly(true); }),
-            EditState(Tr("Clear button"), LongName(), [](Edit& edit) { edit.setClearButtonEnabled(true); }),
-            EditState(Tr("Validated"), LongName(), AcceptLettersOnly),
-            EditState(Tr("Password"), Tr("Secret"), [](Edit& edit) { edit.setEchoMode(QLineEdit::Password); }),
-            EditState(Tr("Empty"), QString()),
-            EditState(Tr("Narrow"), LongName(), [](Edit& edit) { edit.setFixedWidth(NARROW_WIDTH); }),
+            MakeState<Edit>(Catalogue::tr("Fits"), [](Edit&) {}),
+            EditState(Catalogue::tr("Elided"), LongName()),
+            EditState(Catalogue::tr("Right-to-left text"),
+                      QString::fromUtf8("המצלמה המובנית של המחשב הנייד באולם ההרצאות")),
+            EditState(Catalogue::tr("Cut, not elided"), LongName(), [](Edit& edit) { edit.setEliding(false); }),
+            EditState(Catalogue::tr("Read-only"), LongName(), [](Edit& edit) { edit.setReadOnly(true); }),
+            EditState(Catalogue::tr("Clear button"), LongName(), [](Edit& edit) { edit.setClearButtonEnabled(true); }),
+            EditState(Catalogue::tr("Validated"), LongName(), AcceptLettersOnly),
+            EditState(Catalogue::tr("Password"), Catalogue::tr("Secret"),
+                      [](Edit& edit) { edit.setEchoMode(QLineEdit::Password); }),
+            EditState(Catalogue::tr("Empty"), QString()),
+            EditState(Catalogue::tr("Narrow"), LongName(), [](Edit& edit) { edit.setFixedWidth(NARROW_WIDTH); }),
             DisabledState(),
         },
     };
@@ -162,7 +163,7 @@ QWidget* CreateSlider(QWidget* parent)
 {
     auto* slider = new Slider(parent);
     slider->setOrientation(Qt::Horizontal);
-    slider->setAccessibleName(Tr("Zoom"));
+    slider->setAccessibleName(Catalogue::tr("Zoom"));
     slider->setValue(40);
     slider->setFixedWidth(FIELD_WIDTH);
     return slider;
@@ -171,7 +172,7 @@ QWidget* CreateSlider(QWidget* parent)
 template<class Field>
 State FocusedWheelState()
 {
-    return MakeState<Field>(Tr("Wheel in focus only"), [](Field& field) { field.setEditableInFocus(true); });
+    return MakeState<Field>(Catalogue::tr("Wheel in focus only"), [](Field& field) { field.setEditableInFocus(true); });
 }
 
 void MakeVertical(QSlider& slider)
@@ -186,16 +187,16 @@ Entry CustomSliderEntry()
 {
     return {
         "ZCustomSlider",
-        Tr("Kit"),
-        Tr("A slider that can leave the wheel to its panel until it has the focus."),
+        Catalogue::tr("Kit"),
+        Catalogue::tr("A slider that can leave the wheel to its panel until it has the focus."),
         "ZCustomSlider",
         "slide",
         CreateSlider<ZCustomSlider>,
         {
-            MakeState<ZCustomSlider>(Tr("Typical"), [](ZCustomSlider&) {}),
+            MakeState<ZCustomSlider>(Catalogue::tr("Typical"), [](ZCustomSlider&) {}),
             FocusedWheelState<ZCustomSlider>(),
-            MakeState<ZCustomSlider>(Tr("At its end"), [](ZCustomSlider& slider) { slider.setValue(99); }),
-            MakeState<ZCustomSlider>(Tr("Vertical"), [](ZCustomSlider& slider) { MakeVertical(slider); }),
+            MakeState<ZCustomSlider>(Catalogue::tr("At its end"), [](ZCustomSlider& slider) { slider.setValue(99); }),
+            MakeState<ZCustomSlider>(Catalogue::tr("Vertical"), [](ZCustomSlider& slider) { MakeVertical(slider); }),
             DisabledState(),
         },
     };
@@ -205,14 +206,14 @@ Entry DoubleSliderEntry()
 {
     return {
         "ZDoubleSlider",
-        Tr("Kit"),
-        Tr("A slider for a floating-point value: its position times a multiplier."),
+        Catalogue::tr("Kit"),
+        Catalogue::tr("A slider for a floating-point value: its position times a multiplier."),
         "ZDoubleSlider",
         "slide",
         CreateSlider<ZDoubleSlider>,
         {
-            MakeState<ZDoubleSlider>(Tr("Tenths"), [](ZDoubleSlider& slider) { slider.setMultiplier(0.1); }),
-            MakeState<ZDoubleSlider>(Tr("Around zero, in quarters"),
+            MakeState<ZDoubleSlider>(Catalogue::tr("Tenths"), [](ZDoubleSlider& slider) { slider.setMultiplier(0.1); }),
+            MakeState<ZDoubleSlider>(Catalogue::tr("Around zero, in quarters"),
                                      [](ZDoubleSlider& slider) {
                                          slider.setMultiplier(0.25);
                                          slider.setRange(-20, 20);
@@ -227,7 +228,7 @@ Entry DoubleSliderEntry()
 QWidget* CreateSpinBox(QWidget* parent)
 {
     auto* field = new ZSpinBox(parent);
-    field->setAccessibleName(Tr("Frame rate"));
+    field->setAccessibleName(Catalogue::tr("Frame rate"));
     field->setRange(1, 240);
     field->setValue(30);
     field->setFixedWidth(NUMBER_WIDTH);
@@ -238,17 +239,18 @@ Entry SpinBoxEntry()
 {
     return {
         "ZSpinBox",
-        Tr("Kit"),
-        Tr("A field for a whole number that can leave the wheel to its panel until it has the focus."),
+        Catalogue::tr("Kit"),
+        Catalogue::tr("A field for a whole number that can leave the wheel to its panel until it has the focus."),
         "ZSpinBox",
         "step",
         CreateSpinBox,
         {
-            MakeState<ZSpinBox>(Tr("Typical"), [](ZSpinBox&) {}),
+            MakeState<ZSpinBox>(Catalogue::tr("Typical"), [](ZSpinBox&) {}),
             FocusedWheelState<ZSpinBox>(),
-            MakeState<ZSpinBox>(Tr("With a unit"), [](ZSpinBox& field) { field.setSuffix(Tr(" fps")); }),
-            MakeState<ZSpinBox>(Tr("At its end"), [](ZSpinBox& field) { field.setValue(field.maximum()); }),
-            MakeState<ZSpinBox>(Tr("Read-only"), [](ZSpinBox& field) { field.setReadOnly(true); }),
+            MakeState<ZSpinBox>(Catalogue::tr("With a unit"),
+                                [](ZSpinBox& field) { field.setSuffix(Catalogue::tr(" fps")); }),
+            MakeState<ZSpinBox>(Catalogue::tr("At its end"), [](ZSpinBox& field) { field.setValue(field.maximum()); }),
+            MakeState<ZSpinBox>(Catalogue::tr("Read-only"), [](ZSpinBox& field) { field.setReadOnly(true); }),
             DisabledState(),
         },
     };
@@ -257,11 +259,11 @@ Entry SpinBoxEntry()
 QWidget* CreateDoubleSpinBox(QWidget* parent)
 {
     auto* field = new ZDoubleSpinBox(parent);
-    field->setAccessibleName(Tr("Delay"));
+    field->setAccessibleName(Catalogue::tr("Delay"));
     field->setRange(0.5, 60);
     field->setSingleStep(0.25);
     field->setValue(2.5);
-    field->setSuffix(Tr(" s"));
+    field->setSuffix(Catalogue::tr(" s"));
     field->setFixedWidth(NUMBER_WIDTH);
     return field;
 }
@@ -271,16 +273,17 @@ Entry DoubleSpinBoxEntry()
     using Field = ZDoubleSpinBox;
     return {
         "ZDoubleSpinBox",
-        Tr("Kit"),
-        Tr("A field for a floating-point number that can keep what is typed to whole steps."),
+        Catalogue::tr("Kit"),
+        Catalogue::tr("A field for a floating-point number that can keep what is typed to whole steps."),
         "ZDoubleSpinBox",
         "step",
         CreateDoubleSpinBox,
         {
-            MakeState<Field>(Tr("Typical"), [](Field&) {}),
-            MakeState<Field>(Tr("Typed numbers in whole steps"), [](Field& field) { field.setFixupWithStep(true); }),
+            MakeState<Field>(Catalogue::tr("Typical"), [](Field&) {}),
+            MakeState<Field>(Catalogue::tr("Typed numbers in whole steps"),
+                             [](Field& field) { field.setFixupWithStep(true); }),
             FocusedWheelState<Field>(),
-            MakeState<Field>(Tr("At its end"), [](Field& field) { field.setValue(field.minimum()); }),
+            MakeState<Field>(Catalogue::tr("At its end"), [](Field& field) { field.setValue(field.minimum()); }),
             DisabledState(),
         },
     };

@@ -4,7 +4,6 @@
 #include <UI/Kit/ZLabel.h>
 #include <UI/Kit/ZStackedWidget.h>
 
-#include <QCoreApplication>
 #include <QGridLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -16,11 +15,6 @@ namespace {
 
 constexpr int LABEL_WIDTH = 200;
 
-QString Tr(const char* text)
-{
-    return QCoreApplication::translate("Catalogue", text);
-}
-
 // A card with four buttons, whose distances the style sheet or the state sets.
 QWidget* CreateFrame(QWidget* parent)
 {
@@ -28,7 +22,7 @@ QWidget* CreateFrame(QWidget* parent)
     auto* grid = new QGridLayout(frame);
     frame->setProperty("role", QStringLiteral("card"));
     for (int i = 0; i < 4; ++i)
-        grid->addWidget(new QPushButton(Tr("Button %1").arg(i + 1)), i / 2, i % 2);
+        grid->addWidget(new QPushButton(Catalogue::tr("Button %1").arg(i + 1)), i / 2, i % 2);
     return frame;
 }
 
@@ -45,7 +39,7 @@ void SpaceByProperties(ZFrame& frame)
 QWidget* CreateLabel(QWidget* parent)
 {
     auto* label = new ZLabel(parent);
-    label->setOriginalText(Tr("Built-in camera"));
+    label->setOriginalText(Catalogue::tr("Built-in camera"));
     label->setFixedWidth(LABEL_WIDTH);
     return label;
 }
@@ -59,11 +53,12 @@ State LabelText(const QString& name, const QString& text)
 QWidget* CreateStack(QWidget* parent)
 {
     auto* stack = new ZStackedWidget(parent);
-    const QStringList texts = {Tr("A small page"), Tr("A page that takes\nthe room of its text\nand no more")};
+    const QStringList texts = {Catalogue::tr("A small page"),
+                               Catalogue::tr("A page that takes\nthe room of its text\nand no more")};
     for (int i = 0; i < texts.size(); ++i) {
         auto* page = new ZFrame;
         auto* layout = new QVBoxLayout(page);
-        auto* button = new QPushButton(Tr("Other page"));
+        auto* button = new QPushButton(Catalogue::tr("Other page"));
         layout->addWidget(new QLabel(texts[i]));
         layout->addWidget(button);
         page->setProperty("role", QStringLiteral("card"));
@@ -79,14 +74,14 @@ Entry FrameEntry()
 {
     return {
         "ZFrame",
-        Tr("Kit"),
-        Tr("A frame whose layout can be spaced by a style sheet."),
+        Catalogue::tr("Kit"),
+        Catalogue::tr("A frame whose layout can be spaced by a style sheet."),
         "ZFrame",
         "frame",
         CreateFrame,
         {
-            MakeState<ZFrame>(Tr("Spaced by style sheet"), [](ZFrame&) {}),
-            MakeState<ZFrame>(Tr("Spaced by properties"), SpaceByProperties),
+            MakeState<ZFrame>(Catalogue::tr("Spaced by style sheet"), [](ZFrame&) {}),
+            MakeState<ZFrame>(Catalogue::tr("Spaced by properties"), SpaceByProperties),
             DisabledState(),
         },
     };
@@ -94,24 +89,24 @@ Entry FrameEntry()
 
 Entry LabelEntry()
 {
-    const QString longText = Tr("A camera with a name that is far too long for this place");
+    const QString longText = Catalogue::tr("A camera with a name that is far too long for this place");
     return {
         "ZLabel",
-        Tr("Kit"),
-        Tr("A label for one text that may be too long: it is elided, and shown whole as the tool tip."),
+        Catalogue::tr("Kit"),
+        Catalogue::tr("A label for one text that may be too long: it is elided, and shown whole as the tool tip."),
         "ZLabel",
         "text",
         CreateLabel,
         {
-            MakeState<ZLabel>(Tr("Fits"), [](ZLabel&) {}),
-            LabelText(Tr("Elided"), longText),
-            LabelText(Tr("Right-to-left text"), QString::fromUtf8("נא לבחור מצלמה אחרת מתוך הרשימה")),
-            MakeState<ZLabel>(Tr("Cut, not elided"),
+            MakeState<ZLabel>(Catalogue::tr("Fits"), [](ZLabel&) {}),
+            LabelText(Catalogue::tr("Elided"), longText),
+            LabelText(Catalogue::tr("Right-to-left text"), QString::fromUtf8("נא לבחור מצלמה אחרת מתוך הרשימה")),
+            MakeState<ZLabel>(Catalogue::tr("Cut, not elided"),
                               [longText](ZLabel& label) {
                                   label.setEliding(false);
                                   label.setOriginalText(longText);
                               }),
-            MakeState<ZLabel>(Tr("Not clickable"), [](ZLabel& label) { label.setClickable(false); }),
+            MakeState<ZLabel>(Catalogue::tr("Not clickable"), [](ZLabel& label) { label.setClickable(false); }),
             DisabledState(),
         },
     };
@@ -121,15 +116,17 @@ Entry StackEntry()
 {
     return {
         "ZStackedWidget",
-        Tr("Kit"),
-        Tr("A stack of pages that takes the size of the page it shows instead of the largest one."),
+        Catalogue::tr("Kit"),
+        Catalogue::tr("A stack of pages that takes the size of the page it shows instead of the largest one."),
         "ZStackedWidget",
         "layers",
         CreateStack,
         {
-            MakeState<ZStackedWidget>(Tr("Small page"), [](ZStackedWidget&) {}),
-            MakeState<ZStackedWidget>(Tr("Large page"), [](ZStackedWidget& stack) { stack.setCurrentIndex(1); }),
-            MakeState<ZStackedWidget>(Tr("Without fitting"), [](ZStackedWidget& stack) { stack.setAutoFit(false); }),
+            MakeState<ZStackedWidget>(Catalogue::tr("Small page"), [](ZStackedWidget&) {}),
+            MakeState<ZStackedWidget>(Catalogue::tr("Large page"),
+                                      [](ZStackedWidget& stack) { stack.setCurrentIndex(1); }),
+            MakeState<ZStackedWidget>(Catalogue::tr("Without fitting"),
+                                      [](ZStackedWidget& stack) { stack.setAutoFit(false); }),
             DisabledState(),
         },
     };

@@ -5,7 +5,6 @@
 #include <UI/Widgets/FastPresetButton.h>
 
 #include <QAction>
-#include <QCoreApplication>
 
 using Zelkor::Vx::UI::ButtonWithLabels;
 using Zelkor::Vx::UI::FastPresetButton;
@@ -16,15 +15,10 @@ namespace {
 
 constexpr int NARROW_WIDTH = 192;
 
-QString Tr(const char* text)
-{
-    return QCoreApplication::translate("Catalogue", text);
-}
-
 QWidget* CreateLabelled(Qt::Orientation orientation, QWidget* parent)
 {
     auto* button = new ButtonWithLabels(orientation, parent);
-    button->SetLabelText(Tr("Take a picture"));
+    button->SetLabelText(Catalogue::tr("Take a picture"));
     button->SetHotkeyText("Ctrl+P");
     return button;
 }
@@ -45,7 +39,7 @@ QWidget* CreatePreset(const QString& type, const QString& text, const QKeySequen
     auto* action = new QAction(text);
     action->setProperty("PresetType", type);
     action->setShortcut(shortcut);
-    action->setToolTip(Tr("Starts a recording with these settings"));
+    action->setToolTip(Catalogue::tr("Starts a recording with these settings"));
     auto* button = new FastPresetButton(action, "1", parent);
     HideEmptyHotKey(button);
     return button;
@@ -60,20 +54,21 @@ Entry ButtonWithLabelsEntry()
 {
     return {
         "ButtonWithLabels",
-        Tr("Buttons"),
-        Tr("A push button with an icon, a text and a hot key, each with a look of its own."),
+        Catalogue::tr("Buttons"),
+        Catalogue::tr("A push button with an icon, a text and a hot key, each with a look of its own."),
         "ButtonWithLabels",
         "key",
         CreateHorizontal,
         {
-            MadeState(Tr("Horizontal"), CreateHorizontal),
-            MadeState(Tr("Vertical"), CreateVertical),
-            MakeState<ButtonWithLabels>(Tr("Long text"),
+            MadeState(Catalogue::tr("Horizontal"), CreateHorizontal),
+            MadeState(Catalogue::tr("Vertical"), CreateVertical),
+            MakeState<ButtonWithLabels>(Catalogue::tr("Long text"),
                                         [](ButtonWithLabels& button) {
-                                            button.SetLabelText(Tr("Take a picture of everything on the screen"));
+                                            button.SetLabelText(
+                                                Catalogue::tr("Take a picture of everything on the screen"));
                                             button.setFixedWidth(NARROW_WIDTH);
                                         }),
-            MakeState<ButtonWithLabels>(Tr("No hot key"),
+            MakeState<ButtonWithLabels>(Catalogue::tr("No hot key"),
                                         [](ButtonWithLabels& button) {
                                             button.SetHotkeyText(QString());
                                             HideEmptyHotKey(&button);
@@ -85,23 +80,24 @@ Entry ButtonWithLabelsEntry()
 
 Entry FastPresetEntry()
 {
-    const QString twoLines = Tr("Region around \nthe pointer");
+    const QString twoLines = Catalogue::tr("Region around \nthe pointer");
     const auto createTypical = [](QWidget* parent) {
-        return CreatePreset("FullScreen", Tr("Full screen"), QKeySequence("Ctrl+1"), parent);
+        return CreatePreset("FullScreen", Catalogue::tr("Full screen"), QKeySequence("Ctrl+1"), parent);
     };
     return {
         "FastPresetButton",
-        Tr("Buttons"),
-        Tr("Shows an action with its shortcut, and triggers it."),
+        Catalogue::tr("Buttons"),
+        Catalogue::tr("Shows an action with its shortcut, and triggers it."),
         "FastPresetButton",
         "preset",
         createTypical,
         {
-            MadeState(Tr("Typical"), createTypical),
-            PresetState(Tr("Preset type \"User\""), "User", Tr("My lecture"), QKeySequence("Ctrl+Shift+L")),
-            PresetState(Tr("Line feed, no word wrap"), "Region", twoLines, QKeySequence("Ctrl+3")),
-            PresetState(Tr("Line feed, word wrap by style"), "TwoLines", twoLines, QKeySequence("Ctrl+3")),
-            PresetState(Tr("No shortcut"), "Window", Tr("Window"), QKeySequence()),
+            MadeState(Catalogue::tr("Typical"), createTypical),
+            PresetState(Catalogue::tr("Preset type \"User\""), "User", Catalogue::tr("My lecture"),
+                        QKeySequence("Ctrl+Shift+L")),
+            PresetState(Catalogue::tr("Line feed, no word wrap"), "Region", twoLines, QKeySequence("Ctrl+3")),
+            PresetState(Catalogue::tr("Line feed, word wrap by style"), "TwoLines", twoLines, QKeySequence("Ctrl+3")),
+            PresetState(Catalogue::tr("No shortcut"), "Window", Catalogue::tr("Window"), QKeySequence()),
             DisabledState(),
         },
     };

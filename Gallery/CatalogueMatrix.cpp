@@ -3,8 +3,6 @@
 #include <UI/Kit/QLedMatrix.h>
 #include <UI/Kit/ZSliderButton.h>
 
-#include <QCoreApplication>
-
 #include <cmath>
 #include <iterator>
 
@@ -28,11 +26,6 @@ constexpr const char* SIGN[] = {
     "                       ", //
 };
 
-QString Tr(const char* text)
-{
-    return QCoreApplication::translate("Catalogue", text);
-}
-
 void SetGrid(QLedMatrix& matrix, int rows, int columns)
 {
     matrix.setRowCount(rows);
@@ -51,7 +44,7 @@ QWidget* CreateSign(QWidget* parent)
                 matrix->setColorAt(row, column, led == 'r' ? QLedMatrix::Red : QLedMatrix::Green);
         }
     }
-    matrix->setAccessibleName(Tr("Recording"));
+    matrix->setAccessibleName(Catalogue::tr("Recording"));
     return matrix;
 }
 
@@ -66,7 +59,7 @@ void MakeBig(QLedMatrix& matrix)
             matrix.setColorAt(row, column, QColor::fromHsvF((wave + 2) / 4, 1, 1).rgb());
         }
     }
-    matrix.setAccessibleName(Tr("Waves of colour"));
+    matrix.setAccessibleName(Catalogue::tr("Waves of colour"));
 }
 
 void ShowColors(QLedMatrix& matrix)
@@ -78,27 +71,27 @@ void ShowColors(QLedMatrix& matrix)
     matrix.setFixedSize(matrix.sizeHint() * 3);
     for (int column = 0; column < matrix.columns(); ++column)
         matrix.setColorAt(0, column, COLORS[column]);
-    matrix.setAccessibleName(Tr("Colours"));
+    matrix.setAccessibleName(Catalogue::tr("Colours"));
 }
 
 Entry LedMatrixEntry()
 {
     return {
         "QLedMatrix",
-        Tr("Kit"),
-        Tr("A grid of round LEDs, each of a colour of its own."),
+        Catalogue::tr("Kit"),
+        Catalogue::tr("A grid of round LEDs, each of a colour of its own."),
         "QLedMatrix",
         "grid",
         CreateSign,
         {
-            MakeState<QLedMatrix>(Tr("A sign"), [](QLedMatrix&) {}),
-            MakeState<QLedMatrix>(Tr("Dark"), [](QLedMatrix& matrix) { matrix.clear(); }),
-            MakeState<QLedMatrix>(Tr("Transparent background"),
+            MakeState<QLedMatrix>(Catalogue::tr("A sign"), [](QLedMatrix&) {}),
+            MakeState<QLedMatrix>(Catalogue::tr("Dark"), [](QLedMatrix& matrix) { matrix.clear(); }),
+            MakeState<QLedMatrix>(Catalogue::tr("Transparent background"),
                                   [](QLedMatrix& matrix) { matrix.setBackgroundMode(Qt::TransparentMode); }),
-            MakeState<QLedMatrix>(Tr("Named colours"), ShowColors),
-            MakeState<QLedMatrix>(Tr("Wider than the grid"),
+            MakeState<QLedMatrix>(Catalogue::tr("Named colours"), ShowColors),
+            MakeState<QLedMatrix>(Catalogue::tr("Wider than the grid"),
                                   [](QLedMatrix& matrix) { matrix.setFixedSize(WIDE_PLACE); }),
-            MakeState<QLedMatrix>(Tr("4096 LEDs"), MakeBig),
+            MakeState<QLedMatrix>(Catalogue::tr("4096 LEDs"), MakeBig),
             DisabledState(),
         },
     };
@@ -107,7 +100,7 @@ Entry LedMatrixEntry()
 QWidget* CreateSliderButton(QWidget* parent)
 {
     auto* button = new ZSliderButton(parent);
-    button->setAccessibleName(Tr("Volume"));
+    button->setAccessibleName(Catalogue::tr("Volume"));
     button->setValue(60);
     return button;
 }
@@ -121,20 +114,21 @@ Entry SliderButtonEntry()
 {
     return {
         "ZSliderButton",
-        Tr("Kit"),
-        Tr("A button that shows a level and opens a slider above itself."),
+        Catalogue::tr("Kit"),
+        Catalogue::tr("A button that shows a level and opens a slider above itself."),
         "ZSliderButton",
         "sound",
         CreateSliderButton,
         {
-            LevelState(Tr("Level 0"), 0),
-            LevelState(Tr("From 1"), 1),
-            LevelState(Tr("From 25"), 25),
-            LevelState(Tr("From 50"), 50),
-            LevelState(Tr("From 75"), 75),
-            MakeState<ZSliderButton>(Tr("Slider in a window apart"),
+            LevelState(Catalogue::tr("Level 0"), 0),
+            LevelState(Catalogue::tr("From 1"), 1),
+            LevelState(Catalogue::tr("From 25"), 25),
+            LevelState(Catalogue::tr("From 50"), 50),
+            LevelState(Catalogue::tr("From 75"), 75),
+            MakeState<ZSliderButton>(Catalogue::tr("Slider in a window apart"),
                                      [](ZSliderButton& button) { button.setOnTop(true); }),
-            MakeState<ZSliderButton>(Tr("High slider"), [](ZSliderButton& button) { button.setSliderHeight(240); }),
+            MakeState<ZSliderButton>(Catalogue::tr("High slider"),
+                                     [](ZSliderButton& button) { button.setSliderHeight(240); }),
             DisabledState(),
         },
     };

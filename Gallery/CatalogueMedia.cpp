@@ -6,8 +6,6 @@
 
 #include <Zelkor/StandIn/CaptureDevice.h>
 
-#include <QCoreApplication>
-
 using Zelkor::Vx::WebCameraPreviewStream;
 using Zelkor::Vx::UI::VideoPreviewWidget;
 
@@ -17,11 +15,6 @@ namespace {
 
 constexpr QSize PREVIEW_SIZE(320, 180);
 constexpr double TEST_FRAME_RATE = 30;
-
-QString Tr(const char* text)
-{
-    return QCoreApplication::translate("Catalogue", text);
-}
 
 QWidget* CreatePreview(QWidget* parent)
 {
@@ -35,7 +28,8 @@ void ShowDefaultImage(VideoPreviewWidget& preview)
 {
     // The colour of text is the style sheet's only from here on.
     preview.ensurePolished();
-    preview.SetDefaultImage(NoPictureImage(PREVIEW_SIZE, preview.palette().color(QPalette::Text), Tr("No picture")));
+    preview.SetDefaultImage(
+        NoPictureImage(PREVIEW_SIZE, preview.palette().color(QPalette::Text), Catalogue::tr("No picture")));
 }
 
 QWidget* CreatePreviewWithStream(QWidget* parent)
@@ -55,18 +49,18 @@ Entry VideoPreviewEntry()
     };
     return {
         "VideoPreviewWidget",
-        Tr("Media"),
-        Tr("Shows live video frames in an area of fixed size."),
+        Catalogue::tr("Media"),
+        Catalogue::tr("Shows live video frames in an area of fixed size."),
         "VideoPreviewWidget",
         "picture",
         CreatePreview,
         {
-            MakeState<Preview>(Tr("Empty"), [](Preview&) {}),
-            MakeState<Preview>(Tr("Default image"), ShowDefaultImage),
-            MakeState<Preview>(Tr("Large frame"), showFrame({1280, 720})),
-            MakeState<Preview>(Tr("Upright frame"), showFrame({720, 1280})),
-            MakeState<Preview>(Tr("Small frame"), showFrame({160, 120})),
-            MakeState<Preview>(Tr("Disabled"),
+            MakeState<Preview>(Catalogue::tr("Empty"), [](Preview&) {}),
+            MakeState<Preview>(Catalogue::tr("Default image"), ShowDefaultImage),
+            MakeState<Preview>(Catalogue::tr("Large frame"), showFrame({1280, 720})),
+            MakeState<Preview>(Catalogue::tr("Upright frame"), showFrame({720, 1280})),
+            MakeState<Preview>(Catalogue::tr("Small frame"), showFrame({160, 120})),
+            MakeState<Preview>(Catalogue::tr("Disabled"),
                                [showFrame](Preview& preview) {
                                    showFrame({1280, 720})(preview);
                                    preview.setEnabled(false);
@@ -80,14 +74,14 @@ Entry WebCameraStreamEntry()
     using Preview = VideoPreviewWidget;
     return {
         "WebCameraPreviewStream",
-        Tr("Media"),
-        Tr("Runs the live picture of a capture device in a preview; here, of the moving test picture."),
+        Catalogue::tr("Media"),
+        Catalogue::tr("Runs the live picture of a capture device in a preview; here, of the moving test picture."),
         "VideoPreviewWidget",
         "stream",
         CreatePreviewWithStream,
         {
-            MakeState<Preview>(Tr("Stopped"), [](Preview&) {}),
-            MakeState<Preview>(Tr("Live"),
+            MakeState<Preview>(Catalogue::tr("Stopped"), [](Preview&) {}),
+            MakeState<Preview>(Catalogue::tr("Live"),
                                [](Preview& preview) { preview.findChild<WebCameraPreviewStream*>()->StartStream(); }),
         },
     };

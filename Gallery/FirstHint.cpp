@@ -17,10 +17,10 @@ constexpr QSize BUBBLE_SIZE(280, 96);
 constexpr int DISTANCE = 4;
 constexpr int DISPLAY_TIME_MS = 8000;
 
-QString Tr(const char* text)
+class FirstHint
 {
-    return QCoreApplication::translate("FirstHint", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(FirstHint)
+};
 
 } // namespace
 
@@ -32,8 +32,8 @@ void ShowSourceHint(QAbstractButton* button)
     hint->setProperty("role", QStringLiteral("bubble"));
     hint->setFixedSize(BUBBLE_SIZE);
     hint->SetMask(SpeechBubbleImage(BUBBLE_SIZE, button->layoutDirection()));
-    hint->SetTitle(Tr("Start here"));
-    hint->SetText(Tr("Choose what is shown: a camera, the screen or the test picture."));
+    hint->SetTitle(FirstHint::tr("Start here"));
+    hint->SetText(FirstHint::tr("Choose what is shown: a camera, the screen or the test picture."));
     hint->SetDisplayTime(DISPLAY_TIME_MS);
     // It belongs to a window that is not active yet at the start.
     hint->SetHideOnDeactivate(false);

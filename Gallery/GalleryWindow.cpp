@@ -36,8 +36,8 @@ QStringList PageNames()
     return names;
 }
 
-GalleryWindow::GalleryWindow(RecorderModel* model, QWidget* parent)
-    : QWidget(parent), model(model), list(new QListWidget), body(new QHBoxLayout(this))
+GalleryWindow::GalleryWindow(RecorderModel* model, const Preferences* preferences, QWidget* parent)
+    : QWidget(parent), model(model), preferences(preferences), list(new QListWidget), body(new QHBoxLayout(this))
 {
     setWindowTitle(tr("Widgets of Vx Recorder"));
     resize(PREFERRED_SIZE);
@@ -95,7 +95,7 @@ void GalleryWindow::ShowPage(const QString& name)
     if (const Entry* entry = FindEntry(name))
         page = new WidgetPage(*entry);
     else
-        page = new RecorderView(model, RecorderView::Role::Page);
+        page = new RecorderView(model, preferences);
     body->addWidget(page, 1);
 }
 

@@ -7,6 +7,7 @@ class QListWidget;
 
 namespace Zelkor::Gallery {
 
+class Preferences;
 class RecorderModel;
 
 /// The name of the recorder's page, the first one; the other pages are named after the classes of the catalogue.
@@ -16,13 +17,13 @@ QString RecorderPageName();
 QStringList PageNames();
 
 /// All pages: their list at the start, the chosen one beside it. Only the page that shows exists, so that nothing runs
-/// out of sight. The model has to outlive the window.
+/// out of sight. Model and preferences have to outlive the window.
 class GalleryWindow : public QWidget
 {
     Q_OBJECT
 
 public:
-    explicit GalleryWindow(RecorderModel* model, QWidget* parent = nullptr);
+    GalleryWindow(RecorderModel* model, const Preferences* preferences, QWidget* parent = nullptr);
 
     /// Opens a page; a name that is no page is ignored.
     void OpenPage(const QString& name);
@@ -41,6 +42,7 @@ private:
     void SetCompact(bool on);
 
     RecorderModel* model;
+    const Preferences* preferences;
     QListWidget* list;
     QHBoxLayout* body;
     QWidget* page = nullptr;

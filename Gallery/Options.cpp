@@ -89,9 +89,12 @@ QString TakeValues(const QCommandLineParser& parser, Options& options)
     if (parser.isSet("shots") && (parser.isSet("shot") || parser.isSet("page") || parser.isSet("press")))
         return "--shots takes every page, so --shot, --page and --press do not go with it";
     QString error;
-    const std::optional<StyleSheet> style = LoadStyleSheet(parser.value("style"), error);
+    const QString name = parser.value("style");
+    const std::optional<StyleSheet> style = LoadStyleSheet(name, error);
     if (style)
         options.style = *style;
+    if (name == "dark" || name == "light")
+        options.styleName = name;
     return error;
 }
 

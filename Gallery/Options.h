@@ -16,6 +16,7 @@ struct Options
     bool list = false;
     QString page; ///< empty for the one that comes up by itself
     StyleSheet style;
+    QString styleName;   ///< of a built-in sheet; empty for a file
     QString shot;         ///< file for a picture of the page; empty for none
     QString shots;        ///< folder for a picture of each page; empty for none
     QString press;        ///< the button to press before the picture; empty for none

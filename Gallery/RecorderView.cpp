@@ -2,15 +2,19 @@
 #include "AudioPanel.h"
 #include "CaptureBar.h"
 #include "FirstHint.h"
+#include "Preferences.h"
 #include "PreviewStage.h"
 #include "RecorderModel.h"
+#include "Recording.h"
 #include "Snapshot.h"
 #include "SourcePanel.h"
 #include "StyleSheet.h"
 #include "Texts.h"
+#include "ToolStrip.h"
 
 #include <UI/Kit/ZLabel.h>
 #include <UI/Widgets/ButtonWithPopUpContainer.h>
+#include <UI/Widgets/CountdownIndicatorWidget.h>
 #include <UI/Widgets/VideoPreviewWidget.h>
 #include <UI/Widgets/WebCameraPreviewStream.h>
 
@@ -23,6 +27,7 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
+using Zelkor::Vx::CountdownIndicatorWidget;
 using Zelkor::Vx::WebCameraPreviewStream;
 using Zelkor::Vx::UI::ButtonWithPopUpContainer;
 
@@ -33,27 +38,25 @@ namespace {
 constexpr int MARGIN = 16;
 constexpr int SPACING = 12;
 constexpr int SMALL_SPACING = 8;
-constexpr int LOGO_SIZE = 24;
-constexpr int BANNER_ICON_SIZE = 20;
 
-QLabel* CreateIconLabel(const QString& objectName, const QString& icon, int size)
+// Minutes and seconds, also of an hour.
+QString DurationText(int seconds)
 {
-    auto* label = new QLabel;
-    label->setObjectName(objectName);
-    label->setPixmap(StyleIcon(icon).pixmap(size));
-    label->setFixedSize(size, size);
-    return label;
+    return QStringLiteral("%1:%2")
+        .arg(seconds / 60, 2, 10, QLatin1Char('0'))
+        .arg(seconds % 60, 2, 10, QLatin1Char('0'));
 }
 
 } // namespace
 
-RecorderView::RecorderView(RecorderModel* model, Role role, QWidget* parent)
-    : QWidget(parent), model(model), stage(new PreviewStage), stream(new WebCameraPreviewStream(stage->Preview()))
+RecorderView::RecorderView(RecorderModel* model, const Preferences* preferences, QWidget* parent)
+    : QWidget(parent), model(model), preferences(preferences), recording(new Recording(this)), stage(new PreviewStage),
+      stream(new WebCameraPreviewStream(stage->Preview()))
 {
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(MARGIN, SPACING, MARGIN, MARGIN);
     layout->setSpacing(SPACING);
-    layout->addWidget(CreateHeader(role));
+    layout->addWidget(CreateHeader());
     layout->addWidget(stage, 1);
     captureBar = new CaptureBar(model);
     addActions(captureBar->actions());
@@ -61,14 +64,11 @@ RecorderView::RecorderView(RecorderModel* model, Role role, QWidget* parent)
     layout->addWidget(CreateToolBar());
     CreateErrorBanner();
     CoverStage();
-    setTabOrder(sourceButton, audioButton);
-    setTabOrder(audioButton, settingsButton);
-    setTabOrder(settingsButton, runButton);
-    setTabOrder(runButton, widgetsButton);
-    runButton->setFocus();
+    setFocusProxy(recordButton);
 
-    connect(widgetsButton, &QToolButton::clicked, this, &RecorderView::WidgetsRequested);
     connect(runButton, &QToolButton::clicked, this, &RecorderView::ToggleRunning);
+    connect(recordButton, &QToolButton::clicked, this, &RecorderView::ToggleRecording);
+    connect(recording, &Recording::Changed, this, &RecorderView::ShowRecording);
     connect(settingsButton, &QToolButton::clicked, stream, &WebCameraPreviewStream::ShowCurrentDeviceSettings);
     connect(stream, &WebCameraPreviewStream::WebCameraOpenError, model, &RecorderModel::ReportFailure);
     connect(model, &RecorderModel::RestartNeeded, this, &RecorderView::RunPicture);
@@ -77,14 +77,12 @@ RecorderView::RecorderView(RecorderModel* model, Role role, QWidget* parent)
     Retranslate();
 }
 
-QWidget* RecorderView::CreateHeader(Role role)
+QWidget* RecorderView::CreateHeader()
 {
     auto* header = new QWidget;
     auto* layout = new QHBoxLayout(header);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(SMALL_SPACING);
-    productName = new QLabel;
-    productName->setObjectName("productName");
     stateDot = new QFrame;
     stateDot->setObjectName("stateDot");
     statusText = new ZLabel;
@@ -92,18 +90,8 @@ QWidget* RecorderView::CreateHeader(Role role)
     statusText->setClickable(false);
     AlignAtStart(statusText);
     statusText->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-    widgetsButton = new QToolButton;
-    widgetsButton->setFocusPolicy(Qt::StrongFocus);
-    widgetsButton->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    widgetsButton->setIcon(StyleIcon("grid"));
-    widgetsButton->setVisible(role == Role::Window);
-
-    layout->addWidget(CreateIconLabel("appIcon", "app", LOGO_SIZE));
-    layout->addWidget(productName);
-    layout->addSpacing(SPACING);
     layout->addWidget(stateDot);
     layout->addWidget(statusText, 1);
-    layout->addWidget(widgetsButton);
     return header;
 }
 
@@ -123,12 +111,17 @@ QWidget* RecorderView::CreateToolBar()
     runButton->setObjectName("runButton");
     runButton->setFocusPolicy(Qt::StrongFocus);
     runButton->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    recordButton = new QToolButton;
+    recordButton->setObjectName("recordButton");
+    recordButton->setFocusPolicy(Qt::StrongFocus);
+    recordButton->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
 
     layout->addWidget(sourceButton);
     layout->addWidget(audioButton);
     layout->addWidget(settingsButton);
-    layout->addStretch();
+    layout->addWidget(new ToolStrip, 1);
     layout->addWidget(runButton);
+    layout->addWidget(recordButton);
     return bar;
 }
 
@@ -159,7 +152,9 @@ void RecorderView::CreateErrorBanner()
     auto* layout = new QHBoxLayout(errorBanner);
     layout->setContentsMargins(SPACING, SMALL_SPACING, SPACING, SMALL_SPACING);
     layout->setSpacing(SMALL_SPACING);
-    layout->addWidget(CreateIconLabel("errorIcon", "warning", BANNER_ICON_SIZE), 0, Qt::AlignTop);
+    auto* icon = new QLabel;
+    icon->setObjectName("errorIcon");
+    layout->addWidget(icon, 0, Qt::AlignTop);
     layout->addWidget(errorText, 1);
     errorBanner->hide();
 }
@@ -171,6 +166,11 @@ void RecorderView::CoverStage()
     snapshot->hide();
     auto* over = new QVBoxLayout(stage);
     over->setContentsMargins(SPACING, SPACING, SPACING, SPACING);
+    countdown = new CountdownIndicatorWidget(nullptr);
+    countdown->setProperty("role", QStringLiteral("card"));
+    countdown->hide();
+    over->addStretch();
+    over->addWidget(countdown, 0, Qt::AlignCenter);
     over->addStretch();
     over->addWidget(errorBanner);
 }
@@ -195,6 +195,33 @@ void RecorderView::ToggleRunning()
         model->Start();
 }
 
+void RecorderView::ToggleRecording()
+{
+    if (recording->GetState() == Recording::State::Idle)
+        recording->Start(preferences->countdownSeconds);
+    else
+        recording->Stop();
+}
+
+void RecorderView::ShowRecording()
+{
+    const Recording::State state = recording->GetState();
+    const bool idle = state == Recording::State::Idle;
+    countdown->SetSeconds(state == Recording::State::CountingDown ? qulonglong(recording->Seconds()) : 0);
+    countdown->setVisible(state == Recording::State::CountingDown);
+    SetTextBesideIcon(recordButton, idle ? tr("Record") : tr("End"));
+    recordButton->setIcon(StyleIcon(idle ? "record" : "stop"));
+    recordButton->setToolTip(idle ? tr("Starts to record after a countdown") : tr("Ends the recording"));
+    recordButton->setEnabled(model->GetStatus() == RecorderModel::Status::Running);
+    const char* dot = "";
+    if (state == Recording::State::Running)
+        dot = "recording";
+    else if (model->GetStatus() == RecorderModel::Status::Running)
+        dot = "live";
+    Util::ApplyWidgetStyle(stateDot, dot, "state");
+    statusText->setOriginalText(StatusText());
+}
+
 void RecorderView::ShowStatus()
 {
     const RecorderModel::Status status = model->GetStatus();
@@ -202,11 +229,11 @@ void RecorderView::ShowStatus()
     if (!runs) {
         stream->StopStream();
         stage->SetLive(false);
+        recording->Stop();
     }
     stage->SetIdleText(runs ? tr("Waiting for the picture") : tr("No picture"));
     snapshot->setVisible(CanHaveSnapshot());
-    Util::ApplyWidgetStyle(stateDot, runs ? QStringLiteral("live") : QString(), "state");
-    statusText->setOriginalText(StatusText());
+    ShowRecording();
 
     SetTextBesideIcon(runButton, runs ? tr("Stop") : tr("Start"));
     runButton->setIcon(runs ? StyleIcon("stop") : StyleIconOnAccent("play"));
@@ -237,6 +264,8 @@ QString RecorderView::StatusText() const
             .arg(model->CurrentDeviceName(), model->CurrentMode(), FrameRateText(model->CurrentFrameRate()));
     switch (model->GetStatus()) {
     case RecorderModel::Status::Running:
+        if (recording->GetState() == Recording::State::Running)
+            return tr("Recording %1 · %2").arg(DurationText(recording->Seconds()), source);
         return source;
     case RecorderModel::Status::Stopped:
         return tr("Stopped · %1").arg(source);
@@ -257,10 +286,6 @@ QString RecorderView::ErrorText() const
 
 void RecorderView::Retranslate()
 {
-    setWindowTitle(tr("Vx Recorder"));
-    productName->setText(tr("Vx Recorder"));
-    SetTextBesideIcon(widgetsButton, tr("Widgets…"));
-    widgetsButton->setToolTip(tr("Shows all widgets, each in its states"));
     SetTextBesideIcon(sourceButton, tr("Source"));
     sourceButton->setToolTip(tr("Chooses what is shown"));
     SetTextBesideIcon(audioButton, tr("Audio"));
@@ -268,6 +293,12 @@ void RecorderView::Retranslate()
     settingsButton->setToolTip(tr("Settings of the device"));
     settingsButton->setAccessibleName(tr("Settings of the device"));
     stage->Preview()->setAccessibleName(tr("Live picture"));
+    // The bar stands still whatever the buttons say.
+    recordButton->setMinimumWidth(0);
+    SetTextBesideIcon(recordButton, tr("End"));
+    const int width = recordButton->sizeHint().width();
+    SetTextBesideIcon(recordButton, tr("Record"));
+    recordButton->setMinimumWidth(qMax(width, recordButton->sizeHint().width()));
     ShowStatus();
 }
 
@@ -288,6 +319,7 @@ void RecorderView::hideEvent(QHideEvent* event)
     QWidget::hideEvent(event);
     if (event->spontaneous())
         return;
+    recording->Stop();
     stream->StopStream();
     stage->SetLive(false);
 }

@@ -8,6 +8,7 @@ class QToolButton;
 class ZLabel;
 
 namespace Zelkor::Vx {
+class CountdownIndicatorWidget;
 class WebCameraPreviewStream;
 namespace UI {
 class ButtonWithPopUpContainer;
@@ -17,29 +18,25 @@ class ButtonWithPopUpContainer;
 namespace Zelkor::Gallery {
 
 class CaptureBar;
+class Preferences;
 class PreviewStage;
 class RecorderModel;
+class Recording;
 class Snapshot;
 
-/// The recorder: a large live picture, what it shows above, and the controls below. A window, or a page of another one.
+/// The recorder: a large live picture, what it shows above, and the controls below.
 ///
-/// The picture runs while the view is visible and the model wants it. The model has to outlive the view.
+/// The picture runs while the view is visible and the model wants it. Its actions, which have shortcuts, are those of
+/// the capture bar; a window adds them to itself. Model and preferences have to outlive the view.
 class RecorderView : public QWidget
 {
     Q_OBJECT
 
 public:
-    /// A window offers to go to the widgets, a page does not.
-    enum class Role { Window, Page };
-
-    RecorderView(RecorderModel* model, Role role, QWidget* parent = nullptr);
+    RecorderView(RecorderModel* model, const Preferences* preferences, QWidget* parent = nullptr);
 
     /// Tells somebody who is here for the first time where to begin. The view has to be visible.
     void ShowFirstHint();
-
-Q_SIGNALS:
-    /// The person wants to see the widgets.
-    void WidgetsRequested();
 
 protected:
     void showEvent(QShowEvent* event) override;
@@ -47,34 +44,38 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
-    QWidget* CreateHeader(Role role);
+    QWidget* CreateHeader();
     QWidget* CreateToolBar();
     Vx::UI::ButtonWithPopUpContainer* CreatePanelButton(const QString& icon, QWidget* panel);
     void CreateErrorBanner();
     void CoverStage();
     void RunPicture();
     void ToggleRunning();
+    void ToggleRecording();
     bool CanHaveSnapshot() const;
     void ShowStatus();
+    void ShowRecording();
     QString StatusText() const;
     QString ErrorText() const;
     void Retranslate();
 
     RecorderModel* model;
+    const Preferences* preferences;
+    Recording* recording;
     PreviewStage* stage;
     CaptureBar* captureBar;
     Vx::WebCameraPreviewStream* stream;
-    QLabel* productName;
     QWidget* stateDot;
     ZLabel* statusText;
-    QToolButton* widgetsButton;
     Snapshot* snapshot;
     QFrame* errorBanner;
     QLabel* errorText;
+    Vx::CountdownIndicatorWidget* countdown;
     Vx::UI::ButtonWithPopUpContainer* sourceButton;
     Vx::UI::ButtonWithPopUpContainer* audioButton;
     QToolButton* settingsButton;
     QToolButton* runButton;
+    QToolButton* recordButton;
 };
 
 } // namespace Zelkor::Gallery

@@ -4,6 +4,9 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QIconEngine>
+#include <QPainter>
+#include <QPixmap>
 #include <QStyleFactory>
 
 // A resource in a static library has to be registered by hand, from outside of any namespace.
@@ -27,13 +30,54 @@ QString FileOf(const QString& nameOrFile)
     return nameOrFile;
 }
 
-QIcon Tinted(const QString& name, const QString& tint)
+int appliedSheets = 0; ///< how many there were; icons of an earlier one are out of date
+
+QIcon LoadTinted(const QString& name, const QString& tint)
 {
     QIcon icon;
     icon.addFile(SEARCH_PATH + ":" + name + tint + ".svg");
     icon.addFile(SEARCH_PATH + ":" + name + "-disabled.svg", QSize(), QIcon::Disabled);
     return icon;
 }
+
+// An icon that is always the one of the style sheet that is applied, so that nobody has to set it again.
+class TintedIconEngine : public QIconEngine
+{
+public:
+    TintedIconEngine(QString name, QString tint) : name(std::move(name)), tint(std::move(tint)) {}
+
+    void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State state) override
+    {
+        Current().paint(painter, rect, Qt::AlignCenter, mode, state);
+    }
+
+    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override
+    {
+        return Current().pixmap(size, mode, state);
+    }
+
+    QSize actualSize(const QSize& size, QIcon::Mode mode, QIcon::State state) override
+    {
+        return Current().actualSize(size, mode, state);
+    }
+
+    QIconEngine* clone() const override { return new TintedIconEngine(*this); }
+
+private:
+    const QIcon& Current()
+    {
+        if (loadedFor != appliedSheets) {
+            icon = LoadTinted(name, tint);
+            loadedFor = appliedSheets;
+        }
+        return icon;
+    }
+
+    const QString name;
+    const QString tint;
+    QIcon icon;
+    int loadedFor = -1;
+};
 
 } // namespace
 
@@ -52,18 +96,19 @@ std::optional<StyleSheet> LoadStyleSheet(const QString& nameOrFile, QString& err
 void ApplyStyleSheet(const StyleSheet& sheet)
 {
     QDir::setSearchPaths(SEARCH_PATH, {sheet.iconFolder});
+    ++appliedSheets;
     QApplication::setStyle(QStyleFactory::create("Fusion"));
     qApp->setStyleSheet(sheet.text);
 }
 
 QIcon StyleIcon(const QString& name)
 {
-    return Tinted(name, QString());
+    return QIcon(new TintedIconEngine(name, QString()));
 }
 
 QIcon StyleIconOnAccent(const QString& name)
 {
-    return Tinted(name, "-on-accent");
+    return QIcon(new TintedIconEngine(name, "-on-accent"));
 }
 
 } // namespace Zelkor::Gallery

@@ -21,7 +21,7 @@ std::optional<StyleSheet> LoadStyleSheet(const QString& nameOrFile, QString& err
 /// Gives the application this look: the sheet, its icons, and a basic style that draws alike everywhere.
 void ApplyStyleSheet(const StyleSheet& sheet);
 
-/// The icon `name` of the style sheet that is applied, in its plain and its disabled tint.
+/// The icon `name` of the style sheet, in its plain and its disabled tint. It follows when another one is applied.
 QIcon StyleIcon(const QString& name);
 
 /// The same in the tint that goes with the accent.

@@ -1,0 +1,115 @@
+#include "Artwork.h"
+#include "Catalogue.h"
+
+#include <UI/Widgets/MaskedToolTip.h>
+
+#include <QPushButton>
+#include <QVBoxLayout>
+#include <QVariant>
+
+using Zelkor::Vx::UI::MaskedToolTip;
+
+namespace Zelkor::Gallery {
+
+namespace {
+
+constexpr int HINT_DISTANCE = 12;
+constexpr int HINT_TIME_MS = 5000;
+constexpr QSize BUBBLE_SIZE(264, 96);
+
+/// The hint's look in its place, and the hint itself, a window, when the button is pressed.
+class HintHost : public QWidget
+{
+public:
+    explicit HintHost(QWidget* parent)
+        : QWidget(parent), look(new MaskedToolTip(this)), hint(new MaskedToolTip(this)),
+          button(new QPushButton(Catalogue::tr("Show the hint")))
+    {
+        look->setWindowFlags(Qt::Widget);
+        look->setAttribute(Qt::WA_TransparentForMouseEvents);
+        look->SetHideOnDeactivate(false);
+        hint->SetDisplayTime(HINT_TIME_MS);
+        auto* layout = new QVBoxLayout(this);
+        layout->setContentsMargins(0, 0, 0, 0);
+        layout->setSpacing(HINT_DISTANCE);
+        layout->addWidget(look, 0, Qt::AlignLeading);
+        layout->addWidget(button, 0, Qt::AlignLeading);
+        connect(button, &QPushButton::clicked, this, [this] {
+            // The point counts from where the window stood the last time.
+            hint->move(0, 0);
+            // A speech bubble points down at the button.
+            const bool isBubble = !hint->GetMask().isNull();
+            const int y = isBubble ? -BUBBLE_SIZE.height() - HINT_DISTANCE : button->height() + HINT_DISTANCE;
+            hint->Show(button->mapToGlobal(QPoint(0, y)));
+        });
+    }
+
+    void SetTexts(const QString& title, const QString& text)
+    {
+        for (MaskedToolTip* tip : {look, hint}) {
+            tip->SetTitle(title);
+            tip->SetText(text);
+        }
+        look->Show(QPoint());
+    }
+
+    void MakeBubble()
+    {
+        for (MaskedToolTip* tip : {look, hint}) {
+            tip->setProperty("role", QStringLiteral("bubble"));
+            tip->setFixedSize(BUBBLE_SIZE);
+            tip->SetMask(SpeechBubbleImage(BUBBLE_SIZE, layoutDirection()));
+        }
+    }
+
+private:
+    MaskedToolTip* look;
+    MaskedToolTip* hint;
+    QPushButton* button;
+};
+
+QWidget* CreateHintHost(QWidget* parent)
+{
+    auto* host = new HintHost(parent);
+    host->SetTexts(Catalogue::tr("Choose a source first"), Catalogue::tr("A camera, the screen\nor the test picture"));
+    return host;
+}
+
+QWidget* CreateBubbleHost(QWidget* parent)
+{
+    auto* host = new HintHost(parent);
+    host->MakeBubble();
+    host->SetTexts(Catalogue::tr("Choose a source first"), Catalogue::tr("A camera, the screen or the test picture"));
+    return host;
+}
+
+Entry MaskedToolTipEntry()
+{
+    return {
+        "MaskedToolTip",
+        Catalogue::tr("Windows"),
+        Catalogue::tr("A hint in a window of its own, in the shape of an image, that goes by itself."),
+        "MaskedToolTip",
+        "hint",
+        CreateHintHost,
+        {
+            MadeState(Catalogue::tr("Title and text"), CreateHintHost),
+            MadeState(Catalogue::tr("Text only"),
+                      [](QWidget* parent) {
+                          auto* host = new HintHost(parent);
+                          host->SetTexts(QString(), Catalogue::tr("The recording goes on"));
+                          return host;
+                      }),
+            MadeState(Catalogue::tr("Speech bubble"), CreateBubbleHost),
+        },
+    };
+}
+
+} // namespace
+
+QVector<Entry> HintEntries()
+{
+    return {MaskedToolTipEntry()};
+}
+
+} // namespace Zelkor::Gallery

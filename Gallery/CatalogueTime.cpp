@@ -1,0 +1,12 @@
+#include "Catalogue.h"
+
+#include <QCoreApplication>
+
+namespace Zelkor::Gallery {
+
+QVector<Entry> TimeEntries()
+{
+    return {};
+}
+
+} // namespace Zelkor::Gallery

@@ -1,0 +1,103 @@
+#include "RecorderWindow.h"
+#include "RecorderView.h"
+#include "SettingsDialog.h"
+#include "StyleSheet.h"
+#include "Texts.h"
+
+#include <UI/Widgets/CustomTitleBar.h>
+#include <UI/Widgets/StyledAboutBoxDialog.h>
+
+#include <QEvent>
+#include <QSizeGrip>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+using Zelkor::Vx::UI::CustomTitleBar;
+using Zelkor::Vx::UI::StyledAboutBoxDialog;
+
+namespace Zelkor::Gallery {
+
+RecorderWindow::RecorderWindow(RecorderModel* model, Preferences* preferences)
+    : QWidget(nullptr,
+              Qt::Window | Qt::WindowSystemMenuHint | Qt::WindowMinimizeButtonHint | Qt::WindowCloseButtonHint),
+      preferences(preferences), view(new RecorderView(model, preferences))
+{
+    setObjectName("recorderWindow");
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(view);
+    auto* titleBar = new CustomTitleBar(this);
+    widgetsButton = new QToolButton;
+    settingsButton = new QToolButton;
+    aboutButton = new QToolButton;
+    const std::pair<QToolButton*, const char*> buttons[] = {
+        {widgetsButton, "grid"}, {settingsButton, "settings"}, {aboutButton, "information"}};
+    for (const auto& [button, icon] : buttons) {
+        button->setFocusPolicy(Qt::StrongFocus);
+        button->setAutoRaise(true);
+        button->setIcon(StyleIcon(icon));
+        titleBar->AddWidget(button);
+    }
+    titleBar->AddSeparator();
+    // A frameless window has no edge to take hold of.
+    sizeGrip = new QSizeGrip(this);
+    addActions(view->actions());
+    view->setFocus();
+
+    connect(widgetsButton, &QToolButton::clicked, this, &RecorderWindow::WidgetsRequested);
+    connect(settingsButton, &QToolButton::clicked, this, &RecorderWindow::ShowSettings);
+    connect(aboutButton, &QToolButton::clicked, this, &RecorderWindow::ShowAbout);
+    Retranslate();
+}
+
+void RecorderWindow::ShowFirstHint()
+{
+    view->ShowFirstHint();
+}
+
+void RecorderWindow::ShowSettings()
+{
+    if (!settings) {
+        settings = new SettingsDialog(preferences, this);
+        settings->setAttribute(Qt::WA_DeleteOnClose);
+    }
+    settings->show();
+    settings->raise();
+    settings->activateWindow();
+}
+
+void RecorderWindow::ShowAbout()
+{
+    StyledAboutBoxDialog::ShowAbout(windowTitle(), tr("Version %1").arg("1.0.0"),
+                                    tr("Shows the widgets of VxUiWidgets at work. Nothing is recorded."), this);
+}
+
+void RecorderWindow::Retranslate()
+{
+    setWindowTitle(tr("Vx Recorder"));
+    const auto name = [](QToolButton* button, const QString& text) {
+        button->setAccessibleName(text);
+        button->setToolTip(text);
+    };
+    name(widgetsButton, tr("All widgets"));
+    name(settingsButton, tr("Settings"));
+    name(aboutButton, tr("About"));
+}
+
+void RecorderWindow::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    sizeGrip->adjustSize();
+    const QSize size = sizeGrip->size();
+    const int x = layoutDirection() == Qt::RightToLeft ? 0 : width() - size.width();
+    sizeGrip->move(x, height() - size.height());
+}
+
+void RecorderWindow::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange)
+        Retranslate();
+}
+
+} // namespace Zelkor::Gallery

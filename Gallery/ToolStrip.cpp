@@ -1,0 +1,77 @@
+#include "ToolStrip.h"
+#include "StyleSheet.h"
+
+#include <UI/Widgets/ScrollablePanelWithItem.h>
+
+#include <QButtonGroup>
+#include <QEvent>
+#include <QHBoxLayout>
+#include <QToolButton>
+
+namespace Zelkor::Gallery {
+
+namespace {
+
+struct Tool
+{
+    const char* icon;
+    const char* name;
+};
+
+constexpr Tool TOOLS[] = {
+    {"pointer", QT_TRANSLATE_NOOP("Zelkor::Gallery::ToolStrip", "Pointer")},
+    {"pen", QT_TRANSLATE_NOOP("Zelkor::Gallery::ToolStrip", "Pen")},
+    {"marker", QT_TRANSLATE_NOOP("Zelkor::Gallery::ToolStrip", "Marker")},
+    {"line", QT_TRANSLATE_NOOP("Zelkor::Gallery::ToolStrip", "Line")},
+    {"arrow", QT_TRANSLATE_NOOP("Zelkor::Gallery::ToolStrip", "Arrow")},
+    {"rectangle", QT_TRANSLATE_NOOP("Zelkor::Gallery::ToolStrip", "Rectangle")},
+    {"ellipse", QT_TRANSLATE_NOOP("Zelkor::Gallery::ToolStrip", "Ellipse")},
+    {"text", QT_TRANSLATE_NOOP("Zelkor::Gallery::ToolStrip", "Text")},
+    {"number", QT_TRANSLATE_NOOP("Zelkor::Gallery::ToolStrip", "Numbered step")},
+    {"spotlight", QT_TRANSLATE_NOOP("Zelkor::Gallery::ToolStrip", "Spotlight")},
+    {"blur", QT_TRANSLATE_NOOP("Zelkor::Gallery::ToolStrip", "Blur")},
+    {"zoom", QT_TRANSLATE_NOOP("Zelkor::Gallery::ToolStrip", "Magnifier")},
+    {"eraser", QT_TRANSLATE_NOOP("Zelkor::Gallery::ToolStrip", "Eraser")},
+};
+
+constexpr int SPACING = 4;
+
+} // namespace
+
+ToolStrip::ToolStrip(QWidget* parent) : QWidget(parent), panel(new Vx::UI::ScrollablePanelWithItem(this))
+{
+    auto* layout = new QHBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(panel);
+    panel->SetItemsSpacing(SPACING);
+    auto* group = new QButtonGroup(this);
+    for (const Tool& tool : TOOLS) {
+        auto* button = new QToolButton;
+        button->setFocusPolicy(Qt::StrongFocus);
+        button->setCheckable(true);
+        button->setAutoRaise(true);
+        button->setIcon(StyleIcon(tool.icon));
+        group->addButton(button);
+        tools.append(button);
+        panel->Append(button);
+    }
+    panel->SelectItem(0);
+    Retranslate();
+}
+
+void ToolStrip::Retranslate()
+{
+    for (int i = 0; i < tools.size(); ++i) {
+        tools[i]->setToolTip(tr(TOOLS[i].name));
+        tools[i]->setAccessibleName(tr(TOOLS[i].name));
+    }
+}
+
+void ToolStrip::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange)
+        Retranslate();
+}
+
+} // namespace Zelkor::Gallery

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QWidget>
+
+class QToolButton;
+
+namespace Zelkor::Vx::UI {
+class ScrollablePanelWithItem;
+}
+
+namespace Zelkor::Gallery {
+
+/// The tools for drawing on the picture, one of them chosen. Scrolls where there is no room for all.
+class ToolStrip : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit ToolStrip(QWidget* parent = nullptr);
+
+protected:
+    void changeEvent(QEvent* event) override;
+
+private:
+    void Retranslate();
+
+    Vx::UI::ScrollablePanelWithItem* panel;
+    QVector<QToolButton*> tools;
+};
+
+} // namespace Zelkor::Gallery
