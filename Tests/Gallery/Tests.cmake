@@ -10,6 +10,8 @@ set_tests_properties(tst_Catalogue_scaled PROPERTIES
 
 vx_test(Gallery/tst_RecorderModel.cpp LIBRARIES VxGalleryWindows)
 vx_test(Gallery/tst_GalleryWindows.cpp LIBRARIES VxGalleryWindows)
+vx_test(Gallery/tst_RecorderWindow.cpp LIBRARIES VxGalleryWindows)
+add_dependencies(tst_RecorderWindow VxTranslations)
 vx_test(Gallery/tst_SignalLog.cpp LIBRARIES VxGalleryWindows)
 vx_test(Gallery/tst_LevelBallistics.cpp LIBRARIES VxGalleryWindows)
 vx_test(Gallery/tst_RecorderParts.cpp LIBRARIES VxGalleryWindows LABELS threads)

@@ -68,6 +68,7 @@ private Q_SLOTS:
         QTest::newRow("muted text") << "text-muted" << plain << 4.5;
         QTest::newRow("accent as text") << "accent-line" << plain << 4.5;
         QTest::newRow("on accent") << "on-accent" << QStringList{"accent", "accent-hover", "accent-pressed"} << 4.5;
+        QTest::newRow("on danger") << "on-accent" << QStringList{"danger", "danger-pressed"} << 4.5;
         QTest::newRow("error") << "danger-text" << QStringList{"danger-surface"} << 4.5;
         QTest::newRow("keyboard focus") << "accent-line" << areas << 3.0;
         QTest::newRow("edge of fields") << "border-strong" << plain << 3.0;

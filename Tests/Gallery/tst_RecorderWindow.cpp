@@ -1,0 +1,194 @@
+#include <Gallery/GalleryWindow.h>
+#include <Gallery/Languages.h>
+#include <Gallery/Preferences.h>
+#include <Gallery/RecorderModel.h>
+#include <Gallery/RecorderWindow.h>
+#include <Gallery/Recording.h>
+#include <Gallery/SettingsDialog.h>
+#include <Gallery/StyleSheet.h>
+
+#include <Support/TestCase.h>
+
+#include <UI/Widgets/CountdownIndicatorWidget.h>
+#include <UI/Widgets/HorizontalTabBar.h>
+#include <UI/Widgets/ResizableStackedWidget.h>
+#include <UI/Widgets/SliderWithTickLabels.h>
+
+#include <QAbstractButton>
+#include <QComboBox>
+#include <QLabel>
+#include <QSignalSpy>
+
+#include <memory>
+
+using namespace Zelkor;
+using namespace Zelkor::Gallery;
+using namespace std::chrono_literals;
+
+namespace {
+
+QAbstractButton* Button(const QWidget& window, const QString& name)
+{
+    for (auto* button : window.findChildren<QAbstractButton*>()) {
+        if (button->accessibleName() == name)
+            return button;
+    }
+    return nullptr;
+}
+
+} // namespace
+
+class tst_RecorderWindow : public Support::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        QString error;
+        ApplyStyleSheet(LoadStyleSheet("dark", error).value());
+        model.SetDevices({StandIn::CreateTestPictureDevice()});
+    }
+
+    void countdownRunsBeforeTheRecording()
+    {
+        Recording recording(nullptr, 10ms);
+        QStringList course;
+        connect(&recording, &Recording::Changed, [&] {
+            const char* state = recording.GetState() == Recording::State::CountingDown ? "-" : "+";
+            course +=
+                recording.GetState() == Recording::State::Idle ? "idle" : state + QString::number(recording.Seconds());
+        });
+        recording.Start(2);
+        recording.Start(7);
+        QTRY_VERIFY(course.size() >= 4);
+        recording.Stop();
+        recording.Stop();
+        QCOMPARE(course.mid(0, 4), QStringList({"-2", "-1", "+0", "+1"}));
+        QCOMPARE(course.last(), QString("idle"));
+        course.clear();
+        recording.Start(0);
+        QCOMPARE(course, QStringList("+0"));
+    }
+
+    void recordButtonCountsDownOverThePicture()
+    {
+        RecorderWindow window(&model, &preferences);
+        window.show();
+        auto* countdown = window.findChild<Vx::CountdownIndicatorWidget*>();
+        QVERIFY(!countdown->isVisible());
+        Button(window, "Record")->click();
+        QVERIFY(countdown->isVisible());
+        QCOMPARE(countdown->GetSeconds(), 3ULL);
+        // Without a picture there is nothing to record.
+        model.Stop();
+        QVERIFY(!countdown->isVisible());
+        QVERIFY(!Button(window, "Record")->isEnabled());
+        model.Start();
+        preferences.countdownSeconds = 0;
+        Button(window, "Record")->click();
+        QVERIFY(!countdown->isVisible());
+        QVERIFY(window.findChild<QLabel*>("statusText")->property("originalText").toString().startsWith("Recording"));
+        window.hide();
+        QVERIFY(Button(window, "Record"));
+    }
+
+    void windowLeadsToEverythingElse()
+    {
+        RecorderWindow window(&model, &preferences);
+        window.show();
+        QVERIFY(window.windowFlags().testFlag(Qt::FramelessWindowHint));
+        QSignalSpy widgets(&window, &RecorderWindow::WidgetsRequested);
+        Button(window, "All widgets")->click();
+        QCOMPARE(widgets.size(), 1);
+        QPointer<QDialog> about;
+        Button(window, "About")->click();
+        QVERIFY(about = window.findChild<QDialog*>());
+        QVERIFY(about->isVisible() && !about->isModal());
+        about->close();
+        QTRY_VERIFY(!about);
+        // The settings open once.
+        Button(window, "Settings")->click();
+        Button(window, "Settings")->click();
+        QCOMPARE(window.findChildren<SettingsDialog*>().size(), 1);
+        auto* minimize = window.findChild<QAbstractButton*>("minimizeButton");
+        QVERIFY(minimize->isVisible());
+        window.findChild<QAbstractButton*>("closeButton")->click();
+        QVERIFY(!window.isVisible());
+    }
+
+    void settingsHaveTheSizeOfTheirPageAndCountAtOnce()
+    {
+        SettingsDialog dialog(&preferences);
+        dialog.show();
+        auto* tabs = dialog.findChild<Vx::HorizontalTabBar*>();
+        const auto* pages = dialog.findChild<ResizableStackedWidget*>();
+        for (int i = 0; i < tabs->count(); ++i) {
+            tabs->setCurrentIndex(i);
+            QTRY_COMPARE(dialog.height(), dialog.minimumSizeHint().height());
+            QCOMPARE(pages->currentIndex(), i);
+            QCOMPARE(pages->size(), pages->currentWidget()->size());
+            QVERIFY(pages->currentWidget()->height() >= pages->currentWidget()->sizeHint().height());
+        }
+        dialog.findChild<Vx::SliderWithTickLabels*>("countdown")->SetCurrentIndex(3);
+        QCOMPARE(preferences.countdownSeconds, 10);
+        dialog.findChild<Vx::SliderWithTickLabels*>("quality")->SetCurrentIndex(0);
+        QCOMPARE(preferences.quality, 0);
+        QSignalSpy style(&preferences, &Preferences::StyleNameChanged);
+        auto* combo = dialog.findChild<QComboBox*>("styleCombo");
+        combo->setCurrentIndex(combo->findData("light"));
+        Q_EMIT combo->activated(combo->currentIndex());
+        QCOMPARE(style.takeFirst(), QVariantList({"light"}));
+    }
+
+    void everyLanguageIsSpokenAtOnce_data()
+    {
+        QTest::addColumn<QString>("code");
+        QTest::addColumn<QString>("record");
+        QTest::addColumn<QString>("captions");
+        QTest::newRow("German") << "de"
+                                << "Aufnehmen"
+                                << "Std Min Sek";
+        QTest::newRow("French") << "fr"
+                                << "Enregistrer"
+                                << "h min s";
+        QTest::newRow("Japanese") << "ja"
+                                  << "録画"
+                                  << "時 分 秒";
+        QTest::newRow("back to English") << "en"
+                                         << "Record"
+                                         << "hr min sec";
+    }
+
+    void everyLanguageIsSpokenAtOnce()
+    {
+        QFETCH(QString, code);
+        QFETCH(QString, record);
+        QFETCH(QString, captions);
+        Translations translations;
+        RecorderWindow window(&model, &preferences);
+        window.show();
+        Button(window, "Settings")->click();
+        QVERIFY(translations.Use(code));
+        QTRY_VERIFY(Button(window, record));
+        QStringList shown;
+        for (const char* name : {"caption1Label", "caption2Label", "caption3Label"})
+            shown += window.findChild<QLabel*>(name)->text();
+        QCOMPARE(shown.join(' '), captions);
+    }
+
+    void languageWithoutTextsIsEnglish()
+    {
+        Translations translations;
+        QVERIFY(translations.Use("de"));
+        QVERIFY(!translations.Use("xx"));
+        QCOMPARE(GalleryWindow::tr("Recorder"), QString("Recorder"));
+    }
+
+private:
+    RecorderModel model;
+    Preferences preferences;
+};
+
+VX_TEST_MAIN(tst_RecorderWindow)
+#include "tst_RecorderWindow.moc"

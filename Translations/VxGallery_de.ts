@@ -1,0 +1,1248 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de">
+<context>
+    <name>Catalogue</name>
+    <message>
+        <source>Disabled</source>
+        <translation>Deaktiviert</translation>
+    </message>
+    <message>
+        <source>High quality</source>
+        <translation>Hohe Qualität</translation>
+    </message>
+    <message>
+        <source>Balanced</source>
+        <translation>Ausgewogen</translation>
+    </message>
+    <message>
+        <source>Small file</source>
+        <translation>Kleine Datei</translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>Qualität</translation>
+    </message>
+    <message>
+        <source>Record the pointer</source>
+        <translation>Mauszeiger aufnehmen</translation>
+    </message>
+    <message>
+        <source>Record clicks</source>
+        <translation>Klicks aufnehmen</translation>
+    </message>
+    <message>
+        <source>Buttons</source>
+        <translation>Schaltflächen</translation>
+    </message>
+    <message>
+        <source>Opens a floating panel of the application&apos;s widgets beside itself.</source>
+        <translation>Öffnet neben sich ein schwebendes Bedienfeld mit Widgets der Anwendung.</translation>
+    </message>
+    <message>
+        <source>Typical</source>
+        <translation>Typisch</translation>
+    </message>
+    <message>
+        <source>Icon and text</source>
+        <translation>Symbol und Text</translation>
+    </message>
+    <message>
+        <source>Icon only</source>
+        <translation>Nur Symbol</translation>
+    </message>
+    <message>
+        <source>Long text</source>
+        <translation>Langer Text</translation>
+    </message>
+    <message>
+        <source>Quality, pointer and clicks of this recording</source>
+        <translation>Qualität, Mauszeiger und Klicks dieser Aufnahme</translation>
+    </message>
+    <message>
+        <source>Checked</source>
+        <translation>Aktiviert</translation>
+    </message>
+    <message>
+        <source>Opens upwards</source>
+        <translation>Öffnet nach oben</translation>
+    </message>
+    <message>
+        <source>Empty panel</source>
+        <translation>Leeres Bedienfeld</translation>
+    </message>
+    <message>
+        <source>Nothing</source>
+        <translation>Nichts</translation>
+    </message>
+    <message>
+        <source>Take %1</source>
+        <translation>Aufnahme %1</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>Format</translation>
+    </message>
+    <message>
+        <source>Video</source>
+        <translation>Video</translation>
+    </message>
+    <message>
+        <source>Animated picture</source>
+        <translation>Animiertes Bild</translation>
+    </message>
+    <message>
+        <source>Sound only</source>
+        <translation>Nur Ton</translation>
+    </message>
+    <message>
+        <source>Drawing colour</source>
+        <translation>Zeichenfarbe</translation>
+    </message>
+    <message>
+        <source>Click sound</source>
+        <translation>Klickgeräusch</translation>
+    </message>
+    <message>
+        <source>No sound</source>
+        <translation>Kein Geräusch</translation>
+    </message>
+    <message>
+        <source>Soft click</source>
+        <translation>Leises Klicken</translation>
+    </message>
+    <message>
+        <source>Mechanical keyboard</source>
+        <translation>Mechanische Tastatur</translation>
+    </message>
+    <message>
+        <source>Typewriter</source>
+        <translation>Schreibmaschine</translation>
+    </message>
+    <message>
+        <source>Mechanical keyboard of the office next door, recorded twice</source>
+        <translation>Mechanische Tastatur aus dem Büro nebenan, zweimal aufgenommen</translation>
+    </message>
+    <message>
+        <source>A tool button with a menu of choices, of which one is current.</source>
+        <translation>Eine Werkzeugschaltfläche mit einem Auswahlmenü, in dem ein Eintrag der aktuelle ist.</translation>
+    </message>
+    <message>
+        <source>Empty</source>
+        <translation>Leer</translation>
+    </message>
+    <message>
+        <source>Nothing to choose</source>
+        <translation>Nichts zur Auswahl</translation>
+    </message>
+    <message>
+        <source>Many items</source>
+        <translation>Viele Einträge</translation>
+    </message>
+    <message>
+        <source>Long texts</source>
+        <translation>Lange Texte</translation>
+    </message>
+    <message>
+        <source>Video for people who see it on a telephone</source>
+        <translation>Video für Personen, die es auf einem Telefon ansehen</translation>
+    </message>
+    <message>
+        <source>Video for a lecture hall with a large screen</source>
+        <translation>Video für einen Hörsaal mit großer Leinwand</translation>
+    </message>
+    <message>
+        <source>Nothing checked</source>
+        <translation>Nichts ausgewählt</translation>
+    </message>
+    <message>
+        <source>Shows a colour, and opens a dialog that chooses another one.</source>
+        <translation>Zeigt eine Farbe und öffnet einen Dialog, in dem eine andere gewählt wird.</translation>
+    </message>
+    <message>
+        <source>Opaque</source>
+        <translation>Deckend</translation>
+    </message>
+    <message>
+        <source>Translucent, up to 60 %</source>
+        <translation>Durchscheinend, bis 60&#xa0;%</translation>
+    </message>
+    <message>
+        <source>Square placed elsewhere</source>
+        <translation>Quadrat an anderer Stelle</translation>
+    </message>
+    <message>
+        <source>Choices</source>
+        <translation>Auswahl</translation>
+    </message>
+    <message>
+        <source>A combo box that elides texts too long for it instead of growing with them.</source>
+        <translation>Ein Kombinationsfeld, das zu lange Texte kürzt, statt mit ihnen zu wachsen.</translation>
+    </message>
+    <message>
+        <source>With icons</source>
+        <translation>Mit Symbolen</translation>
+    </message>
+    <message>
+        <source>Editable</source>
+        <translation>Bearbeitbar</translation>
+    </message>
+    <message>
+        <source>Narrow</source>
+        <translation>Schmal</translation>
+    </message>
+    <message>
+        <source>Right-to-left</source>
+        <translation>Von rechts nach links</translation>
+    </message>
+    <message>
+        <source>A drawn portrait</source>
+        <translation>Ein gezeichnetes Porträt</translation>
+    </message>
+    <message>
+        <source>Effects</source>
+        <translation>Effekte</translation>
+    </message>
+    <message>
+        <source>Draws a soft rim inside the edges of a widget; here, of a picture.</source>
+        <translation>Zeichnet einen weichen Saum innerhalb der Kanten eines Widgets; hier eines Bildes.</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Aus</translation>
+    </message>
+    <message>
+        <source>Wide</source>
+        <translation>Breit</translation>
+    </message>
+    <message>
+        <source>Strong</source>
+        <translation>Kräftig</translation>
+    </message>
+    <message>
+        <source>Coloured</source>
+        <translation>Farbig</translation>
+    </message>
+    <message>
+        <source>Indicators</source>
+        <translation>Anzeigen</translation>
+    </message>
+    <message>
+        <source>Shows a remaining time as three numbers with captions, in the units that suit it.</source>
+        <translation>Zeigt eine verbleibende Zeit als drei beschriftete Zahlen in den passenden Einheiten.</translation>
+    </message>
+    <message>
+        <source>Fresh</source>
+        <translation>Neu erzeugt</translation>
+    </message>
+    <message>
+        <source>Short</source>
+        <translation>Kurz</translation>
+    </message>
+    <message>
+        <source>Hours</source>
+        <translation>Stunden</translation>
+    </message>
+    <message>
+        <source>Days</source>
+        <translation>Tage</translation>
+    </message>
+    <message>
+        <source>Months</source>
+        <translation>Monate</translation>
+    </message>
+    <message>
+        <source>Years</source>
+        <translation>Jahre</translation>
+    </message>
+    <message>
+        <source>Shows how the highlight around the mouse cursor will look.</source>
+        <translation>Zeigt, wie die Hervorhebung um den Mauszeiger aussehen wird.</translation>
+    </message>
+    <message>
+        <source>Translucent colour</source>
+        <translation>Durchscheinende Farbe</translation>
+    </message>
+    <message>
+        <source>Larger than the preview</source>
+        <translation>Größer als die Vorschau</translation>
+    </message>
+    <message>
+        <source>Thick border</source>
+        <translation>Dicker Rand</translation>
+    </message>
+    <message>
+        <source>No border</source>
+        <translation>Kein Rand</translation>
+    </message>
+    <message>
+        <source>Button %1</source>
+        <translation>Schaltfläche %1</translation>
+    </message>
+    <message>
+        <source>Built-in camera</source>
+        <translation>Integrierte Kamera</translation>
+    </message>
+    <message>
+        <source>A small page</source>
+        <translation>Eine kleine Seite</translation>
+    </message>
+    <message>
+        <source>A page that takes
+the room of its text
+and no more</source>
+        <translation>Eine Seite, die so viel
+Platz nimmt wie ihr Text,
+und nicht mehr</translation>
+    </message>
+    <message>
+        <source>Other page</source>
+        <translation>Andere Seite</translation>
+    </message>
+    <message>
+        <source>Kit</source>
+        <translation>Bausteine</translation>
+    </message>
+    <message>
+        <source>A frame whose layout can be spaced by a style sheet.</source>
+        <translation>Ein Rahmen, dessen Layoutabstände ein Stylesheet festlegen kann.</translation>
+    </message>
+    <message>
+        <source>Spaced by style sheet</source>
+        <translation>Abstände durch Stylesheet</translation>
+    </message>
+    <message>
+        <source>Spaced by properties</source>
+        <translation>Abstände durch Eigenschaften</translation>
+    </message>
+    <message>
+        <source>A camera with a name that is far too long for this place</source>
+        <translation>Eine Kamera mit einem Namen, der für diesen Platz viel zu lang ist</translation>
+    </message>
+    <message>
+        <source>A label for one text that may be too long: it is elided, and shown whole as the tool tip.</source>
+        <translation>Eine Beschriftung für einen Text, der zu lang sein kann: Er wird gekürzt und vollständig als Tooltip gezeigt.</translation>
+    </message>
+    <message>
+        <source>Fits</source>
+        <translation>Passt</translation>
+    </message>
+    <message>
+        <source>Elided</source>
+        <translation>Gekürzt</translation>
+    </message>
+    <message>
+        <source>Right-to-left text</source>
+        <translation>Text von rechts nach links</translation>
+    </message>
+    <message>
+        <source>Cut, not elided</source>
+        <translation>Abgeschnitten, nicht gekürzt</translation>
+    </message>
+    <message>
+        <source>Not clickable</source>
+        <translation>Nicht anklickbar</translation>
+    </message>
+    <message>
+        <source>A stack of pages that takes the size of the page it shows instead of the largest one.</source>
+        <translation>Ein Seitenstapel, der die Größe der gezeigten Seite annimmt statt die der größten.</translation>
+    </message>
+    <message>
+        <source>Small page</source>
+        <translation>Kleine Seite</translation>
+    </message>
+    <message>
+        <source>Large page</source>
+        <translation>Große Seite</translation>
+    </message>
+    <message>
+        <source>Without fitting</source>
+        <translation>Ohne Anpassung</translation>
+    </message>
+    <message>
+        <source>Take a picture</source>
+        <translation>Bild aufnehmen</translation>
+    </message>
+    <message>
+        <source>Starts a recording with these settings</source>
+        <translation>Beginnt eine Aufnahme mit diesen Einstellungen</translation>
+    </message>
+    <message>
+        <source>A push button with an icon, a text and a hot key, each with a look of its own.</source>
+        <translation>Eine Schaltfläche mit Symbol, Text und Tastenkürzel, jedes mit eigenem Aussehen.</translation>
+    </message>
+    <message>
+        <source>Horizontal</source>
+        <translation>Horizontal</translation>
+    </message>
+    <message>
+        <source>Vertical</source>
+        <translation>Vertikal</translation>
+    </message>
+    <message>
+        <source>Take a picture of everything on the screen</source>
+        <translation>Ein Bild von allem auf dem Bildschirm aufnehmen</translation>
+    </message>
+    <message>
+        <source>No hot key</source>
+        <translation>Kein Tastenkürzel</translation>
+    </message>
+    <message>
+        <source>Region around 
+the pointer</source>
+        <translation>Bereich um 
+den Zeiger</translation>
+    </message>
+    <message>
+        <source>Full screen</source>
+        <translation>Ganzer Bildschirm</translation>
+    </message>
+    <message>
+        <source>Shows an action with its shortcut, and triggers it.</source>
+        <translation>Zeigt eine Aktion mit ihrem Tastenkürzel und löst sie aus.</translation>
+    </message>
+    <message>
+        <source>Preset type &quot;User&quot;</source>
+        <translation>Voreinstellung vom Typ „User“</translation>
+    </message>
+    <message>
+        <source>My lecture</source>
+        <translation>Meine Vorlesung</translation>
+    </message>
+    <message>
+        <source>Line feed, no word wrap</source>
+        <translation>Zeilenvorschub, kein Zeilenumbruch</translation>
+    </message>
+    <message>
+        <source>Line feed, word wrap by style</source>
+        <translation>Zeilenvorschub, Zeilenumbruch durch Stil</translation>
+    </message>
+    <message>
+        <source>No shortcut</source>
+        <translation>Kein Tastenkürzel</translation>
+    </message>
+    <message>
+        <source>Window</source>
+        <translation>Fenster</translation>
+    </message>
+    <message>
+        <source>No picture</source>
+        <translation>Kein Bild</translation>
+    </message>
+    <message>
+        <source>Media</source>
+        <translation>Medien</translation>
+    </message>
+    <message>
+        <source>Shows live video frames in an area of fixed size.</source>
+        <translation>Zeigt laufende Videobilder in einem Bereich fester Größe.</translation>
+    </message>
+    <message>
+        <source>Default image</source>
+        <translation>Standardbild</translation>
+    </message>
+    <message>
+        <source>Large frame</source>
+        <translation>Großes Bild</translation>
+    </message>
+    <message>
+        <source>Upright frame</source>
+        <translation>Hochformatiges Bild</translation>
+    </message>
+    <message>
+        <source>Small frame</source>
+        <translation>Kleines Bild</translation>
+    </message>
+    <message>
+        <source>Runs the live picture of a capture device in a preview; here, of the moving test picture.</source>
+        <translation>Zeigt das Livebild eines Aufnahmegeräts in einer Vorschau; hier das bewegte Testbild.</translation>
+    </message>
+    <message>
+        <source>Stopped</source>
+        <translation>Angehalten</translation>
+    </message>
+    <message>
+        <source>Live</source>
+        <translation>Live</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>Lautstärke</translation>
+    </message>
+    <message>
+        <source>A slider for a recording volume, with a meter of the input level behind its handle.</source>
+        <translation>Ein Schieberegler für die Aufnahmelautstärke mit einer Anzeige des Eingangspegels hinter dem Griff.</translation>
+    </message>
+    <message>
+        <source>Silence</source>
+        <translation>Stille</translation>
+    </message>
+    <message>
+        <source>Middle</source>
+        <translation>Mitte</translation>
+    </message>
+    <message>
+        <source>Full</source>
+        <translation>Voll</translation>
+    </message>
+    <message>
+        <source>Volume lower than level</source>
+        <translation>Lautstärke unter dem Pegel</translation>
+    </message>
+    <message>
+        <source>Rounded</source>
+        <translation>Abgerundet</translation>
+    </message>
+    <message>
+        <source>Show the hint</source>
+        <translation>Hinweis zeigen</translation>
+    </message>
+    <message>
+        <source>Choose a source first</source>
+        <translation>Wählen Sie zuerst eine Quelle</translation>
+    </message>
+    <message>
+        <source>A camera, the screen
+or the test picture</source>
+        <translation>Eine Kamera, der Bildschirm
+oder das Testbild</translation>
+    </message>
+    <message>
+        <source>A camera, the screen or the test picture</source>
+        <translation>Eine Kamera, der Bildschirm oder das Testbild</translation>
+    </message>
+    <message>
+        <source>Windows</source>
+        <translation>Fenster</translation>
+    </message>
+    <message>
+        <source>A hint in a window of its own, in the shape of an image, that goes by itself.</source>
+        <translation>Ein Hinweis in einem eigenen Fenster in der Form eines Bildes, der von selbst verschwindet.</translation>
+    </message>
+    <message>
+        <source>Title and text</source>
+        <translation>Titel und Text</translation>
+    </message>
+    <message>
+        <source>Text only</source>
+        <translation>Nur Text</translation>
+    </message>
+    <message>
+        <source>The recording goes on</source>
+        <translation>Die Aufnahme läuft weiter</translation>
+    </message>
+    <message>
+        <source>Speech bubble</source>
+        <translation>Sprechblase</translation>
+    </message>
+    <message>
+        <source>Shows one picture over its whole area: stretched, cut, or cut to an ellipse.</source>
+        <translation>Zeigt ein Bild auf seiner ganzen Fläche: gestreckt, beschnitten oder zu einer Ellipse beschnitten.</translation>
+    </message>
+    <message>
+        <source>No mask</source>
+        <translation>Keine Maske</translation>
+    </message>
+    <message>
+        <source>Rectangle, top left</source>
+        <translation>Rechteck, oben links</translation>
+    </message>
+    <message>
+        <source>Rectangle, bottom right</source>
+        <translation>Rechteck, unten rechts</translation>
+    </message>
+    <message>
+        <source>Ellipse</source>
+        <translation>Ellipse</translation>
+    </message>
+    <message>
+        <source>Ellipse upright</source>
+        <translation>Ellipse hochkant</translation>
+    </message>
+    <message>
+        <source>&amp;Screen</source>
+        <translation>&amp;Bildschirm</translation>
+    </message>
+    <message>
+        <source>&amp;Camera</source>
+        <translation>&amp;Kamera</translation>
+    </message>
+    <message>
+        <source>&amp;Microphone</source>
+        <translation>&amp;Mikrofon</translation>
+    </message>
+    <message>
+        <source>Recording %1</source>
+        <translation>Aufnahme %1</translation>
+    </message>
+    <message>
+        <source>What is on the screen, or a part of it.</source>
+        <translation>Was auf dem Bildschirm ist, oder ein Teil davon.</translation>
+    </message>
+    <message>
+        <source>A camera, in a corner of the picture.</source>
+        <translation>Eine Kamera in einer Ecke des Bildes.</translation>
+    </message>
+    <message>
+        <source>The sound of what is said.</source>
+        <translation>Der Ton dessen, was gesagt wird.</translation>
+    </message>
+    <message>
+        <source>A page that is wider than the others</source>
+        <translation>Eine Seite, die breiter ist als die anderen</translation>
+    </message>
+    <message>
+        <source>A page
+that is higher
+than the others
+and not wide</source>
+        <translation>Eine Seite,
+die höher ist
+als die anderen
+und nicht breit</translation>
+    </message>
+    <message>
+        <source>Next page</source>
+        <translation>Nächste Seite</translation>
+    </message>
+    <message>
+        <source>Tabs</source>
+        <translation>Registerkarten</translation>
+    </message>
+    <message>
+        <source>A tab bar whose style sheet says where text and icon of a tab are, and how they change with the selection.</source>
+        <translation>Eine Tableiste, deren Stylesheet festlegt, wo Text und Symbol eines Tabs stehen und wie die Auswahl sie ändert.</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>Icons</source>
+        <translation>Symbole</translation>
+    </message>
+    <message>
+        <source>One disabled</source>
+        <translation>Eine deaktiviert</translation>
+    </message>
+    <message>
+        <source>Scrolled</source>
+        <translation>Gescrollt</translation>
+    </message>
+    <message>
+        <source>Closable and movable</source>
+        <translation>Schließbar und verschiebbar</translation>
+    </message>
+    <message>
+        <source>A tab widget with that tab bar.</source>
+        <translation>Ein Tab-Widget mit dieser Tableiste.</translation>
+    </message>
+    <message>
+        <source>At the side</source>
+        <translation>An der Seite</translation>
+    </message>
+    <message>
+        <source>A stack of pages that is fixed to the size of the page it shows.</source>
+        <translation>Ein Seitenstapel, der fest die Größe der gezeigten Seite hat.</translation>
+    </message>
+    <message>
+        <source>Wide page</source>
+        <translation>Breite Seite</translation>
+    </message>
+    <message>
+        <source>High page</source>
+        <translation>Hohe Seite</translation>
+    </message>
+    <message>
+        <source>Pointer</source>
+        <translation>Zeiger</translation>
+    </message>
+    <message>
+        <source>Pen</source>
+        <translation>Stift</translation>
+    </message>
+    <message>
+        <source>Marker</source>
+        <translation>Textmarker</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Linie</translation>
+    </message>
+    <message>
+        <source>Arrow</source>
+        <translation>Pfeil</translation>
+    </message>
+    <message>
+        <source>Blur</source>
+        <translation>Weichzeichner</translation>
+    </message>
+    <message>
+        <source>Eraser</source>
+        <translation>Radierer</translation>
+    </message>
+    <message>
+        <source>Rectangle</source>
+        <translation>Rechteck</translation>
+    </message>
+    <message>
+        <source>Drawing tools</source>
+        <translation>Zeichenwerkzeuge</translation>
+    </message>
+    <message>
+        <source>Panels</source>
+        <translation>Bedienfelder</translation>
+    </message>
+    <message>
+        <source>A strip of tool buttons that scrolls sideways when they do not fit.</source>
+        <translation>Eine Leiste mit Werkzeugschaltflächen, die seitwärts scrollt, wenn diese nicht hineinpassen.</translation>
+    </message>
+    <message>
+        <source>All fit</source>
+        <translation>Alle passen</translation>
+    </message>
+    <message>
+        <source>Scrolls</source>
+        <translation>Scrollt</translation>
+    </message>
+    <message>
+        <source>Scrolled to the middle</source>
+        <translation>Zur Mitte gescrollt</translation>
+    </message>
+    <message>
+        <source>Few items</source>
+        <translation>Wenige Einträge</translation>
+    </message>
+    <message>
+        <source>Best</source>
+        <translation>Beste</translation>
+    </message>
+    <message>
+        <source>A slider for one of a few named values, with the names above its ticks.</source>
+        <translation>Ein Schieberegler für einen von wenigen benannten Werten mit den Namen über den Teilstrichen.</translation>
+    </message>
+    <message>
+        <source>Three values</source>
+        <translation>Drei Werte</translation>
+    </message>
+    <message>
+        <source>Five values</source>
+        <translation>Fünf Werte</translation>
+    </message>
+    <message>
+        <source>As the source</source>
+        <translation>Wie die Quelle</translation>
+    </message>
+    <message>
+        <source>As small as possible</source>
+        <translation>So klein wie möglich</translation>
+    </message>
+    <message>
+        <source>Balanced for most recordings</source>
+        <translation>Ausgewogen für die meisten Aufnahmen</translation>
+    </message>
+    <message>
+        <source>Without any loss</source>
+        <translation>Ohne jeden Verlust</translation>
+    </message>
+    <message>
+        <source>Little room</source>
+        <translation>Wenig Platz</translation>
+    </message>
+    <message>
+        <source>One value</source>
+        <translation>Ein Wert</translation>
+    </message>
+    <message>
+        <source>No value</source>
+        <translation>Kein Wert</translation>
+    </message>
+    <message>
+        <source>Recorder</source>
+        <translation>Rekorder</translation>
+    </message>
+    <message>
+        <source>Drag the window by its title bar or by this text.</source>
+        <translation>Ziehen Sie das Fenster an seiner Titelleiste oder an diesem Text.</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Hilfe</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>A title bar that the application draws itself, for a window without a frame.</source>
+        <translation>Eine Titelleiste, die die Anwendung selbst zeichnet, für ein Fenster ohne Rahmen.</translation>
+    </message>
+    <message>
+        <source>With tools</source>
+        <translation>Mit Werkzeugen</translation>
+    </message>
+    <message>
+        <source>Close only</source>
+        <translation>Nur Schließen</translation>
+    </message>
+    <message>
+        <source>Long title</source>
+        <translation>Langer Titel</translation>
+    </message>
+    <message>
+        <source>Recording of the weekly meeting, second part - Recorder</source>
+        <translation>Aufnahme der wöchentlichen Besprechung, zweiter Teil - Rekorder</translation>
+    </message>
+    <message>
+        <source>No icon</source>
+        <translation>Kein Symbol</translation>
+    </message>
+    <message>
+        <source>Show the dialog</source>
+        <translation>Dialog zeigen</translation>
+    </message>
+    <message>
+        <source>Copyright 2026 Example Company</source>
+        <translation>Copyright 2026 Beispielfirma</translation>
+    </message>
+    <message>
+        <source>The about dialog, whose links take their style from the style sheet.</source>
+        <translation>Der Infodialog, dessen Links ihren Stil aus dem Stylesheet erhalten.</translation>
+    </message>
+    <message>
+        <source>Link of its own</source>
+        <translation>Eigener Link</translation>
+    </message>
+    <message>
+        <source>Copyright 2026 Example Company. All rights reserved. Protected by law; made with the help of many.</source>
+        <translation>Copyright 2026 Beispielfirma. Alle Rechte vorbehalten. Gesetzlich geschützt; mit der Hilfe vieler entstanden.</translation>
+    </message>
+</context>
+<context>
+    <name>FirstHint</name>
+    <message>
+        <source>Start here</source>
+        <translation>Hier beginnen</translation>
+    </message>
+    <message>
+        <source>Choose what is shown: a camera, the screen or the test picture.</source>
+        <translation>Wählen Sie, was gezeigt wird: eine Kamera, der Bildschirm oder das Testbild.</translation>
+    </message>
+</context>
+<context>
+    <name>Zelkor::App::AboutBoxDialog</name>
+    <message>
+        <source>About %1</source>
+        <translation>Über %1</translation>
+    </message>
+    <message>
+        <source>Visit the home page</source>
+        <translation>Website besuchen</translation>
+    </message>
+    <message>
+        <source>Write to support</source>
+        <translation>An den Support schreiben</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>Zelkor::Gallery::AudioPanel</name>
+    <message>
+        <source>Test signal</source>
+        <translation>Testsignal</translation>
+    </message>
+    <message>
+        <source>Microphone</source>
+        <translation>Mikrofon</translation>
+    </message>
+    <message>
+        <source>System sound</source>
+        <translation>Systemton</translation>
+    </message>
+</context>
+<context>
+    <name>Zelkor::Gallery::CaptureBar</name>
+    <message>
+        <source>Full screen</source>
+        <translation>Ganzer Bildschirm</translation>
+    </message>
+    <message>
+        <source>Window</source>
+        <translation>Fenster</translation>
+    </message>
+    <message>
+        <source>Region</source>
+        <translation>Bereich</translation>
+    </message>
+    <message>
+        <source>Around pointer</source>
+        <translation>Um den Zeiger</translation>
+    </message>
+    <message>
+        <source>Sound only</source>
+        <translation>Nur Ton</translation>
+    </message>
+    <message>
+        <source>No click sound</source>
+        <translation>Kein Klickgeräusch</translation>
+    </message>
+    <message>
+        <source>Soft click</source>
+        <translation>Leises Klicken</translation>
+    </message>
+    <message>
+        <source>Mechanical keyboard</source>
+        <translation>Mechanische Tastatur</translation>
+    </message>
+    <message>
+        <source>Typewriter</source>
+        <translation>Schreibmaschine</translation>
+    </message>
+    <message>
+        <source>Recording mode: %1</source>
+        <translation>Aufnahmemodus: %1</translation>
+    </message>
+    <message>
+        <source>Chooses what is recorded</source>
+        <translation>Wählt, was aufgenommen wird</translation>
+    </message>
+    <message>
+        <source>Chooses the colour of drawings</source>
+        <translation>Wählt die Farbe von Zeichnungen</translation>
+    </message>
+    <message>
+        <source>Drawing colour</source>
+        <translation>Zeichenfarbe</translation>
+    </message>
+    <message>
+        <source>Chooses what is heard when you click</source>
+        <translation>Wählt, was beim Klicken zu hören ist</translation>
+    </message>
+    <message>
+        <source>Click sound</source>
+        <translation>Klickgeräusch</translation>
+    </message>
+</context>
+<context>
+    <name>Zelkor::Gallery::GalleryWindow</name>
+    <message>
+        <source>Widgets of Vx Recorder</source>
+        <translation>Widgets von Vx Recorder</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Seiten</translation>
+    </message>
+    <message>
+        <source>Recorder</source>
+        <translation>Rekorder</translation>
+    </message>
+</context>
+<context>
+    <name>Zelkor::Gallery::RecorderView</name>
+    <message>
+        <source>Record</source>
+        <translation>Aufnehmen</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>Beenden</translation>
+    </message>
+    <message>
+        <source>Starts to record after a countdown</source>
+        <translation>Beginnt die Aufnahme nach einem Countdown</translation>
+    </message>
+    <message>
+        <source>Ends the recording</source>
+        <translation>Beendet die Aufnahme</translation>
+    </message>
+    <message>
+        <source>Waiting for the picture</source>
+        <translation>Warten auf das Bild</translation>
+    </message>
+    <message>
+        <source>No picture</source>
+        <translation>Kein Bild</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Anhalten</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Starten</translation>
+    </message>
+    <message>
+        <source>%1 · %2 · %3 fps</source>
+        <translation>%1 · %2 · %3 fps</translation>
+    </message>
+    <message>
+        <source>Recording %1 · %2</source>
+        <translation>Aufnahme %1 · %2</translation>
+    </message>
+    <message>
+        <source>Stopped · %1</source>
+        <translation>Angehalten · %1</translation>
+    </message>
+    <message>
+        <source>No picture · %1</source>
+        <translation>Kein Bild · %1</translation>
+    </message>
+    <message>
+        <source>The camera could not be opened. Check that it is connected and that no other program uses it, then start again.</source>
+        <translation>Die Kamera konnte nicht geöffnet werden. Prüfen Sie, ob sie angeschlossen ist und von keinem anderen Programm verwendet wird, und starten Sie erneut.</translation>
+    </message>
+    <message>
+        <source>The source could not be opened. Choose another one, or start again.</source>
+        <translation>Die Quelle konnte nicht geöffnet werden. Wählen Sie eine andere, oder starten Sie erneut.</translation>
+    </message>
+    <message>
+        <source>Source</source>
+        <translation>Quelle</translation>
+    </message>
+    <message>
+        <source>Chooses what is shown</source>
+        <translation>Wählt, was gezeigt wird</translation>
+    </message>
+    <message>
+        <source>Audio</source>
+        <translation>Audio</translation>
+    </message>
+    <message>
+        <source>Sets how loud microphone and system are</source>
+        <translation>Stellt die Lautstärke von Mikrofon und System ein</translation>
+    </message>
+    <message>
+        <source>Settings of the device</source>
+        <translation>Einstellungen des Geräts</translation>
+    </message>
+    <message>
+        <source>Live picture</source>
+        <translation>Livebild</translation>
+    </message>
+</context>
+<context>
+    <name>Zelkor::Gallery::RecorderWindow</name>
+    <message>
+        <source>Version %1</source>
+        <translation>Version %1</translation>
+    </message>
+    <message>
+        <source>Shows the widgets of VxUiWidgets at work. Nothing is recorded.</source>
+        <translation>Zeigt die Widgets von VxUiWidgets im Einsatz. Es wird nichts aufgenommen.</translation>
+    </message>
+    <message>
+        <source>Vx Recorder</source>
+        <translation>Vx Recorder</translation>
+    </message>
+    <message>
+        <source>All widgets</source>
+        <translation>Alle Widgets</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Info</translation>
+    </message>
+</context>
+<context>
+    <name>Zelkor::Gallery::SettingsDialog</name>
+    <message numerus="yes">
+        <source>About %n megabyte(s) per minute</source>
+        <translation>
+            <numerusform>Etwa %n Megabyte pro Minute</numerusform>
+            <numerusform>Etwa %n Megabyte pro Minute</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>Subjects</source>
+        <translation>Themen</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>Allgemein</translation>
+    </message>
+    <message>
+        <source>Recording</source>
+        <translation>Aufnahme</translation>
+    </message>
+    <message>
+        <source>Pointer</source>
+        <translation>Mauszeiger</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Sprache</translation>
+    </message>
+    <message>
+        <source>Appearance</source>
+        <translation>Darstellung</translation>
+    </message>
+    <message>
+        <source>As given</source>
+        <translation>Wie vorgegeben</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Dunkel</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Hell</translation>
+    </message>
+    <message>
+        <source>Countdown</source>
+        <translation>Countdown</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Keiner</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n second(s)</source>
+        <translation>
+            <numerusform>%n Sekunde</numerusform>
+            <numerusform>%n Sekunden</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>Qualität</translation>
+    </message>
+    <message>
+        <source>Small</source>
+        <translation>Niedrig</translation>
+    </message>
+    <message>
+        <source>Medium</source>
+        <translation>Mittel</translation>
+    </message>
+    <message>
+        <source>High</source>
+        <translation>Hoch</translation>
+    </message>
+    <message>
+        <source>Lossless</source>
+        <translation>Verlustfrei</translation>
+    </message>
+    <message>
+        <source>Colour</source>
+        <translation>Farbe</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Größe</translation>
+    </message>
+    <message>
+        <source>The pointer&apos;s highlight</source>
+        <translation>Hervorhebung des Mauszeigers</translation>
+    </message>
+</context>
+<context>
+    <name>Zelkor::Gallery::SignalLog</name>
+    <message>
+        <source>Signals</source>
+        <translation>Signale</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Leeren</translation>
+    </message>
+    <message>
+        <source>Empties the list of signals</source>
+        <translation>Leert die Liste der Signale</translation>
+    </message>
+    <message>
+        <source>The signals of the widgets are listed here</source>
+        <translation>Hier werden die Signale der Widgets aufgelistet</translation>
+    </message>
+</context>
+<context>
+    <name>Zelkor::Gallery::SourcePanel</name>
+    <message>
+        <source>%1 (not connected)</source>
+        <translation>%1 (nicht angeschlossen)</translation>
+    </message>
+    <message>
+        <source>%1 frames per second</source>
+        <translation>%1 Bilder pro Sekunde</translation>
+    </message>
+    <message>
+        <source>Device</source>
+        <translation>Gerät</translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation>Modus</translation>
+    </message>
+    <message>
+        <source>Frame rate</source>
+        <translation>Bildrate</translation>
+    </message>
+</context>
+<context>
+    <name>Zelkor::Gallery::ToolStrip</name>
+    <message>
+        <source>Pointer</source>
+        <translation>Zeiger</translation>
+    </message>
+    <message>
+        <source>Pen</source>
+        <translation>Stift</translation>
+    </message>
+    <message>
+        <source>Marker</source>
+        <translation>Textmarker</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Linie</translation>
+    </message>
+    <message>
+        <source>Arrow</source>
+        <translation>Pfeil</translation>
+    </message>
+    <message>
+        <source>Rectangle</source>
+        <translation>Rechteck</translation>
+    </message>
+    <message>
+        <source>Ellipse</source>
+        <translation>Ellipse</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>Numbered step</source>
+        <translation>Nummerierter Schritt</translation>
+    </message>
+    <message>
+        <source>Spotlight</source>
+        <translation>Spotlight</translation>
+    </message>
+    <message>
+        <source>Blur</source>
+        <translation>Weichzeichner</translation>
+    </message>
+    <message>
+        <source>Magnifier</source>
+        <translation>Lupe</translation>
+    </message>
+    <message>
+        <source>Eraser</source>
+        <translation>Radierer</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,1248 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fr">
+<context>
+    <name>Catalogue</name>
+    <message>
+        <source>Disabled</source>
+        <translation>Désactivé</translation>
+    </message>
+    <message>
+        <source>High quality</source>
+        <translation>Haute qualité</translation>
+    </message>
+    <message>
+        <source>Balanced</source>
+        <translation>Équilibré</translation>
+    </message>
+    <message>
+        <source>Small file</source>
+        <translation>Petit fichier</translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>Qualité</translation>
+    </message>
+    <message>
+        <source>Record the pointer</source>
+        <translation>Enregistrer le pointeur</translation>
+    </message>
+    <message>
+        <source>Record clicks</source>
+        <translation>Enregistrer les clics</translation>
+    </message>
+    <message>
+        <source>Buttons</source>
+        <translation>Boutons</translation>
+    </message>
+    <message>
+        <source>Opens a floating panel of the application&apos;s widgets beside itself.</source>
+        <translation>Ouvre à côté de lui un panneau flottant avec des widgets de l’application.</translation>
+    </message>
+    <message>
+        <source>Typical</source>
+        <translation>Typique</translation>
+    </message>
+    <message>
+        <source>Icon and text</source>
+        <translation>Icône et texte</translation>
+    </message>
+    <message>
+        <source>Icon only</source>
+        <translation>Icône seule</translation>
+    </message>
+    <message>
+        <source>Long text</source>
+        <translation>Texte long</translation>
+    </message>
+    <message>
+        <source>Quality, pointer and clicks of this recording</source>
+        <translation>Qualité, pointeur et clics de cet enregistrement</translation>
+    </message>
+    <message>
+        <source>Checked</source>
+        <translation>Activé</translation>
+    </message>
+    <message>
+        <source>Opens upwards</source>
+        <translation>S’ouvre vers le haut</translation>
+    </message>
+    <message>
+        <source>Empty panel</source>
+        <translation>Panneau vide</translation>
+    </message>
+    <message>
+        <source>Nothing</source>
+        <translation>Rien</translation>
+    </message>
+    <message>
+        <source>Take %1</source>
+        <translation>Prise %1</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>Format</translation>
+    </message>
+    <message>
+        <source>Video</source>
+        <translation>Vidéo</translation>
+    </message>
+    <message>
+        <source>Animated picture</source>
+        <translation>Image animée</translation>
+    </message>
+    <message>
+        <source>Sound only</source>
+        <translation>Son seul</translation>
+    </message>
+    <message>
+        <source>Drawing colour</source>
+        <translation>Couleur de dessin</translation>
+    </message>
+    <message>
+        <source>Click sound</source>
+        <translation>Son du clic</translation>
+    </message>
+    <message>
+        <source>No sound</source>
+        <translation>Aucun son</translation>
+    </message>
+    <message>
+        <source>Soft click</source>
+        <translation>Clic discret</translation>
+    </message>
+    <message>
+        <source>Mechanical keyboard</source>
+        <translation>Clavier mécanique</translation>
+    </message>
+    <message>
+        <source>Typewriter</source>
+        <translation>Machine à écrire</translation>
+    </message>
+    <message>
+        <source>Mechanical keyboard of the office next door, recorded twice</source>
+        <translation>Clavier mécanique du bureau d’à côté, enregistré deux fois</translation>
+    </message>
+    <message>
+        <source>A tool button with a menu of choices, of which one is current.</source>
+        <translation>Un bouton d’outil avec un menu de choix, dont l’un est actif.</translation>
+    </message>
+    <message>
+        <source>Empty</source>
+        <translation>Vide</translation>
+    </message>
+    <message>
+        <source>Nothing to choose</source>
+        <translation>Rien à choisir</translation>
+    </message>
+    <message>
+        <source>Many items</source>
+        <translation>Nombreux éléments</translation>
+    </message>
+    <message>
+        <source>Long texts</source>
+        <translation>Textes longs</translation>
+    </message>
+    <message>
+        <source>Video for people who see it on a telephone</source>
+        <translation>Vidéo pour les personnes qui la regardent sur un téléphone</translation>
+    </message>
+    <message>
+        <source>Video for a lecture hall with a large screen</source>
+        <translation>Vidéo pour un amphithéâtre avec grand écran</translation>
+    </message>
+    <message>
+        <source>Nothing checked</source>
+        <translation>Rien de coché</translation>
+    </message>
+    <message>
+        <source>Shows a colour, and opens a dialog that chooses another one.</source>
+        <translation>Affiche une couleur et ouvre une boîte de dialogue pour en choisir une autre.</translation>
+    </message>
+    <message>
+        <source>Opaque</source>
+        <translation>Opaque</translation>
+    </message>
+    <message>
+        <source>Translucent, up to 60 %</source>
+        <translation>Translucide, jusqu’à 60&#xa0;%</translation>
+    </message>
+    <message>
+        <source>Square placed elsewhere</source>
+        <translation>Carré placé ailleurs</translation>
+    </message>
+    <message>
+        <source>Choices</source>
+        <translation>Choix</translation>
+    </message>
+    <message>
+        <source>A combo box that elides texts too long for it instead of growing with them.</source>
+        <translation>Une liste déroulante qui abrège les textes trop longs au lieu de s’élargir.</translation>
+    </message>
+    <message>
+        <source>With icons</source>
+        <translation>Avec icônes</translation>
+    </message>
+    <message>
+        <source>Editable</source>
+        <translation>Modifiable</translation>
+    </message>
+    <message>
+        <source>Narrow</source>
+        <translation>Étroit</translation>
+    </message>
+    <message>
+        <source>Right-to-left</source>
+        <translation>De droite à gauche</translation>
+    </message>
+    <message>
+        <source>A drawn portrait</source>
+        <translation>Un portrait dessiné</translation>
+    </message>
+    <message>
+        <source>Effects</source>
+        <translation>Effets</translation>
+    </message>
+    <message>
+        <source>Draws a soft rim inside the edges of a widget; here, of a picture.</source>
+        <translation>Dessine un liseré doux à l’intérieur des bords d’un widget&#xa0;; ici, d’une image.</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Sans effet</translation>
+    </message>
+    <message>
+        <source>Wide</source>
+        <translation>Large</translation>
+    </message>
+    <message>
+        <source>Strong</source>
+        <translation>Fort</translation>
+    </message>
+    <message>
+        <source>Coloured</source>
+        <translation>Coloré</translation>
+    </message>
+    <message>
+        <source>Indicators</source>
+        <translation>Indicateurs</translation>
+    </message>
+    <message>
+        <source>Shows a remaining time as three numbers with captions, in the units that suit it.</source>
+        <translation>Affiche un temps restant sous la forme de trois nombres légendés, dans les unités adaptées.</translation>
+    </message>
+    <message>
+        <source>Fresh</source>
+        <translation>État initial</translation>
+    </message>
+    <message>
+        <source>Short</source>
+        <translation>Court</translation>
+    </message>
+    <message>
+        <source>Hours</source>
+        <translation>Heures</translation>
+    </message>
+    <message>
+        <source>Days</source>
+        <translation>Jours</translation>
+    </message>
+    <message>
+        <source>Months</source>
+        <translation>Mois</translation>
+    </message>
+    <message>
+        <source>Years</source>
+        <translation>Années</translation>
+    </message>
+    <message>
+        <source>Shows how the highlight around the mouse cursor will look.</source>
+        <translation>Montre l’aspect de la mise en évidence autour du curseur de la souris.</translation>
+    </message>
+    <message>
+        <source>Translucent colour</source>
+        <translation>Couleur translucide</translation>
+    </message>
+    <message>
+        <source>Larger than the preview</source>
+        <translation>Plus grand que l’aperçu</translation>
+    </message>
+    <message>
+        <source>Thick border</source>
+        <translation>Bordure épaisse</translation>
+    </message>
+    <message>
+        <source>No border</source>
+        <translation>Sans bordure</translation>
+    </message>
+    <message>
+        <source>Button %1</source>
+        <translation>Bouton %1</translation>
+    </message>
+    <message>
+        <source>Built-in camera</source>
+        <translation>Caméra intégrée</translation>
+    </message>
+    <message>
+        <source>A small page</source>
+        <translation>Une petite page</translation>
+    </message>
+    <message>
+        <source>A page that takes
+the room of its text
+and no more</source>
+        <translation>Une page qui prend
+la place de son texte
+et pas plus</translation>
+    </message>
+    <message>
+        <source>Other page</source>
+        <translation>Autre page</translation>
+    </message>
+    <message>
+        <source>Kit</source>
+        <translation>Kit</translation>
+    </message>
+    <message>
+        <source>A frame whose layout can be spaced by a style sheet.</source>
+        <translation>Un cadre dont une feuille de style peut régler les espacements.</translation>
+    </message>
+    <message>
+        <source>Spaced by style sheet</source>
+        <translation>Espacé par feuille de style</translation>
+    </message>
+    <message>
+        <source>Spaced by properties</source>
+        <translation>Espacé par propriétés</translation>
+    </message>
+    <message>
+        <source>A camera with a name that is far too long for this place</source>
+        <translation>Une caméra dont le nom est bien trop long pour cet emplacement</translation>
+    </message>
+    <message>
+        <source>A label for one text that may be too long: it is elided, and shown whole as the tool tip.</source>
+        <translation>Une étiquette pour un texte qui peut être trop long&#xa0;: il est abrégé, et affiché en entier dans l’info-bulle.</translation>
+    </message>
+    <message>
+        <source>Fits</source>
+        <translation>Tient dans la place</translation>
+    </message>
+    <message>
+        <source>Elided</source>
+        <translation>Abrégé</translation>
+    </message>
+    <message>
+        <source>Right-to-left text</source>
+        <translation>Texte de droite à gauche</translation>
+    </message>
+    <message>
+        <source>Cut, not elided</source>
+        <translation>Coupé, non abrégé</translation>
+    </message>
+    <message>
+        <source>Not clickable</source>
+        <translation>Non cliquable</translation>
+    </message>
+    <message>
+        <source>A stack of pages that takes the size of the page it shows instead of the largest one.</source>
+        <translation>Une pile de pages qui prend la taille de la page affichée au lieu de celle de la plus grande.</translation>
+    </message>
+    <message>
+        <source>Small page</source>
+        <translation>Petite page</translation>
+    </message>
+    <message>
+        <source>Large page</source>
+        <translation>Grande page</translation>
+    </message>
+    <message>
+        <source>Without fitting</source>
+        <translation>Sans ajustement</translation>
+    </message>
+    <message>
+        <source>Take a picture</source>
+        <translation>Capturer une image</translation>
+    </message>
+    <message>
+        <source>Starts a recording with these settings</source>
+        <translation>Démarre un enregistrement avec ces paramètres</translation>
+    </message>
+    <message>
+        <source>A push button with an icon, a text and a hot key, each with a look of its own.</source>
+        <translation>Un bouton avec une icône, un texte et un raccourci, chacun avec sa propre apparence.</translation>
+    </message>
+    <message>
+        <source>Horizontal</source>
+        <translation>Horizontal</translation>
+    </message>
+    <message>
+        <source>Vertical</source>
+        <translation>Vertical</translation>
+    </message>
+    <message>
+        <source>Take a picture of everything on the screen</source>
+        <translation>Capturer une image de tout ce qui est à l’écran</translation>
+    </message>
+    <message>
+        <source>No hot key</source>
+        <translation>Sans raccourci</translation>
+    </message>
+    <message>
+        <source>Region around 
+the pointer</source>
+        <translation>Zone autour 
+du pointeur</translation>
+    </message>
+    <message>
+        <source>Full screen</source>
+        <translation>Plein écran</translation>
+    </message>
+    <message>
+        <source>Shows an action with its shortcut, and triggers it.</source>
+        <translation>Affiche une action avec son raccourci et la déclenche.</translation>
+    </message>
+    <message>
+        <source>Preset type &quot;User&quot;</source>
+        <translation>Préréglage de type «&#xa0;User&#xa0;»</translation>
+    </message>
+    <message>
+        <source>My lecture</source>
+        <translation>Mon cours</translation>
+    </message>
+    <message>
+        <source>Line feed, no word wrap</source>
+        <translation>Saut de ligne, sans retour automatique</translation>
+    </message>
+    <message>
+        <source>Line feed, word wrap by style</source>
+        <translation>Saut de ligne, retour automatique par le style</translation>
+    </message>
+    <message>
+        <source>No shortcut</source>
+        <translation>Sans raccourci</translation>
+    </message>
+    <message>
+        <source>Window</source>
+        <translation>Fenêtre</translation>
+    </message>
+    <message>
+        <source>No picture</source>
+        <translation>Pas d’image</translation>
+    </message>
+    <message>
+        <source>Media</source>
+        <translation>Médias</translation>
+    </message>
+    <message>
+        <source>Shows live video frames in an area of fixed size.</source>
+        <translation>Affiche des images vidéo en direct dans une zone de taille fixe.</translation>
+    </message>
+    <message>
+        <source>Default image</source>
+        <translation>Image par défaut</translation>
+    </message>
+    <message>
+        <source>Large frame</source>
+        <translation>Grande image</translation>
+    </message>
+    <message>
+        <source>Upright frame</source>
+        <translation>Image verticale</translation>
+    </message>
+    <message>
+        <source>Small frame</source>
+        <translation>Petite image</translation>
+    </message>
+    <message>
+        <source>Runs the live picture of a capture device in a preview; here, of the moving test picture.</source>
+        <translation>Affiche en direct l’image d’un périphérique de capture dans un aperçu&#xa0;; ici, celle de la mire animée.</translation>
+    </message>
+    <message>
+        <source>Stopped</source>
+        <translation>Arrêté</translation>
+    </message>
+    <message>
+        <source>Live</source>
+        <translation>En direct</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>Volume</translation>
+    </message>
+    <message>
+        <source>A slider for a recording volume, with a meter of the input level behind its handle.</source>
+        <translation>Un curseur pour le volume d’enregistrement, avec un indicateur du niveau d’entrée derrière sa poignée.</translation>
+    </message>
+    <message>
+        <source>Silence</source>
+        <translation>Silence</translation>
+    </message>
+    <message>
+        <source>Middle</source>
+        <translation>Moyen</translation>
+    </message>
+    <message>
+        <source>Full</source>
+        <translation>Plein</translation>
+    </message>
+    <message>
+        <source>Volume lower than level</source>
+        <translation>Volume inférieur au niveau</translation>
+    </message>
+    <message>
+        <source>Rounded</source>
+        <translation>Arrondi</translation>
+    </message>
+    <message>
+        <source>Show the hint</source>
+        <translation>Afficher l’indication</translation>
+    </message>
+    <message>
+        <source>Choose a source first</source>
+        <translation>Choisissez d’abord une source</translation>
+    </message>
+    <message>
+        <source>A camera, the screen
+or the test picture</source>
+        <translation>Une caméra, l’écran
+ou la mire</translation>
+    </message>
+    <message>
+        <source>A camera, the screen or the test picture</source>
+        <translation>Une caméra, l’écran ou la mire</translation>
+    </message>
+    <message>
+        <source>Windows</source>
+        <translation>Fenêtres</translation>
+    </message>
+    <message>
+        <source>A hint in a window of its own, in the shape of an image, that goes by itself.</source>
+        <translation>Une indication dans sa propre fenêtre, de la forme d’une image, qui disparaît d’elle-même.</translation>
+    </message>
+    <message>
+        <source>Title and text</source>
+        <translation>Titre et texte</translation>
+    </message>
+    <message>
+        <source>Text only</source>
+        <translation>Texte seul</translation>
+    </message>
+    <message>
+        <source>The recording goes on</source>
+        <translation>L’enregistrement continue</translation>
+    </message>
+    <message>
+        <source>Speech bubble</source>
+        <translation>Bulle</translation>
+    </message>
+    <message>
+        <source>Shows one picture over its whole area: stretched, cut, or cut to an ellipse.</source>
+        <translation>Affiche une image sur toute sa surface&#xa0;: étirée, rognée ou rognée en ellipse.</translation>
+    </message>
+    <message>
+        <source>No mask</source>
+        <translation>Sans masque</translation>
+    </message>
+    <message>
+        <source>Rectangle, top left</source>
+        <translation>Rectangle, en haut à gauche</translation>
+    </message>
+    <message>
+        <source>Rectangle, bottom right</source>
+        <translation>Rectangle, en bas à droite</translation>
+    </message>
+    <message>
+        <source>Ellipse</source>
+        <translation>Ellipse</translation>
+    </message>
+    <message>
+        <source>Ellipse upright</source>
+        <translation>Ellipse verticale</translation>
+    </message>
+    <message>
+        <source>&amp;Screen</source>
+        <translation>É&amp;cran</translation>
+    </message>
+    <message>
+        <source>&amp;Camera</source>
+        <translation>C&amp;améra</translation>
+    </message>
+    <message>
+        <source>&amp;Microphone</source>
+        <translation>&amp;Microphone</translation>
+    </message>
+    <message>
+        <source>Recording %1</source>
+        <translation>Enregistrement %1</translation>
+    </message>
+    <message>
+        <source>What is on the screen, or a part of it.</source>
+        <translation>Ce qui est à l’écran, ou une partie.</translation>
+    </message>
+    <message>
+        <source>A camera, in a corner of the picture.</source>
+        <translation>Une caméra, dans un coin de l’image.</translation>
+    </message>
+    <message>
+        <source>The sound of what is said.</source>
+        <translation>Le son de ce qui est dit.</translation>
+    </message>
+    <message>
+        <source>A page that is wider than the others</source>
+        <translation>Une page plus large que les autres</translation>
+    </message>
+    <message>
+        <source>A page
+that is higher
+than the others
+and not wide</source>
+        <translation>Une page
+plus haute
+que les autres
+et peu large</translation>
+    </message>
+    <message>
+        <source>Next page</source>
+        <translation>Page suivante</translation>
+    </message>
+    <message>
+        <source>Tabs</source>
+        <translation>Onglets</translation>
+    </message>
+    <message>
+        <source>A tab bar whose style sheet says where text and icon of a tab are, and how they change with the selection.</source>
+        <translation>Une barre d’onglets dont la feuille de style indique où se trouvent le texte et l’icône d’un onglet, et comment la sélection les modifie.</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Texte</translation>
+    </message>
+    <message>
+        <source>Icons</source>
+        <translation>Icônes</translation>
+    </message>
+    <message>
+        <source>One disabled</source>
+        <translation>Un onglet désactivé</translation>
+    </message>
+    <message>
+        <source>Scrolled</source>
+        <translation>Défilé</translation>
+    </message>
+    <message>
+        <source>Closable and movable</source>
+        <translation>Fermables et déplaçables</translation>
+    </message>
+    <message>
+        <source>A tab widget with that tab bar.</source>
+        <translation>Un widget à onglets avec cette barre d’onglets.</translation>
+    </message>
+    <message>
+        <source>At the side</source>
+        <translation>Sur le côté</translation>
+    </message>
+    <message>
+        <source>A stack of pages that is fixed to the size of the page it shows.</source>
+        <translation>Une pile de pages fixée à la taille de la page affichée.</translation>
+    </message>
+    <message>
+        <source>Wide page</source>
+        <translation>Page large</translation>
+    </message>
+    <message>
+        <source>High page</source>
+        <translation>Page haute</translation>
+    </message>
+    <message>
+        <source>Pointer</source>
+        <translation>Pointeur</translation>
+    </message>
+    <message>
+        <source>Pen</source>
+        <translation>Stylo</translation>
+    </message>
+    <message>
+        <source>Marker</source>
+        <translation>Surligneur</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Ligne</translation>
+    </message>
+    <message>
+        <source>Arrow</source>
+        <translation>Flèche</translation>
+    </message>
+    <message>
+        <source>Blur</source>
+        <translation>Flou</translation>
+    </message>
+    <message>
+        <source>Eraser</source>
+        <translation>Gomme</translation>
+    </message>
+    <message>
+        <source>Rectangle</source>
+        <translation>Rectangle</translation>
+    </message>
+    <message>
+        <source>Drawing tools</source>
+        <translation>Outils de dessin</translation>
+    </message>
+    <message>
+        <source>Panels</source>
+        <translation>Panneaux</translation>
+    </message>
+    <message>
+        <source>A strip of tool buttons that scrolls sideways when they do not fit.</source>
+        <translation>Une barre de boutons d’outils qui défile latéralement lorsqu’ils ne tiennent pas tous.</translation>
+    </message>
+    <message>
+        <source>All fit</source>
+        <translation>Tous visibles</translation>
+    </message>
+    <message>
+        <source>Scrolls</source>
+        <translation>Défile</translation>
+    </message>
+    <message>
+        <source>Scrolled to the middle</source>
+        <translation>Défilé jusqu’au milieu</translation>
+    </message>
+    <message>
+        <source>Few items</source>
+        <translation>Peu d’éléments</translation>
+    </message>
+    <message>
+        <source>Best</source>
+        <translation>Optimal</translation>
+    </message>
+    <message>
+        <source>A slider for one of a few named values, with the names above its ticks.</source>
+        <translation>Un curseur pour choisir parmi quelques valeurs nommées, avec les noms au-dessus des graduations.</translation>
+    </message>
+    <message>
+        <source>Three values</source>
+        <translation>Trois valeurs</translation>
+    </message>
+    <message>
+        <source>Five values</source>
+        <translation>Cinq valeurs</translation>
+    </message>
+    <message>
+        <source>As the source</source>
+        <translation>Comme la source</translation>
+    </message>
+    <message>
+        <source>As small as possible</source>
+        <translation>Aussi petit que possible</translation>
+    </message>
+    <message>
+        <source>Balanced for most recordings</source>
+        <translation>Équilibré pour la plupart des enregistrements</translation>
+    </message>
+    <message>
+        <source>Without any loss</source>
+        <translation>Sans aucune perte</translation>
+    </message>
+    <message>
+        <source>Little room</source>
+        <translation>Peu de place</translation>
+    </message>
+    <message>
+        <source>One value</source>
+        <translation>Une valeur</translation>
+    </message>
+    <message>
+        <source>No value</source>
+        <translation>Aucune valeur</translation>
+    </message>
+    <message>
+        <source>Recorder</source>
+        <translation>Enregistreur</translation>
+    </message>
+    <message>
+        <source>Drag the window by its title bar or by this text.</source>
+        <translation>Faites glisser la fenêtre par sa barre de titre ou par ce texte.</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Aide</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Paramètres</translation>
+    </message>
+    <message>
+        <source>A title bar that the application draws itself, for a window without a frame.</source>
+        <translation>Une barre de titre dessinée par l’application elle-même, pour une fenêtre sans cadre.</translation>
+    </message>
+    <message>
+        <source>With tools</source>
+        <translation>Avec outils</translation>
+    </message>
+    <message>
+        <source>Close only</source>
+        <translation>Fermeture seule</translation>
+    </message>
+    <message>
+        <source>Long title</source>
+        <translation>Titre long</translation>
+    </message>
+    <message>
+        <source>Recording of the weekly meeting, second part - Recorder</source>
+        <translation>Enregistrement de la réunion hebdomadaire, deuxième partie - Enregistreur</translation>
+    </message>
+    <message>
+        <source>No icon</source>
+        <translation>Sans icône</translation>
+    </message>
+    <message>
+        <source>Show the dialog</source>
+        <translation>Afficher la boîte de dialogue</translation>
+    </message>
+    <message>
+        <source>Copyright 2026 Example Company</source>
+        <translation>Copyright 2026 Société Exemple</translation>
+    </message>
+    <message>
+        <source>The about dialog, whose links take their style from the style sheet.</source>
+        <translation>La boîte de dialogue «&#xa0;À propos&#xa0;», dont les liens tirent leur style de la feuille de style.</translation>
+    </message>
+    <message>
+        <source>Link of its own</source>
+        <translation>Lien propre</translation>
+    </message>
+    <message>
+        <source>Copyright 2026 Example Company. All rights reserved. Protected by law; made with the help of many.</source>
+        <translation>Copyright 2026 Société Exemple. Tous droits réservés. Protégé par la loi&#xa0;; réalisé avec l’aide de nombreuses personnes.</translation>
+    </message>
+</context>
+<context>
+    <name>FirstHint</name>
+    <message>
+        <source>Start here</source>
+        <translation>Commencez ici</translation>
+    </message>
+    <message>
+        <source>Choose what is shown: a camera, the screen or the test picture.</source>
+        <translation>Choisissez ce qui est affiché&#xa0;: une caméra, l’écran ou la mire.</translation>
+    </message>
+</context>
+<context>
+    <name>Zelkor::App::AboutBoxDialog</name>
+    <message>
+        <source>About %1</source>
+        <translation>À propos de %1</translation>
+    </message>
+    <message>
+        <source>Visit the home page</source>
+        <translation>Visiter le site web</translation>
+    </message>
+    <message>
+        <source>Write to support</source>
+        <translation>Écrire au support</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>Zelkor::Gallery::AudioPanel</name>
+    <message>
+        <source>Test signal</source>
+        <translation>Signal de test</translation>
+    </message>
+    <message>
+        <source>Microphone</source>
+        <translation>Microphone</translation>
+    </message>
+    <message>
+        <source>System sound</source>
+        <translation>Son du système</translation>
+    </message>
+</context>
+<context>
+    <name>Zelkor::Gallery::CaptureBar</name>
+    <message>
+        <source>Full screen</source>
+        <translation>Plein écran</translation>
+    </message>
+    <message>
+        <source>Window</source>
+        <translation>Fenêtre</translation>
+    </message>
+    <message>
+        <source>Region</source>
+        <translation>Zone</translation>
+    </message>
+    <message>
+        <source>Around pointer</source>
+        <translation>Autour du pointeur</translation>
+    </message>
+    <message>
+        <source>Sound only</source>
+        <translation>Son seul</translation>
+    </message>
+    <message>
+        <source>No click sound</source>
+        <translation>Aucun son de clic</translation>
+    </message>
+    <message>
+        <source>Soft click</source>
+        <translation>Clic discret</translation>
+    </message>
+    <message>
+        <source>Mechanical keyboard</source>
+        <translation>Clavier mécanique</translation>
+    </message>
+    <message>
+        <source>Typewriter</source>
+        <translation>Machine à écrire</translation>
+    </message>
+    <message>
+        <source>Recording mode: %1</source>
+        <translation>Mode d’enregistrement&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Chooses what is recorded</source>
+        <translation>Choisit ce qui est enregistré</translation>
+    </message>
+    <message>
+        <source>Chooses the colour of drawings</source>
+        <translation>Choisit la couleur des dessins</translation>
+    </message>
+    <message>
+        <source>Drawing colour</source>
+        <translation>Couleur de dessin</translation>
+    </message>
+    <message>
+        <source>Chooses what is heard when you click</source>
+        <translation>Choisit le son émis lors d’un clic</translation>
+    </message>
+    <message>
+        <source>Click sound</source>
+        <translation>Son du clic</translation>
+    </message>
+</context>
+<context>
+    <name>Zelkor::Gallery::GalleryWindow</name>
+    <message>
+        <source>Widgets of Vx Recorder</source>
+        <translation>Widgets de Vx Recorder</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Pages</translation>
+    </message>
+    <message>
+        <source>Recorder</source>
+        <translation>Enregistreur</translation>
+    </message>
+</context>
+<context>
+    <name>Zelkor::Gallery::RecorderView</name>
+    <message>
+        <source>Record</source>
+        <translation>Enregistrer</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>Terminer</translation>
+    </message>
+    <message>
+        <source>Starts to record after a countdown</source>
+        <translation>Démarre l’enregistrement après un compte à rebours</translation>
+    </message>
+    <message>
+        <source>Ends the recording</source>
+        <translation>Termine l’enregistrement</translation>
+    </message>
+    <message>
+        <source>Waiting for the picture</source>
+        <translation>En attente de l’image</translation>
+    </message>
+    <message>
+        <source>No picture</source>
+        <translation>Pas d’image</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Arrêter</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Démarrer</translation>
+    </message>
+    <message>
+        <source>%1 · %2 · %3 fps</source>
+        <translation>%1 · %2 · %3 i/s</translation>
+    </message>
+    <message>
+        <source>Recording %1 · %2</source>
+        <translation>Enregistrement %1 · %2</translation>
+    </message>
+    <message>
+        <source>Stopped · %1</source>
+        <translation>Arrêté · %1</translation>
+    </message>
+    <message>
+        <source>No picture · %1</source>
+        <translation>Pas d’image · %1</translation>
+    </message>
+    <message>
+        <source>The camera could not be opened. Check that it is connected and that no other program uses it, then start again.</source>
+        <translation>Impossible d’ouvrir la caméra. Vérifiez qu’elle est connectée et qu’aucun autre programme ne l’utilise, puis redémarrez.</translation>
+    </message>
+    <message>
+        <source>The source could not be opened. Choose another one, or start again.</source>
+        <translation>Impossible d’ouvrir la source. Choisissez-en une autre ou redémarrez.</translation>
+    </message>
+    <message>
+        <source>Source</source>
+        <translation>Source</translation>
+    </message>
+    <message>
+        <source>Chooses what is shown</source>
+        <translation>Choisit ce qui est affiché</translation>
+    </message>
+    <message>
+        <source>Audio</source>
+        <translation>Audio</translation>
+    </message>
+    <message>
+        <source>Sets how loud microphone and system are</source>
+        <translation>Règle le volume du microphone et du système</translation>
+    </message>
+    <message>
+        <source>Settings of the device</source>
+        <translation>Paramètres du périphérique</translation>
+    </message>
+    <message>
+        <source>Live picture</source>
+        <translation>Image en direct</translation>
+    </message>
+</context>
+<context>
+    <name>Zelkor::Gallery::RecorderWindow</name>
+    <message>
+        <source>Version %1</source>
+        <translation>Version %1</translation>
+    </message>
+    <message>
+        <source>Shows the widgets of VxUiWidgets at work. Nothing is recorded.</source>
+        <translation>Montre les widgets de VxUiWidgets à l’œuvre. Rien n’est enregistré.</translation>
+    </message>
+    <message>
+        <source>Vx Recorder</source>
+        <translation>Vx Recorder</translation>
+    </message>
+    <message>
+        <source>All widgets</source>
+        <translation>Tous les widgets</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Paramètres</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>À propos</translation>
+    </message>
+</context>
+<context>
+    <name>Zelkor::Gallery::SettingsDialog</name>
+    <message numerus="yes">
+        <source>About %n megabyte(s) per minute</source>
+        <translation>
+            <numerusform>Environ %n mégaoctet par minute</numerusform>
+            <numerusform>Environ %n mégaoctets par minute</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Paramètres</translation>
+    </message>
+    <message>
+        <source>Subjects</source>
+        <translation>Rubriques</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>Général</translation>
+    </message>
+    <message>
+        <source>Recording</source>
+        <translation>Enregistrement</translation>
+    </message>
+    <message>
+        <source>Pointer</source>
+        <translation>Pointeur</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Langue</translation>
+    </message>
+    <message>
+        <source>Appearance</source>
+        <translation>Apparence</translation>
+    </message>
+    <message>
+        <source>As given</source>
+        <translation>Selon le fichier indiqué</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Sombre</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Clair</translation>
+    </message>
+    <message>
+        <source>Countdown</source>
+        <translation>Compte à rebours</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Aucun</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n second(s)</source>
+        <translation>
+            <numerusform>%n seconde</numerusform>
+            <numerusform>%n secondes</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>Qualité</translation>
+    </message>
+    <message>
+        <source>Small</source>
+        <translation>Faible</translation>
+    </message>
+    <message>
+        <source>Medium</source>
+        <translation>Moyenne</translation>
+    </message>
+    <message>
+        <source>High</source>
+        <translation>Élevée</translation>
+    </message>
+    <message>
+        <source>Lossless</source>
+        <translation>Sans perte</translation>
+    </message>
+    <message>
+        <source>Colour</source>
+        <translation>Couleur</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Taille</translation>
+    </message>
+    <message>
+        <source>The pointer&apos;s highlight</source>
+        <translation>Mise en évidence du pointeur</translation>
+    </message>
+</context>
+<context>
+    <name>Zelkor::Gallery::SignalLog</name>
+    <message>
+        <source>Signals</source>
+        <translation>Signaux</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Effacer</translation>
+    </message>
+    <message>
+        <source>Empties the list of signals</source>
+        <translation>Vide la liste des signaux</translation>
+    </message>
+    <message>
+        <source>The signals of the widgets are listed here</source>
+        <translation>Les signaux des widgets s’affichent ici</translation>
+    </message>
+</context>
+<context>
+    <name>Zelkor::Gallery::SourcePanel</name>
+    <message>
+        <source>%1 (not connected)</source>
+        <translation>%1 (non connecté)</translation>
+    </message>
+    <message>
+        <source>%1 frames per second</source>
+        <translation>%1 images par seconde</translation>
+    </message>
+    <message>
+        <source>Device</source>
+        <translation>Périphérique</translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation>Mode</translation>
+    </message>
+    <message>
+        <source>Frame rate</source>
+        <translation>Fréquence d’images</translation>
+    </message>
+</context>
+<context>
+    <name>Zelkor::Gallery::ToolStrip</name>
+    <message>
+        <source>Pointer</source>
+        <translation>Pointeur</translation>
+    </message>
+    <message>
+        <source>Pen</source>
+        <translation>Stylo</translation>
+    </message>
+    <message>
+        <source>Marker</source>
+        <translation>Surligneur</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Ligne</translation>
+    </message>
+    <message>
+        <source>Arrow</source>
+        <translation>Flèche</translation>
+    </message>
+    <message>
+        <source>Rectangle</source>
+        <translation>Rectangle</translation>
+    </message>
+    <message>
+        <source>Ellipse</source>
+        <translation>Ellipse</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Texte</translation>
+    </message>
+    <message>
+        <source>Numbered step</source>
+        <translation>Étape numérotée</translation>
+    </message>
+    <message>
+        <source>Spotlight</source>
+        <translation>Projecteur</translation>
+    </message>
+    <message>
+        <source>Blur</source>
+        <translation>Flou</translation>
+    </message>
+    <message>
+        <source>Magnifier</source>
+        <translation>Loupe</translation>
+    </message>
+    <message>
+        <source>Eraser</source>
+        <translation>Gomme</translation>
+    </message>
+</context>
+</TS>

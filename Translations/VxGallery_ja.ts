@@ -1,0 +1,1246 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ja">
+<context>
+    <name>Catalogue</name>
+    <message>
+        <source>Disabled</source>
+        <translation>無効</translation>
+    </message>
+    <message>
+        <source>High quality</source>
+        <translation>高画質</translation>
+    </message>
+    <message>
+        <source>Balanced</source>
+        <translation>バランス</translation>
+    </message>
+    <message>
+        <source>Small file</source>
+        <translation>小さいファイル</translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>画質</translation>
+    </message>
+    <message>
+        <source>Record the pointer</source>
+        <translation>ポインターを録画</translation>
+    </message>
+    <message>
+        <source>Record clicks</source>
+        <translation>クリックを録画</translation>
+    </message>
+    <message>
+        <source>Buttons</source>
+        <translation>ボタン</translation>
+    </message>
+    <message>
+        <source>Opens a floating panel of the application&apos;s widgets beside itself.</source>
+        <translation>アプリケーションのウィジェットを載せたフローティングパネルを隣に開きます。</translation>
+    </message>
+    <message>
+        <source>Typical</source>
+        <translation>標準</translation>
+    </message>
+    <message>
+        <source>Icon and text</source>
+        <translation>アイコンとテキスト</translation>
+    </message>
+    <message>
+        <source>Icon only</source>
+        <translation>アイコンのみ</translation>
+    </message>
+    <message>
+        <source>Long text</source>
+        <translation>長いテキスト</translation>
+    </message>
+    <message>
+        <source>Quality, pointer and clicks of this recording</source>
+        <translation>この録画の画質、ポインター、クリック</translation>
+    </message>
+    <message>
+        <source>Checked</source>
+        <translation>オン</translation>
+    </message>
+    <message>
+        <source>Opens upwards</source>
+        <translation>上に開く</translation>
+    </message>
+    <message>
+        <source>Empty panel</source>
+        <translation>空のパネル</translation>
+    </message>
+    <message>
+        <source>Nothing</source>
+        <translation>なし</translation>
+    </message>
+    <message>
+        <source>Take %1</source>
+        <translation>テイク %1</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>形式</translation>
+    </message>
+    <message>
+        <source>Video</source>
+        <translation>動画</translation>
+    </message>
+    <message>
+        <source>Animated picture</source>
+        <translation>アニメーション画像</translation>
+    </message>
+    <message>
+        <source>Sound only</source>
+        <translation>音声のみ</translation>
+    </message>
+    <message>
+        <source>Drawing colour</source>
+        <translation>描画の色</translation>
+    </message>
+    <message>
+        <source>Click sound</source>
+        <translation>クリック音</translation>
+    </message>
+    <message>
+        <source>No sound</source>
+        <translation>音なし</translation>
+    </message>
+    <message>
+        <source>Soft click</source>
+        <translation>柔らかいクリック</translation>
+    </message>
+    <message>
+        <source>Mechanical keyboard</source>
+        <translation>メカニカルキーボード</translation>
+    </message>
+    <message>
+        <source>Typewriter</source>
+        <translation>タイプライター</translation>
+    </message>
+    <message>
+        <source>Mechanical keyboard of the office next door, recorded twice</source>
+        <translation>隣のオフィスで 2 回録音したメカニカルキーボード</translation>
+    </message>
+    <message>
+        <source>A tool button with a menu of choices, of which one is current.</source>
+        <translation>選択肢のメニューを持ち、そのうち 1 つが現在の項目となるツールボタンです。</translation>
+    </message>
+    <message>
+        <source>Empty</source>
+        <translation>空</translation>
+    </message>
+    <message>
+        <source>Nothing to choose</source>
+        <translation>選択肢なし</translation>
+    </message>
+    <message>
+        <source>Many items</source>
+        <translation>多数の項目</translation>
+    </message>
+    <message>
+        <source>Long texts</source>
+        <translation>長いテキスト</translation>
+    </message>
+    <message>
+        <source>Video for people who see it on a telephone</source>
+        <translation>電話で見る人のための動画</translation>
+    </message>
+    <message>
+        <source>Video for a lecture hall with a large screen</source>
+        <translation>大画面のある講義室のための動画</translation>
+    </message>
+    <message>
+        <source>Nothing checked</source>
+        <translation>何も選択されていない</translation>
+    </message>
+    <message>
+        <source>Shows a colour, and opens a dialog that chooses another one.</source>
+        <translation>色を表示し、別の色を選択するダイアログを開きます。</translation>
+    </message>
+    <message>
+        <source>Opaque</source>
+        <translation>不透明</translation>
+    </message>
+    <message>
+        <source>Translucent, up to 60 %</source>
+        <translation>半透明、60% まで</translation>
+    </message>
+    <message>
+        <source>Square placed elsewhere</source>
+        <translation>四角形を別の位置に配置</translation>
+    </message>
+    <message>
+        <source>Choices</source>
+        <translation>選択</translation>
+    </message>
+    <message>
+        <source>A combo box that elides texts too long for it instead of growing with them.</source>
+        <translation>長すぎるテキストに合わせて広がらず、省略表示するコンボボックスです。</translation>
+    </message>
+    <message>
+        <source>With icons</source>
+        <translation>アイコン付き</translation>
+    </message>
+    <message>
+        <source>Editable</source>
+        <translation>編集可能</translation>
+    </message>
+    <message>
+        <source>Narrow</source>
+        <translation>幅が狭い</translation>
+    </message>
+    <message>
+        <source>Right-to-left</source>
+        <translation>右から左</translation>
+    </message>
+    <message>
+        <source>A drawn portrait</source>
+        <translation>人物のイラスト</translation>
+    </message>
+    <message>
+        <source>Effects</source>
+        <translation>効果</translation>
+    </message>
+    <message>
+        <source>Draws a soft rim inside the edges of a widget; here, of a picture.</source>
+        <translation>ウィジェット (ここでは画像) の縁の内側に柔らかな影を描きます。</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>オフ</translation>
+    </message>
+    <message>
+        <source>Wide</source>
+        <translation>幅が広い</translation>
+    </message>
+    <message>
+        <source>Strong</source>
+        <translation>強い</translation>
+    </message>
+    <message>
+        <source>Coloured</source>
+        <translation>色付き</translation>
+    </message>
+    <message>
+        <source>Indicators</source>
+        <translation>インジケーター</translation>
+    </message>
+    <message>
+        <source>Shows a remaining time as three numbers with captions, in the units that suit it.</source>
+        <translation>残り時間を、適切な単位の 3 つの数値で見出しとともに表示します。</translation>
+    </message>
+    <message>
+        <source>Fresh</source>
+        <translation>初期状態</translation>
+    </message>
+    <message>
+        <source>Short</source>
+        <translation>短い</translation>
+    </message>
+    <message>
+        <source>Hours</source>
+        <translation>時間</translation>
+    </message>
+    <message>
+        <source>Days</source>
+        <translation>日</translation>
+    </message>
+    <message>
+        <source>Months</source>
+        <translation>月</translation>
+    </message>
+    <message>
+        <source>Years</source>
+        <translation>年</translation>
+    </message>
+    <message>
+        <source>Shows how the highlight around the mouse cursor will look.</source>
+        <translation>マウスカーソル周囲の強調表示の見え方を示します。</translation>
+    </message>
+    <message>
+        <source>Translucent colour</source>
+        <translation>半透明の色</translation>
+    </message>
+    <message>
+        <source>Larger than the preview</source>
+        <translation>プレビューより大きい</translation>
+    </message>
+    <message>
+        <source>Thick border</source>
+        <translation>太い枠線</translation>
+    </message>
+    <message>
+        <source>No border</source>
+        <translation>枠線なし</translation>
+    </message>
+    <message>
+        <source>Button %1</source>
+        <translation>ボタン %1</translation>
+    </message>
+    <message>
+        <source>Built-in camera</source>
+        <translation>内蔵カメラ</translation>
+    </message>
+    <message>
+        <source>A small page</source>
+        <translation>小さいページ</translation>
+    </message>
+    <message>
+        <source>A page that takes
+the room of its text
+and no more</source>
+        <translation>テキストに
+必要なだけの
+広さのページ</translation>
+    </message>
+    <message>
+        <source>Other page</source>
+        <translation>別のページ</translation>
+    </message>
+    <message>
+        <source>Kit</source>
+        <translation>キット</translation>
+    </message>
+    <message>
+        <source>A frame whose layout can be spaced by a style sheet.</source>
+        <translation>レイアウトの間隔をスタイルシートで指定できるフレームです。</translation>
+    </message>
+    <message>
+        <source>Spaced by style sheet</source>
+        <translation>スタイルシートによる間隔</translation>
+    </message>
+    <message>
+        <source>Spaced by properties</source>
+        <translation>プロパティによる間隔</translation>
+    </message>
+    <message>
+        <source>A camera with a name that is far too long for this place</source>
+        <translation>この場所には名前がはるかに長すぎるカメラ</translation>
+    </message>
+    <message>
+        <source>A label for one text that may be too long: it is elided, and shown whole as the tool tip.</source>
+        <translation>長すぎるテキストを省略し、全体をツールチップで表示するラベルです。</translation>
+    </message>
+    <message>
+        <source>Fits</source>
+        <translation>収まる</translation>
+    </message>
+    <message>
+        <source>Elided</source>
+        <translation>省略</translation>
+    </message>
+    <message>
+        <source>Right-to-left text</source>
+        <translation>右から左のテキスト</translation>
+    </message>
+    <message>
+        <source>Cut, not elided</source>
+        <translation>省略せず切り取り</translation>
+    </message>
+    <message>
+        <source>Not clickable</source>
+        <translation>クリック不可</translation>
+    </message>
+    <message>
+        <source>A stack of pages that takes the size of the page it shows instead of the largest one.</source>
+        <translation>最大のページではなく、表示中のページのサイズになるページスタックです。</translation>
+    </message>
+    <message>
+        <source>Small page</source>
+        <translation>小さいページ</translation>
+    </message>
+    <message>
+        <source>Large page</source>
+        <translation>大きいページ</translation>
+    </message>
+    <message>
+        <source>Without fitting</source>
+        <translation>サイズ調整なし</translation>
+    </message>
+    <message>
+        <source>Take a picture</source>
+        <translation>撮影</translation>
+    </message>
+    <message>
+        <source>Starts a recording with these settings</source>
+        <translation>この設定で録画を開始します</translation>
+    </message>
+    <message>
+        <source>A push button with an icon, a text and a hot key, each with a look of its own.</source>
+        <translation>アイコン、テキスト、ショートカットキーの外観を個別に設定できるプッシュボタンです。</translation>
+    </message>
+    <message>
+        <source>Horizontal</source>
+        <translation>水平</translation>
+    </message>
+    <message>
+        <source>Vertical</source>
+        <translation>垂直</translation>
+    </message>
+    <message>
+        <source>Take a picture of everything on the screen</source>
+        <translation>画面上のすべてを撮影</translation>
+    </message>
+    <message>
+        <source>No hot key</source>
+        <translation>ショートカットキーなし</translation>
+    </message>
+    <message>
+        <source>Region around 
+the pointer</source>
+        <translation>ポインターの
+周辺の領域</translation>
+    </message>
+    <message>
+        <source>Full screen</source>
+        <translation>全画面</translation>
+    </message>
+    <message>
+        <source>Shows an action with its shortcut, and triggers it.</source>
+        <translation>アクションをショートカットとともに表示し、実行します。</translation>
+    </message>
+    <message>
+        <source>Preset type &quot;User&quot;</source>
+        <translation>プリセットの種類「User」</translation>
+    </message>
+    <message>
+        <source>My lecture</source>
+        <translation>私の講義</translation>
+    </message>
+    <message>
+        <source>Line feed, no word wrap</source>
+        <translation>改行あり、折り返しなし</translation>
+    </message>
+    <message>
+        <source>Line feed, word wrap by style</source>
+        <translation>改行あり、スタイルによる折り返し</translation>
+    </message>
+    <message>
+        <source>No shortcut</source>
+        <translation>ショートカットなし</translation>
+    </message>
+    <message>
+        <source>Window</source>
+        <translation>ウィンドウ</translation>
+    </message>
+    <message>
+        <source>No picture</source>
+        <translation>画像なし</translation>
+    </message>
+    <message>
+        <source>Media</source>
+        <translation>メディア</translation>
+    </message>
+    <message>
+        <source>Shows live video frames in an area of fixed size.</source>
+        <translation>ライブ映像のフレームを固定サイズの領域に表示します。</translation>
+    </message>
+    <message>
+        <source>Default image</source>
+        <translation>既定の画像</translation>
+    </message>
+    <message>
+        <source>Large frame</source>
+        <translation>大きいフレーム</translation>
+    </message>
+    <message>
+        <source>Upright frame</source>
+        <translation>縦長のフレーム</translation>
+    </message>
+    <message>
+        <source>Small frame</source>
+        <translation>小さいフレーム</translation>
+    </message>
+    <message>
+        <source>Runs the live picture of a capture device in a preview; here, of the moving test picture.</source>
+        <translation>キャプチャデバイス (ここでは動くテスト映像) のライブ映像をプレビューに表示します。</translation>
+    </message>
+    <message>
+        <source>Stopped</source>
+        <translation>停止中</translation>
+    </message>
+    <message>
+        <source>Live</source>
+        <translation>ライブ</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>音量</translation>
+    </message>
+    <message>
+        <source>A slider for a recording volume, with a meter of the input level behind its handle.</source>
+        <translation>つまみの後ろに入力レベルメーターを備えた、録音音量のスライダーです。</translation>
+    </message>
+    <message>
+        <source>Silence</source>
+        <translation>無音</translation>
+    </message>
+    <message>
+        <source>Middle</source>
+        <translation>中間</translation>
+    </message>
+    <message>
+        <source>Full</source>
+        <translation>最大</translation>
+    </message>
+    <message>
+        <source>Volume lower than level</source>
+        <translation>音量がレベルより低い</translation>
+    </message>
+    <message>
+        <source>Rounded</source>
+        <translation>角丸</translation>
+    </message>
+    <message>
+        <source>Show the hint</source>
+        <translation>ヒントを表示</translation>
+    </message>
+    <message>
+        <source>Choose a source first</source>
+        <translation>最初にソースを選択してください</translation>
+    </message>
+    <message>
+        <source>A camera, the screen
+or the test picture</source>
+        <translation>カメラ、画面、
+またはテスト映像</translation>
+    </message>
+    <message>
+        <source>A camera, the screen or the test picture</source>
+        <translation>カメラ、画面、またはテスト映像</translation>
+    </message>
+    <message>
+        <source>Windows</source>
+        <translation>ウィンドウ</translation>
+    </message>
+    <message>
+        <source>A hint in a window of its own, in the shape of an image, that goes by itself.</source>
+        <translation>画像の形をした独立したウィンドウに表示され、自動的に消えるヒントです。</translation>
+    </message>
+    <message>
+        <source>Title and text</source>
+        <translation>タイトルとテキスト</translation>
+    </message>
+    <message>
+        <source>Text only</source>
+        <translation>テキストのみ</translation>
+    </message>
+    <message>
+        <source>The recording goes on</source>
+        <translation>録画は続いています</translation>
+    </message>
+    <message>
+        <source>Speech bubble</source>
+        <translation>吹き出し</translation>
+    </message>
+    <message>
+        <source>Shows one picture over its whole area: stretched, cut, or cut to an ellipse.</source>
+        <translation>1 つの画像を領域全体に表示します。引き伸ばし、切り抜き、楕円形の切り抜きができます。</translation>
+    </message>
+    <message>
+        <source>No mask</source>
+        <translation>マスクなし</translation>
+    </message>
+    <message>
+        <source>Rectangle, top left</source>
+        <translation>長方形、左上</translation>
+    </message>
+    <message>
+        <source>Rectangle, bottom right</source>
+        <translation>長方形、右下</translation>
+    </message>
+    <message>
+        <source>Ellipse</source>
+        <translation>楕円</translation>
+    </message>
+    <message>
+        <source>Ellipse upright</source>
+        <translation>縦長の楕円</translation>
+    </message>
+    <message>
+        <source>&amp;Screen</source>
+        <translation>画面(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Camera</source>
+        <translation>カメラ(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Microphone</source>
+        <translation>マイク(&amp;M)</translation>
+    </message>
+    <message>
+        <source>Recording %1</source>
+        <translation>録画 %1</translation>
+    </message>
+    <message>
+        <source>What is on the screen, or a part of it.</source>
+        <translation>画面に表示されているもの、またはその一部。</translation>
+    </message>
+    <message>
+        <source>A camera, in a corner of the picture.</source>
+        <translation>映像の隅に表示するカメラ。</translation>
+    </message>
+    <message>
+        <source>The sound of what is said.</source>
+        <translation>話している音声。</translation>
+    </message>
+    <message>
+        <source>A page that is wider than the others</source>
+        <translation>ほかのページより幅の広いページ</translation>
+    </message>
+    <message>
+        <source>A page
+that is higher
+than the others
+and not wide</source>
+        <translation>ほかのページより
+高さがあり
+幅の広くない
+ページ</translation>
+    </message>
+    <message>
+        <source>Next page</source>
+        <translation>次のページ</translation>
+    </message>
+    <message>
+        <source>Tabs</source>
+        <translation>タブ</translation>
+    </message>
+    <message>
+        <source>A tab bar whose style sheet says where text and icon of a tab are, and how they change with the selection.</source>
+        <translation>タブのテキストとアイコンの位置、選択による変化をスタイルシートで指定するタブバーです。</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>テキスト</translation>
+    </message>
+    <message>
+        <source>Icons</source>
+        <translation>アイコン</translation>
+    </message>
+    <message>
+        <source>One disabled</source>
+        <translation>1 つ無効</translation>
+    </message>
+    <message>
+        <source>Scrolled</source>
+        <translation>スクロール済み</translation>
+    </message>
+    <message>
+        <source>Closable and movable</source>
+        <translation>閉じる・移動が可能</translation>
+    </message>
+    <message>
+        <source>A tab widget with that tab bar.</source>
+        <translation>そのタブバーを備えたタブウィジェットです。</translation>
+    </message>
+    <message>
+        <source>At the side</source>
+        <translation>横に配置</translation>
+    </message>
+    <message>
+        <source>A stack of pages that is fixed to the size of the page it shows.</source>
+        <translation>表示中のページのサイズに固定されるページスタックです。</translation>
+    </message>
+    <message>
+        <source>Wide page</source>
+        <translation>幅の広いページ</translation>
+    </message>
+    <message>
+        <source>High page</source>
+        <translation>高さのあるページ</translation>
+    </message>
+    <message>
+        <source>Pointer</source>
+        <translation>ポインター</translation>
+    </message>
+    <message>
+        <source>Pen</source>
+        <translation>ペン</translation>
+    </message>
+    <message>
+        <source>Marker</source>
+        <translation>マーカー</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>直線</translation>
+    </message>
+    <message>
+        <source>Arrow</source>
+        <translation>矢印</translation>
+    </message>
+    <message>
+        <source>Blur</source>
+        <translation>ぼかし</translation>
+    </message>
+    <message>
+        <source>Eraser</source>
+        <translation>消しゴム</translation>
+    </message>
+    <message>
+        <source>Rectangle</source>
+        <translation>長方形</translation>
+    </message>
+    <message>
+        <source>Drawing tools</source>
+        <translation>描画ツール</translation>
+    </message>
+    <message>
+        <source>Panels</source>
+        <translation>パネル</translation>
+    </message>
+    <message>
+        <source>A strip of tool buttons that scrolls sideways when they do not fit.</source>
+        <translation>収まらないときに横にスクロールするツールボタンの列です。</translation>
+    </message>
+    <message>
+        <source>All fit</source>
+        <translation>すべて収まる</translation>
+    </message>
+    <message>
+        <source>Scrolls</source>
+        <translation>スクロールする</translation>
+    </message>
+    <message>
+        <source>Scrolled to the middle</source>
+        <translation>中央までスクロール</translation>
+    </message>
+    <message>
+        <source>Few items</source>
+        <translation>少数の項目</translation>
+    </message>
+    <message>
+        <source>Best</source>
+        <translation>最高</translation>
+    </message>
+    <message>
+        <source>A slider for one of a few named values, with the names above its ticks.</source>
+        <translation>名前付きの値から 1 つを選び、目盛りの上に名前を表示するスライダーです。</translation>
+    </message>
+    <message>
+        <source>Three values</source>
+        <translation>3 つの値</translation>
+    </message>
+    <message>
+        <source>Five values</source>
+        <translation>5 つの値</translation>
+    </message>
+    <message>
+        <source>As the source</source>
+        <translation>ソースと同じ</translation>
+    </message>
+    <message>
+        <source>As small as possible</source>
+        <translation>できるだけ小さく</translation>
+    </message>
+    <message>
+        <source>Balanced for most recordings</source>
+        <translation>ほとんどの録画に適したバランス</translation>
+    </message>
+    <message>
+        <source>Without any loss</source>
+        <translation>完全にロスレス</translation>
+    </message>
+    <message>
+        <source>Little room</source>
+        <translation>狭いスペース</translation>
+    </message>
+    <message>
+        <source>One value</source>
+        <translation>1 つの値</translation>
+    </message>
+    <message>
+        <source>No value</source>
+        <translation>値なし</translation>
+    </message>
+    <message>
+        <source>Recorder</source>
+        <translation>レコーダー</translation>
+    </message>
+    <message>
+        <source>Drag the window by its title bar or by this text.</source>
+        <translation>タイトルバーまたはこのテキストをドラッグしてウィンドウを移動します。</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>ヘルプ</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>設定</translation>
+    </message>
+    <message>
+        <source>A title bar that the application draws itself, for a window without a frame.</source>
+        <translation>枠のないウィンドウのために、アプリケーション自身が描画するタイトルバーです。</translation>
+    </message>
+    <message>
+        <source>With tools</source>
+        <translation>ツール付き</translation>
+    </message>
+    <message>
+        <source>Close only</source>
+        <translation>閉じるのみ</translation>
+    </message>
+    <message>
+        <source>Long title</source>
+        <translation>長いタイトル</translation>
+    </message>
+    <message>
+        <source>Recording of the weekly meeting, second part - Recorder</source>
+        <translation>週例会議の録画、後半 - レコーダー</translation>
+    </message>
+    <message>
+        <source>No icon</source>
+        <translation>アイコンなし</translation>
+    </message>
+    <message>
+        <source>Show the dialog</source>
+        <translation>ダイアログを表示</translation>
+    </message>
+    <message>
+        <source>Copyright 2026 Example Company</source>
+        <translation>Copyright 2026 サンプル株式会社</translation>
+    </message>
+    <message>
+        <source>The about dialog, whose links take their style from the style sheet.</source>
+        <translation>リンクのスタイルをスタイルシートから取得するバージョン情報ダイアログです。</translation>
+    </message>
+    <message>
+        <source>Link of its own</source>
+        <translation>独自のリンク</translation>
+    </message>
+    <message>
+        <source>Copyright 2026 Example Company. All rights reserved. Protected by law; made with the help of many.</source>
+        <translation>Copyright 2026 サンプル株式会社. All rights reserved. 法律により保護されています。多くの方々の協力により制作されました。</translation>
+    </message>
+</context>
+<context>
+    <name>FirstHint</name>
+    <message>
+        <source>Start here</source>
+        <translation>まずはここから</translation>
+    </message>
+    <message>
+        <source>Choose what is shown: a camera, the screen or the test picture.</source>
+        <translation>表示するものを選択してください: カメラ、画面、テスト映像。</translation>
+    </message>
+</context>
+<context>
+    <name>Zelkor::App::AboutBoxDialog</name>
+    <message>
+        <source>About %1</source>
+        <translation>%1 のバージョン情報</translation>
+    </message>
+    <message>
+        <source>Visit the home page</source>
+        <translation>Web サイトを開く</translation>
+    </message>
+    <message>
+        <source>Write to support</source>
+        <translation>サポートに連絡</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>Zelkor::Gallery::AudioPanel</name>
+    <message>
+        <source>Test signal</source>
+        <translation>テスト信号</translation>
+    </message>
+    <message>
+        <source>Microphone</source>
+        <translation>マイク</translation>
+    </message>
+    <message>
+        <source>System sound</source>
+        <translation>システム音</translation>
+    </message>
+</context>
+<context>
+    <name>Zelkor::Gallery::CaptureBar</name>
+    <message>
+        <source>Full screen</source>
+        <translation>全画面</translation>
+    </message>
+    <message>
+        <source>Window</source>
+        <translation>ウィンドウ</translation>
+    </message>
+    <message>
+        <source>Region</source>
+        <translation>領域</translation>
+    </message>
+    <message>
+        <source>Around pointer</source>
+        <translation>ポインター周辺</translation>
+    </message>
+    <message>
+        <source>Sound only</source>
+        <translation>音声のみ</translation>
+    </message>
+    <message>
+        <source>No click sound</source>
+        <translation>クリック音なし</translation>
+    </message>
+    <message>
+        <source>Soft click</source>
+        <translation>柔らかいクリック</translation>
+    </message>
+    <message>
+        <source>Mechanical keyboard</source>
+        <translation>メカニカルキーボード</translation>
+    </message>
+    <message>
+        <source>Typewriter</source>
+        <translation>タイプライター</translation>
+    </message>
+    <message>
+        <source>Recording mode: %1</source>
+        <translation>録画モード: %1</translation>
+    </message>
+    <message>
+        <source>Chooses what is recorded</source>
+        <translation>録画するものを選択します</translation>
+    </message>
+    <message>
+        <source>Chooses the colour of drawings</source>
+        <translation>描画の色を選択します</translation>
+    </message>
+    <message>
+        <source>Drawing colour</source>
+        <translation>描画の色</translation>
+    </message>
+    <message>
+        <source>Chooses what is heard when you click</source>
+        <translation>クリック時に鳴る音を選択します</translation>
+    </message>
+    <message>
+        <source>Click sound</source>
+        <translation>クリック音</translation>
+    </message>
+</context>
+<context>
+    <name>Zelkor::Gallery::GalleryWindow</name>
+    <message>
+        <source>Widgets of Vx Recorder</source>
+        <translation>Vx Recorder のウィジェット</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>ページ</translation>
+    </message>
+    <message>
+        <source>Recorder</source>
+        <translation>レコーダー</translation>
+    </message>
+</context>
+<context>
+    <name>Zelkor::Gallery::RecorderView</name>
+    <message>
+        <source>Record</source>
+        <translation>録画</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>終了</translation>
+    </message>
+    <message>
+        <source>Starts to record after a countdown</source>
+        <translation>カウントダウンの後に録画を開始します</translation>
+    </message>
+    <message>
+        <source>Ends the recording</source>
+        <translation>録画を終了します</translation>
+    </message>
+    <message>
+        <source>Waiting for the picture</source>
+        <translation>映像を待っています</translation>
+    </message>
+    <message>
+        <source>No picture</source>
+        <translation>映像なし</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>停止</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>開始</translation>
+    </message>
+    <message>
+        <source>%1 · %2 · %3 fps</source>
+        <translation>%1 · %2 · %3 fps</translation>
+    </message>
+    <message>
+        <source>Recording %1 · %2</source>
+        <translation>録画中 %1 · %2</translation>
+    </message>
+    <message>
+        <source>Stopped · %1</source>
+        <translation>停止中 · %1</translation>
+    </message>
+    <message>
+        <source>No picture · %1</source>
+        <translation>映像なし · %1</translation>
+    </message>
+    <message>
+        <source>The camera could not be opened. Check that it is connected and that no other program uses it, then start again.</source>
+        <translation>カメラを開けませんでした。接続されていること、ほかのプログラムが使用していないことを確認して、もう一度開始してください。</translation>
+    </message>
+    <message>
+        <source>The source could not be opened. Choose another one, or start again.</source>
+        <translation>ソースを開けませんでした。別のソースを選択するか、もう一度開始してください。</translation>
+    </message>
+    <message>
+        <source>Source</source>
+        <translation>ソース</translation>
+    </message>
+    <message>
+        <source>Chooses what is shown</source>
+        <translation>表示するものを選択します</translation>
+    </message>
+    <message>
+        <source>Audio</source>
+        <translation>音声</translation>
+    </message>
+    <message>
+        <source>Sets how loud microphone and system are</source>
+        <translation>マイクとシステムの音量を設定します</translation>
+    </message>
+    <message>
+        <source>Settings of the device</source>
+        <translation>デバイスの設定</translation>
+    </message>
+    <message>
+        <source>Live picture</source>
+        <translation>ライブ映像</translation>
+    </message>
+</context>
+<context>
+    <name>Zelkor::Gallery::RecorderWindow</name>
+    <message>
+        <source>Version %1</source>
+        <translation>バージョン %1</translation>
+    </message>
+    <message>
+        <source>Shows the widgets of VxUiWidgets at work. Nothing is recorded.</source>
+        <translation>VxUiWidgets のウィジェットの動作を示します。録画は行われません。</translation>
+    </message>
+    <message>
+        <source>Vx Recorder</source>
+        <translation>Vx Recorder</translation>
+    </message>
+    <message>
+        <source>All widgets</source>
+        <translation>すべてのウィジェット</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>設定</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>バージョン情報</translation>
+    </message>
+</context>
+<context>
+    <name>Zelkor::Gallery::SettingsDialog</name>
+    <message numerus="yes">
+        <source>About %n megabyte(s) per minute</source>
+        <translation>
+            <numerusform>1 分あたり約 %n メガバイト</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>設定</translation>
+    </message>
+    <message>
+        <source>Subjects</source>
+        <translation>項目</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>全般</translation>
+    </message>
+    <message>
+        <source>Recording</source>
+        <translation>録画</translation>
+    </message>
+    <message>
+        <source>Pointer</source>
+        <translation>ポインター</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>言語</translation>
+    </message>
+    <message>
+        <source>Appearance</source>
+        <translation>外観</translation>
+    </message>
+    <message>
+        <source>As given</source>
+        <translation>指定どおり</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>ダーク</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>ライト</translation>
+    </message>
+    <message>
+        <source>Countdown</source>
+        <translation>カウントダウン</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>なし</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n second(s)</source>
+        <translation>
+            <numerusform>%n 秒</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>画質</translation>
+    </message>
+    <message>
+        <source>Small</source>
+        <translation>低</translation>
+    </message>
+    <message>
+        <source>Medium</source>
+        <translation>中</translation>
+    </message>
+    <message>
+        <source>High</source>
+        <translation>高</translation>
+    </message>
+    <message>
+        <source>Lossless</source>
+        <translation>ロスレス</translation>
+    </message>
+    <message>
+        <source>Colour</source>
+        <translation>色</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>サイズ</translation>
+    </message>
+    <message>
+        <source>The pointer&apos;s highlight</source>
+        <translation>ポインターの強調表示</translation>
+    </message>
+</context>
+<context>
+    <name>Zelkor::Gallery::SignalLog</name>
+    <message>
+        <source>Signals</source>
+        <translation>シグナル</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>消去</translation>
+    </message>
+    <message>
+        <source>Empties the list of signals</source>
+        <translation>シグナルの一覧を消去します</translation>
+    </message>
+    <message>
+        <source>The signals of the widgets are listed here</source>
+        <translation>ウィジェットのシグナルがここに表示されます</translation>
+    </message>
+</context>
+<context>
+    <name>Zelkor::Gallery::SourcePanel</name>
+    <message>
+        <source>%1 (not connected)</source>
+        <translation>%1 (未接続)</translation>
+    </message>
+    <message>
+        <source>%1 frames per second</source>
+        <translation>%1 フレーム/秒</translation>
+    </message>
+    <message>
+        <source>Device</source>
+        <translation>デバイス</translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation>モード</translation>
+    </message>
+    <message>
+        <source>Frame rate</source>
+        <translation>フレームレート</translation>
+    </message>
+</context>
+<context>
+    <name>Zelkor::Gallery::ToolStrip</name>
+    <message>
+        <source>Pointer</source>
+        <translation>ポインター</translation>
+    </message>
+    <message>
+        <source>Pen</source>
+        <translation>ペン</translation>
+    </message>
+    <message>
+        <source>Marker</source>
+        <translation>マーカー</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>直線</translation>
+    </message>
+    <message>
+        <source>Arrow</source>
+        <translation>矢印</translation>
+    </message>
+    <message>
+        <source>Rectangle</source>
+        <translation>長方形</translation>
+    </message>
+    <message>
+        <source>Ellipse</source>
+        <translation>楕円</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>テキスト</translation>
+    </message>
+    <message>
+        <source>Numbered step</source>
+        <translation>番号付きステップ</translation>
+    </message>
+    <message>
+        <source>Spotlight</source>
+        <translation>スポットライト</translation>
+    </message>
+    <message>
+        <source>Blur</source>
+        <translation>ぼかし</translation>
+    </message>
+    <message>
+        <source>Magnifier</source>
+        <translation>拡大鏡</translation>
+    </message>
+    <message>
+        <source>Eraser</source>
+        <translation>消しゴム</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,14 @@
+#!/usr/bin/env bash
+# update.sh LUPDATE FOLDER: brings the translation files of the folder up to date with the sources.
+set -euo pipefail
+lupdate=$1
+folder=$(cd "$2" && pwd)
+cd "$(dirname "${BASH_SOURCE[0]}")/.."
+
+update() {
+    local name=$1
+    shift
+    "$lupdate" -silent -no-obsolete -locations none "$@" -ts "$folder/$name"_*.ts
+}
+update VxUiWidgets Lib
+update VxGallery Gallery Host
