@@ -817,6 +817,310 @@ und nicht breit</translation>
         <source>Copyright 2026 Example Company. All rights reserved. Protected by law; made with the help of many.</source>
         <translation>Copyright 2026 Beispielfirma. Alle Rechte vorbehalten. Gesetzlich geschützt; mit der Hilfe vieler entstanden.</translation>
     </message>
+    <message>
+        <source>Start</source>
+        <translation>Start</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Stopp</translation>
+    </message>
+    <message>
+        <source>Microphone</source>
+        <translation>Mikrofon</translation>
+    </message>
+    <message>
+        <source>An editor for the style sheet of the running application; here it works on the sample above it.</source>
+        <translation>Ein Editor für das Stylesheet der laufenden Anwendung; hier wirkt er auf das Beispiel darüber.</translation>
+    </message>
+    <message>
+        <source>With a sheet</source>
+        <translation>Mit Stylesheet</translation>
+    </message>
+    <message>
+        <source>With mistakes</source>
+        <translation>Mit Fehlern</translation>
+    </message>
+    <message>
+        <source>Find and replace</source>
+        <translation>Suchen und ersetzen</translation>
+    </message>
+    <message>
+        <source>Built-in camera of the laptop in the lecture hall</source>
+        <translation>Integrierte Kamera des Laptops im Hörsaal</translation>
+    </message>
+    <message>
+        <source>Camera</source>
+        <translation>Kamera</translation>
+    </message>
+    <message>
+        <source>No camera</source>
+        <translation>Keine Kamera</translation>
+    </message>
+    <message>
+        <source>Document camera</source>
+        <translation>Dokumentenkamera</translation>
+    </message>
+    <message>
+        <source>Sound sources</source>
+        <translation>Tonquellen</translation>
+    </message>
+    <message>
+        <source>Sources: %1</source>
+        <translation>Quellen: %1</translation>
+    </message>
+    <message>
+        <source>System sound</source>
+        <translation>Systemton</translation>
+    </message>
+    <message>
+        <source>Click sounds</source>
+        <translation>Klickgeräusche</translation>
+    </message>
+    <message>
+        <source>A combo box that elides its text, opens a list as wide as its items or a widget of yours, and can leave the wheel to its panel.</source>
+        <translation>Ein Kombinationsfeld, das seinen Text kürzt, eine Liste in der Breite ihrer Einträge oder ein eigenes Widget öffnet und das Mausrad seinem Bedienfeld überlassen kann.</translation>
+    </message>
+    <message>
+        <source>Elided, wide list</source>
+        <translation>Gekürzt, breite Liste</translation>
+    </message>
+    <message>
+        <source>Narrow list</source>
+        <translation>Schmale Liste</translation>
+    </message>
+    <message>
+        <source>Display text</source>
+        <translation>Anzeigetext</translation>
+    </message>
+    <message>
+        <source>Choose a camera…</source>
+        <translation>Kamera auswählen…</translation>
+    </message>
+    <message>
+        <source>Opens a widget</source>
+        <translation>Öffnet ein Widget</translation>
+    </message>
+    <message>
+        <source>With icons, elided</source>
+        <translation>Mit Symbolen, gekürzt</translation>
+    </message>
+    <message>
+        <source>Wheel left to the panel</source>
+        <translation>Mausrad dem Bedienfeld überlassen</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Name of the camera</source>
+        <translation>Name der Kamera</translation>
+    </message>
+    <message>
+        <source>A line edit that elides its text until it gets the focus, and reports an edit when the focus leaves.</source>
+        <translation>Ein Eingabefeld, das seinen Text kürzt, bis es den Fokus erhält, und eine Bearbeitung meldet, wenn es ihn verliert.</translation>
+    </message>
+    <message>
+        <source>Read-only</source>
+        <translation>Schreibgeschützt</translation>
+    </message>
+    <message>
+        <source>Clear button</source>
+        <translation>Löschschaltfläche</translation>
+    </message>
+    <message>
+        <source>Validated</source>
+        <translation>Geprüft</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Passwort</translation>
+    </message>
+    <message>
+        <source>Secret</source>
+        <translation>Geheim</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>Zoom</translation>
+    </message>
+    <message>
+        <source>Wheel in focus only</source>
+        <translation>Mausrad nur mit Fokus</translation>
+    </message>
+    <message>
+        <source>A slider that can leave the wheel to its panel until it has the focus.</source>
+        <translation>Ein Schieberegler, der das Mausrad seinem Bedienfeld überlassen kann, bis er den Fokus hat.</translation>
+    </message>
+    <message>
+        <source>At its end</source>
+        <translation>Am Ende</translation>
+    </message>
+    <message>
+        <source>A slider for a floating-point value: its position times a multiplier.</source>
+        <translation>Ein Schieberegler für einen Gleitkommawert: seine Position mal ein Faktor.</translation>
+    </message>
+    <message>
+        <source>Tenths</source>
+        <translation>Zehntel</translation>
+    </message>
+    <message>
+        <source>Around zero, in quarters</source>
+        <translation>Um null, in Vierteln</translation>
+    </message>
+    <message>
+        <source>Frame rate</source>
+        <translation>Bildrate</translation>
+    </message>
+    <message>
+        <source>A field for a whole number that can leave the wheel to its panel until it has the focus.</source>
+        <translation>Ein Feld für eine ganze Zahl, das das Mausrad seinem Bedienfeld überlassen kann, bis es den Fokus hat.</translation>
+    </message>
+    <message>
+        <source>With a unit</source>
+        <translation>Mit Einheit</translation>
+    </message>
+    <message>
+        <source> fps</source>
+        <translation> fps</translation>
+    </message>
+    <message>
+        <source>Delay</source>
+        <translation>Verzögerung</translation>
+    </message>
+    <message>
+        <source> s</source>
+        <translation> s</translation>
+    </message>
+    <message>
+        <source>A field for a floating-point number that can keep what is typed to whole steps.</source>
+        <translation>Ein Feld für eine Gleitkommazahl, das Eingaben auf ganze Schritte begrenzen kann.</translation>
+    </message>
+    <message>
+        <source>Typed numbers in whole steps</source>
+        <translation>Eingaben in ganzen Schritten</translation>
+    </message>
+    <message>
+        <source>Recording</source>
+        <translation>Aufnahme</translation>
+    </message>
+    <message>
+        <source>Waves of colour</source>
+        <translation>Farbwellen</translation>
+    </message>
+    <message>
+        <source>Colours</source>
+        <translation>Farben</translation>
+    </message>
+    <message>
+        <source>A grid of round LEDs, each of a colour of its own.</source>
+        <translation>Ein Raster runder LEDs, jede mit eigener Farbe.</translation>
+    </message>
+    <message>
+        <source>A sign</source>
+        <translation>Ein Zeichen</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Dunkel</translation>
+    </message>
+    <message>
+        <source>Transparent background</source>
+        <translation>Transparenter Hintergrund</translation>
+    </message>
+    <message>
+        <source>Named colours</source>
+        <translation>Benannte Farben</translation>
+    </message>
+    <message>
+        <source>Wider than the grid</source>
+        <translation>Breiter als das Raster</translation>
+    </message>
+    <message>
+        <source>4096 LEDs</source>
+        <translation>4096 LEDs</translation>
+    </message>
+    <message>
+        <source>A button that shows a level and opens a slider above itself.</source>
+        <translation>Eine Schaltfläche, die einen Pegel zeigt und über sich einen Schieberegler öffnet.</translation>
+    </message>
+    <message>
+        <source>Level 0</source>
+        <translation>Pegel 0</translation>
+    </message>
+    <message>
+        <source>From 1</source>
+        <translation>Ab 1</translation>
+    </message>
+    <message>
+        <source>From 25</source>
+        <translation>Ab 25</translation>
+    </message>
+    <message>
+        <source>From 50</source>
+        <translation>Ab 50</translation>
+    </message>
+    <message>
+        <source>From 75</source>
+        <translation>Ab 75</translation>
+    </message>
+    <message>
+        <source>Slider in a window apart</source>
+        <translation>Schieberegler in eigenem Fenster</translation>
+    </message>
+    <message>
+        <source>High slider</source>
+        <translation>Hoher Schieberegler</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Position</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>Ende</translation>
+    </message>
+    <message>
+        <source>Mark at %1</source>
+        <translation>Marke bei %1</translation>
+    </message>
+    <message>
+        <source>A slider with any number of thumbs and highlighted stretches, for trimming and timelines.</source>
+        <translation>Ein Schieberegler mit beliebig vielen Griffen und hervorgehobenen Abschnitten, zum Zuschneiden und für Zeitleisten.</translation>
+    </message>
+    <message>
+        <source>One thumb</source>
+        <translation>Ein Griff</translation>
+    </message>
+    <message>
+        <source>Trimming</source>
+        <translation>Zuschneiden</translation>
+    </message>
+    <message>
+        <source>Trimming, position limited</source>
+        <translation>Zuschneiden, Position begrenzt</translation>
+    </message>
+    <message>
+        <source>Segments</source>
+        <translation>Abschnitte</translation>
+    </message>
+    <message>
+        <source>Marks, one selected</source>
+        <translation>Marken, eine ausgewählt</translation>
+    </message>
+    <message>
+        <source>Marks that snap to the position</source>
+        <translation>Marken, die an der Position einrasten</translation>
+    </message>
+    <message>
+        <source>Upright</source>
+        <translation>Senkrecht</translation>
+    </message>
+    <message>
+        <source>Upright, segments</source>
+        <translation>Senkrecht, Abschnitte</translation>
+    </message>
 </context>
 <context>
     <name>FirstHint</name>

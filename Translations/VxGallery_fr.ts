@@ -817,6 +817,310 @@ et peu large</translation>
         <source>Copyright 2026 Example Company. All rights reserved. Protected by law; made with the help of many.</source>
         <translation>Copyright 2026 Société Exemple. Tous droits réservés. Protégé par la loi&#xa0;; réalisé avec l’aide de nombreuses personnes.</translation>
     </message>
+    <message>
+        <source>Start</source>
+        <translation>Départ</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Arrêt</translation>
+    </message>
+    <message>
+        <source>Microphone</source>
+        <translation>Microphone</translation>
+    </message>
+    <message>
+        <source>An editor for the style sheet of the running application; here it works on the sample above it.</source>
+        <translation>Un éditeur pour la feuille de style de l’application en cours&#xa0;; ici, il agit sur l’exemple au-dessus.</translation>
+    </message>
+    <message>
+        <source>With a sheet</source>
+        <translation>Avec une feuille de style</translation>
+    </message>
+    <message>
+        <source>With mistakes</source>
+        <translation>Avec des erreurs</translation>
+    </message>
+    <message>
+        <source>Find and replace</source>
+        <translation>Rechercher et remplacer</translation>
+    </message>
+    <message>
+        <source>Built-in camera of the laptop in the lecture hall</source>
+        <translation>Caméra intégrée de l’ordinateur portable de l’amphithéâtre</translation>
+    </message>
+    <message>
+        <source>Camera</source>
+        <translation>Caméra</translation>
+    </message>
+    <message>
+        <source>No camera</source>
+        <translation>Aucune caméra</translation>
+    </message>
+    <message>
+        <source>Document camera</source>
+        <translation>Caméra de documents</translation>
+    </message>
+    <message>
+        <source>Sound sources</source>
+        <translation>Sources sonores</translation>
+    </message>
+    <message>
+        <source>Sources: %1</source>
+        <translation>Sources&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>System sound</source>
+        <translation>Son du système</translation>
+    </message>
+    <message>
+        <source>Click sounds</source>
+        <translation>Sons des clics</translation>
+    </message>
+    <message>
+        <source>A combo box that elides its text, opens a list as wide as its items or a widget of yours, and can leave the wheel to its panel.</source>
+        <translation>Une liste déroulante qui abrège son texte, ouvre une liste aussi large que ses éléments ou un widget de votre choix, et peut laisser la molette à son panneau.</translation>
+    </message>
+    <message>
+        <source>Elided, wide list</source>
+        <translation>Abrégé, liste large</translation>
+    </message>
+    <message>
+        <source>Narrow list</source>
+        <translation>Liste étroite</translation>
+    </message>
+    <message>
+        <source>Display text</source>
+        <translation>Texte affiché</translation>
+    </message>
+    <message>
+        <source>Choose a camera…</source>
+        <translation>Choisir une caméra…</translation>
+    </message>
+    <message>
+        <source>Opens a widget</source>
+        <translation>Ouvre un widget</translation>
+    </message>
+    <message>
+        <source>With icons, elided</source>
+        <translation>Avec icônes, abrégé</translation>
+    </message>
+    <message>
+        <source>Wheel left to the panel</source>
+        <translation>Molette laissée au panneau</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nom</translation>
+    </message>
+    <message>
+        <source>Name of the camera</source>
+        <translation>Nom de la caméra</translation>
+    </message>
+    <message>
+        <source>A line edit that elides its text until it gets the focus, and reports an edit when the focus leaves.</source>
+        <translation>Un champ de saisie qui abrège son texte jusqu’à ce qu’il ait le focus, et signale une modification lorsqu’il le perd.</translation>
+    </message>
+    <message>
+        <source>Read-only</source>
+        <translation>Lecture seule</translation>
+    </message>
+    <message>
+        <source>Clear button</source>
+        <translation>Bouton d’effacement</translation>
+    </message>
+    <message>
+        <source>Validated</source>
+        <translation>Validé</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Mot de passe</translation>
+    </message>
+    <message>
+        <source>Secret</source>
+        <translation>Secret</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>Zoom</translation>
+    </message>
+    <message>
+        <source>Wheel in focus only</source>
+        <translation>Molette avec le focus seulement</translation>
+    </message>
+    <message>
+        <source>A slider that can leave the wheel to its panel until it has the focus.</source>
+        <translation>Un curseur qui peut laisser la molette à son panneau jusqu’à ce qu’il ait le focus.</translation>
+    </message>
+    <message>
+        <source>At its end</source>
+        <translation>En bout de course</translation>
+    </message>
+    <message>
+        <source>A slider for a floating-point value: its position times a multiplier.</source>
+        <translation>Un curseur pour une valeur à virgule flottante&#xa0;: sa position multipliée par un facteur.</translation>
+    </message>
+    <message>
+        <source>Tenths</source>
+        <translation>Dixièmes</translation>
+    </message>
+    <message>
+        <source>Around zero, in quarters</source>
+        <translation>Autour de zéro, par quarts</translation>
+    </message>
+    <message>
+        <source>Frame rate</source>
+        <translation>Fréquence d’images</translation>
+    </message>
+    <message>
+        <source>A field for a whole number that can leave the wheel to its panel until it has the focus.</source>
+        <translation>Un champ pour un nombre entier, qui peut laisser la molette à son panneau jusqu’à ce qu’il ait le focus.</translation>
+    </message>
+    <message>
+        <source>With a unit</source>
+        <translation>Avec une unité</translation>
+    </message>
+    <message>
+        <source> fps</source>
+        <translation> i/s</translation>
+    </message>
+    <message>
+        <source>Delay</source>
+        <translation>Délai</translation>
+    </message>
+    <message>
+        <source> s</source>
+        <translation> s</translation>
+    </message>
+    <message>
+        <source>A field for a floating-point number that can keep what is typed to whole steps.</source>
+        <translation>Un champ pour un nombre à virgule flottante, qui peut ramener la saisie à des pas entiers.</translation>
+    </message>
+    <message>
+        <source>Typed numbers in whole steps</source>
+        <translation>Saisie par pas entiers</translation>
+    </message>
+    <message>
+        <source>Recording</source>
+        <translation>Enregistrement</translation>
+    </message>
+    <message>
+        <source>Waves of colour</source>
+        <translation>Vagues de couleurs</translation>
+    </message>
+    <message>
+        <source>Colours</source>
+        <translation>Couleurs</translation>
+    </message>
+    <message>
+        <source>A grid of round LEDs, each of a colour of its own.</source>
+        <translation>Une grille de LED rondes, chacune de sa propre couleur.</translation>
+    </message>
+    <message>
+        <source>A sign</source>
+        <translation>Un signe</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Éteint</translation>
+    </message>
+    <message>
+        <source>Transparent background</source>
+        <translation>Arrière-plan transparent</translation>
+    </message>
+    <message>
+        <source>Named colours</source>
+        <translation>Couleurs nommées</translation>
+    </message>
+    <message>
+        <source>Wider than the grid</source>
+        <translation>Plus large que la grille</translation>
+    </message>
+    <message>
+        <source>4096 LEDs</source>
+        <translation>4096 LED</translation>
+    </message>
+    <message>
+        <source>A button that shows a level and opens a slider above itself.</source>
+        <translation>Un bouton qui affiche un niveau et ouvre un curseur au-dessus de lui.</translation>
+    </message>
+    <message>
+        <source>Level 0</source>
+        <translation>Niveau 0</translation>
+    </message>
+    <message>
+        <source>From 1</source>
+        <translation>À partir de 1</translation>
+    </message>
+    <message>
+        <source>From 25</source>
+        <translation>À partir de 25</translation>
+    </message>
+    <message>
+        <source>From 50</source>
+        <translation>À partir de 50</translation>
+    </message>
+    <message>
+        <source>From 75</source>
+        <translation>À partir de 75</translation>
+    </message>
+    <message>
+        <source>Slider in a window apart</source>
+        <translation>Curseur dans une fenêtre à part</translation>
+    </message>
+    <message>
+        <source>High slider</source>
+        <translation>Curseur haut</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Position</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>Fin</translation>
+    </message>
+    <message>
+        <source>Mark at %1</source>
+        <translation>Repère à %1</translation>
+    </message>
+    <message>
+        <source>A slider with any number of thumbs and highlighted stretches, for trimming and timelines.</source>
+        <translation>Un curseur avec autant de poignées et de segments mis en évidence que voulu, pour le découpage et les chronologies.</translation>
+    </message>
+    <message>
+        <source>One thumb</source>
+        <translation>Une poignée</translation>
+    </message>
+    <message>
+        <source>Trimming</source>
+        <translation>Découpage</translation>
+    </message>
+    <message>
+        <source>Trimming, position limited</source>
+        <translation>Découpage, position limitée</translation>
+    </message>
+    <message>
+        <source>Segments</source>
+        <translation>Segments</translation>
+    </message>
+    <message>
+        <source>Marks, one selected</source>
+        <translation>Repères, dont un sélectionné</translation>
+    </message>
+    <message>
+        <source>Marks that snap to the position</source>
+        <translation>Repères aimantés à la position</translation>
+    </message>
+    <message>
+        <source>Upright</source>
+        <translation>Vertical</translation>
+    </message>
+    <message>
+        <source>Upright, segments</source>
+        <translation>Vertical, segments</translation>
+    </message>
 </context>
 <context>
     <name>FirstHint</name>

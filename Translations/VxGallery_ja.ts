@@ -817,6 +817,310 @@ and not wide</source>
         <source>Copyright 2026 Example Company. All rights reserved. Protected by law; made with the help of many.</source>
         <translation>Copyright 2026 サンプル株式会社. All rights reserved. 法律により保護されています。多くの方々の協力により制作されました。</translation>
     </message>
+    <message>
+        <source>Start</source>
+        <translation>開始</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>停止</translation>
+    </message>
+    <message>
+        <source>Microphone</source>
+        <translation>マイク</translation>
+    </message>
+    <message>
+        <source>An editor for the style sheet of the running application; here it works on the sample above it.</source>
+        <translation>実行中のアプリケーションのスタイルシートエディターです。ここでは上のサンプルに適用されます。</translation>
+    </message>
+    <message>
+        <source>With a sheet</source>
+        <translation>スタイルシートあり</translation>
+    </message>
+    <message>
+        <source>With mistakes</source>
+        <translation>エラーあり</translation>
+    </message>
+    <message>
+        <source>Find and replace</source>
+        <translation>検索と置換</translation>
+    </message>
+    <message>
+        <source>Built-in camera of the laptop in the lecture hall</source>
+        <translation>講義室のノートパソコンの内蔵カメラ</translation>
+    </message>
+    <message>
+        <source>Camera</source>
+        <translation>カメラ</translation>
+    </message>
+    <message>
+        <source>No camera</source>
+        <translation>カメラなし</translation>
+    </message>
+    <message>
+        <source>Document camera</source>
+        <translation>書画カメラ</translation>
+    </message>
+    <message>
+        <source>Sound sources</source>
+        <translation>音源</translation>
+    </message>
+    <message>
+        <source>Sources: %1</source>
+        <translation>ソース: %1</translation>
+    </message>
+    <message>
+        <source>System sound</source>
+        <translation>システム音</translation>
+    </message>
+    <message>
+        <source>Click sounds</source>
+        <translation>クリック音</translation>
+    </message>
+    <message>
+        <source>A combo box that elides its text, opens a list as wide as its items or a widget of yours, and can leave the wheel to its panel.</source>
+        <translation>テキストを省略し、項目の幅のリストや独自のウィジェットを開き、ホイール操作をパネルに任せることもできるコンボボックスです。</translation>
+    </message>
+    <message>
+        <source>Elided, wide list</source>
+        <translation>省略、幅の広いリスト</translation>
+    </message>
+    <message>
+        <source>Narrow list</source>
+        <translation>幅の狭いリスト</translation>
+    </message>
+    <message>
+        <source>Display text</source>
+        <translation>表示テキスト</translation>
+    </message>
+    <message>
+        <source>Choose a camera…</source>
+        <translation>カメラを選択…</translation>
+    </message>
+    <message>
+        <source>Opens a widget</source>
+        <translation>ウィジェットを開く</translation>
+    </message>
+    <message>
+        <source>With icons, elided</source>
+        <translation>アイコン付き、省略</translation>
+    </message>
+    <message>
+        <source>Wheel left to the panel</source>
+        <translation>ホイール操作はパネルに任せる</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名前</translation>
+    </message>
+    <message>
+        <source>Name of the camera</source>
+        <translation>カメラの名前</translation>
+    </message>
+    <message>
+        <source>A line edit that elides its text until it gets the focus, and reports an edit when the focus leaves.</source>
+        <translation>フォーカスを得るまでテキストを省略し、フォーカスを失うと編集を通知する入力欄です。</translation>
+    </message>
+    <message>
+        <source>Read-only</source>
+        <translation>読み取り専用</translation>
+    </message>
+    <message>
+        <source>Clear button</source>
+        <translation>クリアボタン</translation>
+    </message>
+    <message>
+        <source>Validated</source>
+        <translation>入力を検証</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>パスワード</translation>
+    </message>
+    <message>
+        <source>Secret</source>
+        <translation>秘密</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>ズーム</translation>
+    </message>
+    <message>
+        <source>Wheel in focus only</source>
+        <translation>フォーカス時のみホイール有効</translation>
+    </message>
+    <message>
+        <source>A slider that can leave the wheel to its panel until it has the focus.</source>
+        <translation>フォーカスを得るまでホイール操作をパネルに任せることができるスライダーです。</translation>
+    </message>
+    <message>
+        <source>At its end</source>
+        <translation>端の値</translation>
+    </message>
+    <message>
+        <source>A slider for a floating-point value: its position times a multiplier.</source>
+        <translation>浮動小数点値のスライダーです。値は位置と倍率の積になります。</translation>
+    </message>
+    <message>
+        <source>Tenths</source>
+        <translation>0.1 単位</translation>
+    </message>
+    <message>
+        <source>Around zero, in quarters</source>
+        <translation>0 を中心に 0.25 単位</translation>
+    </message>
+    <message>
+        <source>Frame rate</source>
+        <translation>フレームレート</translation>
+    </message>
+    <message>
+        <source>A field for a whole number that can leave the wheel to its panel until it has the focus.</source>
+        <translation>フォーカスを得るまでホイール操作をパネルに任せることができる整数フィールドです。</translation>
+    </message>
+    <message>
+        <source>With a unit</source>
+        <translation>単位付き</translation>
+    </message>
+    <message>
+        <source> fps</source>
+        <translation> fps</translation>
+    </message>
+    <message>
+        <source>Delay</source>
+        <translation>遅延</translation>
+    </message>
+    <message>
+        <source> s</source>
+        <translation> 秒</translation>
+    </message>
+    <message>
+        <source>A field for a floating-point number that can keep what is typed to whole steps.</source>
+        <translation>入力値をステップの倍数に揃えることができる浮動小数点数フィールドです。</translation>
+    </message>
+    <message>
+        <source>Typed numbers in whole steps</source>
+        <translation>入力値をステップに揃える</translation>
+    </message>
+    <message>
+        <source>Recording</source>
+        <translation>録画</translation>
+    </message>
+    <message>
+        <source>Waves of colour</source>
+        <translation>色の波</translation>
+    </message>
+    <message>
+        <source>Colours</source>
+        <translation>色</translation>
+    </message>
+    <message>
+        <source>A grid of round LEDs, each of a colour of its own.</source>
+        <translation>それぞれ独自の色を持つ丸い LED のグリッドです。</translation>
+    </message>
+    <message>
+        <source>A sign</source>
+        <translation>記号</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>消灯</translation>
+    </message>
+    <message>
+        <source>Transparent background</source>
+        <translation>透明な背景</translation>
+    </message>
+    <message>
+        <source>Named colours</source>
+        <translation>名前付きの色</translation>
+    </message>
+    <message>
+        <source>Wider than the grid</source>
+        <translation>グリッドより幅が広い</translation>
+    </message>
+    <message>
+        <source>4096 LEDs</source>
+        <translation>4096 個の LED</translation>
+    </message>
+    <message>
+        <source>A button that shows a level and opens a slider above itself.</source>
+        <translation>レベルを表示し、上にスライダーを開くボタンです。</translation>
+    </message>
+    <message>
+        <source>Level 0</source>
+        <translation>レベル 0</translation>
+    </message>
+    <message>
+        <source>From 1</source>
+        <translation>1 以上</translation>
+    </message>
+    <message>
+        <source>From 25</source>
+        <translation>25 以上</translation>
+    </message>
+    <message>
+        <source>From 50</source>
+        <translation>50 以上</translation>
+    </message>
+    <message>
+        <source>From 75</source>
+        <translation>75 以上</translation>
+    </message>
+    <message>
+        <source>Slider in a window apart</source>
+        <translation>別ウィンドウのスライダー</translation>
+    </message>
+    <message>
+        <source>High slider</source>
+        <translation>縦に長いスライダー</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>位置</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>終了</translation>
+    </message>
+    <message>
+        <source>Mark at %1</source>
+        <translation>%1 のマーク</translation>
+    </message>
+    <message>
+        <source>A slider with any number of thumbs and highlighted stretches, for trimming and timelines.</source>
+        <translation>任意の数のつまみと強調区間を持つ、トリミングやタイムラインのためのスライダーです。</translation>
+    </message>
+    <message>
+        <source>One thumb</source>
+        <translation>つまみ 1 つ</translation>
+    </message>
+    <message>
+        <source>Trimming</source>
+        <translation>トリミング</translation>
+    </message>
+    <message>
+        <source>Trimming, position limited</source>
+        <translation>トリミング、位置を制限</translation>
+    </message>
+    <message>
+        <source>Segments</source>
+        <translation>区間</translation>
+    </message>
+    <message>
+        <source>Marks, one selected</source>
+        <translation>マーク、1 つ選択</translation>
+    </message>
+    <message>
+        <source>Marks that snap to the position</source>
+        <translation>位置に吸着するマーク</translation>
+    </message>
+    <message>
+        <source>Upright</source>
+        <translation>縦向き</translation>
+    </message>
+    <message>
+        <source>Upright, segments</source>
+        <translation>縦向き、区間</translation>
+    </message>
 </context>
 <context>
     <name>FirstHint</name>
