@@ -13,9 +13,6 @@ template<class Widget, class Interface>
 class AccessibleFactory
 {
 public:
-    /// Installs as well, but an object that is made once does so for the first application object only.
-    AccessibleFactory() { Install(); }
-
     /// To be called by each constructor of `Widget`: Qt takes a factory once, but forgets it with the application
     /// object, and a program may make another one.
     static void Install()

@@ -6,8 +6,8 @@ using namespace Zelkor::Vx::UI;
 
 namespace {
 
-// Swallows what would push the slider beyond its end. Only touch pads and the like tell pixels; the notches of a mouse
-// wheel go on to the panel.
+// Swallows what would push the slider beyond its end. A slider without the focus is not pushed at all. Only
+// touch pads and the like tell pixels; the notches of a mouse wheel go on to the panel.
 class WheelFilter : public QObject
 {
 public:
@@ -16,7 +16,7 @@ public:
 private:
     bool eventFilter(QObject* watched, QEvent* event) override
     {
-        if (event->type() == QEvent::Wheel) {
+        if (event->type() == QEvent::Wheel && slider->hasFocus()) {
             const int delta = static_cast<QWheelEvent*>(event)->pixelDelta().y();
             const int position = slider->sliderPosition();
             if ((position == slider->minimum() && delta < 0) || (position == slider->maximum() && delta > 0)) {

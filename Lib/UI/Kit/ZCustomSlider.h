@@ -14,8 +14,8 @@ public:
     explicit ZCustomSlider(QWidget* parent = nullptr);
 
     /// Whether the wheel changes the value only in focus; off by default. When on, a slider that stands at an end
-    /// swallows the scrolling of a touch pad beyond that end, with focus and without: the panel does not run off under
-    /// a person who pushes the slider against its end.
+    /// swallows the scrolling of a touch pad beyond that end: the panel does not run off under a person who pushes the
+    /// slider against its end.
     bool isEditableInFocus() const { return editableInFocus; }
     void setEditableInFocus(bool on);
 

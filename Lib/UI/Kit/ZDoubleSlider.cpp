@@ -44,7 +44,7 @@ private:
 
 ZDoubleSlider::ZDoubleSlider(QWidget* parent) : ZCustomSlider(parent)
 {
-    static const Common::AccessibleFactory<ZDoubleSlider, DoubleSliderInterface> FACTORY;
+    Common::AccessibleFactory<ZDoubleSlider, DoubleSliderInterface>::Install();
     connect(this, &QSlider::valueChanged, this, [this] { Q_EMIT doubleValueChanged(doubleValue()); });
 }
 
