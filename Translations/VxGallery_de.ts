@@ -109,7 +109,7 @@
     </message>
     <message>
         <source>Soft click</source>
-        <translation>Leises Klicken</translation>
+        <translation>Leiser Klick</translation>
     </message>
     <message>
         <source>Mechanical keyboard</source>
@@ -1195,7 +1195,7 @@ und nicht breit</translation>
     </message>
     <message>
         <source>Soft click</source>
-        <translation>Leises Klicken</translation>
+        <translation>Leiser Klick</translation>
     </message>
     <message>
         <source>Mechanical keyboard</source>

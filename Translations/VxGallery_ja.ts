@@ -109,7 +109,7 @@
     </message>
     <message>
         <source>Soft click</source>
-        <translation>柔らかいクリック</translation>
+        <translation>静かな音</translation>
     </message>
     <message>
         <source>Mechanical keyboard</source>
@@ -1195,7 +1195,7 @@ and not wide</source>
     </message>
     <message>
         <source>Soft click</source>
-        <translation>柔らかいクリック</translation>
+        <translation>静かな音</translation>
     </message>
     <message>
         <source>Mechanical keyboard</source>
