@@ -1,0 +1,13 @@
+#pragma once
+
+#include <QStringList>
+
+class QLocale;
+class QTime;
+
+/// The first of those `formats`, written as for QTime::toString, that lose least of `time` on its way to a text and
+/// back. Formats that show no part of a time do not count; empty when no other is there.
+QString ChooseTimeFormat(const QStringList& formats, const QTime& time);
+
+/// `time` in the format chosen from `formats`, or as "hh:mm:ss" when there is none.
+QString TimeText(const QTime& time, const QStringList& formats, const QLocale& locale);

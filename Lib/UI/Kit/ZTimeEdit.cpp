@@ -1,0 +1,243 @@
+#include <UI/Kit/ZTimeEdit.h>
+
+#include <UI/Kit/TimeFormat.h>
+
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QPointer>
+#include <QStyle>
+
+#include <algorithm>
+
+namespace {
+
+const QString SHRINK_WIDTH = QStringLiteral("shrinkWidth");
+constexpr char FORCE_MAXIMUM[] = "forceMaxtimeFormat";
+constexpr int TEXT_MARGINS = 4; // what the line edit leaves free on both sides of its text
+constexpr int LAST_MILLISECOND = 24 * 60 * 60 * 1000 - 1;
+
+bool IsEnter(const QKeyEvent& event)
+{
+    return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+}
+
+bool IsDeletion(const QKeyEvent& event)
+{
+    return event.key() == Qt::Key_Backspace || event.key() == Qt::Key_Delete || event.matches(QKeySequence::Cut) ||
+           event.matches(QKeySequence::DeleteEndOfLine) || event.matches(QKeySequence::DeleteCompleteLine);
+}
+
+/// The digit that a key types, or -1.
+int TypedDigit(const QKeyEvent& event)
+{
+    const bool isCommand = event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
+    return isCommand || event.text().size() != 1 ? -1 : event.text().front().digitValue();
+}
+
+QChar DigitOf(const QLocale& locale, int digit)
+{
+    return QChar(locale.zeroDigit().unicode() + digit);
+}
+
+} // namespace
+
+ZTimeEdit::ZTimeEdit(QWidget* parent) : QTimeEdit(parent)
+{
+    // Qt would turn the sections around, and the format with them.
+    setLayoutDirection(Qt::LeftToRight);
+    connect(this, SIGNAL(dateTimeChanged(const QDateTime&)), this, SLOT(updateStyle()));
+    setWrapping(true);
+    setFocusPolicy(Qt::StrongFocus);
+}
+
+void ZTimeEdit::setStyleTag(const QString& tag)
+{
+    if (tag != currentStyleTag) {
+        if (currentStyleTag == SHRINK_WIDTH) {
+            setMinimumWidth(0);
+            setMaximumWidth(QWIDGETSIZE_MAX);
+        }
+        currentStyleTag = tag;
+        style()->unpolish(this);
+        style()->polish(this);
+    }
+    updateStyle();
+}
+
+void ZTimeEdit::setDisplayFormatList(const QStringList& list)
+{
+    formats = list;
+    updateStyle();
+}
+
+void ZTimeEdit::setTimeClamped(const QTime& time)
+{
+    if (time.isValid())
+        setTime(qBound(minimumTime(), time, maximumTime()));
+}
+
+void ZTimeEdit::stepBy(int steps)
+{
+    qint64 size = 0;
+    switch (currentSection()) {
+    case MSecSection:
+        size = stepOfMilliseconds;
+        break;
+    case SecondSection:
+        size = 1000;
+        break;
+    case MinuteSection:
+        size = 60 * 1000;
+        break;
+    case HourSection:
+        size = 60 * 60 * 1000;
+        break;
+    default:
+        break;
+    }
+    const qint64 stepped = qBound<qint64>(0, time().msecsSinceStartOfDay() + size * steps, LAST_MILLISECOND);
+    setTimeClamped(QTime::fromMSecsSinceStartOfDay(int(stepped)));
+    updateStyle();
+}
+
+void ZTimeEdit::updateStyle()
+{
+    chooseFormat();
+    if (currentStyleTag == SHRINK_WIDTH)
+        setFixedWidth(fontMetrics().horizontalAdvance(lineEdit()->text()) + TEXT_MARGINS);
+}
+
+void ZTimeEdit::chooseFormat()
+{
+    const bool isForMaximum = hasFocus() || property(FORCE_MAXIMUM).toBool();
+    const QString format = ChooseTimeFormat(formats, isForMaximum ? maximumTime() : time());
+    if (format.isEmpty() || format == displayFormat())
+        return;
+    QLineEdit* edit = lineEdit();
+    const int fromEnd = edit->text().size() - edit->cursorPosition();
+    const QTime minimum = minimumTime();
+    const QTime maximum = maximumTime();
+    setDisplayFormat(format);
+    // With a new format, Qt forgets a range of one single time.
+    if (minimum != minimumTime() || maximum != maximumTime())
+        setTimeRange(minimum, maximum);
+    edit->setCursorPosition(qMax(0, edit->text().size() - fromEnd));
+}
+
+QTime ZTimeEdit::read(const QString& text) const
+{
+    return locale().toTime(text, displayFormat());
+}
+
+bool ZTimeEdit::event(QEvent* event)
+{
+    if (event->type() == QEvent::DynamicPropertyChange &&
+        static_cast<QDynamicPropertyChangeEvent*>(event)->propertyName() == FORCE_MAXIMUM)
+        updateStyle();
+    return QTimeEdit::event(event);
+}
+
+void ZTimeEdit::keyPressEvent(QKeyEvent* event)
+{
+    const QString before = lineEdit()->text();
+    const QTime timeBefore = time();
+    QTimeEdit::keyPressEvent(event);
+    if (IsEnter(*event)) {
+        finish();
+        return;
+    }
+    const QString after = lineEdit()->text();
+    const int digit = TypedDigit(*event);
+    // A digit typed over several ones may leave a time nevertheless, where the format has no leading zeros. Other keys,
+    // those that step for example, shorten the text without leaving a gap.
+    const bool leavesGap = digit < 0 ? IsDeletion(*event) : !read(after).isValid();
+    if (after.size() < before.size() && leavesGap)
+        fillGap(before, timeBefore);
+    else if (after == before && digit >= 0 && !isReadOnly())
+        overwrite(digit);
+}
+
+void ZTimeEdit::finish()
+{
+    lineEdit()->deselect();
+    clearFocus();
+    Q_EMIT EnterPressed();
+}
+
+// What is missing at the cursor comes back, with zeros for digits.
+void ZTimeEdit::fillGap(const QString& before, const QTime& timeBefore)
+{
+    const QString after = lineEdit()->text();
+    const int position = lineEdit()->cursorPosition();
+    QString gap = before.mid(position, before.size() - after.size());
+    std::replace_if(
+        gap.begin(), gap.end(), [](QChar character) { return character.isDigit(); }, DigitOf(locale(), 0));
+    const QTime filled = read(after.left(position) + gap + after.mid(position));
+    setTimeClamped(filled.isValid() ? filled : timeBefore);
+    updateStyle();
+    lineEdit()->setCursorPosition(position);
+}
+
+void ZTimeEdit::overwrite(int digit)
+{
+    QString text = lineEdit()->text();
+    const int position = lineEdit()->hasSelectedText() ? lineEdit()->selectionStart() : lineEdit()->cursorPosition();
+    if (position >= text.size())
+        return;
+    const int fromEnd = text.size() - position;
+    if (text[position].isDigit()) {
+        text[position] = DigitOf(locale(), digit);
+        const QTime time = read(text);
+        if (!time.isValid())
+            return;
+        setTimeClamped(time);
+        updateStyle();
+        text = lineEdit()->text();
+    }
+    // Counted from the end: an hour may have got longer.
+    const auto next = std::find_if(text.begin() + qMax(0, text.size() - fromEnd + 1), text.end(),
+                                   [](QChar character) { return character.isDigit(); });
+    lineEdit()->setCursorPosition(int(next - text.begin()));
+    lineEdit()->deselect();
+}
+
+void ZTimeEdit::wheelEvent(QWheelEvent* event)
+{
+    if (focusPolicy() != Qt::StrongFocus)
+        QTimeEdit::wheelEvent(event);
+    else
+        event->ignore();
+}
+
+void ZTimeEdit::focusInEvent(QFocusEvent* event)
+{
+    setFocusPolicy(Qt::WheelFocus);
+    // Before Qt selects the section to begin with.
+    updateStyle();
+    QTimeEdit::focusInEvent(event);
+}
+
+void ZTimeEdit::focusOutEvent(QFocusEvent* event)
+{
+    const QPointer<ZTimeEdit> self(this);
+    QTimeEdit::focusOutEvent(event);
+    if (!self)
+        return;
+    setFocusPolicy(Qt::StrongFocus);
+    updateStyle();
+}
+
+void ZTimeEdit::showEvent(QShowEvent* event)
+{
+    QTimeEdit::showEvent(event);
+    updateStyle();
+}
+
+void ZTimeEdit::changeEvent(QEvent* event)
+{
+    QTimeEdit::changeEvent(event);
+    if (event->type() == QEvent::FontChange)
+        updateStyle();
+    else if (event->type() == QEvent::LayoutDirectionChange && isRightToLeft())
+        setLayoutDirection(Qt::LeftToRight);
+}

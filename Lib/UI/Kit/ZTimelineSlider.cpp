@@ -1,0 +1,248 @@
+#include <UI/Kit/ZTimelineSlider.h>
+
+#include <UI/Common/AccessibleFactory.h>
+#include <UI/Kit/TimeFormat.h>
+#include <UI/Kit/ZSliderThumb.h>
+
+#include <QAccessibleWidget>
+#include <QMouseEvent>
+#include <QPointer>
+#include <QStyle>
+#include <QTime>
+#include <QToolTip>
+
+#include <algorithm>
+#include <limits>
+
+namespace {
+
+constexpr int STEPS = 1000;
+constexpr qint64 NO_BOUND = -1;
+constexpr int SECONDS_A_DAY = 24 * 60 * 60;
+constexpr qint64 MILLISECONDS_A_DAY = 1000 * qint64(SECONDS_A_DAY);
+
+/// Holds the product of a length of time and a value of the slider, whatever they are.
+__extension__ typedef __int128 Wide;
+
+template<class Integer>
+Integer Saturated(Wide number)
+{
+    using Limits = std::numeric_limits<Integer>;
+    return Integer(std::clamp(number, Wide(Limits::min()), Wide(Limits::max())));
+}
+
+/// factor * part / whole + 1/2, without what is behind the point; 0 when there is no whole.
+Wide Scaled(Wide factor, Wide part, Wide whole)
+{
+    return whole == 0 ? 0 : (2 * factor * part + whole) / (2 * whole);
+}
+
+QString DayTimeText(qint64 milliseconds, const ZTimelineSlider& slider)
+{
+    const QTime time = QTime(0, 0).addMSecs(int(milliseconds % MILLISECONDS_A_DAY));
+    return TimeText(time, slider.displayFormatList(), slider.locale());
+}
+
+/// Tells times where a slider tells values.
+class AccessibleTimeline : public QAccessibleWidget, public QAccessibleValueInterface
+{
+public:
+    explicit AccessibleTimeline(ZTimelineSlider* slider)
+        : QAccessibleWidget(slider, QAccessible::Slider), slider(slider)
+    {}
+
+    void* interface_cast(QAccessible::InterfaceType type) override
+    {
+        return type == QAccessible::ValueInterface ? static_cast<QAccessibleValueInterface*>(this)
+                                                   : QAccessibleWidget::interface_cast(type);
+    }
+
+    QString text(QAccessible::Text kind) const override
+    {
+        return kind == QAccessible::Value ? DayTimeText(slider->time(), *slider) : QAccessibleWidget::text(kind);
+    }
+
+    QVariant currentValue() const override { return slider->time(); }
+    void setCurrentValue(const QVariant& value) override { slider->setTime(value.toLongLong()); }
+    QVariant minimumValue() const override { return end(slider->leftBound(), slider->minimum()); }
+    QVariant maximumValue() const override { return end(slider->rightBound(), slider->maximum()); }
+    QVariant minimumStepSize() const override
+    {
+        return slider->timeAt(slider->minimum() + slider->singleStep()) - slider->timeAt(slider->minimum());
+    }
+
+private:
+    qint64 end(qint64 bound, int value) const { return bound < 0 ? slider->timeAt(value) : bound; }
+
+    ZTimelineSlider* slider;
+};
+
+} // namespace
+
+/// What the slider shows.
+struct ZTimelineSlider::Scale
+{
+    qint64 low;
+    qint64 high;
+    qint64 offset; ///< the time of value 0
+
+    Wide length() const { return Wide(high) - low; }
+};
+
+ZTimelineSlider::ZTimelineSlider(QWidget* parent) : ZSlider(parent)
+{
+    Zelkor::Vx::UI::Common::AccessibleFactory<ZTimelineSlider, AccessibleTimeline>::Install();
+    connect(this, &QAbstractSlider::sliderMoved, this, &ZTimelineSlider::updateTime);
+    connect(this, &QAbstractSlider::valueChanged, this, &ZTimelineSlider::updateTime);
+    setRange(0, STEPS);
+    setMouseTracking(true);
+    connect(this, &QAbstractSlider::rangeChanged, this, &ZTimelineSlider::refit);
+}
+
+void ZTimelineSlider::setSpan(qint64 start, qint64 end)
+{
+    if (start == spanStart && end == spanEnd)
+        return;
+    spanStart = start;
+    spanEnd = end;
+    refit();
+}
+
+void ZTimelineSlider::setBounds(qint64 left, qint64 right)
+{
+    if (left == lowerBound && right == upperBound)
+        return;
+    lowerBound = left;
+    upperBound = right;
+    refit();
+}
+
+void ZTimelineSlider::resetBounds()
+{
+    setBounds(NO_BOUND, NO_BOUND);
+}
+
+void ZTimelineSlider::setBoundsIgnored(bool on)
+{
+    if (on == boundsIgnored)
+        return;
+    boundsIgnored = on;
+    refit();
+}
+
+void ZTimelineSlider::setTime(qint64 milliseconds)
+{
+    setValue(valueOf(milliseconds));
+}
+
+void ZTimelineSlider::resetTime()
+{
+    const QSignalBlocker silence(this);
+    setValue(0);
+    currentTime = 0;
+    // It would follow the signal.
+    if (ZSliderThumb* thumb = defaultThumb()) {
+        const QSignalBlocker silentThumb(thumb);
+        thumb->setValue(0);
+    }
+}
+
+void ZTimelineSlider::setStyleTag(const QString& tag)
+{
+    if (tag == currentStyleTag)
+        return;
+    currentStyleTag = tag;
+    style()->unpolish(this);
+    style()->polish(this);
+    update();
+}
+
+ZTimelineSlider::Scale ZTimelineSlider::scale() const
+{
+    const bool isBoundLeft = lowerBound >= 0 && !boundsIgnored;
+    const bool isBoundRight = upperBound >= 0 && !boundsIgnored;
+    return {isBoundLeft ? lowerBound : spanStart, isBoundRight ? upperBound : spanEnd, isBoundLeft ? lowerBound : 0};
+}
+
+int ZTimelineSlider::valueOf(qint64 milliseconds) const
+{
+    qint64 time = qBound(spanStart, milliseconds, spanEnd);
+    if (lowerBound >= 0)
+        time = qMax(time, lowerBound);
+    if (upperBound >= 0)
+        time = qMin(time, upperBound);
+    const Scale shown = scale();
+    return Saturated<int>(Scaled(Wide(maximum()) - minimum(), Wide(time) - shown.offset, shown.length()));
+}
+
+qint64 ZTimelineSlider::timeAt(int value) const
+{
+    const int inside = qBound(minimum(), value, maximum());
+    if (const std::optional<qint64> bound = boundAt(inside))
+        return *bound;
+    const Scale shown = scale();
+    return Saturated<qint64>(Scaled(shown.length(), inside, Wide(maximum()) - minimum()) + shown.offset);
+}
+
+// Where a bound limits the default thumb.
+std::optional<int> ZTimelineSlider::limitOf(qint64 bound) const
+{
+    if (bound < 0)
+        return {};
+    return qBound(minimum(), valueOf(bound), maximum());
+}
+
+std::optional<qint64> ZTimelineSlider::boundAt(int value) const
+{
+    for (const qint64 bound : {lowerBound, upperBound}) {
+        if (limitOf(bound) == value)
+            return bound;
+    }
+    return {};
+}
+
+void ZTimelineSlider::setThumbLimits(int lower, int upper)
+{
+    if (ZSliderThumb* thumb = defaultThumb())
+        thumb->setLowerLimit(lower);
+    // Looked up again: a thumb that moves is told about.
+    if (ZSliderThumb* thumb = defaultThumb())
+        thumb->setUpperLimit(upper);
+}
+
+// Values have other times now. New limits come last, since the thumb's value is an old one until then, and no time
+// shall get lost at a limit that it lies within.
+void ZTimelineSlider::refit()
+{
+    const QPointer<ZTimelineSlider> self(this);
+    setThumbLimits(std::numeric_limits<int>::min(), std::numeric_limits<int>::max());
+    setValue(valueOf(currentTime));
+    if (!self)
+        return;
+    setThumbLimits(limitOf(lowerBound).value_or(minimum()), limitOf(upperBound).value_or(maximum()));
+    // The bound may have moved under a thumb that stands at it.
+    if (self && boundAt(value()))
+        updateTime(value());
+}
+
+void ZTimelineSlider::updateTime(int value)
+{
+    const qint64 newTime = timeAt(value);
+    if (newTime == currentTime)
+        return;
+    currentTime = newTime;
+    Q_EMIT timeChanged(newTime);
+}
+
+void ZTimelineSlider::mouseMoveEvent(QMouseEvent* event)
+{
+    const int start = grooveOffset();
+    const int end = width() - grooveOffset();
+    double ratio = event->x() <= start ? 0 : 1;
+    if (start < event->x() && event->x() < end)
+        ratio = double(event->x() - start) / (end - start);
+    const auto seconds = qint64(double(scale().length()) * ratio / 1000);
+    const QTime shown = QTime(0, 0).addSecs(int(seconds % SECONDS_A_DAY));
+    QToolTip::showText(event->globalPos(), TimeText(shown, formats, locale()), this, rect());
+    ZSlider::mouseMoveEvent(event);
+}
