@@ -2,6 +2,7 @@
 #include "Catalogue.h"
 #include "RecorderView.h"
 #include "StyleSheet.h"
+#include "TrimPage.h"
 #include "WidgetPage.h"
 
 #include <QCloseEvent>
@@ -30,7 +31,7 @@ QString RecorderPageName()
 
 QStringList PageNames()
 {
-    QStringList names{RecorderPageName()};
+    QStringList names{RecorderPageName(), TrimPageName()};
     for (const Entry& entry : Entries())
         names.append(entry.className);
     return names;
@@ -75,6 +76,7 @@ void GalleryWindow::FillList()
         item->setData(Qt::AccessibleTextRole, text);
     };
     addPage(RecorderPageName(), tr("Recorder"), "camera");
+    addPage(TrimPageName(), tr("Trimmer"), "trim");
     QFont headingFont = list->font();
     headingFont.setPointSizeF(headingFont.pointSizeF() * HEADING_FONT_FACTOR);
     QString group;
@@ -94,6 +96,8 @@ void GalleryWindow::ShowPage(const QString& name)
     delete page;
     if (const Entry* entry = FindEntry(name))
         page = new WidgetPage(*entry);
+    else if (name == TrimPageName())
+        page = new TrimPage;
     else
         page = new RecorderView(model, preferences);
     body->addWidget(page, 1);

@@ -10,7 +10,8 @@ namespace Zelkor::Gallery {
 class Preferences;
 class RecorderModel;
 
-/// The name of the recorder's page, the first one; the other pages are named after the classes of the catalogue.
+/// The name of the recorder's page, the first one. After it come the trimmer, and a page for each class of the
+/// catalogue.
 QString RecorderPageName();
 
 /// The names of all pages, in order.

@@ -198,7 +198,7 @@ QWidget* SettingsDialog::CreatePointerPage()
 
 void SettingsDialog::ShowQuality()
 {
-    qualityRemark->setText(tr("About %n megabyte(s) per minute", nullptr, MEGABYTES_PER_MINUTE[preferences->quality]));
+    qualityRemark->setText(tr("About %1 MB per minute").arg(MEGABYTES_PER_MINUTE[preferences->quality]));
 }
 
 void SettingsDialog::ShowHighlight()
@@ -234,7 +234,7 @@ void SettingsDialog::Retranslate()
     Name(countdownLabel, countdown, tr("Countdown"));
     QStringList times;
     for (const int seconds : COUNTDOWNS)
-        times.append(seconds == 0 ? tr("None") : tr("%n second(s)", nullptr, seconds));
+        times.append(seconds == 0 ? tr("None") : tr("%1 s").arg(seconds));
     SetTexts(countdown, times);
     Name(qualityLabel, quality, tr("Quality"));
     SetTexts(quality, {tr("Small"), tr("Medium"), tr("High"), tr("Lossless")});

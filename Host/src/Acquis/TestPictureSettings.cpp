@@ -22,17 +22,12 @@ constexpr int MAX_SPEED = 400; // per cent
 constexpr int SPEED_STEP = 25;
 constexpr int SLIDER_WIDTH = 220;
 
-QString Translated(const char* text)
-{
-    return QCoreApplication::translate("TestPicture", text);
-}
-
 QDialog* CreateDialog(const std::shared_ptr<TestPictureSettings>& settings)
 {
     auto* dialog = new QDialog(QApplication::activeWindow());
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setObjectName(QStringLiteral("TestPictureSettings"));
-    dialog->setWindowTitle(Translated("Test picture"));
+    dialog->setWindowTitle(QCoreApplication::translate("TestPicture", "Test picture"));
 
     auto* speed = new QSlider(Qt::Horizontal);
     speed->setObjectName(QStringLiteral("Speed"));
@@ -43,7 +38,7 @@ QDialog* CreateDialog(const std::shared_ptr<TestPictureSettings>& settings)
     speed->setValue(settings->speedPercent);
     QObject::connect(speed, &QSlider::valueChanged, dialog, [settings](int value) { settings->speedPercent = value; });
 
-    auto* counter = new QCheckBox(Translated("Show &counter"));
+    auto* counter = new QCheckBox(QCoreApplication::translate("TestPicture", "Show &counter"));
     counter->setObjectName(QStringLiteral("ShowCounter"));
     counter->setChecked(settings->showsCounter);
     QObject::connect(counter, &QCheckBox::toggled, dialog, [settings](bool on) { settings->showsCounter = on; });
@@ -52,7 +47,7 @@ QDialog* CreateDialog(const std::shared_ptr<TestPictureSettings>& settings)
     QObject::connect(buttons, &QDialogButtonBox::rejected, dialog, &QDialog::close);
 
     auto* layout = new QFormLayout(dialog);
-    layout->addRow(Translated("&Speed"), speed);
+    layout->addRow(QCoreApplication::translate("TestPicture", "&Speed"), speed);
     layout->addRow(counter);
     layout->addRow(buttons);
     return dialog;

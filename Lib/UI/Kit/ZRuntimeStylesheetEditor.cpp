@@ -166,7 +166,8 @@ void ZRuntimeStylesheetEditor::Impl::say(const QString& text, bool isProblem)
 void ZRuntimeStylesheetEditor::Impl::sayMistake()
 {
     const Mistake& first = mistakes().first();
-    QString text = Place(first.line, first.column) + QStringLiteral(": ") + StyleSheetSyntax::Describe(first.problem);
+    QString text = ZRuntimeStylesheetEditor::tr("%1: %2").arg(Place(first.line, first.column),
+                                                              StyleSheetSyntax::Describe(first.problem));
     if (mistakes().size() > 1)
         text += QLatin1Char(' ') + ZRuntimeStylesheetEditor::tr("(and %n more)", nullptr, mistakes().size() - 1);
     say(text, true);

@@ -1,0 +1,75 @@
+#pragma once
+
+#include "TrimModel.h"
+
+#include <QWidget>
+
+#include <optional>
+
+class QAbstractButton;
+class QAction;
+class QLabel;
+class QToolButton;
+class ZLabel;
+class ZSliderThumb;
+class ZTimeEdit;
+class ZTimelineSlider;
+
+namespace Zelkor::Vx {
+class CountdownIndicatorWidget;
+}
+
+namespace Zelkor::Gallery {
+
+/// The name of the page in the list of pages.
+QString TrimPageName();
+
+/// A recording on a timeline: brackets and time fields say what is kept, and stretches are cut out at the position.
+///
+/// A drag of a bracket is one step to undo; the Escape key takes it back. GUI thread.
+class TrimPage : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit TrimPage(QWidget* parent = nullptr);
+
+protected:
+    void changeEvent(QEvent* event) override;
+
+private:
+    using Setter = void (TrimModel::*)(qint64);
+
+    QWidget* CreateTimeline();
+    QWidget* CreateControls();
+    ZSliderThumb* AddBracket(const char* name, Setter set);
+    ZTimeEdit* CreateField(const char* name, Setter set);
+    QAction* AddAction(QToolButton* button, const char* icon, const QKeySequence& shortcut, void (TrimPage::*act)());
+    qint64 BracketTime(const ZSliderThumb* thumb) const;
+    void ToggleCut();
+    void Undo() { model.Undo(); }
+    void Redo() { model.Redo(); }
+    void CancelDrag();
+    void Show();
+    void ShowPosition();
+    void Retranslate();
+
+    TrimModel model;
+    bool showing = false;       ///< the widgets take what the model has, and not the other way round
+    bool dragCancelled = false; ///< of the drag that goes on
+    std::optional<qint64> cutFrom;
+    Vx::CountdownIndicatorWidget* position;
+    ZTimelineSlider* timeline;
+    ZSliderThumb* start;
+    ZSliderThumb* end;
+    ZTimeEdit* startField;
+    ZTimeEdit* endField;
+    QLabel* title;
+    QLabel* description;
+    ZLabel* result;
+    QToolButton* cutButton;
+    QToolButton* undoButton;
+    QToolButton* redoButton;
+};
+
+} // namespace Zelkor::Gallery
