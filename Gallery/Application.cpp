@@ -3,6 +3,8 @@
 #include "RecorderWindow.h"
 #include "Screenshot.h"
 
+#include <UI/Kit/ZRuntimeStylesheetEditor.h>
+
 #include <QAbstractButton>
 #include <QApplication>
 #include <QDir>
@@ -66,6 +68,9 @@ Application::Application(Options options) : options(std::move(options))
     QObject::connect(&preferences, &Preferences::StyleNameChanged, &model,
                      [this](const QString& name) { UseStyle(name); });
     model.SetDevices(devices.GetDevices());
+    editStyle.setShortcut(Qt::Key_F12);
+    editStyle.setShortcutContext(Qt::ApplicationShortcut);
+    QObject::connect(&editStyle, &QAction::triggered, &model, [this] { OpenStyleEditor(); });
 }
 
 Application::~Application() = default;
@@ -103,15 +108,34 @@ QWidget* Application::OpenPage(const QString& name)
             recorder->resize(recorder->sizeHint());
             QObject::connect(recorder.get(), &RecorderWindow::WidgetsRequested, recorder.get(),
                              [this] { OpenWidgets(); });
+            QObject::connect(recorder.get(), &RecorderWindow::StyleEditorRequested, &editStyle, &QAction::trigger);
+            recorder->addAction(&editStyle);
         }
         Show(recorder.get(), options.size);
         return recorder.get();
     }
     if (!gallery)
-        gallery = std::make_unique<GalleryWindow>(&model, &preferences);
+        MakeGallery();
     gallery->OpenPage(name);
     Show(gallery.get(), options.size);
     return gallery.get();
+}
+
+void Application::MakeGallery()
+{
+    gallery = std::make_unique<GalleryWindow>(&model, &preferences);
+    gallery->addAction(&editStyle);
+}
+
+void Application::OpenStyleEditor()
+{
+    if (!styleEditor) {
+        styleEditor = std::make_unique<ZRuntimeStylesheetEditor>();
+        styleEditor->setAttribute(Qt::WA_QuitOnClose, false);
+    }
+    styleEditor->show();
+    styleEditor->raise();
+    styleEditor->activateWindow();
 }
 
 // Somebody who has seen the hint once knows. Without a screen, nobody would see it.
@@ -133,7 +157,7 @@ void Application::GreetOnce()
 void Application::OpenWidgets()
 {
     if (!gallery) {
-        gallery = std::make_unique<GalleryWindow>(&model, &preferences);
+        MakeGallery();
         QObject::connect(gallery.get(), &GalleryWindow::Closed, recorder.get(), [this] { recorder->show(); });
     }
     gallery->OpenPage(PageNames().value(1));

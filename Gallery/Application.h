@@ -7,7 +7,11 @@
 
 #include <Zelkor/StandIn/DeviceList.h>
 
+#include <QAction>
+
 #include <memory>
+
+class ZRuntimeStylesheetEditor;
 
 namespace Zelkor::Gallery {
 
@@ -28,7 +32,9 @@ private:
     void UseLanguage(const QString& code);
     void UseStyle(const QString& name);
     QWidget* OpenPage(const QString& name);
+    void MakeGallery();
     void OpenWidgets();
+    void OpenStyleEditor();
     void GreetOnce();
     int TakePictureOfPage(const QString& page, const QString& file);
     int TakeAllPictures();
@@ -36,10 +42,12 @@ private:
     const Options options;
     Translations translations;
     Preferences preferences;
+    QAction editStyle; ///< with its shortcut in every window
     StandIn::DeviceList devices;
     RecorderModel model;
     std::unique_ptr<RecorderWindow> recorder;
     std::unique_ptr<GalleryWindow> gallery;
+    std::unique_ptr<ZRuntimeStylesheetEditor> styleEditor;
 };
 
 /// Writes one line to standard error, under the program's name.

@@ -52,8 +52,8 @@ void Trim(ZSlider& slider)
     slider.setProperty("role", QStringLiteral("trim"));
     ZSliderThumb* left = AddThumb(slider, QStringLiteral("left"), 20);
     ZSliderThumb* right = AddThumb(slider, QStringLiteral("right"), 70);
-    left->setName(Catalogue::tr("Start"));
-    right->setName(Catalogue::tr("End"));
+    left->setName(Catalogue::tr("Start", "thumb"));
+    right->setName(Catalogue::tr("End", "thumb"));
     const auto follow = [&slider, left, right] {
         left->setUpperLimit(right->value());
         right->setLowerLimit(left->value());

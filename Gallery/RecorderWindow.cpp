@@ -28,10 +28,11 @@ RecorderWindow::RecorderWindow(RecorderModel* model, Preferences* preferences)
     layout->addWidget(view);
     auto* titleBar = new CustomTitleBar(this);
     widgetsButton = new QToolButton;
+    styleButton = new QToolButton;
     settingsButton = new QToolButton;
     aboutButton = new QToolButton;
     const std::pair<QToolButton*, const char*> buttons[] = {
-        {widgetsButton, "grid"}, {settingsButton, "settings"}, {aboutButton, "information"}};
+        {widgetsButton, "grid"}, {styleButton, "style"}, {settingsButton, "settings"}, {aboutButton, "information"}};
     for (const auto& [button, icon] : buttons) {
         button->setFocusPolicy(Qt::StrongFocus);
         button->setAutoRaise(true);
@@ -45,6 +46,7 @@ RecorderWindow::RecorderWindow(RecorderModel* model, Preferences* preferences)
     view->setFocus();
 
     connect(widgetsButton, &QToolButton::clicked, this, &RecorderWindow::WidgetsRequested);
+    connect(styleButton, &QToolButton::clicked, this, &RecorderWindow::StyleEditorRequested);
     connect(settingsButton, &QToolButton::clicked, this, &RecorderWindow::ShowSettings);
     connect(aboutButton, &QToolButton::clicked, this, &RecorderWindow::ShowAbout);
     Retranslate();
@@ -80,6 +82,7 @@ void RecorderWindow::Retranslate()
         button->setToolTip(text);
     };
     name(widgetsButton, tr("All widgets"));
+    name(styleButton, tr("Edit the style sheet (F12)"));
     name(settingsButton, tr("Settings"));
     name(aboutButton, tr("About"));
 }

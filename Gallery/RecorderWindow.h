@@ -30,6 +30,9 @@ Q_SIGNALS:
     /// The person wants to see the widgets.
     void WidgetsRequested();
 
+    /// The person wants to edit the style sheet.
+    void StyleEditorRequested();
+
 protected:
     void resizeEvent(QResizeEvent* event) override;
     void changeEvent(QEvent* event) override;
@@ -42,6 +45,7 @@ private:
     Preferences* preferences;
     RecorderView* view;
     QToolButton* widgetsButton;
+    QToolButton* styleButton;
     QToolButton* settingsButton;
     QToolButton* aboutButton;
     QSizeGrip* sizeGrip;

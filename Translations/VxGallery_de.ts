@@ -1078,10 +1078,6 @@ und nicht breit</translation>
         <translation>Position</translation>
     </message>
     <message>
-        <source>End</source>
-        <translation>Ende</translation>
-    </message>
-    <message>
         <source>Mark at %1</source>
         <translation>Marke bei %1</translation>
     </message>
@@ -1121,6 +1117,16 @@ und nicht breit</translation>
         <source>Upright, segments</source>
         <translation>Senkrecht, Abschnitte</translation>
     </message>
+    <message>
+        <source>Start</source>
+        <comment>thumb</comment>
+        <translation>Anfang</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <comment>thumb</comment>
+        <translation>Ende</translation>
+    </message>
 </context>
 <context>
     <name>FirstHint</name>
@@ -1131,6 +1137,21 @@ und nicht breit</translation>
     <message>
         <source>Choose what is shown: a camera, the screen or the test picture.</source>
         <translation>Wählen Sie, was gezeigt wird: eine Kamera, der Bildschirm oder das Testbild.</translation>
+    </message>
+</context>
+<context>
+    <name>TestPicture</name>
+    <message>
+        <source>Test picture</source>
+        <translation>Testbild</translation>
+    </message>
+    <message>
+        <source>Show &amp;counter</source>
+        <translation>&amp;Zähler anzeigen</translation>
+    </message>
+    <message>
+        <source>&amp;Speed</source>
+        <translation>&amp;Geschwindigkeit</translation>
     </message>
 </context>
 <context>
@@ -1244,6 +1265,10 @@ und nicht breit</translation>
         <source>Recorder</source>
         <translation>Rekorder</translation>
     </message>
+    <message>
+        <source>Trimmer</source>
+        <translation>Zuschneiden</translation>
+    </message>
 </context>
 <context>
     <name>Zelkor::Gallery::RecorderView</name>
@@ -1354,16 +1379,13 @@ und nicht breit</translation>
         <source>About</source>
         <translation>Info</translation>
     </message>
+    <message>
+        <source>Edit the style sheet (F12)</source>
+        <translation>Stylesheet bearbeiten (F12)</translation>
+    </message>
 </context>
 <context>
     <name>Zelkor::Gallery::SettingsDialog</name>
-    <message numerus="yes">
-        <source>About %n megabyte(s) per minute</source>
-        <translation>
-            <numerusform>Etwa %n Megabyte pro Minute</numerusform>
-            <numerusform>Etwa %n Megabyte pro Minute</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Settings</source>
         <translation>Einstellungen</translation>
@@ -1412,13 +1434,6 @@ und nicht breit</translation>
         <source>None</source>
         <translation>Keiner</translation>
     </message>
-    <message numerus="yes">
-        <source>%n second(s)</source>
-        <translation>
-            <numerusform>%n Sekunde</numerusform>
-            <numerusform>%n Sekunden</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Quality</source>
         <translation>Qualität</translation>
@@ -1450,6 +1465,14 @@ und nicht breit</translation>
     <message>
         <source>The pointer&apos;s highlight</source>
         <translation>Hervorhebung des Mauszeigers</translation>
+    </message>
+    <message>
+        <source>About %1 MB per minute</source>
+        <translation>Etwa %1 MB je Minute</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
     </message>
 </context>
 <context>
@@ -1547,6 +1570,49 @@ und nicht breit</translation>
     <message>
         <source>Eraser</source>
         <translation>Radierer</translation>
+    </message>
+</context>
+<context>
+    <name>Zelkor::Gallery::TrimPage</name>
+    <message>
+        <source>Result: %1</source>
+        <translation>Ergebnis: %1</translation>
+    </message>
+    <message>
+        <source>Trim a recording</source>
+        <translation>Aufnahme zuschneiden</translation>
+    </message>
+    <message>
+        <source>Drag the brackets or type the times. A cut begins where the position is and ends where it is the next time. Everything can be undone; Escape takes back a drag.</source>
+        <translation>Ziehen Sie die Klammern oder geben Sie die Zeiten ein. Ein Schnitt beginnt an der Position und endet dort, wo sie beim nächsten Mal ist. Alles lässt sich rückgängig machen; Esc nimmt ein Ziehen zurück.</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Position</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Anfang</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>Ende</translation>
+    </message>
+    <message>
+        <source>Cut to here</source>
+        <translation>Bis hierher schneiden</translation>
+    </message>
+    <message>
+        <source>Cut from here</source>
+        <translation>Ab hier schneiden</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Wiederholen</translation>
     </message>
 </context>
 </TS>

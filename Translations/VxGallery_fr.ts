@@ -1078,10 +1078,6 @@ et peu large</translation>
         <translation>Position</translation>
     </message>
     <message>
-        <source>End</source>
-        <translation>Fin</translation>
-    </message>
-    <message>
         <source>Mark at %1</source>
         <translation>Repère à %1</translation>
     </message>
@@ -1121,6 +1117,16 @@ et peu large</translation>
         <source>Upright, segments</source>
         <translation>Vertical, segments</translation>
     </message>
+    <message>
+        <source>Start</source>
+        <comment>thumb</comment>
+        <translation>Début</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <comment>thumb</comment>
+        <translation>Fin</translation>
+    </message>
 </context>
 <context>
     <name>FirstHint</name>
@@ -1131,6 +1137,21 @@ et peu large</translation>
     <message>
         <source>Choose what is shown: a camera, the screen or the test picture.</source>
         <translation>Choisissez ce qui est affiché&#xa0;: une caméra, l’écran ou la mire.</translation>
+    </message>
+</context>
+<context>
+    <name>TestPicture</name>
+    <message>
+        <source>Test picture</source>
+        <translation>Mire</translation>
+    </message>
+    <message>
+        <source>Show &amp;counter</source>
+        <translation>Afficher le &amp;compteur</translation>
+    </message>
+    <message>
+        <source>&amp;Speed</source>
+        <translation>&amp;Vitesse</translation>
     </message>
 </context>
 <context>
@@ -1244,6 +1265,10 @@ et peu large</translation>
         <source>Recorder</source>
         <translation>Enregistreur</translation>
     </message>
+    <message>
+        <source>Trimmer</source>
+        <translation>Découpe</translation>
+    </message>
 </context>
 <context>
     <name>Zelkor::Gallery::RecorderView</name>
@@ -1354,16 +1379,13 @@ et peu large</translation>
         <source>About</source>
         <translation>À propos</translation>
     </message>
+    <message>
+        <source>Edit the style sheet (F12)</source>
+        <translation>Modifier la feuille de style (F12)</translation>
+    </message>
 </context>
 <context>
     <name>Zelkor::Gallery::SettingsDialog</name>
-    <message numerus="yes">
-        <source>About %n megabyte(s) per minute</source>
-        <translation>
-            <numerusform>Environ %n mégaoctet par minute</numerusform>
-            <numerusform>Environ %n mégaoctets par minute</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Settings</source>
         <translation>Paramètres</translation>
@@ -1412,13 +1434,6 @@ et peu large</translation>
         <source>None</source>
         <translation>Aucun</translation>
     </message>
-    <message numerus="yes">
-        <source>%n second(s)</source>
-        <translation>
-            <numerusform>%n seconde</numerusform>
-            <numerusform>%n secondes</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Quality</source>
         <translation>Qualité</translation>
@@ -1450,6 +1465,14 @@ et peu large</translation>
     <message>
         <source>The pointer&apos;s highlight</source>
         <translation>Mise en évidence du pointeur</translation>
+    </message>
+    <message>
+        <source>About %1 MB per minute</source>
+        <translation>Environ %1 Mo par minute</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
     </message>
 </context>
 <context>
@@ -1547,6 +1570,49 @@ et peu large</translation>
     <message>
         <source>Eraser</source>
         <translation>Gomme</translation>
+    </message>
+</context>
+<context>
+    <name>Zelkor::Gallery::TrimPage</name>
+    <message>
+        <source>Result: %1</source>
+        <translation>Résultat&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Trim a recording</source>
+        <translation>Découper un enregistrement</translation>
+    </message>
+    <message>
+        <source>Drag the brackets or type the times. A cut begins where the position is and ends where it is the next time. Everything can be undone; Escape takes back a drag.</source>
+        <translation>Faites glisser les crochets ou saisissez les temps. Une coupe commence à la position et se termine là où elle se trouve la fois suivante. Tout peut être annulé&#xa0;; Échap annule un glissement.</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Position</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Début</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>Fin</translation>
+    </message>
+    <message>
+        <source>Cut to here</source>
+        <translation>Couper jusqu’ici</translation>
+    </message>
+    <message>
+        <source>Cut from here</source>
+        <translation>Couper à partir d’ici</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Rétablir</translation>
     </message>
 </context>
 </TS>

@@ -1078,10 +1078,6 @@ and not wide</source>
         <translation>位置</translation>
     </message>
     <message>
-        <source>End</source>
-        <translation>終了</translation>
-    </message>
-    <message>
         <source>Mark at %1</source>
         <translation>%1 のマーク</translation>
     </message>
@@ -1121,6 +1117,16 @@ and not wide</source>
         <source>Upright, segments</source>
         <translation>縦向き、区間</translation>
     </message>
+    <message>
+        <source>Start</source>
+        <comment>thumb</comment>
+        <translation>開始</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <comment>thumb</comment>
+        <translation>終了</translation>
+    </message>
 </context>
 <context>
     <name>FirstHint</name>
@@ -1131,6 +1137,21 @@ and not wide</source>
     <message>
         <source>Choose what is shown: a camera, the screen or the test picture.</source>
         <translation>表示するものを選択してください: カメラ、画面、テスト映像。</translation>
+    </message>
+</context>
+<context>
+    <name>TestPicture</name>
+    <message>
+        <source>Test picture</source>
+        <translation>テスト映像</translation>
+    </message>
+    <message>
+        <source>Show &amp;counter</source>
+        <translation>カウンターを表示(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Speed</source>
+        <translation>速度(&amp;S)</translation>
     </message>
 </context>
 <context>
@@ -1244,6 +1265,10 @@ and not wide</source>
         <source>Recorder</source>
         <translation>レコーダー</translation>
     </message>
+    <message>
+        <source>Trimmer</source>
+        <translation>トリミング</translation>
+    </message>
 </context>
 <context>
     <name>Zelkor::Gallery::RecorderView</name>
@@ -1354,15 +1379,13 @@ and not wide</source>
         <source>About</source>
         <translation>バージョン情報</translation>
     </message>
+    <message>
+        <source>Edit the style sheet (F12)</source>
+        <translation>スタイルシートを編集 (F12)</translation>
+    </message>
 </context>
 <context>
     <name>Zelkor::Gallery::SettingsDialog</name>
-    <message numerus="yes">
-        <source>About %n megabyte(s) per minute</source>
-        <translation>
-            <numerusform>1 分あたり約 %n メガバイト</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Settings</source>
         <translation>設定</translation>
@@ -1411,12 +1434,6 @@ and not wide</source>
         <source>None</source>
         <translation>なし</translation>
     </message>
-    <message numerus="yes">
-        <source>%n second(s)</source>
-        <translation>
-            <numerusform>%n 秒</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Quality</source>
         <translation>画質</translation>
@@ -1448,6 +1465,14 @@ and not wide</source>
     <message>
         <source>The pointer&apos;s highlight</source>
         <translation>ポインターの強調表示</translation>
+    </message>
+    <message>
+        <source>About %1 MB per minute</source>
+        <translation>1 分あたり約 %1 MB</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 秒</translation>
     </message>
 </context>
 <context>
@@ -1545,6 +1570,49 @@ and not wide</source>
     <message>
         <source>Eraser</source>
         <translation>消しゴム</translation>
+    </message>
+</context>
+<context>
+    <name>Zelkor::Gallery::TrimPage</name>
+    <message>
+        <source>Result: %1</source>
+        <translation>結果: %1</translation>
+    </message>
+    <message>
+        <source>Trim a recording</source>
+        <translation>録画のトリミング</translation>
+    </message>
+    <message>
+        <source>Drag the brackets or type the times. A cut begins where the position is and ends where it is the next time. Everything can be undone; Escape takes back a drag.</source>
+        <translation>かっこをドラッグするか、時刻を入力してください。カットは現在位置で始まり、次に押した位置で終わります。すべて元に戻せます。Esc キーでドラッグを取り消します。</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>位置</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>開始</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>終了</translation>
+    </message>
+    <message>
+        <source>Cut to here</source>
+        <translation>ここまでカット</translation>
+    </message>
+    <message>
+        <source>Cut from here</source>
+        <translation>ここからカット</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>元に戻す</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>やり直す</translation>
     </message>
 </context>
 </TS>

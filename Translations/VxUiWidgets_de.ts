@@ -317,6 +317,10 @@
         <source>Style sheet</source>
         <translation>Stylesheet</translation>
     </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
 </context>
 <context>
     <name>ZSearchBar</name>

@@ -316,6 +316,10 @@
         <source>Style sheet</source>
         <translation>スタイルシート</translation>
     </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
 </context>
 <context>
     <name>ZSearchBar</name>
