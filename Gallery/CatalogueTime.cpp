@@ -1,12 +1,156 @@
 #include "Catalogue.h"
 
-#include <QCoreApplication>
+#include <UI/Kit/ZSliderThumb.h>
+#include <UI/Kit/ZTimeEdit.h>
+#include <UI/Kit/ZTimelineSlider.h>
+
+#include <QTime>
+#include <QVariant>
 
 namespace Zelkor::Gallery {
 
+namespace {
+
+constexpr int LENGTH = 320;
+constexpr int FIELD_WIDTH = 160;
+constexpr qint64 SECOND = 1000;
+constexpr qint64 MINUTE = 60 * SECOND;
+
+const QStringList FORMATS{"mm:ss", "hh:mm:ss", "hh:mm:ss.zzz"};
+
+QWidget* CreateTimeline(QWidget* parent)
+{
+    auto* slider = new ZTimelineSlider(parent);
+    slider->setOrientation(Qt::Horizontal);
+    slider->setAccessibleName(Catalogue::tr("Position"));
+    slider->defaultThumb()->setName(Catalogue::tr("Position"));
+    slider->setMinimumWidth(LENGTH);
+    slider->setDisplayFormatList(FORMATS);
+    slider->setEndTime(3 * MINUTE);
+    slider->setTime(MINUTE);
+    return slider;
+}
+
+// Brackets at the ends of what is kept, which confine the position while the whole recording is shown.
+void ShowBounds(ZTimelineSlider& slider)
+{
+    slider.setProperty("role", QStringLiteral("trim"));
+    slider.defaultThumb()->setZOrder(1);
+    slider.setBoundsIgnored(true);
+    slider.setBounds(40 * SECOND, 130 * SECOND);
+    ZSliderThumb* left = slider.addThumb(QStringLiteral("left"));
+    ZSliderThumb* right = slider.addThumb(QStringLiteral("right"));
+    left->setName(Catalogue::tr("Start", "thumb"));
+    right->setName(Catalogue::tr("End", "thumb"));
+    left->setValue(slider.valueOf(slider.leftBound()));
+    right->setValue(slider.valueOf(slider.rightBound()));
+    const auto follow = [&slider, left, right] {
+        left->setUpperLimit(right->value());
+        right->setLowerLimit(left->value());
+        slider.setSegments({{left->value(), right->value(), true}});
+        const qint64 length = slider.endTime() - slider.startTime();
+        slider.setBounds(length * left->value() / slider.maximum(), length * right->value() / slider.maximum());
+    };
+    for (ZSliderThumb* thumb : {left, right}) {
+        QObject::connect(thumb, &ZSliderThumb::valueChanged, &slider, follow);
+        QObject::connect(thumb, &ZSliderThumb::stepped, thumb,
+                         [thumb](int factor) { thumb->setValue(thumb->value() + factor / 12); });
+    }
+    follow();
+}
+
+Entry TimelineEntry()
+{
+    using Slider = ZTimelineSlider;
+    return {
+        "ZTimelineSlider",
+        Catalogue::tr("Kit"),
+        Catalogue::tr("A slider for a time within a span, which bounds can narrow; it tells the time under the mouse."),
+        "ZTimelineSlider",
+        "timeline",
+        CreateTimeline,
+        {
+            MakeState<Slider>(Catalogue::tr("One minute of three"), [](Slider&) {}),
+            MakeState<Slider>(Catalogue::tr("Narrowed by bounds"),
+                              [](Slider& slider) { slider.setBounds(40 * SECOND, 130 * SECOND); }),
+            MakeState<Slider>(Catalogue::tr("Bounds with thumbs"), ShowBounds),
+            MakeState<Slider>(Catalogue::tr("At its bound"),
+                              [](Slider& slider) {
+                                  ShowBounds(slider);
+                                  slider.setTime(0);
+                              }),
+            DisabledState(),
+        },
+        MakeBare<ZTimelineSlider>,
+    };
+}
+
+QWidget* CreateTimeEdit(QWidget* parent)
+{
+    auto* edit = new ZTimeEdit(parent);
+    edit->setAccessibleName(Catalogue::tr("Time"));
+    edit->setDisplayFormat(FORMATS[1]);
+    edit->setTime(QTime(0, 12, 34));
+    edit->setFixedWidth(FIELD_WIDTH);
+    return edit;
+}
+
+void ChooseFormat(ZTimeEdit& edit)
+{
+    edit.setDisplayFormatList(FORMATS);
+}
+
+QWidget* CreateNarrowTimeEdit(QWidget* parent)
+{
+    auto* edit = new ZTimeEdit(parent);
+    edit->setAccessibleName(Catalogue::tr("Time"));
+    edit->setDisplayFormatList(FORMATS);
+    edit->setTime(QTime(0, 12, 34));
+    edit->setStyleTag(QStringLiteral("shrinkWidth"));
+    return edit;
+}
+
+Entry TimeEditEntry()
+{
+    return {
+        "ZTimeEdit",
+        Catalogue::tr("Kit"),
+        Catalogue::tr(
+            "A field for a time whose digits are overwritten in place, in the shortest format that is exact."),
+        "ZTimeEdit",
+        "time",
+        CreateTimeEdit,
+        {
+            MakeState<ZTimeEdit>(Catalogue::tr("One format"), [](ZTimeEdit&) {}),
+            MakeState<ZTimeEdit>(Catalogue::tr("The format that fits: minutes"), ChooseFormat),
+            MakeState<ZTimeEdit>(Catalogue::tr("The format that fits: milliseconds"),
+                                 [](ZTimeEdit& edit) {
+                                     ChooseFormat(edit);
+                                     edit.setMillisecondStep(40);
+                                     edit.setTime(QTime(0, 12, 34, 560));
+                                 }),
+            MakeState<ZTimeEdit>(Catalogue::tr("Always the longest format"),
+                                 [](ZTimeEdit& edit) {
+                                     edit.setProperty("forceMaxtimeFormat", true);
+                                     ChooseFormat(edit);
+                                 }),
+            MadeState(Catalogue::tr("As wide as its text"), CreateNarrowTimeEdit),
+            MakeState<ZTimeEdit>(Catalogue::tr("From 00:01:00 to 00:30:00"),
+                                 [](ZTimeEdit& edit) { edit.setTimeRange(QTime(0, 1), QTime(0, 30)); }),
+            MakeState<ZTimeEdit>(Catalogue::tr("Twelve hours"),
+                                 [](ZTimeEdit& edit) { edit.setDisplayFormat(QStringLiteral("h:mm AP")); }),
+            MakeState<ZTimeEdit>(Catalogue::tr("Read-only"), [](ZTimeEdit& edit) { edit.setReadOnly(true); }),
+            DisabledState(),
+        },
+        MakeBare<ZTimeEdit>,
+    };
+}
+
+} // namespace
+
 QVector<Entry> TimeEntries()
 {
-    return {};
+    return {TimelineEntry(), TimeEditEntry()};
 }
 
 } // namespace Zelkor::Gallery

@@ -34,17 +34,15 @@ int TypedDigit(const QKeyEvent& event)
     return isCommand || event.text().size() != 1 ? -1 : event.text().front().digitValue();
 }
 
-QChar DigitOf(const QLocale& locale, int digit)
-{
-    return QChar(locale.zeroDigit().unicode() + digit);
-}
-
 } // namespace
 
 ZTimeEdit::ZTimeEdit(QWidget* parent) : QTimeEdit(parent)
 {
     // Qt would turn the sections around, and the format with them.
     setLayoutDirection(Qt::LeftToRight);
+    // It does not read other digits than these, though it writes them.
+    if (locale().zeroDigit() != '0')
+        setLocale(QLocale::c());
     connect(this, SIGNAL(dateTimeChanged(const QDateTime&)), this, SLOT(updateStyle()));
     setWrapping(true);
     setFocusPolicy(Qt::StrongFocus);
@@ -171,7 +169,7 @@ void ZTimeEdit::fillGap(const QString& before, const QTime& timeBefore)
     const int position = lineEdit()->cursorPosition();
     QString gap = before.mid(position, before.size() - after.size());
     std::replace_if(
-        gap.begin(), gap.end(), [](QChar character) { return character.isDigit(); }, DigitOf(locale(), 0));
+        gap.begin(), gap.end(), [](QChar character) { return character.isDigit(); }, QChar('0'));
     const QTime filled = read(after.left(position) + gap + after.mid(position));
     setTimeClamped(filled.isValid() ? filled : timeBefore);
     updateStyle();
@@ -186,7 +184,7 @@ void ZTimeEdit::overwrite(int digit)
         return;
     const int fromEnd = text.size() - position;
     if (text[position].isDigit()) {
-        text[position] = DigitOf(locale(), digit);
+        text[position] = QChar('0' + digit);
         const QTime time = read(text);
         if (!time.isValid())
             return;

@@ -1,0 +1,141 @@
+#include <UI/Kit/TimeFormat.h>
+#include <UI/Kit/ZSliderThumb.h>
+#include <UI/Kit/ZTimelineSlider.h>
+
+#include <Support/TestCase.h>
+
+#include <QAccessible>
+#include <QMouseEvent>
+#include <QSignalSpy>
+#include <QTime>
+#include <QToolTip>
+
+#include <limits>
+
+using Values = QMap<qint64, qint64>; // of times
+using Times = QMap<qint64, qint64>;  // of values
+using Numbers = QVector<qint64>;
+
+constexpr qint64 LOWEST = std::numeric_limits<qint64>::min();
+constexpr qint64 HIGHEST = std::numeric_limits<qint64>::max();
+constexpr qint64 MIDNIGHT = 86400000;
+
+class tst_ZTimelineSlider : public Support::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void timesAndValues()
+    {
+        // Start, end and bounds, whether these are ignored.
+        const std::tuple<const char*, Numbers, bool, Values, Times> rows[] = {
+            {"plain", {0, 60000, -1, -1}, false, {{-9, 0}, {30000, 500}, {99999, 1000}}, {{500, 30000}, {2000, 60000}}},
+            {"later", {10000, 70000, -1, -1}, false, {{0, 167}, {30000, 500}}, {{0, 0}, {500, 30000}}},
+            {"bounds", {0, 60000, 20000, 50000}, false, {{0, 0}, {35000, 500}}, {{0, 20000}, {500, 35000}}},
+            {"left", {0, 60000, 20000, -7}, false, {{0, 0}, {40000, 500}}, {{0, 20000}, {1000, 60000}}},
+            {"right", {0, 60000, -1, 50000}, false, {{25000, 500}, {60000, 1000}}, {{500, 25000}, {1000, 50000}}},
+            {"ignored", {0, 60000, 20000, 50000}, true, {{0, 333}, {60000, 833}}, {{333, 20000}, {334, 20040}}},
+            {"empty", {5000, 5000, -1, -1}, false, {{0, 0}, {9000, 0}}, {{0, 0}, {700, 0}}},
+            {"one bound", {0, 60000, 20000, 20000}, false, {{0, 0}, {60000, 0}}, {{0, 20000}, {700, 20000}}},
+            {"midnight", {82800000, 90000000, 82800000, -1}, false, {{MIDNIGHT, 500}}, {{500, MIDNIGHT}}},
+            {"long", {0, HIGHEST, -1, -1}, false, {{HIGHEST, 1000}}, {{500, HIGHEST / 2 + 1}, {1000, HIGHEST}}},
+            {"longest", {LOWEST, HIGHEST, -1, -1}, false, {{LOWEST, -499}, {HIGHEST, 500}}, {{0, 0}, {1000, HIGHEST}}},
+        };
+        for (const auto& [name, span, isIgnored, values, times] : rows) {
+            InRow(name);
+            ZTimelineSlider slider;
+            slider.setSpan(span[0], span[1]);
+            slider.setBounds(span[2], span[3]);
+            slider.setBoundsIgnored(isIgnored);
+            for (const qint64 time : values.keys())
+                QCOMPARE(slider.valueOf(time), int(values[time]));
+            for (const qint64 value : times.keys())
+                QCOMPARE(slider.timeAt(int(value)), times[value]);
+            // There and back, where there is a time for each value.
+            const ZSliderThumb& thumb = *slider.defaultThumb();
+            const bool isFine = (span[0] == 0 || span[2] >= 0) && slider.timeAt(1000) - slider.timeAt(0) >= 1000;
+            for (int value = thumb.lowerLimit(); isFine && value <= thumb.upperLimit(); ++value)
+                QCOMPARE(slider.valueOf(slider.timeAt(value)), value);
+        }
+    }
+
+    void timeAndSignals()
+    {
+        auto* slider = new ZTimelineSlider;
+        const auto state = [&] {
+            const ZSliderThumb& thumb = *slider->defaultThumb();
+            return Numbers{thumb.lowerLimit(), thumb.upperLimit(), thumb.value(), slider->value(), slider->time()};
+        };
+        QSignalSpy times(slider, &ZTimelineSlider::timeChanged);
+        slider->setEndTime(60000);
+        slider->setTime(30000);
+        slider->setTime(30010); // no value of its own
+        slider->setBoundsIgnored(true);
+        slider->setBounds(20000, 40000);
+        slider->setBoundsIgnored(false);
+        slider->setBoundsIgnored(true);
+        QCOMPARE(state(), Numbers({333, 667, 500, 500, 30000}));
+        slider->setEndTime(120000); // the old value is beyond the new limit
+        QCOMPARE(state(), Numbers({167, 333, 250, 250, 30000}));
+
+        // The bound moves over the time, and goes away.
+        slider->setBoundsIgnored(false);
+        slider->setRightBound(-5);
+        slider->setTime(0);
+        slider->setLeftBound(40000);
+        slider->setLeftBound(20000);
+        slider->setLeftBound(-1);
+        slider->resetBounds();
+        QCOMPARE(state(), Numbers({0, 1000, 333, 333, 39960}));
+        slider->setRange(0, 120000);
+        slider->setTime(119999);
+        QCOMPARE(state(), Numbers({0, 120000, 119999, 119999, 119999}));
+        slider->resetTime();
+        QCOMPARE(state(), Numbers({0, 120000, 0, 0, 0}));
+        slider->setRange(7, 7);
+        slider->removeThumb("default");
+        slider->setBounds(50000, 60000);
+        QCOMPARE(times, QList<QVariantList>({{30000}, {20000}, {40000}, {39960}, {119999}, {50000}}));
+        // Whoever is told may delete it.
+        connect(slider, &ZTimelineSlider::timeChanged, slider, [slider] { delete slider; });
+        slider->setBounds(55000, -1);
+    }
+
+    void textsForToolTipAndAccessibility()
+    {
+        const QTime time(1, 2, 3, 450);
+        QCOMPARE(ChooseTimeFormat({"hh:mm", "hh:mm:ss.zzz", "h:m:s.z"}, time), QString("hh:mm:ss.zzz"));
+        QCOMPARE(ChooseTimeFormat({"", "yyyy", "'hh'", "h:mm AP"}, QTime(0, 0)), QString("h:mm AP"));
+        QCOMPARE(TimeText(time, {"yyyy"}, QLocale::c()), QString("01:02:03"));
+
+        ZTimelineSlider slider;
+        slider.setSpan(0, MIDNIGHT);
+        slider.setBounds(0, MIDNIGHT + 7200000);
+        slider.setLocale(QLocale::c());
+        slider.setLayoutDirection(Qt::RightToLeft);
+        slider.resize(212, 30);
+        slider.show();
+        const auto tipAt = [&](int x) {
+            QMouseEvent move(QEvent::MouseMove, QPointF(x, 25), slider.mapToGlobal({x, 25}), {}, {}, {});
+            QCoreApplication::sendEvent(&slider, &move);
+            return QToolTip::text();
+        };
+        QCOMPARE(tipAt(106), QString("13:00:00"));
+        QCOMPARE(tipAt(211), QString("02:00:00"));
+        slider.setBounds(20000, 23000);
+        slider.setDisplayFormatList({"", "hh:mm", "m:ss", "ss"});
+        QCOMPARE(tipAt(105), QString("0:01"));
+        QCOMPARE(tipAt(2), QString("00:00"));
+
+        QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(&slider);
+        QAccessibleValueInterface* value = accessible->valueInterface();
+        value->setCurrentValue(22000);
+        QCOMPARE(accessible->role(), QAccessible::Slider);
+        QCOMPARE(accessible->text(QAccessible::Value), QString("0:22"));
+        QCOMPARE(QVariantList({value->minimumValue(), value->currentValue(), value->maximumValue()}),
+                 QVariantList({20000, 22001, 23000}));
+    }
+};
+
+VX_TEST_MAIN(tst_ZTimelineSlider)
+#include "tst_ZTimelineSlider.moc"
