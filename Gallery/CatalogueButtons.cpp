@@ -79,6 +79,8 @@ Entry ButtonWithPopUpEntry()
                               [](Button& button) { button.setText(Catalogue::tr("Nothing")); }),
             DisabledState(),
         },
+        nullptr,
+        1,
     };
 }
 
@@ -86,7 +88,7 @@ Entry ButtonWithPopUpEntry()
 
 QVector<Entry> ButtonEntries()
 {
-    return {ButtonWithPopUpEntry()};
+    return {InForms<ButtonWithPopUpContainer>(ButtonWithPopUpEntry(), {{"text", "ButtonWithPopUpContainer"}})};
 }
 
 } // namespace Zelkor::Gallery

@@ -176,7 +176,9 @@ Entry ClickSoundEntry()
 
 QVector<Entry> ChoiceEntries()
 {
-    return {ButtonWithPopUpListEntry(), ColorButtonEntry(), ClickSoundEntry()};
+    return {InForms<ButtonWithPopUpList>(ButtonWithPopUpListEntry(), {{"text", "ButtonWithPopUpList"}}),
+            InForms<ColorButton>(ColorButtonEntry(), {{"text", "ColorButton"}}),
+            InForms<ClickSoundComboBox>(ClickSoundEntry())};
 }
 
 } // namespace Zelkor::Gallery

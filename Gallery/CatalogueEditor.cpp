@@ -102,6 +102,7 @@ Entry RuntimeStylesheetEditorEntry()
             EditorState(Catalogue::tr("Empty"), [](EditorBench&) {}),
             DisabledState(),
         },
+        MakeBare<ZRuntimeStylesheetEditor>,
     };
 }
 

@@ -50,6 +50,8 @@ Entry ShadowEffectEntry()
             ShadowState(Catalogue::tr("Strong"), 12, 3),
             ShadowState(Catalogue::tr("Coloured"), 24, 1.5, QColor(0x35, 0x67, 0xe0)),
         },
+        MakeBare<ZGraphicsShadowEffect>,
+        1,
     };
 }
 
@@ -57,7 +59,7 @@ Entry ShadowEffectEntry()
 
 QVector<Entry> EffectEntries()
 {
-    return {ShadowEffectEntry()};
+    return {NotInForms(ShadowEffectEntry(), "it is not a widget")};
 }
 
 } // namespace Zelkor::Gallery

@@ -155,6 +155,7 @@ Entry LineEditEntry()
             EditState(Catalogue::tr("Narrow"), LongName(), [](Edit& edit) { edit.setFixedWidth(NARROW_WIDTH); }),
             DisabledState(),
         },
+        MakeBare<ZLineEdit>,
     };
 }
 

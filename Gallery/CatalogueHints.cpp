@@ -102,6 +102,8 @@ Entry MaskedToolTipEntry()
                       }),
             MadeState(Catalogue::tr("Speech bubble"), CreateBubbleHost),
         },
+        MakeBare<MaskedToolTip>,
+        2,
     };
 }
 
@@ -109,7 +111,7 @@ Entry MaskedToolTipEntry()
 
 QVector<Entry> HintEntries()
 {
-    return {MaskedToolTipEntry()};
+    return {NotInForms(MaskedToolTipEntry(), "it is a window that comes and goes")};
 }
 
 } // namespace Zelkor::Gallery

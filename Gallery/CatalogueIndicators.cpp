@@ -57,6 +57,8 @@ Entry CountdownEntry()
                                                     countdown.setEnabled(false);
                                                 }),
         },
+        nullptr,
+        2,
     };
 }
 
@@ -100,6 +102,8 @@ Entry CursorHighlightEntry()
                       }),
             MadeState(Catalogue::tr("No border"), [](QWidget* parent) { return CreateFramed(0, parent); }),
         },
+        nullptr,
+        1,
     };
 }
 
@@ -107,7 +111,8 @@ Entry CursorHighlightEntry()
 
 QVector<Entry> IndicatorEntries()
 {
-    return {CountdownEntry(), CursorHighlightEntry()};
+    return {InForms<CountdownIndicatorWidget>(CountdownEntry()),
+            InForms<CursorHighlightPreviewWidget>(CursorHighlightEntry())};
 }
 
 } // namespace Zelkor::Gallery

@@ -5,7 +5,6 @@
 #include <UI/Kit/ZStackedWidget.h>
 
 #include <QGridLayout>
-#include <QLabel>
 #include <QPushButton>
 #include <QVariant>
 
@@ -55,17 +54,7 @@ QWidget* CreateStack(QWidget* parent)
     auto* stack = new ZStackedWidget(parent);
     const QStringList texts = {Catalogue::tr("A small page"),
                                Catalogue::tr("A page that takes\nthe room of its text\nand no more")};
-    for (int i = 0; i < texts.size(); ++i) {
-        auto* page = new ZFrame;
-        auto* layout = new QVBoxLayout(page);
-        auto* button = new QPushButton(Catalogue::tr("Other page"));
-        layout->addWidget(new QLabel(texts[i]));
-        layout->addWidget(button);
-        page->setProperty("role", QStringLiteral("card"));
-        stack->addWidget(page);
-        QObject::connect(button, &QPushButton::clicked, stack,
-                         [stack, i, count = texts.size()] { stack->setCurrentIndex((i + 1) % count); });
-    }
+    AddSamplePages(stack, texts);
     stack->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     return stack;
 }
@@ -84,6 +73,7 @@ Entry FrameEntry()
             MakeState<ZFrame>(Catalogue::tr("Spaced by properties"), SpaceByProperties),
             DisabledState(),
         },
+        MakeBare<ZFrame>,
     };
 }
 
@@ -109,6 +99,8 @@ Entry LabelEntry()
             MakeState<ZLabel>(Catalogue::tr("Not clickable"), [](ZLabel& label) { label.setClickable(false); }),
             DisabledState(),
         },
+        MakeBare<ZLabel>,
+        1,
     };
 }
 
@@ -129,6 +121,7 @@ Entry StackEntry()
                                       [](ZStackedWidget& stack) { stack.setAutoFit(false); }),
             DisabledState(),
         },
+        MakeBare<ZStackedWidget>,
     };
 }
 

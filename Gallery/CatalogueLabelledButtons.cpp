@@ -75,6 +75,7 @@ Entry ButtonWithLabelsEntry()
                                         }),
             DisabledState(),
         },
+        [](QWidget* parent) -> QObject* { return new ButtonWithLabels(Qt::Horizontal, parent); },
     };
 }
 
@@ -100,6 +101,7 @@ Entry FastPresetEntry()
             PresetState(Catalogue::tr("No shortcut"), "Window", Catalogue::tr("Window"), QKeySequence()),
             DisabledState(),
         },
+        [](QWidget* parent) -> QObject* { return new FastPresetButton(new QAction(parent), "1", parent); },
     };
 }
 
@@ -107,7 +109,8 @@ Entry FastPresetEntry()
 
 QVector<Entry> LabelledButtonEntries()
 {
-    return {ButtonWithLabelsEntry(), FastPresetEntry()};
+    return {InForms<ButtonWithLabels>(ButtonWithLabelsEntry()),
+            NotInForms(FastPresetEntry(), "its action is given to the constructor and stays")};
 }
 
 } // namespace Zelkor::Gallery

@@ -94,6 +94,7 @@ Entry LedMatrixEntry()
             MakeState<QLedMatrix>(Catalogue::tr("4096 LEDs"), MakeBig),
             DisabledState(),
         },
+        MakeBare<QLedMatrix>,
     };
 }
 
@@ -131,6 +132,8 @@ Entry SliderButtonEntry()
                                      [](ZSliderButton& button) { button.setSliderHeight(240); }),
             DisabledState(),
         },
+        nullptr,
+        3,
     };
 }
 

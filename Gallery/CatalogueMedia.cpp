@@ -66,6 +66,8 @@ Entry VideoPreviewEntry()
                                    preview.setEnabled(false);
                                }),
         },
+        MakeBare<VideoPreviewWidget>,
+        2,
     };
 }
 
@@ -84,6 +86,8 @@ Entry WebCameraStreamEntry()
             MakeState<Preview>(Catalogue::tr("Live"),
                                [](Preview& preview) { preview.findChild<WebCameraPreviewStream*>()->StartStream(); }),
         },
+        [](QWidget* parent) -> QObject* { return new WebCameraPreviewStream(new VideoPreviewWidget(parent)); },
+        1,
     };
 }
 
@@ -91,7 +95,9 @@ Entry WebCameraStreamEntry()
 
 QVector<Entry> MediaEntries()
 {
-    return {VideoPreviewEntry(), WebCameraStreamEntry()};
+    return {InForms<VideoPreviewWidget>(VideoPreviewEntry(), {{"previewWidth", PREVIEW_SIZE.width()},
+                                                              {"previewHeight", PREVIEW_SIZE.height()}}),
+            NotInForms(WebCameraStreamEntry(), "it is not a widget")};
 }
 
 } // namespace Zelkor::Gallery

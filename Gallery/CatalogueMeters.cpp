@@ -64,6 +64,8 @@ Entry VolumeSliderEntry()
             MakeState<VolumeSlider>(Catalogue::tr("Rounded"), RoundMeter),
             DisabledState(),
         },
+        nullptr,
+        1,
     };
 }
 
@@ -106,6 +108,8 @@ Entry PixmapWidgetEntry()
             MakeState<Picture>(Catalogue::tr("No picture"), [](Picture& picture) { picture.SetPixmap(QPixmap()); }),
             DisabledState(),
         },
+        [](QWidget* parent) -> QObject* { return new PixmapWidget(parent, Qt::WindowFlags()); },
+        3,
     };
 }
 
@@ -113,7 +117,7 @@ Entry PixmapWidgetEntry()
 
 QVector<Entry> MeterEntries()
 {
-    return {VolumeSliderEntry(), PixmapWidgetEntry()};
+    return {InForms<VolumeSlider>(VolumeSliderEntry()), InForms<PixmapWidget>(PixmapWidgetEntry())};
 }
 
 } // namespace Zelkor::Gallery

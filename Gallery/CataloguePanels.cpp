@@ -96,6 +96,8 @@ Entry ScrollablePanelEntry()
             ToolsState(Catalogue::tr("Empty"), 0, NARROW_WIDTH),
             DisabledState(),
         },
+        nullptr,
+        1,
     };
 }
 
@@ -103,6 +105,9 @@ QWidget* CreateSlider(const QStringList& texts, int current, int width, QWidget*
 {
     auto* slider = new SliderWithTickLabels(parent);
     slider->setAccessibleName(Catalogue::tr("Quality"));
+    // Without a value, there is nothing that the part with the keyboard could be named after.
+    if (texts.isEmpty())
+        slider->focusProxy()->setAccessibleName(slider->accessibleName());
     slider->setFixedWidth(width);
     slider->AddItems(texts);
     if (!texts.isEmpty())
@@ -152,7 +157,8 @@ Entry SliderWithTickLabelsEntry()
 
 QVector<Entry> PanelEntries()
 {
-    return {ScrollablePanelEntry(), SliderWithTickLabelsEntry()};
+    return {InForms<ScrollablePanelWithItem>(ScrollablePanelEntry()),
+            InForms<SliderWithTickLabels>(SliderWithTickLabelsEntry())};
 }
 
 } // namespace Zelkor::Gallery

@@ -129,6 +129,8 @@ Entry SliderEntry()
                                    slider.setEnabled(false);
                                }),
         },
+        MakeBare<ZSlider>,
+        3,
     };
 }
 

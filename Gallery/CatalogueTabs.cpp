@@ -1,12 +1,10 @@
 #include "Catalogue.h"
 
-#include <UI/Kit/ZFrame.h>
 #include <UI/Widgets/CustomTabWidget.h>
 #include <UI/Widgets/HorizontalTabBar.h>
 #include <UI/Widgets/ResizableStackedWidget.h>
 
 #include <QLabel>
-#include <QPushButton>
 #include <QVBoxLayout>
 #include <QVariant>
 
@@ -85,17 +83,7 @@ QWidget* CreateStack(QWidget* parent)
     auto* stack = new ResizableStackedWidget(parent);
     const QStringList texts = {Catalogue::tr("A small page"), Catalogue::tr("A page that is wider than the others"),
                                Catalogue::tr("A page\nthat is higher\nthan the others\nand not wide")};
-    for (int i = 0; i < texts.size(); ++i) {
-        auto* page = new ZFrame;
-        auto* layout = new QVBoxLayout(page);
-        auto* button = new QPushButton(Catalogue::tr("Next page"));
-        layout->addWidget(new QLabel(texts[i]));
-        layout->addWidget(button);
-        page->setProperty("role", QStringLiteral("card"));
-        stack->addWidget(page);
-        QObject::connect(button, &QPushButton::clicked, stack,
-                         [stack, i, count = texts.size()] { stack->setCurrentIndex((i + 1) % count); });
-    }
+    AddSamplePages(stack, texts);
     return stack;
 }
 
@@ -118,6 +106,8 @@ Entry TabBarEntry()
             MakeState<QTabBar>(Catalogue::tr("Vertical"), MakeVertical),
             DisabledState(),
         },
+        MakeBare<Vx::HorizontalTabBar>,
+        1,
     };
 }
 
@@ -138,6 +128,8 @@ Entry TabWidgetEntry()
                                   [](QTabWidget& tabs) { tabs.setTabPosition(QTabWidget::West); }),
             DisabledState(),
         },
+        nullptr,
+        1,
     };
 }
 
@@ -165,7 +157,8 @@ Entry StackEntry()
 
 QVector<Entry> TabEntries()
 {
-    return {TabBarEntry(), TabWidgetEntry(), StackEntry()};
+    return {InForms<Vx::HorizontalTabBar>(TabBarEntry()), InForms<Vx::CustomTabWidget>(TabWidgetEntry()),
+            InForms<ResizableStackedWidget>(StackEntry())};
 }
 
 } // namespace Zelkor::Gallery

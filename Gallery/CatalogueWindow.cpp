@@ -127,6 +127,7 @@ Entry CustomTitleBarEntry()
                             window.setEnabled(false);
                         }),
         },
+        [](QWidget* parent) -> QObject* { return (new SampleWindow(BOTH_BUTTONS, parent))->bar; },
     };
 }
 
@@ -192,6 +193,7 @@ Entry StyledAboutBoxDialogEntry()
                       }),
             DisabledState(),
         },
+        [](QWidget* parent) -> QObject* { return new StyledAboutBoxDialog({}, {}, {}, parent); },
     };
 }
 
@@ -199,7 +201,9 @@ Entry StyledAboutBoxDialogEntry()
 
 QVector<Entry> WindowEntries()
 {
-    return {CustomTitleBarEntry(), StyledAboutBoxDialogEntry()};
+    // A form editor's window would lose its frame and its layout to the title bar.
+    return {NotInForms(CustomTitleBarEntry(), "it rebuilds its window"),
+            NotInForms(StyledAboutBoxDialogEntry(), "it is a dialog, whole as it is")};
 }
 
 } // namespace Zelkor::Gallery

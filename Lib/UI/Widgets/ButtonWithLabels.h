@@ -20,6 +20,9 @@ class VX_WIDGETS_EXPORT ButtonWithLabels : public QPushButton
     Q_OBJECT
 
 public:
+    /// A horizontal button, as code that is generated from a form makes it.
+    explicit ButtonWithLabels(QWidget* parent) : ButtonWithLabels(Qt::Horizontal, parent) {}
+
     /// Any orientation but `Qt::Horizontal` counts as vertical.
     ButtonWithLabels(Qt::Orientation orientation, QWidget* parent);
     ~ButtonWithLabels() override;

@@ -39,7 +39,7 @@ public:
     };
     Q_ENUM(MaskAnchor)
 
-    PixmapWidget(QWidget* parent, Qt::WindowFlags f);
+    explicit PixmapWidget(QWidget* parent, Qt::WindowFlags f = Qt::WindowFlags());
     ~PixmapWidget() override;
 
     /// No mask by default.

@@ -1,0 +1,82 @@
+#include "FormWidget.h"
+
+#include "FormXml.h"
+
+#include <Gallery/Catalogue.h>
+#include <Gallery/StyleSheet.h>
+
+#include <QGuiApplication>
+#include <QIcon>
+#include <QPalette>
+#include <QStackedWidget>
+
+namespace Zelkor::Designer {
+
+namespace {
+
+constexpr int ICON_SIZES[] = {24, 48};
+
+} // namespace
+
+QString FormWidget::name() const
+{
+    return QString::fromLatin1(entry.form.metaObject->className());
+}
+
+QString FormWidget::group() const
+{
+    return QStringLiteral("VxUiWidgets");
+}
+
+QString FormWidget::toolTip() const
+{
+    return entry.description;
+}
+
+QString FormWidget::whatsThis() const
+{
+    return entry.description;
+}
+
+QString FormWidget::includeFile() const
+{
+    return QStringLiteral("UI/Widgets/%1.h").arg(entry.className);
+}
+
+// The sheets' search path is the application's; Designer has none, and shall keep none. Its widget box takes icons only
+// that know their sizes.
+QIcon FormWidget::icon() const
+{
+    const bool isDark = QGuiApplication::palette().color(QPalette::Window).lightness() < 128;
+    const QIcon drawn = Gallery::BuiltInIcon(isDark ? QStringLiteral("dark") : QStringLiteral("light"), entry.icon);
+    QIcon icon;
+    for (const int size : ICON_SIZES)
+        icon.addPixmap(drawn.pixmap(size));
+    return icon;
+}
+
+bool FormWidget::isContainer() const
+{
+    return HasPages(*entry.form.metaObject);
+}
+
+void FormWidget::initialize(QDesignerFormEditorInterface*)
+{
+    isInEditor = true;
+}
+
+QWidget* FormWidget::createWidget(QWidget* parent)
+{
+    auto* widget = static_cast<QWidget*>(CreateBare(entry, parent));
+    // A stack that is fixed to the size of its page could not be given a size in the editor, nor its empty pages.
+    if (auto* stack = qobject_cast<QStackedWidget*>(widget); stack && isInEditor)
+        QObject::disconnect(stack, &QStackedWidget::currentChanged, stack, nullptr);
+    return widget;
+}
+
+QString FormWidget::domXml() const
+{
+    return FormXml(entry);
+}
+
+} // namespace Zelkor::Designer

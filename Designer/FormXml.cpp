@@ -1,0 +1,125 @@
+#include "FormXml.h"
+
+#include <Gallery/Catalogue.h>
+
+#include <QStackedWidget>
+#include <QTabWidget>
+#include <QWidget>
+#include <QXmlStreamWriter>
+
+#include <memory>
+
+namespace Zelkor::Designer {
+
+namespace {
+
+constexpr int FIRST_PAGES = 2;
+constexpr QSize SIZE_WITH_PAGES(240, 160);
+constexpr QSize SIZE_WHILE_EMPTY(120, 32);
+constexpr int SMALLEST_LENGTH = 12; ///< less can hardly be seen and grasped
+
+// "Zelkor::Vx::ColorButton" becomes "colorButton".
+QString ObjectName(const QMetaObject& metaObject)
+{
+    QString name = QString::fromLatin1(metaObject.className()).section(QStringLiteral("::"), -1);
+    name[0] = name[0].toLower();
+    return name;
+}
+
+// The nearest class of Qt: form tools know what becomes of its children.
+QString ExtendedClass(const QMetaObject& metaObject)
+{
+    const QMetaObject* base = metaObject.superClass();
+    while (*base->className() != 'Q')
+        base = base->superClass();
+    return QString::fromLatin1(base->className());
+}
+
+QSize FirstSize(const Gallery::Entry& entry)
+{
+    if (HasPages(*entry.form.metaObject))
+        return SIZE_WITH_PAGES;
+    const std::unique_ptr<QObject> object(CreateBare(entry, nullptr));
+    auto* widget = static_cast<QWidget*>(object.get());
+    for (auto it = entry.form.properties.begin(); it != entry.form.properties.end(); ++it)
+        widget->setProperty(it.key().toLatin1(), it.value());
+    const QSize hint = widget->sizeHint();
+    const bool isSmall = hint.width() < SMALLEST_LENGTH || hint.height() < SMALLEST_LENGTH;
+    return isSmall ? SIZE_WHILE_EMPTY : hint;
+}
+
+void WriteProperty(QXmlStreamWriter& xml, const QString& name, const QVariant& value)
+{
+    xml.writeStartElement("property");
+    xml.writeAttribute("name", name);
+    // Setters of another name than "set..." cannot be called by code that knows the property alone.
+    xml.writeAttribute("stdset", "0");
+    xml.writeTextElement(value.type() == QVariant::Int ? "number" : "string", value.toString());
+    xml.writeEndElement();
+}
+
+void WriteGeometry(QXmlStreamWriter& xml, const QSize& size)
+{
+    xml.writeStartElement("property");
+    xml.writeAttribute("name", "geometry");
+    xml.writeStartElement("rect");
+    xml.writeTextElement("x", "0");
+    xml.writeTextElement("y", "0");
+    xml.writeTextElement("width", QString::number(size.width()));
+    xml.writeTextElement("height", QString::number(size.height()));
+    xml.writeEndElement();
+    xml.writeEndElement();
+}
+
+void WritePage(QXmlStreamWriter& xml, const QString& stack, int number, bool hasTab)
+{
+    xml.writeStartElement("widget");
+    xml.writeAttribute("class", "QWidget");
+    xml.writeAttribute("name", QStringLiteral("%1Page%2").arg(stack).arg(number));
+    if (hasTab) {
+        xml.writeStartElement("attribute");
+        xml.writeAttribute("name", "title");
+        xml.writeTextElement("string", QStringLiteral("Tab %1").arg(number));
+        xml.writeEndElement();
+    }
+    xml.writeEndElement();
+}
+
+} // namespace
+
+bool HasPages(const QMetaObject& metaObject)
+{
+    return metaObject.inherits(&QTabWidget::staticMetaObject) || metaObject.inherits(&QStackedWidget::staticMetaObject);
+}
+
+QString FormXml(const Gallery::Entry& entry)
+{
+    const QString className = QString::fromLatin1(entry.form.metaObject->className());
+    QString text;
+    QXmlStreamWriter xml(&text);
+    xml.writeStartElement("ui");
+    xml.writeAttribute("language", "c++");
+    xml.writeAttribute("displayname", entry.className);
+    xml.writeStartElement("widget");
+    xml.writeAttribute("class", className);
+    xml.writeAttribute("name", ObjectName(*entry.form.metaObject));
+    WriteGeometry(xml, FirstSize(entry));
+    for (auto it = entry.form.properties.begin(); it != entry.form.properties.end(); ++it)
+        WriteProperty(xml, it.key(), it.value());
+    if (HasPages(*entry.form.metaObject)) {
+        for (int i = 1; i <= FIRST_PAGES; ++i)
+            WritePage(xml, ObjectName(*entry.form.metaObject), i,
+                      entry.form.metaObject->inherits(&QTabWidget::staticMetaObject));
+    }
+    xml.writeEndElement();
+    xml.writeStartElement("customwidgets");
+    xml.writeStartElement("customwidget");
+    xml.writeTextElement("class", className);
+    xml.writeTextElement("extends", ExtendedClass(*entry.form.metaObject));
+    xml.writeEndElement();
+    xml.writeEndElement();
+    xml.writeEndElement();
+    return text;
+}
+
+} // namespace Zelkor::Designer

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QObject>
+#include <QtUiPlugin/QDesignerCustomWidgetCollectionInterface>
+
+#include <memory>
+#include <vector>
+
+namespace Zelkor::Designer {
+
+/// The plugin: every widget of the catalogue that is for forms. It owns what it hands out.
+class WidgetCollection : public QObject, public QDesignerCustomWidgetCollectionInterface
+{
+    Q_OBJECT
+    Q_INTERFACES(QDesignerCustomWidgetCollectionInterface)
+    Q_PLUGIN_METADATA(IID QDesignerCustomWidgetCollectionInterface_iid)
+
+public:
+    explicit WidgetCollection(QObject* parent = nullptr);
+    ~WidgetCollection() override;
+
+    QList<QDesignerCustomWidgetInterface*> customWidgets() const override;
+
+private:
+    std::vector<std::unique_ptr<QDesignerCustomWidgetInterface>> widgets;
+};
+
+} // namespace Zelkor::Designer

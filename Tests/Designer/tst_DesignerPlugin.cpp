@@ -1,0 +1,238 @@
+#include <Gallery/Catalogue.h>
+
+#include <Support/TestCase.h>
+
+#include <QBuffer>
+#include <QDomDocument>
+#include <QFileInfo>
+#include <QFormBuilder>
+#include <QMetaProperty>
+#include <QPluginLoader>
+#include <QProcess>
+#include <QStackedWidget>
+#include <QTemporaryDir>
+#include <QtUiPlugin/QDesignerCustomWidgetCollectionInterface>
+
+#include <memory>
+
+using namespace Zelkor::Gallery;
+
+namespace {
+
+using Values = QMap<QString, QVariant>;
+
+/// The first property that the library and not Qt has declared.
+int FirstOwnProperty(const QMetaObject* metaObject)
+{
+    while (*metaObject->className() != 'Q')
+        metaObject = metaObject->superClass();
+    return metaObject->propertyCount();
+}
+
+/// Another value than `old`; invalid for types that a form cannot hold.
+QVariant Other(const QMetaProperty& property, const QVariant& old)
+{
+    if (property.isEnumType()) {
+        const QMetaEnum keys = property.enumerator();
+        const int last = keys.value(keys.keyCount() - 1);
+        return last == old.toInt() ? keys.value(0) : last;
+    }
+    switch (old.userType()) {
+    case QMetaType::Bool:
+        return !old.toBool();
+    case QMetaType::Int:
+        return old.toInt() + 3;
+    case QMetaType::QString:
+        return QStringLiteral("a.png,b.png");
+    case QMetaType::QColor:
+        return QColor(53, 103, old.value<QColor>().blue() ^ 0xff);
+    case QMetaType::QRect:
+        return QRect(5, 6, 7, 8);
+    default:
+        return {};
+    }
+}
+
+QString Elements(const QVector<QPair<const char*, int>>& numbers)
+{
+    QString text;
+    for (const auto& [name, number] : numbers)
+        text += QStringLiteral("<%1>%2</%1>").arg(name).arg(number);
+    return text;
+}
+
+/// The value as Qt Designer writes it.
+QString Xml(const QMetaProperty& property, const QVariant& value)
+{
+    if (property.isEnumType()) {
+        const QMetaEnum keys = property.enumerator();
+        const QString key = QStringLiteral("%1::%2").arg(keys.scope(), keys.valueToKey(value.toInt()));
+        return QStringLiteral("<%1>%2</%1>").arg(property.isFlagType() ? "set" : "enum", key);
+    }
+    const QColor color = value.value<QColor>();
+    const QRect rect = value.toRect();
+    switch (value.userType()) {
+    case QMetaType::Bool:
+        return QStringLiteral("<bool>%1</bool>").arg(value.toString());
+    case QMetaType::Int:
+        return QStringLiteral("<number>%1</number>").arg(value.toInt());
+    case QMetaType::QColor:
+        return QStringLiteral("<color>%1</color>")
+            .arg(Elements({{"red", color.red()}, {"green", color.green()}, {"blue", color.blue()}}));
+    case QMetaType::QRect:
+        return QStringLiteral("<rect>%1</rect>")
+            .arg(Elements({{"x", rect.x()}, {"y", rect.y()}, {"width", rect.width()}, {"height", rect.height()}}));
+    default:
+        return QStringLiteral("<string>%1</string>").arg(value.toString());
+    }
+}
+
+QDomDocument Parsed(const QString& xml)
+{
+    QDomDocument document;
+    document.setContent(xml);
+    return document;
+}
+
+/// Adds the piece to the node, as its last child.
+void Append(QDomNode parent, const QDomNode& piece)
+{
+    parent.appendChild(parent.ownerDocument().importNode(piece, true));
+}
+
+} // namespace
+
+class tst_DesignerPlugin : public Support::TestCase
+{
+    Q_OBJECT
+
+private:
+    QHash<QString, QDesignerCustomWidgetInterface*> widgets;
+
+    /// A form with every widget as it starts there, and with other values of its own properties than new ones have.
+    /// Tells what a widget makes of these values by itself.
+    QByteArray FormOfAll(QHash<QString, Values>& expected)
+    {
+        const QDomDocument document = Parsed("<ui version=\"4.0\"><class>Form</class><widget class=\"QWidget\" "
+                                             "name=\"Form\"/><customwidgets/></ui>");
+        const QDomElement form = document.documentElement();
+        for (QDesignerCustomWidgetInterface* description : qAsConst(widgets)) {
+            const QDomDocument start = Parsed(description->domXml());
+            QDomElement node = start.documentElement().firstChildElement("widget");
+            node.setAttribute("name", QString(description->name()).remove(':'));
+            const QDomElement custom = start.documentElement().lastChildElement().firstChildElement();
+            Append(custom, Parsed("<header>" + description->includeFile() + "</header>").documentElement());
+
+            const std::unique_ptr<QWidget> widget(description->createWidget(nullptr));
+            const QMetaObject* metaObject = widget->metaObject();
+            QVector<QMetaProperty> written;
+            for (int i = FirstOwnProperty(metaObject); i < metaObject->propertyCount(); ++i) {
+                const QMetaProperty property = metaObject->property(i);
+                const QVariant value = Other(property, property.read(widget.get()));
+                if (!value.isValid() || !property.isDesignable(widget.get()) || !property.write(widget.get(), value))
+                    continue;
+                written.append(property);
+                Append(node, Parsed(QStringLiteral("<property name=\"%1\" stdset=\"0\">%2</property>")
+                                        .arg(property.name(), Xml(property, value)))
+                                 .documentElement());
+            }
+            for (const QMetaProperty& property : written)
+                expected[description->name()][property.name()] = property.read(widget.get());
+            Append(form.firstChildElement("widget"), node);
+            Append(form.lastChildElement(), custom);
+        }
+        return document.toByteArray();
+    }
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        QPluginLoader loader(VX_PLUGIN);
+        const auto* collection = qobject_cast<QDesignerCustomWidgetCollectionInterface*>(loader.instance());
+        QVERIFY2(collection, qPrintable(loader.errorString()));
+        for (QDesignerCustomWidgetInterface* widget : collection->customWidgets())
+            widgets.insert(widget->name(), widget);
+    }
+
+    void everyExportedClassIsThereOrSaysWhyNot()
+    {
+        int expected = 0;
+        for (const Entry& entry : Entries()) {
+            InRow(entry.className);
+            const bool isExported = QFileInfo::exists(VX_HEADERS "/UI/Widgets/" + entry.className + ".h");
+            QCOMPARE(entry.form.metaObject != nullptr || !entry.form.reasonAgainst.isEmpty(), isExported);
+            if (!entry.form.metaObject)
+                continue;
+            ++expected;
+            const QDesignerCustomWidgetInterface* widget = widgets.value(entry.form.metaObject->className());
+            QVERIFY(widget);
+            QVERIFY(QFileInfo::exists(VX_HEADERS "/" + widget->includeFile()));
+            QVERIFY(widget->toolTip() == entry.description && widget->whatsThis().startsWith(entry.description));
+            const QImage icon = widget->icon().pixmap(24).toImage().convertToFormat(QImage::Format_ARGB32);
+            const auto* pixels = reinterpret_cast<const QRgb*>(icon.constBits());
+            QVERIFY(std::any_of(pixels, pixels + icon.width() * icon.height(), [](QRgb p) { return qAlpha(p) > 0; }));
+        }
+        QCOMPARE(widgets.size(), expected);
+    }
+
+    void aFormGivesBackWhatItHolds()
+    {
+        QHash<QString, Values> expected;
+        QByteArray text = FormOfAll(expected);
+        QBuffer file(&text);
+        file.open(QIODevice::ReadOnly);
+        QFormBuilder builder;
+        builder.setPluginPath({QFileInfo(VX_PLUGIN).path()});
+        const std::unique_ptr<QWidget> form(builder.load(&file));
+        QVERIFY(form);
+        for (QDesignerCustomWidgetInterface* description : qAsConst(widgets)) {
+            InRow(description->name());
+            const auto* widget = form->findChild<QWidget*>(QString(description->name()).remove(':'));
+            QVERIFY(widget);
+            QCOMPARE(QString(widget->metaObject()->className()), description->name());
+            QVERIFY(!widget->size().isEmpty());
+            QCOMPARE(description->isContainer() ? 2 : 0, widget->property("count").toInt());
+            const Values& values = expected[description->name()];
+            for (auto it = values.begin(); it != values.end(); ++it)
+                QVERIFY2(widget->property(it.key().toLatin1()) == it.value(), qPrintable(it.key()));
+        }
+    }
+
+    void codeOfAFormConstructsTheWidgets()
+    {
+        QTemporaryDir folder;
+        QFile file(folder.filePath("form.ui"));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        QHash<QString, Values> expected;
+        file.write(FormOfAll(expected));
+        file.close();
+        QProcess uic;
+        uic.start(VX_UIC, {file.fileName()});
+        QVERIFY(uic.waitForFinished() && uic.exitCode() == 0);
+        QCOMPARE(uic.readAllStandardError(), QByteArray());
+        const QByteArray code = uic.readAllStandardOutput();
+        for (QDesignerCustomWidgetInterface* description : qAsConst(widgets)) {
+            InRow(description->name());
+            const QString name = QString(description->name()).remove(':');
+            QVERIFY(code.contains(QString("#include \"%1\"").arg(description->includeFile()).toUtf8()));
+            QVERIFY(code.contains(QString("%1 = new %2(Form);").arg(name, description->name()).toUtf8()));
+            const QRegularExpression addsPage(name + "->add(Tab|Widget)\\(");
+            QCOMPARE(addsPage.globalMatch(code).hasNext(), description->isContainer());
+        }
+    }
+
+    void aStackFitsItsPageButNotInTheEditor()
+    {
+        QDesignerCustomWidgetInterface* description = widgets.value("ResizableStackedWidget");
+        for (const bool isInEditor : {false, true}) {
+            if (isInEditor)
+                description->initialize(nullptr);
+            const std::unique_ptr<QWidget> widget(description->createWidget(nullptr));
+            qobject_cast<QStackedWidget*>(widget.get())->addWidget(new QWidget);
+            QCOMPARE(widget->maximumWidth() == QWIDGETSIZE_MAX, isInEditor);
+        }
+    }
+};
+
+VX_TEST_MAIN(tst_DesignerPlugin)
+#include "tst_DesignerPlugin.moc"
