@@ -1,0 +1,110 @@
+#!/usr/bin/env bash
+# run.sh installed|packages BUILD FOLDER: installs what BUILD has built into FOLDER, or makes its packages and unpacks
+# them there, and looks whether others can use what lies there then: they build and run the program beside this script
+# with CMake, and with pkg-config alone. The place is another one than what was installed or packed for.
+set -euo pipefail
+mode=$1
+build=$2
+folder=$3
+here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
+source=$(cd "$here/../.." && pwd)
+export QT_QPA_PLATFORM=offscreen LC_ALL=C.UTF-8 XDG_RUNTIME_DIR=$folder/runtime
+CMAKE_CXX_COMPILER_LAUNCHER=$(command -v ccache || true)
+export CMAKE_CXX_COMPILER_LAUNCHER
+unset DESTDIR LD_LIBRARY_PATH CMAKE_PREFIX_PATH PKG_CONFIG_PATH
+
+fail() { printf '%s\n' "$*"; exit 1; }
+
+install_and_move() {
+    for component in runtime development tools; do
+        cmake --install "$build" --component "$component" --prefix "$folder/staged" --strip >/dev/null
+    done
+    mkdir "$folder/elsewhere"
+    mv "$folder/staged" "$folder/elsewhere/moved"
+    prefix=$folder/elsewhere/moved
+    cmake --install "$build" --component Unspecified --prefix "$folder/staged" >/dev/null
+    [ -z "$(find "$folder/staged" 2>/dev/null)" ] || fail "belongs to no component: $(find "$folder/staged" -type f)"
+}
+
+# need PACKAGE PATTERN: what a package depends on.
+need() {
+    dpkg-deb --field "$folder"/packages/"$1"_*.deb Depends | grep -qE "(^|, )$2" || fail "$1 does not depend on $2"
+}
+
+pack_and_unpack() {
+    cpack -G DEB --config "$build/CPackConfig.cmake" -B "$folder/packages" -D CPACK_DEBIAN_COMPRESSION_TYPE=none \
+        >"$folder/cpack.log" 2>&1 ||
+        fail "$(tail -n 30 "$folder/cpack.log")"
+    for package in "$folder"/packages/*.deb; do
+        # Whatever is in two of them could not be installed.
+        both=$(comm -12 <(dpkg-deb --fsys-tarfile "$package" | tar -t | grep -v '/$' | sort) \
+            <(cd "$folder" && find ./root -not -type d 2>/dev/null | sed 's|^\./root|.|' | sort))
+        [ -z "$both" ] || fail "in two packages: $both"
+        dpkg-deb --extract "$package" "$folder/root"
+    done
+    prefix=$folder/root/usr
+    need libvxuiwidgets1 'libqt5widgets5 \(>='
+    need libvxuiwidgets-dev 'libvxuiwidgets1 \(='
+    need vxuiwidgets-tools 'libvxuiwidgets1 \(='
+}
+
+# runs_from_here FILE: a program or library takes our libraries from the place that is looked at.
+runs_from_here() {
+    local found
+    found=$(ldd "$1")
+    ! grep -q 'not found' <<<"$found" || fail "$1 does not find: $found"
+    grep -q "libVxUiWidgets.so.1 => $prefix/" <<<"$found" || fail "$1 takes the library from elsewhere: $found"
+}
+
+look_at_files() {
+    ! grep -rIlF -e "$build" -e "$source" -e "$folder" "$prefix" || fail "these name a folder of the build"
+    # A header for each class that the library shows, and for nothing else.
+    diff <(sed -n 's/^vtable for .*:://p; s/^vtable for //p' "$source/Tests/exported-symbols.txt" | sort) \
+        <(cd "$prefix/include/VxUiWidgets/UI/Widgets" && basename -s .h ./*.h | sort) ||
+        fail "the headers of widgets that are installed are not those of the exported classes"
+}
+
+build_with_cmake() {
+    { cmake -S "$here" -B "$folder/cmake" -G Ninja -DCMAKE_PREFIX_PATH="$prefix" && cmake --build "$folder/cmake"; } \
+        >"$folder/cmake.log" 2>&1 || fail "$(cat "$folder/cmake.log")"
+    runs_from_here "$folder/cmake/consumer"
+    "$folder/cmake/consumer" || fail "the program built with CMake does not show what it shall"
+}
+
+build_with_pkg_config() {
+    local libraries compile=(${CMAKE_CXX_COMPILER_LAUNCHER:+"$CMAKE_CXX_COMPILER_LAUNCHER"} g++ -std=c++17 -Wall -Wextra -Werror)
+    libraries=$(dirname "$prefix"/lib/*/libVxUiWidgets.so.1)
+    export PKG_CONFIG_PATH=$libraries/pkgconfig
+    # shellcheck disable=SC2046 # what pkg-config prints are several words
+    "${compile[@]}" -c "$here/main.cpp" $(pkg-config --cflags VxUiWidgetsKit) -o "$folder/main.o"
+    # shellcheck disable=SC2046
+    g++ "$folder/main.o" $(pkg-config --libs VxUiWidgetsKit) -o "$folder/consumer"
+    LD_LIBRARY_PATH=$libraries "$folder/consumer" ||
+        fail "the program built with pkg-config does not show what it shall"
+    # Every header that is installed finds all that it includes.
+    (cd "$prefix/include/VxUiWidgets" && find . -name '*.h' -printf '#include <%P>\n' | sort) >"$folder/headers.cpp"
+    # shellcheck disable=SC2046
+    "${compile[@]}" -c "$folder/headers.cpp" $(pkg-config --cflags VxUiWidgetsKit) -o "$folder/headers.o"
+}
+
+run_tools() {
+    runs_from_here "$prefix/bin/VxGallery"
+    "$prefix/bin/VxGallery" --language de --style "$prefix/share/VxUiWidgets/Styles/Light.qss" --page ColorButton \
+        --after 0 --shot "$folder/gallery.png" || fail "the gallery does not run from where it is installed"
+    while read -r plugin; do
+        runs_from_here "$plugin"
+    done < <(find "$prefix/lib" -path '*/plugins/designer/*.so')
+}
+
+rm -rf "$folder"
+mkdir -p "$folder"
+mkdir -m 700 "$XDG_RUNTIME_DIR"
+case $mode in
+installed) install_and_move ;;
+packages) pack_and_unpack ;;
+*) fail "run.sh installed|packages BUILD FOLDER" ;;
+esac
+look_at_files
+build_with_cmake
+build_with_pkg_config
+run_tools

@@ -1,0 +1,31 @@
+# Installs the public headers of Lib: those of widgets that are exported under the name of their header, those of kit
+# classes, which begin with Z or Q, and what these include. The rest is how they are made.
+#
+# Runs during the installation, with lib_root and header_destination set.
+
+cmake_policy(VERSION 3.21)
+file(GLOB waiting RELATIVE ${lib_root} ${lib_root}/UI/Kit/[QZ]*.h)
+file(GLOB widget_headers RELATIVE ${lib_root} ${lib_root}/UI/Widgets/*.h)
+foreach(header IN LISTS widget_headers)
+  get_filename_component(class ${header} NAME_WE)
+  file(STRINGS ${lib_root}/${header} exported REGEX "^class VX_WIDGETS_EXPORT ${class}( |$)")
+  if(exported)
+    list(APPEND waiting ${header})
+  endif()
+endforeach()
+
+set(public "")
+while(waiting)
+  list(POP_FRONT waiting header)
+  if(NOT header IN_LIST public)
+    list(APPEND public ${header})
+    file(STRINGS ${lib_root}/${header} lines REGEX "^#include <UI/")
+    string(REGEX MATCHALL "UI/[^>]+" included "${lines}")
+    list(APPEND waiting ${included})
+  endif()
+endwhile()
+
+foreach(header IN LISTS public)
+  get_filename_component(folder ${header} DIRECTORY)
+  file(INSTALL DESTINATION ${header_destination}/${folder} TYPE FILE FILES ${lib_root}/${header})
+endforeach()

@@ -1,0 +1,103 @@
+# What is installed. Components: runtime (what a program needs when it runs), development (what building against the
+# library needs), tools (the gallery and the Designer plugin).
+#
+# Nothing installed names another place but relative to its own, so that an installed tree can be moved.
+
+if(EXISTS /etc/debian_version AND CMAKE_LIBRARY_ARCHITECTURE AND NOT CMAKE_CROSSCOMPILING)
+  # GNUInstallDirs does this for the prefix /usr alone, but packages are made from a build with any prefix.
+  set(CMAKE_INSTALL_LIBDIR lib/${CMAKE_LIBRARY_ARCHITECTURE} CACHE PATH "Folder of the libraries")
+endif()
+include(GNUInstallDirs)
+include(CMakePackageConfigHelpers)
+
+set(data_folder ${CMAKE_INSTALL_DATADIR}/VxUiWidgets)
+set(header_folder ${CMAKE_INSTALL_INCLUDEDIR}/VxUiWidgets)
+set(package_folder ${CMAKE_INSTALL_LIBDIR}/cmake/VxUiWidgets)
+if(WIN32)
+  set(qt_plugin_folder plugins)
+else()
+  set(qt_plugin_folder ${CMAKE_INSTALL_LIBDIR}/qt5/plugins)
+endif()
+set(VX_INSTALL_QTPLUGINDIR ${qt_plugin_folder} CACHE PATH "Qt's plugin folder, below the prefix")
+
+# vx_find_libraries_from(TARGET FOLDER): what is installed in the folder finds the libraries beside it.
+function(vx_find_libraries_from target folder)
+  file(RELATIVE_PATH way "/${folder}" "/${CMAKE_INSTALL_LIBDIR}")
+  string(REGEX REPLACE "/$" "" way "$ORIGIN/${way}")
+  set_target_properties(${target} PROPERTIES INSTALL_RPATH "${way}")
+endfunction()
+
+set(libraries VxUiWidgets)
+set(host_dependency "find_dependency(${VX_HOST_PACKAGE})")
+set(host_library "")
+if(TARGET VxHost)
+  list(APPEND libraries VxHost)
+  set(host_dependency "find_dependency(Boost 1.74)")
+  set(host_library " -lVxHost")
+  install(DIRECTORY Host/include/ DESTINATION ${header_folder} COMPONENT development FILES_MATCHING PATTERN "*.h")
+endif()
+foreach(library IN LISTS libraries)
+  vx_find_libraries_from(${library} ${CMAKE_INSTALL_LIBDIR})
+endforeach()
+
+install(
+  TARGETS ${libraries}
+  EXPORT VxUiWidgetsTargets
+  RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT runtime
+  LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT runtime NAMELINK_COMPONENT development
+  ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT development
+  INCLUDES DESTINATION ${header_folder})
+install(
+  TARGETS VxUiKit
+  EXPORT VxUiWidgetsKitTargets
+  ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT development
+  INCLUDES DESTINATION ${header_folder})
+
+# CMake strips everything but static libraries, where it must be less.
+install(CODE "set(kit \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/${CMAKE_INSTALL_LIBDIR}/$<TARGET_FILE_NAME:VxUiKit>\")
+if(CMAKE_INSTALL_DO_STRIP)
+  execute_process(COMMAND \"${CMAKE_STRIP}\" --strip-debug \"\${kit}\" COMMAND_ERROR_IS_FATAL ANY)
+endif()" COMPONENT development)
+
+# Which headers are public is read from them when they are installed, so that no list has to be kept.
+install(CODE "set(lib_root \"${PROJECT_SOURCE_DIR}/Lib\")
+set(header_destination \"\${CMAKE_INSTALL_PREFIX}/${header_folder}\")" COMPONENT development)
+install(SCRIPT cmake/InstallHeaders.cmake COMPONENT development)
+
+set(generated ${PROJECT_BINARY_DIR}/package)
+configure_package_config_file(cmake/VxUiWidgetsConfig.cmake.in ${generated}/VxUiWidgetsConfig.cmake
+                              INSTALL_DESTINATION ${package_folder} NO_SET_AND_CHECK_MACRO)
+write_basic_package_version_file(${generated}/VxUiWidgetsConfigVersion.cmake COMPATIBILITY SameMajorVersion)
+install(FILES ${generated}/VxUiWidgetsConfig.cmake ${generated}/VxUiWidgetsConfigVersion.cmake
+        DESTINATION ${package_folder} COMPONENT development)
+foreach(export VxUiWidgetsTargets VxUiWidgetsKitTargets)
+  install(EXPORT ${export} NAMESPACE VxUiWidgets:: DESTINATION ${package_folder} COMPONENT development)
+endforeach()
+
+set(pkgconfig_folder ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+file(RELATIVE_PATH way_to_prefix "/${pkgconfig_folder}" "/")
+string(REGEX REPLACE "/$" "" way_to_prefix ${way_to_prefix})
+foreach(package VxUiWidgets VxUiWidgetsKit)
+  configure_file(cmake/${package}.pc.in ${generated}/${package}.pc @ONLY)
+  install(FILES ${generated}/${package}.pc DESTINATION ${pkgconfig_folder} COMPONENT development)
+endforeach()
+
+set(translations ${PROJECT_BINARY_DIR}/Translations/)
+install(DIRECTORY ${translations} DESTINATION ${data_folder}/Translations COMPONENT runtime
+        FILES_MATCHING PATTERN "VxUiWidgets_*.qm" PATTERN CMakeFiles EXCLUDE)
+if(TARGET VxStyles)
+  # Programs ship a sheet of their own, which may begin as one of these.
+  install(DIRECTORY ${PROJECT_BINARY_DIR}/Styles/ DESTINATION ${data_folder}/Styles COMPONENT development
+          FILES_MATCHING PATTERN "*.qss" PATTERN "*.svg" PATTERN CMakeFiles EXCLUDE)
+endif()
+
+if(TARGET VxGallery)
+  vx_find_libraries_from(VxGallery ${CMAKE_INSTALL_BINDIR})
+  install(TARGETS VxGallery RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT tools)
+  install(DIRECTORY ${translations} DESTINATION ${data_folder}/Translations COMPONENT tools
+          FILES_MATCHING PATTERN "VxGallery_*.qm" PATTERN CMakeFiles EXCLUDE)
+endif()
+if(TARGET VxUiWidgetsDesigner)
+  vx_find_libraries_from(VxUiWidgetsDesigner ${VX_INSTALL_QTPLUGINDIR}/designer)
+  install(TARGETS VxUiWidgetsDesigner LIBRARY DESTINATION ${VX_INSTALL_QTPLUGINDIR}/designer COMPONENT tools)
+endif()
