@@ -33,6 +33,7 @@ std::vector<Row> EffectRows();
 std::vector<Row> PanelRows();
 std::vector<Row> KitRows();
 std::vector<Row> SliderRows();
+std::vector<Row> StartRows();
 
 /// Prints what the shadow's rim costs on widgets of growing size.
 void PrintShadowCurve();

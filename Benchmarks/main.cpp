@@ -44,7 +44,8 @@ int main(int argc, char* argv[])
     }
 
     std::vector<SpeedTable::Row> rows = SpeedTable::PreviewRows();
-    for (auto* more : {SpeedTable::EffectRows, SpeedTable::PanelRows, SpeedTable::KitRows, SpeedTable::SliderRows}) {
+    for (auto* more : {SpeedTable::EffectRows, SpeedTable::PanelRows, SpeedTable::KitRows, SpeedTable::SliderRows,
+                       SpeedTable::StartRows}) {
         for (SpeedTable::Row& row : more())
             rows.push_back(std::move(row));
     }

@@ -22,6 +22,12 @@ constexpr qreal PRODUCT_FONT_SCALE = 1.5;
 // A label whose link has the focus as soon as the Tab key reaches the label, not one press later.
 class LinkLabel : public QLabel
 {
+    // The label finds its one link again and again when it looks backwards, and would never let go.
+    bool focusNextPrevChild(bool next) override
+    {
+        return hasSelectedText() ? QWidget::focusNextPrevChild(next) : QLabel::focusNextPrevChild(next);
+    }
+
     void focusInEvent(QFocusEvent* event) override
     {
         QLabel::focusInEvent(event);
