@@ -1,9 +1,15 @@
 #include <UI/Kit/SliderGroove.h>
 
+#include <UI/Common/WithinReach.h>
+
 #include <QSlider>
 #include <QtMath>
 
 namespace {
+
+// In pixels of the device. A picture with a longer side cannot be painted on; a larger one is larger than any screen.
+constexpr int LONGEST_SIDE = 0x7fff;
+constexpr qint64 LARGEST_AREA = qint64(1) << 25;
 
 constexpr QLatin1String HORIZONTAL_SHEET(" QSlider                    { background:rgba(0,0,0,0); } "
                                          " QSlider::groove:horizontal { width:%1; %2 } "
@@ -46,6 +52,17 @@ bool KeepsInsideOfRule(const QString& text)
             return false;
     }
     return depth == 1 && quote.isNull();
+}
+
+QSize PictureSize(const QSize& size, qreal ratio)
+{
+    return {qCeil(size.width() * ratio), qCeil(size.height() * ratio)};
+}
+
+bool CanBePictured(const QSize& size)
+{
+    const bool isInReach = size.width() <= LONGEST_SIDE && size.height() <= LONGEST_SIDE;
+    return !size.isEmpty() && isInReach && qint64(size.width()) * size.height() <= LARGEST_AREA;
 }
 
 } // namespace
@@ -139,7 +156,7 @@ QPixmap SliderGroove::pixmap(Part look)
 {
     refresh();
     Canvas& canvas = canvases.at(look);
-    if (scene.size.isEmpty())
+    if (!CanBePictured(PictureSize(scene.size, scene.ratio)))
         return {};
     if (canvas.isCurrent)
         return canvas.pixmap;
@@ -175,7 +192,7 @@ void SliderGroove::prepare(Canvas& canvas, Part look)
 
 void SliderGroove::render(QSlider& slider, int value, QPixmap& pixmap) const
 {
-    const QSize size(qCeil(scene.size.width() * scene.ratio), qCeil(scene.size.height() * scene.ratio));
+    const QSize size = PictureSize(scene.size, scene.ratio);
     if (pixmap.size() != size)
         pixmap = QPixmap(size);
     pixmap.setDevicePixelRatio(scene.ratio);
@@ -187,7 +204,8 @@ void SliderGroove::render(QSlider& slider, int value, QPixmap& pixmap) const
 QString SliderGroove::sheet(Part look) const
 {
     const bool isHorizontal = owner.orientation() == Qt::Horizontal;
-    const int length = (isHorizontal ? scene.size.width() : scene.size.height()) - 2 * inset;
+    const int length =
+        (isHorizontal ? scene.size.width() : scene.size.height()) - 2 * Zelkor::Vx::UI::Common::WithinReach(inset);
     // All at once: a fragment may have a per cent sign in it.
     return QString(isHorizontal ? HORIZONTAL_SHEET : VERTICAL_SHEET)
         .arg(QString::number(length), usableStyles[look], usableStyles[ADD_PAGE], usableStyles[SUB_PAGE]);

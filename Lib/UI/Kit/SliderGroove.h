@@ -43,7 +43,7 @@ public:
     /// Whether another value of the slider makes another picture of what was rendered.
     bool followsValue();
 
-    /// A look of the groove over the whole slider, as this is now; null when that has no area.
+    /// A look of the groove over the whole slider, as this is now; null when that has no area, or more than any screen.
     QPixmap pixmap(Part look);
 
 private:

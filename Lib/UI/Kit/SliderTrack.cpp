@@ -1,8 +1,12 @@
 #include <UI/Kit/SliderTrack.h>
 
+#include <UI/Common/WithinReach.h>
+
 #include <QtGlobal>
 
 namespace {
+
+using Zelkor::Vx::UI::Common::WithinReach;
 
 // No widget lies further out. What would is cut before it becomes an integer.
 constexpr double FARTHEST = 1 << 24;
@@ -23,12 +27,13 @@ double GrooveLength(const SliderTrack& track)
 int SliderTrack::pixelOfThumb(int value) const
 {
     const double position = GrooveLength(*this) * value / Span(*this) + 0.5;
-    return int(qBound(-FARTHEST, position, FARTHEST)) + inset;
+    return int(qBound(-FARTHEST, position, FARTHEST)) + WithinReach(inset);
 }
 
 int SliderTrack::pixelOfSegment(int value) const
 {
-    return int((double(value) - minimum) * GrooveLength(*this) / Span(*this)) + inset;
+    const double position = (double(value) - minimum) * GrooveLength(*this) / Span(*this);
+    return int(qBound(-FARTHEST, position, FARTHEST)) + WithinReach(inset);
 }
 
 int SliderTrack::valueAt(int pixel) const

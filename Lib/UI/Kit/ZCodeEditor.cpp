@@ -176,8 +176,11 @@ bool ZCodeEditor::event(QEvent* event)
         const auto* press = static_cast<QKeyEvent*>(event);
         const bool isBack = press->key() == Qt::Key_Backtab || press->modifiers().testFlag(Qt::ShiftModifier);
         if (press->modifiers().testFlag(Qt::ControlModifier) &&
-            (press->key() == Qt::Key_Tab || press->key() == Qt::Key_Backtab))
-            return focusNextPrevChild(!isBack);
+            (press->key() == Qt::Key_Tab || press->key() == Qt::Key_Backtab)) {
+            // The text edit itself never lets go: its own function is no more than Tab, which it keeps.
+            QWidget::focusNextPrevChild(!isBack);
+            return true;
+        }
     }
     return QPlainTextEdit::event(event);
 }

@@ -1,11 +1,16 @@
 #include <UI/Kit/ZFrame.h>
 
+#include <UI/Common/WithinReach.h>
+
 #include <QFormLayout>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
 namespace {
+
+// Layouts add up margins and spacings without looking for an overflow.
+using Zelkor::Vx::UI::Common::WithinReach;
 
 constexpr int NOTHING = -1;
 
@@ -22,7 +27,7 @@ void SetSide(QLayout* layout, SideSetter side, int margin)
     if (!layout)
         return;
     QMargins margins = layout->contentsMargins();
-    (margins.*side)(margin);
+    (margins.*side)(WithinReach(margin));
     layout->setContentsMargins(margins);
 }
 
@@ -53,6 +58,7 @@ int ZFrame::layoutMargin() const
 
 void ZFrame::setLayoutMargin(int margin)
 {
+    margin = WithinReach(margin);
     if (layout())
         layout()->setContentsMargins(margin, margin, margin, margin);
 }
@@ -105,7 +111,7 @@ int ZFrame::layoutSpacing() const
 void ZFrame::setLayoutSpacing(int spacing)
 {
     if (layout())
-        layout()->setSpacing(spacing);
+        layout()->setSpacing(WithinReach(spacing));
 }
 
 int ZFrame::layoutHSpacing() const
@@ -120,8 +126,8 @@ int ZFrame::layoutHSpacing() const
 void ZFrame::setLayoutHSpacing(int spacing)
 {
     VisitAxis<QHBoxLayout>(
-        layout(), [=](auto* table) { table->setHorizontalSpacing(spacing); },
-        [=](auto* box) { box->setSpacing(spacing); });
+        layout(), [=](auto* table) { table->setHorizontalSpacing(WithinReach(spacing)); },
+        [=](auto* box) { box->setSpacing(WithinReach(spacing)); });
 }
 
 int ZFrame::layoutVSpacing() const
@@ -136,6 +142,6 @@ int ZFrame::layoutVSpacing() const
 void ZFrame::setLayoutVSpacing(int spacing)
 {
     VisitAxis<QVBoxLayout>(
-        layout(), [=](auto* table) { table->setVerticalSpacing(spacing); },
-        [=](auto* box) { box->setSpacing(spacing); });
+        layout(), [=](auto* table) { table->setVerticalSpacing(WithinReach(spacing)); },
+        [=](auto* box) { box->setSpacing(WithinReach(spacing)); });
 }

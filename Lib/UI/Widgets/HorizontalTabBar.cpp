@@ -1,5 +1,7 @@
 #include <UI/Widgets/HorizontalTabBar.h>
 
+#include <UI/Common/WithinReach.h>
+
 #include <QChildEvent>
 #include <QFileInfo>
 #include <QMouseEvent>
@@ -11,12 +13,16 @@ namespace Zelkor::Vx {
 
 namespace {
 
+using UI::Common::WithinReach;
+
 const QLatin1Char PATH_SEPARATOR(';');
 
 // Asking first spares the warning that the reader of SVG files gives.
 QIcon LoadIcon(const QString& path)
 {
-    return QFileInfo::exists(path) ? QIcon(path) : QIcon();
+    // A name with a null in it is none, and Qt warns of it.
+    const bool isName = !path.contains(QChar());
+    return isName && QFileInfo::exists(path) ? QIcon(path) : QIcon();
 }
 
 // Leads from a tab's face, on which text is level and the origin is the top left corner, to the tab in its bar.
@@ -168,7 +174,8 @@ bool HorizontalTabBar::AreTextsTurned() const
 {
     for (int i = 0; IsVertical() && i < count(); ++i) {
         const QSize tab = tabRect(i).size();
-        const int text = fontMetrics().size(Qt::TextShowMnemonic, tabText(i)).width() + paddingLeft + paddingRight;
+        const int text = fontMetrics().size(Qt::TextShowMnemonic, tabText(i)).width() + WithinReach(paddingLeft) +
+                         WithinReach(paddingRight);
         if (text > tab.width() && tab.height() > tab.width())
             return true;
     }
@@ -182,7 +189,8 @@ bool HorizontalTabBar::IsDragged(const QStyleOptionTab& option) const
 
 QRect HorizontalTabBar::TextRect(const QRect& face, const QTransform& toBar, const QStyleOptionTab& option) const
 {
-    QRect text = face.adjusted(paddingLeft, paddingTop, -paddingRight, -paddingBottom);
+    QRect text = face.adjusted(WithinReach(paddingLeft), WithinReach(paddingTop), -WithinReach(paddingRight),
+                               -WithinReach(paddingBottom));
     text = QStyle::visualRect(layoutDirection(), face, text);
     for (const auto part : {QStyle::SE_TabBarTabLeftButton, QStyle::SE_TabBarTabRightButton}) {
         const QSize& button = part == QStyle::SE_TabBarTabLeftButton ? option.leftButtonSize : option.rightButtonSize;
@@ -231,7 +239,7 @@ void HorizontalTabBar::PaintTab(QPainter& painter, int index, QStyleOptionTab& o
                          text);
         painter.restore();
     }
-    const QRect iconRect(QPoint(xPosTabIcon, yPosTabIcon), iconSize());
+    const QRect iconRect(QPoint(WithinReach(xPosTabIcon), WithinReach(yPosTabIcon)), iconSize());
     tabIcon(index).paint(&painter, toBar.mapRect(QStyle::visualRect(layoutDirection(), face, iconRect)),
                          Qt::AlignTop | Qt::AlignHCenter);
 }

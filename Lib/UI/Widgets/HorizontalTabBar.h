@@ -14,9 +14,9 @@ namespace Zelkor::Vx {
 /// A tab bar that draws text and icon of its tabs itself, so that a style sheet can say where they are, in which
 /// colours the text is in each state, and which icon files a tab has while it is selected and while it is not.
 ///
-/// The shape of a tab comes from the style, its size from `QTabBar` and the rules for `::tab`; keep the distances here
-/// in step with the padding there. A text too long for its place is elided as `elideMode` says, and keeps clear of the
-/// tab's buttons. Right-to-left, left and right change places within a tab.
+/// The shape of a tab comes from the style, its size from `QTabBar` and the rules for `QTabBar::tab`; keep the
+/// distances here in step with the padding there. A text too long for its place is elided as `elideMode` says, and
+/// keeps clear of the tab's buttons. Right-to-left, left and right change places within a tab.
 ///
 /// In a vertical bar the text is level as long as it fits. Where one does not and tabs are higher than wide, all texts
 /// of the bar run along their tabs, upwards in the west and downwards in the east; distances then count in the

@@ -1,10 +1,14 @@
 #include <UI/Widgets/LevelMeter.h>
 
+#include <UI/Common/WithinReach.h>
+
 #include <cmath>
 
 namespace Zelkor::Vx::LevelMeter {
 
 namespace {
+
+using UI::Common::WithinReach;
 
 // The outline and its antialiasing reach so far beyond a bar.
 constexpr int OUTLINE = 2;
@@ -14,7 +18,7 @@ constexpr int OUTLINE = 2;
 QRect BarOf(const QRect& background, float share, const Input& input)
 {
     const double wanted = double(float(background.bottom() - background.top()) * share) + 1.5;
-    const double highest = double(input.size.height() - input.offsetY);
+    const double highest = double(input.size.height() - WithinReach(input.offsetY));
     // What is not a number shows as silence without its row.
     const double rows = std::isnan(wanted) ? 0.0 : std::fmax(std::fmin(wanted, highest), 0.0);
     QRect bar = background;
@@ -26,7 +30,7 @@ QRect ChangedRowsOf(const QRect& before, const QRect& after, int radius)
 {
     if (before == after)
         return QRect();
-    const int corners = qMax(0, radius) + OUTLINE;
+    const int corners = WithinReach(qMax(0, radius)) + OUTLINE;
     // The corners of a low bar are squeezed, all of them.
     if (qMin(before.height(), after.height()) <= 2 * corners)
         return (before | after).adjusted(-OUTLINE, -OUTLINE, OUTLINE, OUTLINE);
@@ -41,8 +45,9 @@ QRect ChangedRowsOf(const QRect& before, const QRect& after, int radius)
 Bars BarsOf(const Input& input)
 {
     Bars bars;
-    bars.background = QRect(input.offsetX, input.offsetY, input.size.width() - 2 * input.offsetX,
-                            input.size.height() - 2 * input.offsetY);
+    const int x = WithinReach(input.offsetX);
+    const int y = WithinReach(input.offsetY);
+    bars.background = QRect(x, y, input.size.width() - 2 * x, input.size.height() - 2 * y);
     bars.level = BarOf(bars.background, input.level, input);
     bars.volume = BarOf(bars.background, input.volume * input.level, input);
     return bars;

@@ -1,6 +1,7 @@
 #include <UI/Widgets/MaskedToolTip.h>
 
 #include <UI/Common/BoxLayouts.h>
+#include <UI/Common/WithinReach.h>
 
 #include <QBitmap>
 #include <QEvent>
@@ -65,7 +66,7 @@ void MaskedToolTip::Show(const QPoint& globalPos)
         setMask(OpaquePart(maskImage));
     if (displayTime > 0)
         QTimer::singleShot(displayTime, this, &QWidget::close);
-    move(mapFromGlobal(globalPos + QPoint(offsetX, offsetY)));
+    move(mapFromGlobal(globalPos + QPoint(Common::WithinReach(offsetX), Common::WithinReach(offsetY))));
     show();
 }
 

@@ -6,6 +6,13 @@
 
 namespace Zelkor::Vx {
 
+namespace {
+
+// In pixels of the device. A widget larger than that is never seen whole, and shall not cost gigabytes.
+constexpr QSize LARGEST_PICTURE(8192, 8192);
+
+} // namespace
+
 struct PixmapWidget::Impl
 {
     MaskMode maskMode = MASK_NONE;
@@ -73,7 +80,7 @@ void PixmapWidget::paintEvent(QPaintEvent* event)
         return;
     QPainter painter(this);
     // Of what is painted on: the window's own, or a picture of the widget without a window.
-    const QSize target = (QSizeF(size()) * painter.device()->devicePixelRatioF()).toSize();
+    const QSize target = (QSizeF(size()) * painter.device()->devicePixelRatioF()).toSize().boundedTo(LARGEST_PICTURE);
     if (impl->scaled.size() != target) {
         const bool masked = impl->maskMode != MASK_NONE;
         const QRect cut =

@@ -19,6 +19,8 @@ namespace {
 
 // As wide as Qt lets a scroll area wish to be, in heights of a line of text.
 constexpr int PREFERRED_LINES = 36;
+// In pixels. The layout adds up spacings without looking for an overflow, and this is wider than any screen.
+constexpr int LARGEST_SPACING = 0xffff;
 
 // The scroll value nearest to `value` at which a view of this width shows the item, its beginning before its end.
 int ValueToShow(const QRect& item, int value, int viewWidth)
@@ -177,7 +179,7 @@ int ScrollablePanelWithItem::GetItemsScpacing() const
 
 void ScrollablePanelWithItem::SetItemsSpacing(int spacing)
 {
-    parts->itemsLayout->setSpacing(spacing);
+    parts->itemsLayout->setSpacing(qMin(spacing, LARGEST_SPACING));
     parts->panelScrollArea->updateGeometry();
 }
 

@@ -1,6 +1,7 @@
 #include <UI/Widgets/VolumeSlider.h>
 
 #include <UI/Common/LogSource.h>
+#include <UI/Common/WithinReach.h>
 #include <UI/Widgets/LevelMeter.h>
 
 #include <QLinearGradient>
@@ -68,7 +69,7 @@ void VolumeSlider::ShowValue(int value)
 {
     if (!isVisible())
         return;
-    const QPoint anchor = mapToGlobal(QPoint(width() / 2 - tooltipOffsetX, height() / 2));
+    const QPoint anchor = mapToGlobal(QPoint(width() / 2 - UI::Common::WithinReach(tooltipOffsetX), height() / 2));
     QToolTip::showText(anchor, QString::number(value) + tr(" %"), nullptr);
     QTimer::singleShot(TOOL_TIP_TIME_MS, this, &VolumeSlider::HideToolTip);
 }
