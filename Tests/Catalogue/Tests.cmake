@@ -1,0 +1,19 @@
+# Tests over every widget of the catalogue; nothing to test where it is not built.
+if(NOT VX_BUILD_GALLERY)
+  return()
+endif()
+
+vx_test(Catalogue/tst_Environment.cpp LIBRARIES VxCatalogue)
+foreach(scale 1.25 2)
+  add_test(NAME tst_Environment_scaled_${scale} COMMAND tst_Environment)
+  set_tests_properties(
+    tst_Environment_scaled_${scale}
+    PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen;QT_SCALE_FACTOR=${scale};QT_SCALE_FACTOR_ROUNDING_POLICY=PassThrough;\
+${VX_TEST_ENVIRONMENT}" TIMEOUT 300)
+endforeach()
+
+vx_test(Catalogue/tst_Properties.cpp LIBRARIES VxCatalogue)
+
+vx_test(Catalogue/tst_CatalogueAccessibility.cpp LIBRARIES VxCatalogue)
+vx_test(Catalogue/tst_CatalogueRandomEvents.cpp SOURCES Catalogue/RandomEvents.cpp LIBRARIES VxCatalogue)
+vx_test(Catalogue/tst_CatalogueLifetime.cpp LIBRARIES VxCatalogue)

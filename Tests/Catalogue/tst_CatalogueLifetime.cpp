@@ -1,0 +1,159 @@
+#include <Catalogue/Scene.h>
+
+#include <Gallery/StyleSheet.h>
+
+#include <Support/Census.h>
+#include <Support/LinkTrap.h>
+#include <Support/LoopWatch.h>
+#include <Support/SignalTap.h>
+#include <Support/TestCase.h>
+
+#include <QPixmapCache>
+
+#include <deque>
+
+#if defined(__GLIBC__) && !defined(__SANITIZE_ADDRESS__)
+#include <malloc.h>
+#endif
+
+using namespace Zelkor::Gallery;
+
+namespace {
+
+constexpr int LIVES = 1020;
+constexpr int WARM_UP = 200;           ///< lives after which caches have what they want
+constexpr double LARGEST_GROWTH = 200; ///< bytes a life
+
+constexpr Qt::Key KEYS[] = {Qt::Key_Space, Qt::Key_Right,  Qt::Key_Left, Qt::Key_Up,     Qt::Key_Down,
+                            Qt::Key_7,     Qt::Key_Return, Qt::Key_Home, Qt::Key_Delete, Qt::Key_Tab};
+
+// What is allocated; nothing where it cannot be known, and under the address sanitizer, which looks for leaks itself.
+double BytesInUse()
+{
+#if defined(__GLIBC__) && !defined(__SANITIZE_ADDRESS__)
+    return double(mallinfo2().uordblks) + double(mallinfo2().hblkhd);
+#else
+    return 0;
+#endif
+}
+
+void Settle()
+{
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QCoreApplication::processEvents();
+}
+
+// Works each part as a person does, with keys, wheel and mouse, as long as the scene is there.
+void Work(Scene& scene)
+{
+    for (const QPointer<QWidget>& part : scene.KeyboardParts()) {
+        if (!part)
+            continue;
+        part->setFocus(Qt::TabFocusReason);
+        for (const Qt::Key key : KEYS) {
+            if (!scene.Type(key))
+                return;
+        }
+    }
+    if (!scene.widget)
+        return;
+    const QPoint center = scene.widget->mapTo(scene.window, scene.widget->rect().center());
+    QTest::mousePress(scene.window->windowHandle(), Qt::LeftButton, Qt::NoModifier, center);
+    if (scene.window)
+        QTest::mouseMove(scene.window->windowHandle(), center + QPoint(9, 9));
+    if (scene.window)
+        QTest::mouseRelease(scene.window->windowHandle(), Qt::LeftButton, Qt::NoModifier, center + QPoint(9, 9));
+}
+
+} // namespace
+
+class tst_CatalogueLifetime : public Support::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    // Without a sheet: most of the time would go into applying it to each of the many widgets.
+    void initTestCase()
+    {
+        // What pictures it holds, and when it lets go of them, is Qt's matter.
+        QPixmapCache::setCacheLimit(0);
+        QString error;
+        ApplyStyleSheet({QString(), LoadStyleSheet("dark", error)->iconFolder});
+    }
+
+    void comesAndGoes_data()
+    {
+        QTest::addColumn<QString>("className");
+        QTest::addColumn<bool>("shown");
+        for (const Entry& entry : Entries()) {
+            QTest::addRow("%s", qPrintable(entry.className)) << entry.className << false;
+            QTest::addRow("%s, shown", qPrintable(entry.className)) << entry.className << true;
+        }
+    }
+
+    void comesAndGoes()
+    {
+        const Support::Census census;
+        QFETCH(QString, className);
+        QFETCH(bool, shown);
+        const Entry& entry = *FindEntry(className);
+        // Whole rounds through the states, so that what one of them leaves behind is there both times or not at all.
+        const int states = entry.states.size();
+        const int lives = LIVES / states * states;
+        const int warmUp = WARM_UP / states * states;
+        double bytes = 0;
+        for (int i = 0; i < lives; ++i) {
+            if (i == warmUp)
+                bytes = BytesInUse();
+            const std::unique_ptr<QWidget> widget(CreateInState(entry, entry.states[i % states], nullptr));
+            widget->setVisible(shown);
+            Settle();
+        }
+        const double growth = (BytesInUse() - bytes) / (lives - warmUp);
+        QVERIFY2(growth < LARGEST_GROWTH, qPrintable(QStringLiteral("%1 bytes more with each").arg(growth)));
+    }
+
+    void goesWithWhatIsOpen_data() { AddRowsOfAllStates(); }
+
+    // Dialogs and menus that run an event loop lose the widget in the middle of it; other pop-ups stay open with it.
+    void goesWithWhatIsOpen()
+    {
+        const Support::Census census;
+        for (const Qt::Key key : {Qt::Key_Space, Qt::Key_Down, Qt::Key_F4}) {
+            const auto scene = SceneOfThisRow();
+            scene->Show();
+            const Support::LoopWatch loops([&scene](QWidget*) { delete scene->window; });
+            for (const QPointer<QWidget>& part : scene->KeyboardParts()) {
+                if (!part)
+                    continue;
+                part->setFocus(Qt::TabFocusReason);
+                scene->Type(key);
+                Settle();
+            }
+        }
+    }
+
+    void goesInItsOwnSignals_data() { AddRowsOfAllStates(); }
+
+    void goesInItsOwnSignals()
+    {
+        const Support::Census census;
+        const Support::LinkTrap links;
+        const Support::LoopWatch loops(Support::Dismiss);
+        const auto scene = SceneOfThisRow();
+        scene->Show();
+        std::deque<Support::SignalTap> taps;
+        for (QWidget* part : QList<QWidget*>{scene->widget} + scene->widget->findChildren<QWidget*>())
+            taps.emplace_back(part, [&scene] {
+                if (qEnvironmentVariableIsSet("DIRECT"))
+                    delete scene->window;
+                if (scene->window)
+                    scene->window->deleteLater();
+            });
+        Work(*scene);
+        Settle();
+    }
+};
+
+VX_TEST_MAIN(tst_CatalogueLifetime)
+#include "tst_CatalogueLifetime.moc"

@@ -1,0 +1,39 @@
+#include <Support/LoopWatch.h>
+
+#include <QApplication>
+#include <QDialog>
+#include <QMenu>
+#include <QPointer>
+#include <QTimer>
+
+#include <utility>
+
+namespace Support {
+
+LoopWatch::LoopWatch(std::function<void(QWidget*)> act) : act(std::move(act))
+{
+    qApp->installEventFilter(this);
+}
+
+bool LoopWatch::eventFilter(QObject* object, QEvent* event)
+{
+    if (event->type() != QEvent::Show || !object->isWidgetType())
+        return false;
+    auto* window = static_cast<QWidget*>(object);
+    if (window->isWindow() && (window->isModal() || qobject_cast<QMenu*>(window)))
+        QTimer::singleShot(0, window, [self = QPointer<LoopWatch>(this), window] {
+            if (self)
+                self->act(window);
+        });
+    return false;
+}
+
+void Dismiss(QWidget* window)
+{
+    if (auto* dialog = qobject_cast<QDialog*>(window))
+        dialog->reject();
+    else
+        window->close();
+}
+
+} // namespace Support
