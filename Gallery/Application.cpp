@@ -1,4 +1,5 @@
 #include "Application.h"
+#include "Catalogue.h"
 #include "GalleryWindow.h"
 #include "RecorderWindow.h"
 #include "Screenshot.h"
@@ -10,6 +11,7 @@
 #include <QDir>
 #include <QEventLoop>
 #include <QFileInfo>
+#include <QProcess>
 #include <QSettings>
 #include <QTimer>
 
@@ -20,6 +22,7 @@ namespace Zelkor::Gallery {
 namespace {
 
 constexpr int EXIT_BAD_USE = 2;
+constexpr int PICTURE_MARGIN = 12;
 constexpr int HINT_DELAY_MS = 800; ///< until the window system has put the window into its place
 const QString HINT_SHOWN = QStringLiteral("firstHintShown");
 
@@ -28,6 +31,23 @@ void Wait(int milliseconds)
     QEventLoop loop;
     QTimer::singleShot(milliseconds, &loop, &QEventLoop::quit);
     loop.exec();
+}
+
+bool MakeFolder(const QString& folder)
+{
+    if (QDir().mkpath(folder))
+        return true;
+    Complain(QString("cannot make the folder '%1'").arg(folder));
+    return false;
+}
+
+int Save(const QImage& picture, const QString& file)
+{
+    // Of a PNG, the quality is the effort: 0 makes the smallest file.
+    if (picture.save(file, "PNG", 0))
+        return EXIT_SUCCESS;
+    Complain(QString("cannot write the picture '%1'").arg(file));
+    return EXIT_FAILURE;
 }
 
 void Show(QWidget* window, const QSize& size)
@@ -79,6 +99,8 @@ int Application::Run()
 {
     if (!options.shots.isEmpty())
         return TakeAllPictures();
+    if (!options.pictures.isEmpty())
+        return TakePicturesOfWidgets();
     const QString page = options.page.isEmpty() ? RecorderPageName() : options.page;
     if (!options.shot.isEmpty())
         return TakePictureOfPage(page, options.shot);
@@ -123,8 +145,26 @@ QWidget* Application::OpenPage(const QString& name)
 
 void Application::MakeGallery()
 {
-    gallery = std::make_unique<GalleryWindow>(&model, &preferences);
+    gallery = std::make_unique<GalleryWindow>(&model, &preferences, options.scale);
     gallery->addAction(&editStyle);
+    QObject::connect(gallery.get(), &GalleryWindow::StyleEditorRequested, &editStyle, &QAction::trigger);
+    QObject::connect(gallery.get(), &GalleryWindow::RestartRequested, gallery.get(),
+                     [this](double scale, const QString& page) { Restart(scale, page); });
+}
+
+// The new program comes up as this one looks now.
+void Application::Restart(double scale, const QString& page)
+{
+    const QString style = preferences.StyleName().isEmpty() ? options.styleArgument : preferences.StyleName();
+    QStringList arguments = {"--scale", QString::number(scale), "--style", style, "--language", preferences.Language()};
+    if (!page.isEmpty())
+        arguments += QStringList{"--page", page};
+    if (QApplication::layoutDirection() == Qt::RightToLeft)
+        arguments += "--rtl";
+    if (QProcess::startDetached(QApplication::applicationFilePath(), arguments))
+        QApplication::quit();
+    else
+        Complain("cannot start another gallery");
 }
 
 void Application::OpenStyleEditor()
@@ -179,18 +219,13 @@ int Application::TakePictureOfPage(const QString& page, const QString& file)
         button->click();
     }
     Wait(options.after - options.after / 2);
-    if (TakePicture(window).save(file, "PNG"))
-        return EXIT_SUCCESS;
-    Complain(QString("cannot write the picture '%1'").arg(file));
-    return EXIT_FAILURE;
+    return Save(TakePicture(window), file);
 }
 
 int Application::TakeAllPictures()
 {
-    if (!QDir().mkpath(options.shots)) {
-        Complain(QString("cannot make the folder '%1'").arg(options.shots));
+    if (!MakeFolder(options.shots))
         return EXIT_FAILURE;
-    }
     for (const QString& page : PageNames()) {
         const int result = TakePictureOfPage(page, QDir(options.shots).filePath(page + ".png"));
         if (result != EXIT_SUCCESS)
@@ -198,6 +233,29 @@ int Application::TakeAllPictures()
         // A window that is out of the picture runs nothing.
         if (recorder)
             recorder->hide();
+    }
+    return EXIT_SUCCESS;
+}
+
+int Application::TakePicturesOfWidgets()
+{
+    if (!MakeFolder(options.pictures))
+        return EXIT_FAILURE;
+    for (const Entry& entry : Entries()) {
+        QWidget backdrop;
+        // Else the widget would have the focus, and show it.
+        backdrop.setFocusPolicy(Qt::StrongFocus);
+        backdrop.setFocus();
+        QWidget* widget = CreateInState(entry, entry.states[entry.pictured], &backdrop);
+        widget->adjustSize();
+        widget->move(PICTURE_MARGIN, PICTURE_MARGIN);
+        backdrop.resize(widget->size() + QSize(2 * PICTURE_MARGIN, 2 * PICTURE_MARGIN));
+        backdrop.show();
+        Wait(options.after);
+        const QImage picture = backdrop.grab().toImage();
+        const int result = Save(picture, QDir(options.pictures).filePath(entry.className + ".png"));
+        if (result != EXIT_SUCCESS)
+            return result;
     }
     return EXIT_SUCCESS;
 }

@@ -35,9 +35,11 @@ private:
     void MakeGallery();
     void OpenWidgets();
     void OpenStyleEditor();
+    void Restart(double scale, const QString& page);
     void GreetOnce();
     int TakePictureOfPage(const QString& page, const QString& file);
     int TakeAllPictures();
+    int TakePicturesOfWidgets();
 
     const Options options;
     Translations translations;

@@ -1,30 +1,28 @@
 #pragma once
 
+#include "PageList.h"
+
+#include <QTimer>
 #include <QWidget>
 
-class QHBoxLayout;
-class QListWidget;
+class QVBoxLayout;
 
 namespace Zelkor::Gallery {
 
 class Preferences;
 class RecorderModel;
+class SceneBar;
+class WidgetPage;
 
-/// The name of the recorder's page, the first one. After it come the trimmer, and a page for each class of the
-/// catalogue.
-QString RecorderPageName();
-
-/// The names of all pages, in order.
-QStringList PageNames();
-
-/// All pages: their list at the start, the chosen one beside it. Only the page that shows exists, so that nothing runs
-/// out of sight. Model and preferences have to outlive the window.
+/// All pages: their list at the start, the chosen one beside it under the tools that set the scene. Only the page that
+/// shows exists, so that nothing runs out of sight. Model and preferences have to outlive the window.
 class GalleryWindow : public QWidget
 {
     Q_OBJECT
 
 public:
-    GalleryWindow(RecorderModel* model, const Preferences* preferences, QWidget* parent = nullptr);
+    /// `scale` is the one that the program runs with.
+    GalleryWindow(RecorderModel* model, Preferences* preferences, double scale = 1, QWidget* parent = nullptr);
 
     /// Opens a page; a name that is no page is ignored.
     void OpenPage(const QString& name);
@@ -33,22 +31,29 @@ Q_SIGNALS:
     /// The person closed the window.
     void Closed();
 
+    void StyleEditorRequested();
+
+    /// The person wants another scale, which a program has from its start on.
+    void RestartRequested(double scale, const QString& page);
+
 protected:
+    void changeEvent(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
 private:
-    void FillList();
     void ShowPage(const QString& name);
-    void SetCompact(bool on);
+    WidgetPage* CreateWidgetPage(const QString& name);
+    void Retranslate();
+    void MakePageAnew();
 
     RecorderModel* model;
-    const Preferences* preferences;
-    QListWidget* list;
-    QHBoxLayout* body;
+    Preferences* preferences;
+    PageList* list;
+    SceneBar* bar;
+    QVBoxLayout* body;
+    QTimer renewal; ///< of the page, when all who are told of a change know of it
     QWidget* page = nullptr;
-    int fullListWidth = 0;
-    bool compact = false;
 };
 
 } // namespace Zelkor::Gallery

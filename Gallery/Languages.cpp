@@ -1,4 +1,5 @@
 #include "Languages.h"
+#include "Catalogue.h"
 
 #include <QApplication>
 #include <QDir>
@@ -47,8 +48,15 @@ Translations::~Translations() = default;
 bool Translations::Use(const QString& code)
 {
     translators.clear();
-    if (code == AllLanguages().first().code)
-        return true;
+    bool found = code == AllLanguages().first().code;
+    if (!found)
+        found = Install(code);
+    RetranslateEntries();
+    return found;
+}
+
+bool Translations::Install(const QString& code)
+{
     bool found = false;
     for (const char* file : {"qtbase_", "VxUiWidgets_", "VxGallery_"}) {
         auto translator = Load(file + code);

@@ -31,6 +31,8 @@ public:
     bool Use(const QString& code);
 
 private:
+    bool Install(const QString& code);
+
     std::vector<std::unique_ptr<QTranslator>> translators;
 };
 

@@ -32,6 +32,7 @@ void Declare(QCommandLineParser& parser)
          "FILE", "dark"},
         {"shot", "Writes a picture of the page as PNG, and ends.", "FILE"},
         {"shots", "Writes a picture of each page as PNG, and ends.", "DIR"},
+        {"pictures", "Writes a small picture of each widget by itself as PNG, and ends.", "DIR"},
         {"press", "Presses the button of this text before the picture.", "TEXT"},
         {"size", "Size of the window in pixels.", "WxH"},
         {"scale", "Scales everything, 0.5 to 4.", "F", "1"},
@@ -82,14 +83,18 @@ QString TakeValues(const QCommandLineParser& parser, Options& options)
         return QString("--after takes milliseconds up to %1, not '%2'").arg(LONGEST_WAIT).arg(parser.value("after"));
     if (parser.isSet("page") && !PageNames().contains(options.page))
         return QString("there is no page '%1'; --list names them").arg(options.page);
-    for (const char* name : {"shot", "shots", "press", "language", "fallback-shot"}) {
+    for (const char* name : {"shot", "shots", "pictures", "press", "language", "fallback-shot"}) {
         if (parser.isSet(name) && parser.value(name).isEmpty())
             return QString("--%1 takes a value that is not empty").arg(name);
     }
     if (parser.isSet("shots") && (parser.isSet("shot") || parser.isSet("page") || parser.isSet("press")))
         return "--shots takes every page, so --shot, --page and --press do not go with it";
+    if (parser.isSet("pictures") &&
+        (parser.isSet("shots") || parser.isSet("shot") || parser.isSet("page") || parser.isSet("press")))
+        return "--pictures shows no page, so --shot, --shots, --page and --press do not go with it";
     QString error;
     const QString name = parser.value("style");
+    options.styleArgument = name;
     const std::optional<StyleSheet> style = LoadStyleSheet(name, error);
     if (style)
         options.style = *style;
@@ -116,6 +121,7 @@ std::variant<Options, Answer> ReadOptions(const QStringList& arguments)
     options.page = parser.value("page");
     options.shot = parser.value("shot");
     options.shots = parser.value("shots");
+    options.pictures = parser.value("pictures");
     options.press = parser.value("press");
     options.fallbackShot = parser.value("fallback-shot");
     options.rightToLeft = parser.isSet("rtl");

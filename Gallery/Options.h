@@ -16,18 +16,20 @@ struct Options
     bool list = false;
     QString page; ///< empty for the one that comes up by itself
     StyleSheet style;
-    QString styleName;   ///< of a built-in sheet; empty for a file
-    QString shot;         ///< file for a picture of the page; empty for none
-    QString shots;        ///< folder for a picture of each page; empty for none
-    QString press;        ///< the button to press before the picture; empty for none
-    QString fallbackShot; ///< file for a picture when there is no display to show a window on
-    QSize size;           ///< of the window; invalid for its own
-    double scale = 1;     ///< of the whole user interface
+    QString styleArgument; ///< as it was given
+    QString styleName;     ///< of a built-in sheet; empty for a file
+    QString shot;          ///< file for a picture of the page; empty for none
+    QString shots;         ///< folder for a picture of each page; empty for none
+    QString pictures;      ///< folder for a picture of each widget by itself; empty for none
+    QString press;         ///< the button to press before the picture; empty for none
+    QString fallbackShot;  ///< file for a picture when there is no display to show a window on
+    QSize size;            ///< of the window; invalid for its own
+    double scale = 1;      ///< of the whole user interface
     bool rightToLeft = false;
     QString language; ///< empty for the texts as they were written
     int after = 0;    ///< milliseconds from the window to the picture
 
-    bool TakesPictures() const { return !shot.isEmpty() || !shots.isEmpty(); }
+    bool TakesPictures() const { return !shot.isEmpty() || !shots.isEmpty() || !pictures.isEmpty(); }
 };
 
 /// An answer that ends the program: for the terminal, on standard output when the code is 0, else on standard error.

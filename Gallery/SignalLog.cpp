@@ -1,15 +1,13 @@
 #include "SignalLog.h"
-#include "Texts.h"
 
 #include <QAction>
 #include <QColor>
-#include <QHBoxLayout>
-#include <QLabel>
 #include <QPlainTextEdit>
 #include <QStringList>
 #include <QThread>
 #include <QTime>
 #include <QToolButton>
+#include <QVBoxLayout>
 
 namespace Zelkor::Gallery {
 
@@ -17,11 +15,8 @@ namespace {
 
 constexpr int LARGEST_LINE_COUNT = 500;
 constexpr int LONGEST_TEXT = 200; ///< characters of an argument
-constexpr int SMALLEST_HEIGHT = 56;
-constexpr int PREFERRED_HEIGHT = 104;
-constexpr int HORIZONTAL_MARGIN = 24;
-constexpr int SPACING = 4;
-constexpr int BOTTOM_MARGIN = 16;
+constexpr int MARGIN = 12;
+constexpr int SPACING = 8;
 
 // The class among those of `object` that has this name, null when there is none.
 const QMetaObject* FindClass(const QObject& object, const QString& className)
@@ -30,17 +25,6 @@ const QMetaObject* FindClass(const QObject& object, const QString& className)
     while (meta && QString(meta->className()).section("::", -1) != className)
         meta = meta->superClass();
     return meta;
-}
-
-QObject* FindObject(QWidget* widget, const QString& className)
-{
-    if (FindClass(*widget, className))
-        return widget;
-    for (QObject* part : widget->findChildren<QObject*>()) {
-        if (FindClass(*part, className))
-            return part;
-    }
-    return widget;
 }
 
 bool IsGeneral(const QMetaObject& meta)
@@ -60,6 +44,17 @@ QString CallText(const QMetaMethod& signal, void** arguments)
 }
 
 } // namespace
+
+QObject* FindObject(QWidget* widget, const QString& className)
+{
+    if (FindClass(*widget, className))
+        return widget;
+    for (QObject* part : widget->findChildren<QObject*>()) {
+        if (FindClass(*part, className))
+            return part;
+    }
+    return widget;
+}
 
 QString ArgumentText(int metaType, const void* argument)
 {
@@ -134,9 +129,6 @@ SignalLog::SignalLog(QWidget* parent)
       }),
       lines(new QPlainTextEdit)
 {
-    auto* heading = new QLabel(tr("Signals"));
-    heading->setObjectName("caption");
-    AlignAtStart(heading);
     auto* clearButton = new QToolButton;
     clearButton->setText(tr("Clear"));
     clearButton->setToolTip(tr("Empties the list of signals"));
@@ -144,35 +136,25 @@ SignalLog::SignalLog(QWidget* parent)
     clearButton->setAutoRaise(true);
     lines->setObjectName("signalLines");
     lines->setAccessibleName(tr("Signals"));
-    lines->setPlaceholderText(tr("The signals of the widgets are listed here"));
+    lines->setPlaceholderText(tr("The widgets of this page have no signals of their own"));
     lines->setReadOnly(true);
     lines->setUndoRedoEnabled(false);
     lines->setTabChangesFocus(true);
     lines->setMaximumBlockCount(LARGEST_LINE_COUNT);
-    lines->setMinimumHeight(SMALLEST_HEIGHT);
     connect(clearButton, &QToolButton::clicked, lines, &QPlainTextEdit::clear);
 
-    auto* top = new QHBoxLayout;
-    top->addWidget(heading, 1);
-    top->addWidget(clearButton);
     auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(HORIZONTAL_MARGIN, SPACING, HORIZONTAL_MARGIN, BOTTOM_MARGIN);
+    layout->setContentsMargins(MARGIN, MARGIN, MARGIN, MARGIN);
     layout->setSpacing(SPACING);
-    layout->addLayout(top);
     layout->addWidget(lines);
-    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
-    hide();
+    layout->addWidget(clearButton, 0, Qt::AlignTrailing);
 }
 
 void SignalLog::Watch(QWidget* widget, const QString& className, const QString& title)
 {
-    if (tap.Watch(FindObject(widget, className), className, title) > 0)
-        show();
-}
-
-QSize SignalLog::sizeHint() const
-{
-    return QSize(QWidget::sizeHint().width(), minimumSizeHint().height() - SMALLEST_HEIGHT + PREFERRED_HEIGHT);
+    watchedSignals += tap.Watch(FindObject(widget, className), className, title);
+    if (watchedSignals > 0)
+        lines->setPlaceholderText(tr("The signals of the widgets are listed here"));
 }
 
 } // namespace Zelkor::Gallery

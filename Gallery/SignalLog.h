@@ -40,11 +40,13 @@ private:
     QVector<Connection> connections;
 };
 
+/// What a page is about: `widget`, or the part of it that is of the class `className`, without namespace.
+QObject* FindObject(QWidget* widget, const QString& className);
+
 /// The value behind an argument of a signal, as text: colours as "#aarrggbb", objects as class and object name.
 QString ArgumentText(int metaType, const void* argument);
 
-/// A strip that lists the signals of watched objects, the newest last, and forgets the oldest ones. It is not there
-/// while none of the objects has signals.
+/// Lists the signals of watched objects, the newest last, and forgets the oldest ones.
 class SignalLog : public QWidget
 {
     Q_OBJECT
@@ -55,11 +57,10 @@ public:
     /// Lists the signals of `widget`, or of the part of it that is of the class `className`, under `title`.
     void Watch(QWidget* widget, const QString& className, const QString& title);
 
-    QSize sizeHint() const override;
-
 private:
     SignalTap tap;
     QPlainTextEdit* lines;
+    int watchedSignals = 0;
 };
 
 } // namespace Zelkor::Gallery

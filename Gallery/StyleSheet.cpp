@@ -32,11 +32,12 @@ QString FileOf(const QString& nameOrFile)
 
 int appliedSheets = 0; ///< how many there were; icons of an earlier one are out of date
 
-QIcon LoadTinted(const QString& name, const QString& tint)
+/// `stem` is the file of the plain icon without its ending.
+QIcon LoadTinted(const QString& stem, const QString& tint)
 {
     QIcon icon;
-    icon.addFile(SEARCH_PATH + ":" + name + tint + ".svg");
-    icon.addFile(SEARCH_PATH + ":" + name + "-disabled.svg", QSize(), QIcon::Disabled);
+    icon.addFile(stem + tint + ".svg");
+    icon.addFile(stem + "-disabled.svg", QSize(), QIcon::Disabled);
     return icon;
 }
 
@@ -67,7 +68,7 @@ private:
     const QIcon& Current()
     {
         if (loadedFor != appliedSheets) {
-            icon = LoadTinted(name, tint);
+            icon = LoadTinted(SEARCH_PATH + ":" + name, tint);
             loadedFor = appliedSheets;
         }
         return icon;
@@ -99,6 +100,13 @@ void ApplyStyleSheet(const StyleSheet& sheet)
     ++appliedSheets;
     QApplication::setStyle(QStyleFactory::create("Fusion"));
     qApp->setStyleSheet(sheet.text);
+}
+
+QIcon BuiltInIcon(const QString& sheet, const QString& name)
+{
+    RegisterStyles();
+    const QFileInfo file(FileOf(sheet));
+    return LoadTinted(file.path() + "/" + file.completeBaseName() + "/" + name, QString());
 }
 
 QIcon StyleIcon(const QString& name)

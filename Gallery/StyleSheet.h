@@ -27,4 +27,7 @@ QIcon StyleIcon(const QString& name);
 /// The same in the tint that goes with the accent.
 QIcon StyleIconOnAccent(const QString& name);
 
+/// The icon `name` of the built-in style sheet "dark" or "light", whatever is applied.
+QIcon BuiltInIcon(const QString& sheet, const QString& name);
+
 } // namespace Zelkor::Gallery

@@ -1,15 +1,20 @@
 #include "WidgetPage.h"
 #include "Catalogue.h"
 #include "FlowLayout.h"
+#include "Inspector.h"
+#include "PropertyPanel.h"
 #include "SignalLog.h"
+#include "StateCard.h"
 #include "Texts.h"
 
-#include <UI/Kit/ZFrame.h>
-
+#include <QApplication>
+#include <QEvent>
 #include <QLabel>
 #include <QScrollArea>
+#include <QSplitter>
 #include <QVBoxLayout>
-#include <QVariant>
+
+#include <memory>
 
 namespace Zelkor::Gallery {
 
@@ -18,6 +23,8 @@ namespace {
 constexpr int MARGIN = 24;
 constexpr int HEADING_SPACING = 4;
 constexpr int CARD_SPACING = 16;
+constexpr int NARROW_BELOW = 680; ///< width of the page below which two columns are too many
+constexpr int INSPECTOR_WIDTH = 352;
 
 QLabel* CreateText(const QString& objectName, const QString& text)
 {
@@ -27,22 +34,43 @@ QLabel* CreateText(const QString& objectName, const QString& text)
     return label;
 }
 
-QWidget* CreateCard(const Entry& entry, const State& state, SignalLog* log)
+// What the constructor of the class leaves, before any style sheet or state has a say.
+QVariantMap DefaultsOf(const Entry& entry)
 {
-    auto* card = new ZFrame;
-    auto* layout = new QVBoxLayout(card);
-    card->setProperty("role", QStringLiteral("card"));
-    layout->addWidget(CreateText("caption", state.name));
-    QWidget* widget = CreateInState(entry, state, card);
-    layout->addWidget(widget, 0, Qt::AlignLeading | Qt::AlignTop);
-    layout->addStretch();
-    log->Watch(widget, entry.className, state.name);
-    return card;
+    QWidget parent;
+    return PropertyValues(*CreateBare(entry, &parent));
 }
 
 } // namespace
 
-WidgetPage::WidgetPage(const Entry& entry, QWidget* parent) : QWidget(parent)
+WidgetPage::WidgetPage(const Entry& entry, QWidget* parent)
+    : QWidget(parent), className(entry.className), defaults(DefaultsOf(entry)), splitter(new QSplitter),
+      inspector(new Inspector)
+{
+    auto* scrollArea = new QScrollArea;
+    QWidget* content = CreateContent(entry);
+    scrollArea->setWidgetResizable(true);
+    scrollArea->setWidget(content);
+    content->setAutoFillBackground(false);
+    scrollArea->setFrameShape(QFrame::NoFrame);
+    // The page has to be narrow before it can arrange itself for that.
+    setMinimumWidth(1);
+    splitter->setChildrenCollapsible(false);
+    splitter->addWidget(scrollArea);
+    splitter->addWidget(inspector);
+    splitter->setStretchFactor(0, 1);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(splitter);
+
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) { SelectCardAround(now); });
+    // A press on a widget that takes no focus chooses its card as well.
+    qApp->installEventFilter(this);
+    SelectState(0);
+    Arrange();
+}
+
+QWidget* WidgetPage::CreateContent(const Entry& entry)
 {
     auto* content = new QWidget;
     auto* layout = new QVBoxLayout(content);
@@ -54,24 +82,78 @@ WidgetPage::WidgetPage(const Entry& entry, QWidget* parent) : QWidget(parent)
     description->setWordWrap(true);
     layout->addWidget(description);
     layout->addSpacing(CARD_SPACING);
-    auto* log = new SignalLog(this);
-    auto* cards = new FlowLayout;
-    cards->setSpacing(CARD_SPACING);
-    for (const State& state : entry.states)
-        cards->addWidget(CreateCard(entry, state, log));
-    layout->addLayout(cards);
+    auto* flow = new FlowLayout;
+    flow->setSpacing(CARD_SPACING);
+    for (const State& state : entry.states) {
+        auto* card = new StateCard(entry, state);
+        inspector->Signals()->Watch(card->Widget(), className, state.name);
+        flow->addWidget(card);
+        cards.append(card);
+    }
+    layout->addLayout(flow);
     layout->addStretch();
+    return content;
+}
 
-    auto* scrollArea = new QScrollArea;
-    scrollArea->setWidgetResizable(true);
-    scrollArea->setWidget(content);
-    content->setAutoFillBackground(false);
-    scrollArea->setFrameShape(QFrame::NoFrame);
-    auto* parts = new QVBoxLayout(this);
-    parts->setContentsMargins(0, 0, 0, 0);
-    parts->setSpacing(0);
-    parts->addWidget(scrollArea, 1);
-    parts->addWidget(log);
+void WidgetPage::SelectState(int index)
+{
+    if (index < 0 || index >= cards.size() || index == selected)
+        return;
+    selected = index;
+    for (int i = 0; i < cards.size(); ++i)
+        cards[i]->SetSelected(i == selected);
+    inspector->Inspect(cards[selected]->Widget(), className, defaults);
+}
+
+void WidgetPage::SelectCardAround(QWidget* widget)
+{
+    for (int i = 0; i < cards.size(); ++i) {
+        if (widget && (cards[i] == widget || cards[i]->isAncestorOf(widget)))
+            SelectState(i);
+    }
+}
+
+void WidgetPage::SetWidgetsEnabled(bool on)
+{
+    for (StateCard* card : cards)
+        card->SetWidgetEnabled(on);
+}
+
+void WidgetPage::SetInspectorVisible(bool on)
+{
+    if (IsInspectorVisible() == on)
+        return;
+    inspector->setVisible(on);
+    Q_EMIT InspectorVisibilityChanged(on);
+}
+
+bool WidgetPage::IsInspectorVisible() const
+{
+    return !inspector->isHidden();
+}
+
+void WidgetPage::Arrange()
+{
+    isNarrow = width() < NARROW_BELOW;
+    splitter->setOrientation(isNarrow ? Qt::Vertical : Qt::Horizontal);
+    const int whole = isNarrow ? height() : width();
+    const int share = isNarrow ? whole / 2 : INSPECTOR_WIDTH;
+    splitter->setSizes({whole - share, share});
+    SetInspectorVisible(!isNarrow);
+}
+
+void WidgetPage::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    if (isNarrow != (width() < NARROW_BELOW))
+        Arrange();
+}
+
+bool WidgetPage::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::MouseButtonPress && watched->isWidgetType())
+        SelectCardAround(static_cast<QWidget*>(watched));
+    return QWidget::eventFilter(watched, event);
 }
 
 } // namespace Zelkor::Gallery

@@ -296,10 +296,6 @@ Platz nimmt wie ihr Text,
 und nicht mehr</translation>
     </message>
     <message>
-        <source>Other page</source>
-        <translation>Andere Seite</translation>
-    </message>
-    <message>
         <source>Kit</source>
         <translation>Bausteine</translation>
     </message>
@@ -1127,6 +1123,103 @@ und nicht breit</translation>
         <comment>thumb</comment>
         <translation>Ende</translation>
     </message>
+    <message>
+        <source>A slider for a time within a span, which bounds can narrow; it tells the time under the mouse.</source>
+        <translation>Ein Schieberegler für eine Zeit in einer Spanne, die Grenzen einengen können; er nennt die Zeit unter der Maus.</translation>
+    </message>
+    <message>
+        <source>One minute of three</source>
+        <translation>Eine Minute von dreien</translation>
+    </message>
+    <message>
+        <source>Narrowed by bounds</source>
+        <translation>Durch Grenzen eingeengt</translation>
+    </message>
+    <message>
+        <source>Bounds with thumbs</source>
+        <translation>Grenzen mit Griffen</translation>
+    </message>
+    <message>
+        <source>At its bound</source>
+        <translation>An der Grenze</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Zeit</translation>
+    </message>
+    <message>
+        <source>A field for a time whose digits are overwritten in place, in the shortest format that is exact.</source>
+        <translation>Ein Feld für eine Zeit, deren Ziffern an ihrer Stelle überschrieben werden, im kürzesten genauen Format.</translation>
+    </message>
+    <message>
+        <source>One format</source>
+        <translation>Ein Format</translation>
+    </message>
+    <message>
+        <source>The format that fits: minutes</source>
+        <translation>Das passende Format: Minuten</translation>
+    </message>
+    <message>
+        <source>The format that fits: milliseconds</source>
+        <translation>Das passende Format: Millisekunden</translation>
+    </message>
+    <message>
+        <source>Always the longest format</source>
+        <translation>Immer das längste Format</translation>
+    </message>
+    <message>
+        <source>As wide as its text</source>
+        <translation>So breit wie der Text</translation>
+    </message>
+    <message>
+        <source>From 00:01:00 to 00:30:00</source>
+        <translation>Von 00:01:00 bis 00:30:00</translation>
+    </message>
+    <message>
+        <source>Twelve hours</source>
+        <translation>Zwölf Stunden</translation>
+    </message>
+</context>
+<context>
+    <name>Editors</name>
+    <message>
+        <source>One text in each line</source>
+        <translation>Ein Text je Zeile</translation>
+    </message>
+    <message>
+        <source>No colour</source>
+        <translation>Keine Farbe</translation>
+    </message>
+    <message>
+        <source>w</source>
+        <comment>short for width</comment>
+        <translation>B</translation>
+    </message>
+    <message>
+        <source>h</source>
+        <comment>short for height</comment>
+        <translation>H</translation>
+    </message>
+    <message>
+        <source>Choose a file</source>
+        <translation>Datei wählen</translation>
+    </message>
+    <message>
+        <source>This file is no picture</source>
+        <translation>Diese Datei ist kein Bild</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Bild</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>Bilder</translation>
+    </message>
+    <message>
+        <source>No picture</source>
+        <translation>Kein Bild</translation>
+    </message>
 </context>
 <context>
     <name>FirstHint</name>
@@ -1257,9 +1350,54 @@ und nicht breit</translation>
         <source>Widgets of Vx Recorder</source>
         <translation>Widgets von Vx Recorder</translation>
     </message>
+</context>
+<context>
+    <name>Zelkor::Gallery::Inspector</name>
+    <message>
+        <source>Inspector</source>
+        <translation>Inspektor</translation>
+    </message>
+    <message>
+        <source>Properties</source>
+        <translation>Eigenschaften</translation>
+    </message>
+    <message>
+        <source>Signals</source>
+        <translation>Signale</translation>
+    </message>
+    <message>
+        <source>Objects</source>
+        <translation>Objekte</translation>
+    </message>
+</context>
+<context>
+    <name>Zelkor::Gallery::ObjectTree</name>
+    <message>
+        <source>Objects</source>
+        <translation>Objekte</translation>
+    </message>
+    <message>
+        <source>Class</source>
+        <translation>Klasse</translation>
+    </message>
+    <message>
+        <source>Object name</source>
+        <translation>Objektname</translation>
+    </message>
+</context>
+<context>
+    <name>Zelkor::Gallery::PageList</name>
     <message>
         <source>Pages</source>
         <translation>Seiten</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Suchen</translation>
+    </message>
+    <message>
+        <source>Search the pages (%1)</source>
+        <translation>Seiten durchsuchen (%1)</translation>
     </message>
     <message>
         <source>Recorder</source>
@@ -1268,6 +1406,51 @@ und nicht breit</translation>
     <message>
         <source>Trimmer</source>
         <translation>Zuschneiden</translation>
+    </message>
+</context>
+<context>
+    <name>Zelkor::Gallery::PropertyPanel</name>
+    <message>
+        <source>In a style sheet</source>
+        <translation>Im Stylesheet</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source>Copies the line of the style sheet</source>
+        <translation>Kopiert die Zeile des Stylesheets</translation>
+    </message>
+    <message>
+        <source>Values of the type %1 are shown only</source>
+        <translation>Werte des Typs %1 werden nur gezeigt</translation>
+    </message>
+    <message>
+        <source>Default of %1</source>
+        <translation>Vorgabe von %1</translation>
+    </message>
+    <message>
+        <source>%1: %2
+Default: %3</source>
+        <translation>%1: %2
+Vorgabe: %3</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Back to the default: %1</source>
+        <translation>Zurück zur Vorgabe: %1</translation>
+    </message>
+    <message>
+        <source>Choose a property</source>
+        <translation>Eine Eigenschaft wählen</translation>
+    </message>
+    <message>
+        <source>Style sheets cannot say this</source>
+        <translation>Stylesheets können das nicht sagen</translation>
     </message>
 </context>
 <context>
@@ -1385,6 +1568,69 @@ und nicht breit</translation>
     </message>
 </context>
 <context>
+    <name>Zelkor::Gallery::SceneBar</name>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>Scene</source>
+        <translation>Szene</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Hell</translation>
+    </message>
+    <message>
+        <source>Light style sheet instead of the dark one</source>
+        <translation>Helles statt dunkles Stylesheet</translation>
+    </message>
+    <message>
+        <source>Right to left</source>
+        <translation>Rechts nach links</translation>
+    </message>
+    <message>
+        <source>Lay out from right to left</source>
+        <translation>Von rechts nach links anordnen</translation>
+    </message>
+    <message>
+        <source>Scale. Another one starts the gallery anew, with this page.</source>
+        <translation>Maßstab. Ein anderer startet die Galerie mit dieser Seite neu.</translation>
+    </message>
+    <message>
+        <source>Enabled</source>
+        <translation>Aktiviert</translation>
+    </message>
+    <message>
+        <source>Enable the widgets of the page</source>
+        <translation>Die Widgets der Seite aktivieren</translation>
+    </message>
+    <message>
+        <source>Style sheet</source>
+        <translation>Stylesheet</translation>
+    </message>
+    <message>
+        <source>Edit the style sheet (F12)</source>
+        <translation>Stylesheet bearbeiten (F12)</translation>
+    </message>
+    <message>
+        <source>Inspector</source>
+        <translation>Inspektor</translation>
+    </message>
+    <message>
+        <source>Properties, signals and objects of a widget</source>
+        <translation>Eigenschaften, Signale und Objekte eines Widgets</translation>
+    </message>
+    <message>
+        <source>%1 (starts anew)</source>
+        <translation>%1 (startet neu)</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Sprache</translation>
+    </message>
+</context>
+<context>
     <name>Zelkor::Gallery::SettingsDialog</name>
     <message>
         <source>Settings</source>
@@ -1492,6 +1738,10 @@ und nicht breit</translation>
     <message>
         <source>The signals of the widgets are listed here</source>
         <translation>Hier werden die Signale der Widgets aufgelistet</translation>
+    </message>
+    <message>
+        <source>The widgets of this page have no signals of their own</source>
+        <translation>Die Widgets dieser Seite haben keine eigenen Signale</translation>
     </message>
 </context>
 <context>

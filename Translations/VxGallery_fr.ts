@@ -296,10 +296,6 @@ la place de son texte
 et pas plus</translation>
     </message>
     <message>
-        <source>Other page</source>
-        <translation>Autre page</translation>
-    </message>
-    <message>
         <source>Kit</source>
         <translation>Kit</translation>
     </message>
@@ -1127,6 +1123,103 @@ et peu large</translation>
         <comment>thumb</comment>
         <translation>Fin</translation>
     </message>
+    <message>
+        <source>A slider for a time within a span, which bounds can narrow; it tells the time under the mouse.</source>
+        <translation>Un curseur pour un temps dans un intervalle que des bornes peuvent réduire&#xa0;; il indique le temps sous la souris.</translation>
+    </message>
+    <message>
+        <source>One minute of three</source>
+        <translation>Une minute sur trois</translation>
+    </message>
+    <message>
+        <source>Narrowed by bounds</source>
+        <translation>Réduit par des bornes</translation>
+    </message>
+    <message>
+        <source>Bounds with thumbs</source>
+        <translation>Bornes avec poignées</translation>
+    </message>
+    <message>
+        <source>At its bound</source>
+        <translation>À la borne</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Temps</translation>
+    </message>
+    <message>
+        <source>A field for a time whose digits are overwritten in place, in the shortest format that is exact.</source>
+        <translation>Un champ pour un temps dont les chiffres sont remplacés sur place, au format exact le plus court.</translation>
+    </message>
+    <message>
+        <source>One format</source>
+        <translation>Un seul format</translation>
+    </message>
+    <message>
+        <source>The format that fits: minutes</source>
+        <translation>Le format adapté&#xa0;: minutes</translation>
+    </message>
+    <message>
+        <source>The format that fits: milliseconds</source>
+        <translation>Le format adapté&#xa0;: millisecondes</translation>
+    </message>
+    <message>
+        <source>Always the longest format</source>
+        <translation>Toujours le format le plus long</translation>
+    </message>
+    <message>
+        <source>As wide as its text</source>
+        <translation>Aussi large que son texte</translation>
+    </message>
+    <message>
+        <source>From 00:01:00 to 00:30:00</source>
+        <translation>De 00:01:00 à 00:30:00</translation>
+    </message>
+    <message>
+        <source>Twelve hours</source>
+        <translation>Douze heures</translation>
+    </message>
+</context>
+<context>
+    <name>Editors</name>
+    <message>
+        <source>One text in each line</source>
+        <translation>Un texte par ligne</translation>
+    </message>
+    <message>
+        <source>No colour</source>
+        <translation>Aucune couleur</translation>
+    </message>
+    <message>
+        <source>w</source>
+        <comment>short for width</comment>
+        <translation>l</translation>
+    </message>
+    <message>
+        <source>h</source>
+        <comment>short for height</comment>
+        <translation>h</translation>
+    </message>
+    <message>
+        <source>Choose a file</source>
+        <translation>Choisir un fichier</translation>
+    </message>
+    <message>
+        <source>This file is no picture</source>
+        <translation>Ce fichier n’est pas une image</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Image</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>Images</translation>
+    </message>
+    <message>
+        <source>No picture</source>
+        <translation>Aucune image</translation>
+    </message>
 </context>
 <context>
     <name>FirstHint</name>
@@ -1257,9 +1350,54 @@ et peu large</translation>
         <source>Widgets of Vx Recorder</source>
         <translation>Widgets de Vx Recorder</translation>
     </message>
+</context>
+<context>
+    <name>Zelkor::Gallery::Inspector</name>
+    <message>
+        <source>Inspector</source>
+        <translation>Inspecteur</translation>
+    </message>
+    <message>
+        <source>Properties</source>
+        <translation>Propriétés</translation>
+    </message>
+    <message>
+        <source>Signals</source>
+        <translation>Signaux</translation>
+    </message>
+    <message>
+        <source>Objects</source>
+        <translation>Objets</translation>
+    </message>
+</context>
+<context>
+    <name>Zelkor::Gallery::ObjectTree</name>
+    <message>
+        <source>Objects</source>
+        <translation>Objets</translation>
+    </message>
+    <message>
+        <source>Class</source>
+        <translation>Classe</translation>
+    </message>
+    <message>
+        <source>Object name</source>
+        <translation>Nom d’objet</translation>
+    </message>
+</context>
+<context>
+    <name>Zelkor::Gallery::PageList</name>
     <message>
         <source>Pages</source>
         <translation>Pages</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Rechercher</translation>
+    </message>
+    <message>
+        <source>Search the pages (%1)</source>
+        <translation>Rechercher dans les pages (%1)</translation>
     </message>
     <message>
         <source>Recorder</source>
@@ -1268,6 +1406,51 @@ et peu large</translation>
     <message>
         <source>Trimmer</source>
         <translation>Découpe</translation>
+    </message>
+</context>
+<context>
+    <name>Zelkor::Gallery::PropertyPanel</name>
+    <message>
+        <source>In a style sheet</source>
+        <translation>Dans une feuille de style</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copier</translation>
+    </message>
+    <message>
+        <source>Copies the line of the style sheet</source>
+        <translation>Copie la ligne de la feuille de style</translation>
+    </message>
+    <message>
+        <source>Values of the type %1 are shown only</source>
+        <translation>Les valeurs du type %1 sont seulement affichées</translation>
+    </message>
+    <message>
+        <source>Default of %1</source>
+        <translation>Valeur par défaut de %1</translation>
+    </message>
+    <message>
+        <source>%1: %2
+Default: %3</source>
+        <translation>%1&#xa0;: %2
+Par défaut&#xa0;: %3</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>Back to the default: %1</source>
+        <translation>Revenir à la valeur par défaut&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Choose a property</source>
+        <translation>Choisissez une propriété</translation>
+    </message>
+    <message>
+        <source>Style sheets cannot say this</source>
+        <translation>Une feuille de style ne peut pas le dire</translation>
     </message>
 </context>
 <context>
@@ -1385,6 +1568,69 @@ et peu large</translation>
     </message>
 </context>
 <context>
+    <name>Zelkor::Gallery::SceneBar</name>
+    <message>
+        <source>%1 %</source>
+        <translation>%1&#xa0;%</translation>
+    </message>
+    <message>
+        <source>Scene</source>
+        <translation>Scène</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Clair</translation>
+    </message>
+    <message>
+        <source>Light style sheet instead of the dark one</source>
+        <translation>Feuille de style claire au lieu de la sombre</translation>
+    </message>
+    <message>
+        <source>Right to left</source>
+        <translation>Droite à gauche</translation>
+    </message>
+    <message>
+        <source>Lay out from right to left</source>
+        <translation>Disposer de droite à gauche</translation>
+    </message>
+    <message>
+        <source>Scale. Another one starts the gallery anew, with this page.</source>
+        <translation>Échelle. En changer relance la galerie sur cette page.</translation>
+    </message>
+    <message>
+        <source>Enabled</source>
+        <translation>Activé</translation>
+    </message>
+    <message>
+        <source>Enable the widgets of the page</source>
+        <translation>Activer les widgets de la page</translation>
+    </message>
+    <message>
+        <source>Style sheet</source>
+        <translation>Feuille de style</translation>
+    </message>
+    <message>
+        <source>Edit the style sheet (F12)</source>
+        <translation>Modifier la feuille de style (F12)</translation>
+    </message>
+    <message>
+        <source>Inspector</source>
+        <translation>Inspecteur</translation>
+    </message>
+    <message>
+        <source>Properties, signals and objects of a widget</source>
+        <translation>Propriétés, signaux et objets d’un widget</translation>
+    </message>
+    <message>
+        <source>%1 (starts anew)</source>
+        <translation>%1 (relance)</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Langue</translation>
+    </message>
+</context>
+<context>
     <name>Zelkor::Gallery::SettingsDialog</name>
     <message>
         <source>Settings</source>
@@ -1492,6 +1738,10 @@ et peu large</translation>
     <message>
         <source>The signals of the widgets are listed here</source>
         <translation>Les signaux des widgets s’affichent ici</translation>
+    </message>
+    <message>
+        <source>The widgets of this page have no signals of their own</source>
+        <translation>Les widgets de cette page n’ont pas de signaux propres</translation>
     </message>
 </context>
 <context>

@@ -296,10 +296,6 @@ and no more</source>
 広さのページ</translation>
     </message>
     <message>
-        <source>Other page</source>
-        <translation>別のページ</translation>
-    </message>
-    <message>
         <source>Kit</source>
         <translation>キット</translation>
     </message>
@@ -1127,6 +1123,103 @@ and not wide</source>
         <comment>thumb</comment>
         <translation>終了</translation>
     </message>
+    <message>
+        <source>A slider for a time within a span, which bounds can narrow; it tells the time under the mouse.</source>
+        <translation>範囲内の時刻を選ぶスライダー。境界で範囲を狭められ、マウスの下の時刻を表示します。</translation>
+    </message>
+    <message>
+        <source>One minute of three</source>
+        <translation>3 分のうち 1 分</translation>
+    </message>
+    <message>
+        <source>Narrowed by bounds</source>
+        <translation>境界で狭めた範囲</translation>
+    </message>
+    <message>
+        <source>Bounds with thumbs</source>
+        <translation>つまみ付きの境界</translation>
+    </message>
+    <message>
+        <source>At its bound</source>
+        <translation>境界上</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>時刻</translation>
+    </message>
+    <message>
+        <source>A field for a time whose digits are overwritten in place, in the shortest format that is exact.</source>
+        <translation>数字をその場で上書きする時刻欄。正確に表せる最短の形式で表示します。</translation>
+    </message>
+    <message>
+        <source>One format</source>
+        <translation>1 つの形式</translation>
+    </message>
+    <message>
+        <source>The format that fits: minutes</source>
+        <translation>合う形式: 分</translation>
+    </message>
+    <message>
+        <source>The format that fits: milliseconds</source>
+        <translation>合う形式: ミリ秒</translation>
+    </message>
+    <message>
+        <source>Always the longest format</source>
+        <translation>常に最長の形式</translation>
+    </message>
+    <message>
+        <source>As wide as its text</source>
+        <translation>テキストの幅</translation>
+    </message>
+    <message>
+        <source>From 00:01:00 to 00:30:00</source>
+        <translation>00:01:00 から 00:30:00 まで</translation>
+    </message>
+    <message>
+        <source>Twelve hours</source>
+        <translation>12 時間</translation>
+    </message>
+</context>
+<context>
+    <name>Editors</name>
+    <message>
+        <source>One text in each line</source>
+        <translation>1 行に 1 つのテキスト</translation>
+    </message>
+    <message>
+        <source>No colour</source>
+        <translation>色なし</translation>
+    </message>
+    <message>
+        <source>w</source>
+        <comment>short for width</comment>
+        <translation>幅</translation>
+    </message>
+    <message>
+        <source>h</source>
+        <comment>short for height</comment>
+        <translation>高さ</translation>
+    </message>
+    <message>
+        <source>Choose a file</source>
+        <translation>ファイルを選択</translation>
+    </message>
+    <message>
+        <source>This file is no picture</source>
+        <translation>このファイルは画像ではありません</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>画像</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>画像</translation>
+    </message>
+    <message>
+        <source>No picture</source>
+        <translation>画像なし</translation>
+    </message>
 </context>
 <context>
     <name>FirstHint</name>
@@ -1257,9 +1350,54 @@ and not wide</source>
         <source>Widgets of Vx Recorder</source>
         <translation>Vx Recorder のウィジェット</translation>
     </message>
+</context>
+<context>
+    <name>Zelkor::Gallery::Inspector</name>
+    <message>
+        <source>Inspector</source>
+        <translation>インスペクター</translation>
+    </message>
+    <message>
+        <source>Properties</source>
+        <translation>プロパティ</translation>
+    </message>
+    <message>
+        <source>Signals</source>
+        <translation>シグナル</translation>
+    </message>
+    <message>
+        <source>Objects</source>
+        <translation>オブジェクト</translation>
+    </message>
+</context>
+<context>
+    <name>Zelkor::Gallery::ObjectTree</name>
+    <message>
+        <source>Objects</source>
+        <translation>オブジェクト</translation>
+    </message>
+    <message>
+        <source>Class</source>
+        <translation>クラス</translation>
+    </message>
+    <message>
+        <source>Object name</source>
+        <translation>オブジェクト名</translation>
+    </message>
+</context>
+<context>
+    <name>Zelkor::Gallery::PageList</name>
     <message>
         <source>Pages</source>
         <translation>ページ</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>検索</translation>
+    </message>
+    <message>
+        <source>Search the pages (%1)</source>
+        <translation>ページを検索 (%1)</translation>
     </message>
     <message>
         <source>Recorder</source>
@@ -1268,6 +1406,51 @@ and not wide</source>
     <message>
         <source>Trimmer</source>
         <translation>トリミング</translation>
+    </message>
+</context>
+<context>
+    <name>Zelkor::Gallery::PropertyPanel</name>
+    <message>
+        <source>In a style sheet</source>
+        <translation>スタイルシートでの記述</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>コピー</translation>
+    </message>
+    <message>
+        <source>Copies the line of the style sheet</source>
+        <translation>スタイルシートの行をコピー</translation>
+    </message>
+    <message>
+        <source>Values of the type %1 are shown only</source>
+        <translation>%1 型の値は表示のみです</translation>
+    </message>
+    <message>
+        <source>Default of %1</source>
+        <translation>%1 の既定値</translation>
+    </message>
+    <message>
+        <source>%1: %2
+Default: %3</source>
+        <translation>%1: %2
+既定値: %3</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Back to the default: %1</source>
+        <translation>既定値に戻す: %1</translation>
+    </message>
+    <message>
+        <source>Choose a property</source>
+        <translation>プロパティを選択してください</translation>
+    </message>
+    <message>
+        <source>Style sheets cannot say this</source>
+        <translation>スタイルシートでは指定できません</translation>
     </message>
 </context>
 <context>
@@ -1385,6 +1568,69 @@ and not wide</source>
     </message>
 </context>
 <context>
+    <name>Zelkor::Gallery::SceneBar</name>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>Scene</source>
+        <translation>表示環境</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>ライト</translation>
+    </message>
+    <message>
+        <source>Light style sheet instead of the dark one</source>
+        <translation>ダークの代わりにライトのスタイルシート</translation>
+    </message>
+    <message>
+        <source>Right to left</source>
+        <translation>右から左</translation>
+    </message>
+    <message>
+        <source>Lay out from right to left</source>
+        <translation>右から左に配置</translation>
+    </message>
+    <message>
+        <source>Scale. Another one starts the gallery anew, with this page.</source>
+        <translation>倍率。変更するとこのページでギャラリーを再起動します。</translation>
+    </message>
+    <message>
+        <source>Enabled</source>
+        <translation>有効</translation>
+    </message>
+    <message>
+        <source>Enable the widgets of the page</source>
+        <translation>ページのウィジェットを有効にする</translation>
+    </message>
+    <message>
+        <source>Style sheet</source>
+        <translation>スタイルシート</translation>
+    </message>
+    <message>
+        <source>Edit the style sheet (F12)</source>
+        <translation>スタイルシートを編集 (F12)</translation>
+    </message>
+    <message>
+        <source>Inspector</source>
+        <translation>インスペクター</translation>
+    </message>
+    <message>
+        <source>Properties, signals and objects of a widget</source>
+        <translation>ウィジェットのプロパティ、シグナル、オブジェクト</translation>
+    </message>
+    <message>
+        <source>%1 (starts anew)</source>
+        <translation>%1 (再起動)</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>言語</translation>
+    </message>
+</context>
+<context>
     <name>Zelkor::Gallery::SettingsDialog</name>
     <message>
         <source>Settings</source>
@@ -1492,6 +1738,10 @@ and not wide</source>
     <message>
         <source>The signals of the widgets are listed here</source>
         <translation>ウィジェットのシグナルがここに表示されます</translation>
+    </message>
+    <message>
+        <source>The widgets of this page have no signals of their own</source>
+        <translation>このページのウィジェットには独自のシグナルがありません</translation>
     </message>
 </context>
 <context>

@@ -10,10 +10,12 @@ set_tests_properties(tst_Catalogue_scaled PROPERTIES
 
 vx_test(Gallery/tst_RecorderModel.cpp LIBRARIES VxGalleryWindows)
 vx_test(Gallery/tst_GalleryWindows.cpp LIBRARIES VxGalleryWindows)
+add_dependencies(tst_GalleryWindows VxTranslations)
 vx_test(Gallery/tst_RecorderWindow.cpp LIBRARIES VxGalleryWindows)
 add_dependencies(tst_RecorderWindow VxTranslations)
 vx_test(Gallery/tst_TrimPage.cpp WINDOWS LIBRARIES VxGalleryWindows)
 vx_test(Gallery/tst_SignalLog.cpp LIBRARIES VxGalleryWindows)
+vx_test(Gallery/tst_Inspector.cpp LIBRARIES VxGalleryWindows)
 vx_test(Gallery/tst_LevelBallistics.cpp LIBRARIES VxGalleryWindows)
 vx_test(Gallery/tst_RecorderParts.cpp LIBRARIES VxGalleryWindows LABELS threads)
 
@@ -23,3 +25,6 @@ target_compile_definitions(tst_Styles PRIVATE VX_STYLES_SOURCE="${PROJECT_SOURCE
 vx_test(Gallery/tst_Gallery.cpp LIBRARIES VxCatalogue)
 add_dependencies(tst_Gallery VxGallery)
 target_compile_definitions(tst_Gallery PRIVATE VX_GALLERY="$<TARGET_FILE:VxGallery>")
+
+vx_test(Gallery/tst_Reference.cpp LIBRARIES VxCatalogue)
+target_compile_definitions(tst_Reference PRIVATE VX_DOCS="${PROJECT_SOURCE_DIR}/Docs")

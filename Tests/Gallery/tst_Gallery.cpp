@@ -17,7 +17,7 @@ constexpr QMargins AROUND_THE_PREVIEW(16, 48, 16, 56);
 
 QStringList PageNames()
 {
-    QStringList names{"Recorder"};
+    QStringList names{"Recorder", "Trimmer"};
     for (const auto& entry : Zelkor::Gallery::Entries())
         names.append(entry.className);
     return names;
@@ -39,6 +39,14 @@ private Q_SLOTS:
         for (const QString& page : PageNames())
             QVERIFY2(QImage(target.filePath(page + ".png")).size() == QSize(900, 640), qPrintable(page));
         QCOMPARE(target.entryList(QDir::Files).size(), PageNames().size());
+    }
+
+    void takesAPictureOfEveryWidget()
+    {
+        const QDir target(folder.filePath("widgets"));
+        QCOMPARE(RunGallery({"--pictures", target.path(), "--after", "0"}), QStringList{"exit 0"});
+        for (const auto& entry : Zelkor::Gallery::Entries())
+            QVERIFY2(!QImage(target.filePath(entry.className + ".png")).isNull(), qPrintable(entry.className));
     }
 
     void takesSizeScaleAndAnotherStyleSheet()
@@ -95,7 +103,8 @@ private Q_SLOTS:
               "--after soon", "--after -1", "--style no-such-sheet.qss", "--style .", "--shot file --shots shots",
               "--shot file --press Nothing"})
             QTest::newRow(line) << 2;
-        for (const char* line : {"--after 0 --shot no/such/folder.png", "--shots /dev/null/folder"})
+        for (const char* line :
+             {"--after 0 --shot no/such/folder.png", "--shots /dev/null/folder", "--pictures /dev/null/folder"})
             QTest::newRow(line) << 1;
     }
 

@@ -1,8 +1,10 @@
 #include <Gallery/Catalogue.h>
 #include <Gallery/GalleryWindow.h>
+#include <Gallery/Languages.h>
 #include <Gallery/Preferences.h>
 #include <Gallery/RecorderModel.h>
 #include <Gallery/RecorderView.h>
+#include <Gallery/StateCard.h>
 #include <Gallery/StyleSheet.h>
 #include <Gallery/WidgetPage.h>
 
@@ -15,7 +17,11 @@
 
 #include <QAbstractButton>
 #include <QComboBox>
+#include <QLineEdit>
 #include <QListWidget>
+#include <QMenu>
+#include <QPointer>
+#include <QToolButton>
 
 using namespace Zelkor;
 using namespace Zelkor::Gallery;
@@ -184,9 +190,26 @@ private Q_SLOTS:
                 names.append(widget->accessibleName());
             widget = widget->nextInFocusChain();
         } while (widget != start);
-        QCOMPARE(names, QStringList({"Record", "Full screen", "Drawing colour", "Click sound", "Source", "Audio",
-                                     "Settings of the device", "Pointer", "Pen", "Marker", "Line", "Arrow", "Rectangle",
-                                     "Ellipse", "Text", "Numbered step", "Spotlight", "Blur", "Magnifier", "Eraser",
+        QCOMPARE(names, QStringList({"Record",
+                                     "Full screen",
+                                     "Drawing colour",
+                                     "Click sound",
+                                     "Source",
+                                     "Audio",
+                                     "Settings of the device",
+                                     "Pointer",
+                                     "Pen",
+                                     "Marker",
+                                     "Line",
+                                     "Arrow",
+                                     "Rectangle",
+                                     "Ellipse",
+                                     "Text",
+                                     "Numbered step",
+                                     "Spotlight",
+                                     "Blur",
+                                     "Magnifier",
+                                     "Eraser",
                                      "Stop"}));
     }
 
@@ -206,7 +229,7 @@ private Q_SLOTS:
         }
 
         // The arrow keys walk over the headings of groups.
-        auto* list = gallery.findChild<QListWidget*>();
+        auto* list = gallery.findChild<QListWidget*>("pageList");
         gallery.OpenPage(RecorderPageName());
         for (int i = 1; i < PageNames().size(); ++i)
             QTest::keyClick(list, Qt::Key_Down);
@@ -220,6 +243,78 @@ private Q_SLOTS:
         gallery.resize(900, 600);
         QCOMPARE(list->width(), fullWidth);
         QCOMPARE(list->currentItem()->text(), PageNames().constLast());
+    }
+
+    void searchLeavesTheHitsUnderTheirHeadings()
+    {
+        RecorderModel model;
+        Preferences preferences;
+        GalleryWindow gallery(&model, &preferences);
+        gallery.show();
+        QVERIFY(QTest::qWaitForWindowActive(&gallery));
+        auto* list = gallery.findChild<QListWidget*>("pageList");
+        auto* search = gallery.findChild<QLineEdit*>("pageSearch");
+        const auto shown = [list] {
+            QStringList texts;
+            for (int row = 0; row < list->count(); ++row)
+                texts += list->item(row)->isHidden() ? QStringList() : QStringList(list->item(row)->text());
+            return texts;
+        };
+        const QStringList all = shown();
+        QTest::keyClick(&gallery, Qt::Key_F, Qt::ControlModifier);
+        QTRY_VERIFY(search->hasFocus());
+        QTest::keyClicks(search, "colorb");
+        QCOMPARE(shown(), QStringList({"Buttons", "ColorButton"}));
+        QTest::keyClick(search, Qt::Key_Return);
+        QCOMPARE(list->currentItem()->text(), QString("ColorButton"));
+        QTest::keyClick(search, Qt::Key_Escape);
+        QCOMPARE(shown(), all);
+
+        // In a narrow window a search needs the names.
+        gallery.resize(500, 600);
+        QVERIFY(!search->isVisible());
+        QTest::keyClick(&gallery, Qt::Key_F, Qt::ControlModifier);
+        QTRY_VERIFY(search->hasFocus());
+        QTest::keyClicks(search, "colorb");
+        QCOMPARE(shown(), QStringList({"Buttons", "ColorButton"}));
+        QTest::keyClick(search, Qt::Key_Escape);
+        QVERIFY(!search->isVisible());
+    }
+
+    void sceneChangesWhileAPageIsOpen()
+    {
+        RecorderModel model;
+        Preferences preferences;
+        Translations translations;
+        GalleryWindow gallery(&model, &preferences);
+        gallery.show();
+        gallery.OpenPage("ColorButton");
+        const auto page = [&] { return gallery.findChild<WidgetPage*>(); };
+        const auto caption = [&] { return page()->findChildren<StateCard*>().last()->accessibleName(); };
+        page()->SelectState(2);
+        connect(&preferences, &Preferences::LanguageChanged, &gallery,
+                [&](const QString& code) { QVERIFY(translations.Use(code)); });
+        for (QAction* action : gallery.findChild<QToolButton*>("languageButton")->menu()->actions()) {
+            if (action->text() == "Deutsch")
+                action->trigger();
+        }
+        QTRY_COMPARE(caption(), QString("Deaktiviert"));
+        QCOMPARE(page()->SelectedState(), 2);
+        preferences.SetLanguage("en");
+        QTRY_COMPARE(caption(), QString("Disabled"));
+
+        QSignalSpy restarts(&gallery, &GalleryWindow::RestartRequested);
+        const auto scales = gallery.findChild<QToolButton*>("scaleButton")->menu()->actions();
+        scales.first()->trigger();
+        scales.last()->trigger();
+        QCOMPARE(restarts, QList<QVariantList>({{2.0, "ColorButton"}}));
+
+        const QPointer<WidgetPage> old = page();
+        QApplication::setLayoutDirection(Qt::RightToLeft);
+        QTRY_VERIFY(!old && page());
+        QCOMPARE(page()->SelectedState(), 2);
+        QApplication::setLayoutDirection(Qt::LeftToRight);
+        QTRY_COMPARE(page()->layoutDirection(), Qt::LeftToRight);
     }
 };
 

@@ -1,5 +1,6 @@
 #include <Gallery/Catalogue.h>
 #include <Gallery/SignalLog.h>
+#include <Gallery/StateCard.h>
 #include <Gallery/WidgetPage.h>
 
 #include <Support/TestCase.h>
@@ -50,7 +51,7 @@ private Q_SLOTS:
         Emitter emitter;
         emitter.setObjectName("box");
         log.Watch(&emitter, "Emitter", "State");
-        QVERIFY(log.isVisible());
+        QVERIFY(log.findChild<QPlainTextEdit*>()->placeholderText().contains("listed"));
         Q_EMIT emitter.Nothing();
         Q_EMIT emitter.Told("a \"word\"");
         Q_EMIT emitter.Colored(QColor(1, 2, 3, 128));
@@ -71,7 +72,7 @@ private Q_SLOTS:
         SignalLog log;
         QWidget silent;
         log.Watch(&silent, "ZFrame", "Silent");
-        QVERIFY(!log.isVisible());
+        QVERIFY(log.findChild<QPlainTextEdit*>()->placeholderText().contains("no signals"));
 
         QCheckBox box;
         log.Watch(&box, "QCheckBox", "Box");
@@ -105,10 +106,10 @@ private Q_SLOTS:
 
         // The log of a page that goes while a signal is told.
         auto* page = new WidgetPage(*FindEntry("ColorButton"));
-        auto* button = page->findChild<Zelkor::Vx::ColorButton*>();
+        auto* button = page->findChild<StateCard*>()->findChild<Zelkor::Vx::ColorButton*>();
         auto* pageLog = page->findChild<SignalLog*>();
         connect(button, &Zelkor::Vx::ColorButton::ColorChanged, pageLog, [page, pageLog] {
-            QCOMPARE(LinesOf(*page), QStringList("Opaque   ColorChanged(#ff000000)"));
+            QCOMPARE(LinesOf(*pageLog), QStringList("Opaque   ColorChanged(#ff000000)"));
             delete pageLog;
         });
         button->SetColor(Qt::black);

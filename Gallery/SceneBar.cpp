@@ -1,0 +1,181 @@
+#include "SceneBar.h"
+#include "Languages.h"
+#include "Preferences.h"
+#include "StyleSheet.h"
+#include "Texts.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QHBoxLayout>
+#include <QMenu>
+#include <QToolButton>
+
+namespace Zelkor::Gallery {
+
+namespace {
+
+constexpr int MARGIN = 8;
+constexpr int SPACING = 4;
+constexpr double SCALES[] = {1, 1.25, 1.5, 2};
+
+QString ScaleText(double scale)
+{
+    return SceneBar::tr("%1 %").arg(qRound(scale * 100));
+}
+
+// A button that opens a menu needs no arrow to say so in a row of buttons.
+QMenu* MakeMenu(QToolButton* button)
+{
+    auto* menu = new QMenu(button);
+    button->setMenu(menu);
+    button->setPopupMode(QToolButton::InstantPopup);
+    return menu;
+}
+
+void Name(QToolButton* button, const QString& text, const QString& toolTip)
+{
+    SetTextBesideIcon(button, text);
+    button->setToolTip(toolTip);
+}
+
+} // namespace
+
+SceneBar::SceneBar(Preferences* preferences, double scale, QWidget* parent)
+    : QWidget(parent), preferences(preferences), scale(scale), style(AddButton("palette", true)),
+      direction(AddButton("direction", true)), language(AddButton("globe", false)), scaling(AddButton("zoom", false)),
+      enabled(AddButton("check", true)), styleEditor(AddButton("style", false)), inspector(AddButton("inspector", true))
+{
+    setObjectName("sceneBar");
+    // Where the texts have no room, the icons have; a window may be that narrow.
+    setMinimumWidth(1);
+    setAttribute(Qt::WA_StyledBackground);
+    auto* layout = new QHBoxLayout(this);
+    layout->setContentsMargins(MARGIN, MARGIN, MARGIN, MARGIN);
+    layout->setSpacing(SPACING);
+    for (QToolButton* button : buttons) {
+        if (button == styleEditor)
+            layout->addStretch();
+        layout->addWidget(button);
+    }
+    enabled->setChecked(true);
+    FillMenus();
+    connect(style, &QToolButton::clicked, this,
+            [this](bool on) { this->preferences->SetStyleName(on ? "light" : "dark"); });
+    connect(direction, &QToolButton::clicked, this,
+            [](bool on) { QApplication::setLayoutDirection(on ? Qt::RightToLeft : Qt::LeftToRight); });
+    connect(enabled, &QToolButton::toggled, this, &SceneBar::EnabledChanged);
+    connect(styleEditor, &QToolButton::clicked, this, &SceneBar::StyleEditorRequested);
+    connect(inspector, &QToolButton::clicked, this, &SceneBar::InspectorRequested);
+    connect(preferences, &Preferences::LanguageChanged, this, &SceneBar::ShowPreferences);
+    connect(preferences, &Preferences::StyleNameChanged, this, &SceneBar::ShowPreferences);
+    Retranslate();
+}
+
+QToolButton* SceneBar::AddButton(const char* icon, bool checkable)
+{
+    auto* button = new QToolButton(this);
+    button->setIcon(StyleIcon(icon));
+    button->setCheckable(checkable);
+    button->setAutoRaise(true);
+    button->setFocusPolicy(Qt::StrongFocus);
+    buttons.append(button);
+    return button;
+}
+
+void SceneBar::FillMenus()
+{
+    language->setObjectName("languageButton");
+    scaling->setObjectName("scaleButton");
+    QMenu* languages = MakeMenu(language);
+    for (const Language& item : AllLanguages()) {
+        QAction* action = languages->addAction(item.name);
+        action->setData(item.code);
+        action->setCheckable(true);
+        connect(action, &QAction::triggered, this, [this, code = item.code] {
+            preferences->SetLanguage(code);
+            ShowPreferences();
+        });
+    }
+    QMenu* scales = MakeMenu(scaling);
+    for (const double factor : SCALES) {
+        QAction* action = scales->addAction(QString());
+        action->setData(factor);
+        action->setCheckable(true);
+        connect(action, &QAction::triggered, this, [this, action, factor] {
+            action->setChecked(factor == scale);
+            if (factor != scale)
+                Q_EMIT RestartRequested(factor);
+        });
+    }
+}
+
+void SceneBar::SetForWidgets(bool on)
+{
+    enabled->setEnabled(on);
+    inspector->setEnabled(on);
+}
+
+void SceneBar::ShowInspectorState(bool visible)
+{
+    inspector->setChecked(visible);
+}
+
+bool SceneBar::AreWidgetsEnabled() const
+{
+    return enabled->isChecked();
+}
+
+void SceneBar::Retranslate()
+{
+    setAccessibleName(tr("Scene"));
+    Name(style, tr("Light"), tr("Light style sheet instead of the dark one"));
+    Name(direction, tr("Right to left"), tr("Lay out from right to left"));
+    Name(scaling, ScaleText(scale), tr("Scale. Another one starts the gallery anew, with this page."));
+    Name(enabled, tr("Enabled"), tr("Enable the widgets of the page"));
+    Name(styleEditor, tr("Style sheet"), tr("Edit the style sheet (F12)"));
+    Name(inspector, tr("Inspector"), tr("Properties, signals and objects of a widget"));
+    for (QAction* action : scaling->menu()->actions()) {
+        const double factor = action->data().toDouble();
+        const QString text = ScaleText(factor);
+        action->setText(factor == scale ? text : tr("%1 (starts anew)").arg(text));
+        action->setChecked(factor == scale);
+    }
+    ShowPreferences();
+}
+
+void SceneBar::ShowPreferences()
+{
+    style->setChecked(preferences->StyleName() == "light");
+    direction->setChecked(QApplication::layoutDirection() == Qt::RightToLeft);
+    QString name = preferences->Language();
+    for (QAction* action : language->menu()->actions()) {
+        const bool isCurrent = action->data() == preferences->Language();
+        action->setChecked(isCurrent);
+        if (isCurrent)
+            name = action->text();
+    }
+    Name(language, name, tr("Language"));
+    ShowTexts();
+}
+
+// Where there is no room for all texts, the icons remain.
+void SceneBar::ShowTexts()
+{
+    int wanted = 2 * MARGIN + SPACING * buttons.size();
+    for (QToolButton* button : buttons) {
+        button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+        wanted += button->sizeHint().width();
+    }
+    if (wanted <= width())
+        return;
+    for (QToolButton* button : buttons)
+        button->setToolButtonStyle(Qt::ToolButtonIconOnly);
+}
+
+void SceneBar::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    ShowTexts();
+}
+
+} // namespace Zelkor::Gallery
