@@ -20,8 +20,14 @@ using namespace Zelkor::Gallery;
 
 namespace {
 
+#if defined(__SANITIZE_ADDRESS__)
+// The sanitizer tells of the leak of a single life, and a thousand of them would take it many minutes.
+constexpr int LIVES = 60;
+constexpr int WARM_UP = 20;
+#else
 constexpr int LIVES = 1020;
-constexpr int WARM_UP = 200;           ///< lives after which caches have what they want
+constexpr int WARM_UP = 200; ///< lives after which caches have what they want
+#endif
 constexpr double LARGEST_GROWTH = 200; ///< bytes a life
 
 constexpr Qt::Key KEYS[] = {Qt::Key_Space, Qt::Key_Right,  Qt::Key_Left, Qt::Key_Up,     Qt::Key_Down,
