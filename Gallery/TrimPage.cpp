@@ -166,8 +166,7 @@ ZTimeEdit* TrimPage::CreateField(const char* name, Setter set)
     return field;
 }
 
-QAction* TrimPage::AddAction(QToolButton* button, const char* icon, const QKeySequence& shortcut,
-                             void (TrimPage::*act)())
+void TrimPage::AddAction(QToolButton* button, const char* icon, const QKeySequence& shortcut, void (TrimPage::*act)())
 {
     auto* action = new QAction(this);
     action->setIcon(StyleIcon(icon));
@@ -177,7 +176,6 @@ QAction* TrimPage::AddAction(QToolButton* button, const char* icon, const QKeySe
     addAction(action);
     button->setFocusPolicy(Qt::StrongFocus);
     button->setDefaultAction(action);
-    return action;
 }
 
 qint64 TrimPage::BracketTime(const ZSliderThumb* thumb) const

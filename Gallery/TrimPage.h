@@ -6,8 +6,6 @@
 
 #include <optional>
 
-class QAbstractButton;
-class QAction;
 class QLabel;
 class QToolButton;
 class ZLabel;
@@ -44,7 +42,7 @@ private:
     QWidget* CreateControls();
     ZSliderThumb* AddBracket(const char* name, Setter set);
     ZTimeEdit* CreateField(const char* name, Setter set);
-    QAction* AddAction(QToolButton* button, const char* icon, const QKeySequence& shortcut, void (TrimPage::*act)());
+    void AddAction(QToolButton* button, const char* icon, const QKeySequence& shortcut, void (TrimPage::*act)());
     qint64 BracketTime(const ZSliderThumb* thumb) const;
     void ToggleCut();
     void Undo() { model.Undo(); }

@@ -4,10 +4,6 @@ if(NOT VX_BUILD_GALLERY)
 endif()
 
 vx_test(Gallery/tst_Catalogue.cpp LIBRARIES VxCatalogue)
-add_test(NAME tst_Catalogue_scaled COMMAND tst_Catalogue)
-set_tests_properties(tst_Catalogue_scaled PROPERTIES
-                     ENVIRONMENT "QT_QPA_PLATFORM=offscreen;QT_SCALE_FACTOR=2;${VX_TEST_ENVIRONMENT}" TIMEOUT 300)
-
 vx_test(Gallery/tst_RecorderModel.cpp LIBRARIES VxGalleryWindows)
 vx_test(Gallery/tst_GalleryWindows.cpp LIBRARIES VxGalleryWindows)
 add_dependencies(tst_GalleryWindows VxTranslations)
