@@ -8,6 +8,10 @@
 
 #include <cstdio>
 
+#if defined(Q_OS_WIN)
+#include <QtCore/qt_windows.h>
+#endif
+
 using namespace Zelkor::Gallery;
 
 namespace {
@@ -18,6 +22,17 @@ QStringList ArgumentsOf(int argc, char* argv[])
     for (int i = 0; i < argc; ++i)
         arguments.append(QString::fromLocal8Bit(argv[i]));
     return arguments;
+}
+
+// On Windows a program with windows has no console. What it prints goes to the one that it was started from, if any.
+void FindConsole()
+{
+#if defined(Q_OS_WIN)
+    if (!GetStdHandle(STD_OUTPUT_HANDLE) && AttachConsole(ATTACH_PARENT_PROCESS)) {
+        std::freopen("CONOUT$", "w", stdout);
+        std::freopen("CONOUT$", "w", stderr);
+    }
+#endif
 }
 
 // Only where windows come from a server that may not be there.
@@ -68,6 +83,7 @@ void SettleWithoutDesktop()
 
 int main(int argc, char* argv[])
 {
+    FindConsole();
     google::InitGoogleLogging(argv[0]);
     FLAGS_logtostderr = true;
     auto answer = ReadOptions(ArgumentsOf(argc, argv));

@@ -1,10 +1,15 @@
 # vx_target(NAME): the settings that hold for every target of ours and for no code of others.
 function(vx_target name)
   target_compile_definitions(${name} PRIVATE QT_NO_KEYWORDS QT_NO_FOREACH QT_DEPRECATED_WARNINGS)
-  target_compile_options(${name} PRIVATE -Wall -Wextra -Wpedantic -Wnon-virtual-dtor -Wold-style-cast
-                         $<$<CXX_COMPILER_ID:GNU>:-Wshadow=local>)
-  if(VX_WARNINGS_AS_ERRORS)
-    target_compile_options(${name} PRIVATE -Werror)
+  if(MSVC)
+    # 4251 and 4275 warn of what is not exported in classes that are. Those parts are private, or of Qt and the kit,
+    # which are made by the same compiler as the library.
+    target_compile_options(${name} PRIVATE /W4 /permissive- /utf-8 /Zc:__cplusplus /wd4251 /wd4275
+                                           $<$<BOOL:${VX_WARNINGS_AS_ERRORS}>:/WX>)
+  else()
+    target_compile_options(${name} PRIVATE -Wall -Wextra -Wpedantic -Wnon-virtual-dtor -Wold-style-cast
+                                           $<$<CXX_COMPILER_ID:GNU>:-Wshadow=local>
+                                           $<$<BOOL:${VX_WARNINGS_AS_ERRORS}>:-Werror>)
   endif()
   # Without this, moc overlooks a class that is added to a build folder that is there already.
   get_target_property(sources ${name} SOURCES)
@@ -16,4 +21,22 @@ function(vx_target name)
     # GCC does not model atomic fences under this sanitizer; ours do not use any, Boost's headers mention them.
     target_compile_options(${name} PRIVATE -Wno-tsan)
   endif()
+endfunction()
+
+# vx_version_resource(NAME DESCRIPTION): what Windows tells of the file in its properties.
+function(vx_version_resource name description)
+  if(NOT WIN32)
+    return()
+  endif()
+  set(VX_FILE_TYPE VFT_DLL)
+  get_target_property(type ${name} TYPE)
+  if(type STREQUAL "EXECUTABLE")
+    set(VX_FILE_TYPE VFT_APP)
+  endif()
+  set(VX_FILE_DESCRIPTION "${description}")
+  set(resource ${CMAKE_CURRENT_BINARY_DIR}/${name}Version.rc)
+  configure_file(${PROJECT_SOURCE_DIR}/cmake/VxVersion.rc.in ${resource} @ONLY)
+  file(GENERATE OUTPUT ${CMAKE_CURRENT_BINARY_DIR}/${name}FileName.h
+       CONTENT "#define VX_FILE_NAME \"$<TARGET_FILE_NAME:${name}>\"\n")
+  target_sources(${name} PRIVATE ${resource})
 endfunction()

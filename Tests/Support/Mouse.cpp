@@ -6,9 +6,35 @@
 #include <QProcess>
 #include <QtTest>
 
+#if defined(Q_OS_WIN)
+#include <QtCore/qt_windows.h>
+#endif
+
 namespace Support {
 
 namespace {
+
+#if defined(Q_OS_WIN)
+
+void Send(DWORD what)
+{
+    INPUT input = {};
+    input.type = INPUT_MOUSE;
+    input.mi.dwFlags = what;
+    QCOMPARE(SendInput(1, &input, sizeof input), 1u);
+}
+
+void Press(int button)
+{
+    Send(button == 1 ? MOUSEEVENTF_LEFTDOWN : MOUSEEVENTF_RIGHTDOWN);
+}
+
+void Release(int button)
+{
+    Send(button == 1 ? MOUSEEVENTF_LEFTUP : MOUSEEVENTF_RIGHTUP);
+}
+
+#else
 
 void RunTool(const QStringList& arguments)
 {
@@ -20,17 +46,34 @@ void RunTool(const QStringList& arguments)
     QVERIFY2(tool.exitStatus() == QProcess::NormalExit && tool.exitCode() == 0, tool.readAllStandardError());
 }
 
+void Press(int button)
+{
+    RunTool({"mousedown", QString::number(button)});
+}
+
+void Release(int button)
+{
+    RunTool({"mouseup", QString::number(button)});
+}
+
+#endif
+
 } // namespace
 
 void MovePointer(const QPoint& global)
 {
+#if defined(Q_OS_WIN)
+    QVERIFY(SetCursorPos(global.x(), global.y()));
+#else
     RunTool({"mousemove", QString::number(global.x()), QString::number(global.y())});
+#endif
 }
 
 void Click(const QPoint& global)
 {
     MovePointer(global);
-    RunTool({"click", "1"});
+    Press(1);
+    Release(1);
 }
 
 bool Drag(const QPoint& global, const QPoint& way, int button)
@@ -44,7 +87,7 @@ bool Drag(const QPoint& global, const QPoint& way, int button)
             seen = static_cast<QMouseEvent*>(event)->globalPos();
     });
     MovePointer(global);
-    RunTool({"mousedown", QString::number(button)});
+    Press(button);
     // The window system takes the pointer after the first motion, but maybe not at once.
     bool taken = false;
     for (int step = 1; step <= FIRST_STEPS && !taken; ++step) {
@@ -53,7 +96,7 @@ bool Drag(const QPoint& global, const QPoint& way, int button)
         taken = !QTest::qWaitFor([&] { return seen == next; }, step == 1 ? LONG_MS : ENOUGH_MS);
     }
     MovePointer(global + QPoint(1, 0) + way);
-    RunTool({"mouseup", QString::number(button)});
+    Release(button);
     return taken;
 }
 

@@ -4,7 +4,8 @@
 
 namespace Support {
 
-/// The real pointer of the window system, moved and clicked by xdotool. Fails the running test when that is not there.
+/// The real pointer of the window system: in X11 moved and clicked by xdotool, and the running test fails when that is
+/// not there.
 void MovePointer(const QPoint& global);
 void Click(const QPoint& global);
 

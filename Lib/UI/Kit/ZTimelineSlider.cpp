@@ -14,6 +14,11 @@
 #include <algorithm>
 #include <limits>
 
+// Not every compiler has integers of this size.
+#if !defined(__SIZEOF_INT128__)
+#include <boost/multiprecision/cpp_int.hpp>
+#endif
+
 namespace {
 
 constexpr int STEPS = 1000;
@@ -22,7 +27,11 @@ constexpr int SECONDS_A_DAY = 24 * 60 * 60;
 constexpr qint64 MILLISECONDS_A_DAY = 1000 * qint64(SECONDS_A_DAY);
 
 /// Holds the product of a length of time and a value of the slider, whatever they are.
+#if defined(__SIZEOF_INT128__)
 __extension__ typedef __int128 Wide;
+#else
+using Wide = boost::multiprecision::int128_t;
+#endif
 
 template<class Integer>
 Integer Saturated(Wide number)
