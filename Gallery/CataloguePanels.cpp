@@ -49,12 +49,18 @@ void AppendTools(ScrollablePanelWithItem& panel, int count)
     }
 }
 
-QWidget* CreateTools(QWidget* parent)
+ScrollablePanelWithItem* CreatePanel(int count, QWidget* parent)
 {
     auto* panel = new ScrollablePanelWithItem(parent);
     panel->SetItemsSpacing(TOOL_SPACING);
     panel->setAccessibleName(Catalogue::tr("Drawing tools"));
-    AppendTools(*panel, TOOL_COUNT);
+    AppendTools(*panel, count);
+    return panel;
+}
+
+QWidget* CreateTools(QWidget* parent)
+{
+    auto* panel = CreatePanel(TOOL_COUNT, parent);
     panel->SelectItem(1);
     return panel;
 }
@@ -62,9 +68,7 @@ QWidget* CreateTools(QWidget* parent)
 State ToolsState(const QString& name, int count, int width)
 {
     return MadeState(name, [=](QWidget* parent) {
-        auto* panel = new ScrollablePanelWithItem(parent);
-        panel->SetItemsSpacing(TOOL_SPACING);
-        AppendTools(*panel, count);
+        auto* panel = CreatePanel(count, parent);
         panel->setFixedWidth(width);
         return panel;
     });

@@ -139,6 +139,7 @@ public:
         : StyledAboutBoxDialog(Catalogue::tr("Recorder"), "2.4.1", legal, parent)
     {
         setWindowFlags(Qt::Widget);
+        setAccessibleName(windowTitle());
     }
 
     void done(int) override {}

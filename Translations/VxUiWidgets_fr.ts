@@ -410,6 +410,13 @@
     </message>
 </context>
 <context>
+    <name>Zelkor::Vx::UI::VideoPreviewWidget</name>
+    <message>
+        <source>Video preview</source>
+        <translation>Aperçu vidéo</translation>
+    </message>
+</context>
+<context>
     <name>Zelkor::Vx::VolumeSlider</name>
     <message>
         <source> %</source>

@@ -408,6 +408,13 @@
     </message>
 </context>
 <context>
+    <name>Zelkor::Vx::UI::VideoPreviewWidget</name>
+    <message>
+        <source>Video preview</source>
+        <translation>ビデオのプレビュー</translation>
+    </message>
+</context>
+<context>
     <name>Zelkor::Vx::VolumeSlider</name>
     <message>
         <source> %</source>

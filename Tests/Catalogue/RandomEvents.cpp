@@ -103,6 +103,9 @@ void RandomEvents::Do(const Draw& draw)
         std::accumulate(KINDS.begin(), KINDS.end(), 0, [](int value, const Kind& kind) { return value + kind.weight; });
     if (!host || !widget)
         return;
+    // The real file system is none of our toys, and its dialog goes before anything else happens.
+    if (qobject_cast<QFileDialog*>(QApplication::activeModalWidget()))
+        return PassLoop(draw);
     int left = int(draw.kind % quint32(sum));
     for (const Kind& kind : KINDS) {
         left -= kind.weight;
@@ -291,7 +294,6 @@ void RandomEvents::ActIn(QWidget* window)
     const QPointer<QWidget> guard(window);
     if (auto* dialog = qobject_cast<QColorDialog*>(window))
         return nestedRandom() % 2 ? dialog->accept() : dialog->reject();
-    // The real file system is none of our toys.
     for (int i = 0; i < EVENTS_IN_NESTED_LOOP && !qobject_cast<QFileDialog*>(guard) && guard->isVisible(); ++i) {
         Do(DrawFrom(nestedRandom));
         if (!guard)

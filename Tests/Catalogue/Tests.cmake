@@ -12,7 +12,7 @@ foreach(scale 1.25 2)
 ${VX_TEST_ENVIRONMENT}" TIMEOUT 300)
 endforeach()
 
-vx_test(Catalogue/tst_Properties.cpp LIBRARIES VxCatalogue)
+vx_test(Catalogue/tst_Properties.cpp LIBRARIES VxGalleryWindows)
 
 vx_test(Catalogue/tst_CatalogueAccessibility.cpp LIBRARIES VxCatalogue)
 vx_test(Catalogue/tst_CatalogueRandomEvents.cpp SOURCES Catalogue/RandomEvents.cpp LIBRARIES VxCatalogue)

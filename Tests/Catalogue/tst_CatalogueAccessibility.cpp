@@ -11,6 +11,8 @@
 #include <QButtonGroup>
 #include <QPlainTextEdit>
 
+#include <algorithm>
+#include <cmath>
 #include <deque>
 
 using namespace Zelkor::Gallery;
@@ -18,6 +20,8 @@ using namespace Zelkor::Gallery;
 namespace {
 
 constexpr int LARGEST_STEP_COUNT = 100; ///< of Tab, which also visits links in a text and the parts of a time
+constexpr double PLAIN_CONTRAST = 3;    ///< at least this between two things that shall be told apart
+constexpr int SMALLEST_MARK = 80;       ///< pixels; the ring around a thumb of a slider has more
 constexpr Qt::Key KEYS[] = {Qt::Key_Space, Qt::Key_Right, Qt::Key_Left, Qt::Key_Up,    Qt::Key_Down,
                             Qt::Key_Home,  Qt::Key_End,   Qt::Key_7,    Qt::Key_Return};
 
@@ -30,15 +34,32 @@ QString Describe(QAccessibleInterface& interface)
         .arg(interface.text(QAccessible::Name));
 }
 
-// Empty, or what is wrong with what assistive technology hears of this one.
-QString Fault(QAccessibleInterface& interface, bool takesKeyboard)
+// Direction marks and the like are nothing that could be read out.
+bool IsReadable(const QString& name)
 {
-    if (!interface.isValid() || interface.role() == QAccessible::NoRole)
+    const auto isHeard = [](QChar sign) { return sign.isPrint() || sign.isSpace(); };
+    return !name.trimmed().isEmpty() && std::all_of(name.begin(), name.end(), isHeard);
+}
+
+// Those that hold others, which have names themselves.
+bool IsFrame(QAccessible::Role role)
+{
+    return role == QAccessible::Border || role == QAccessible::Grouping || role == QAccessible::LayeredPane;
+}
+
+// Empty, or what is wrong with what assistive technology hears of this one. `isSubject`: the entry is about it.
+QString Fault(QAccessibleInterface& interface, bool takesKeyboard, bool isSubject)
+{
+    const QAccessible::Role role = interface.role();
+    const QString name = interface.text(QAccessible::Name);
+    if (!interface.isValid() || role == QAccessible::NoRole)
         return QStringLiteral("says nothing of itself");
-    if (takesKeyboard && interface.role() == QAccessible::Client)
-        return QStringLiteral("takes input, but does not say as what");
-    if (takesKeyboard && interface.text(QAccessible::Name).isEmpty())
-        return QStringLiteral("takes input, but has no name");
+    if ((takesKeyboard || isSubject) && (role == QAccessible::Client || role == QAccessible::Window))
+        return QStringLiteral("does not say as what it is there");
+    if (isSubject && IsFrame(role) && interface.childCount() == 0)
+        return QStringLiteral("says that it is a frame, but there is nothing in it");
+    if (name.isEmpty() ? takesKeyboard || (isSubject && !IsFrame(role)) : !IsReadable(name))
+        return QStringLiteral("has no name that could be read out");
     if (takesKeyboard && !interface.state().focusable)
         return QStringLiteral("takes input, but is not focusable");
     if (const QAccessibleValueInterface* values = interface.valueInterface()) {
@@ -50,6 +71,30 @@ QString Fault(QAccessibleInterface& interface, bool takesKeyboard)
                 .arg(values->maximumValue().toDouble());
     }
     return {};
+}
+
+// As the eye takes it: 1 for the same brightness, 21 between black and white.
+double Contrast(const QColor& a, const QColor& b)
+{
+    const auto brightness = [](const QColor& color) {
+        const auto linear = [](double part) { return std::pow(part, 2.2); };
+        return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF()) + 0.05;
+    };
+    const auto [darker, brighter] = std::minmax({brightness(a), brightness(b)});
+    return brighter / darker;
+}
+
+// How many pixels are plainly others; all, when the size is another one.
+int CountChanges(const QImage& before, const QImage& after)
+{
+    if (before.size() != after.size())
+        return after.width() * after.height();
+    int count = 0;
+    for (int y = 0; y < after.height(); ++y) {
+        for (int x = 0; x < after.width(); ++x)
+            count += Contrast(before.pixelColor(x, y), after.pixelColor(x, y)) >= PLAIN_CONTRAST;
+    }
+    return count;
 }
 
 // Takes `part` out of those that are left; with it those that the arrow keys reach from there.
@@ -84,6 +129,7 @@ private Q_SLOTS:
         const auto scene = SceneOfThisRow();
         scene->Show();
         const auto keyboardParts = scene->KeyboardParts();
+        QFETCH(QString, className);
         std::deque<QAccessibleInterface*> toVisit{QAccessible::queryAccessibleInterface(scene->widget)};
         int heard = 0;
         for (; !toVisit.empty(); toVisit.pop_front()) {
@@ -94,7 +140,9 @@ private Q_SLOTS:
             auto* part = qobject_cast<QWidget*>(interface->object());
             const bool takesKeyboard = part && keyboardParts.contains(part);
             heard += takesKeyboard;
-            const QString fault = Fault(*interface, takesKeyboard);
+            const bool isSubject =
+                part && QString(part->metaObject()->className()).section(QStringLiteral("::"), -1) == className;
+            const QString fault = Fault(*interface, takesKeyboard, isSubject);
             QVERIFY2(fault.isEmpty(), qPrintable(Describe(*interface) + ": " + fault));
             for (int i = 0; i < interface->childCount(); ++i) {
                 QAccessibleInterface* child = interface->child(i);
@@ -129,6 +177,36 @@ private Q_SLOTS:
             QVERIFY2(end->hasFocus(), QApplication::focusWidget()->metaObject()->className());
             QVERIFY2(left.isEmpty(), left.isEmpty() ? "" : left.first()->metaObject()->className());
         }
+    }
+
+    void showsFocus_data() { AddRowsOfAllStates(); }
+
+    // What has the keyboard looks plainly different from what it was, in both styles.
+    void showsFocus()
+    {
+        const int flashTime = QApplication::cursorFlashTime();
+        QApplication::setCursorFlashTime(0);
+        for (const QString style : {"light", "dark"}) {
+            InRow(style);
+            QString error;
+            ApplyStyleSheet(*LoadStyleSheet(style, error));
+            const auto scene = SceneOfThisRow();
+            scene->Show();
+            const auto look = [&scene](QWidget* focused) {
+                focused->setFocus(Qt::TabFocusReason);
+                QCoreApplication::processEvents();
+                return scene->window->grab(scene->widget->geometry()).toImage();
+            };
+            for (const QPointer<QWidget>& part : scene->KeyboardParts()) {
+                const QImage before = look(scene->before);
+                const int changes = CountChanges(before, look(part));
+                QVERIFY2(changes >= SMALLEST_MARK,
+                         qPrintable(QStringLiteral("%1 %2: %3 pixels")
+                                        .arg(part->metaObject()->className(), part->objectName())
+                                        .arg(changes)));
+            }
+        }
+        QApplication::setCursorFlashTime(flashTime);
     }
 
     void keysWorkIt_data() { AddRowsOfAllStates(); }

@@ -8,6 +8,7 @@
 #include <Support/SignalTap.h>
 #include <Support/TestCase.h>
 
+#include <QAbstractSlider>
 #include <QPixmapCache>
 
 #include <deque>
@@ -49,7 +50,41 @@ void Settle()
     QCoreApplication::processEvents();
 }
 
-// Works each part as a person does, with keys, wheel and mouse, as long as the scene is there.
+QVector<QPointer<QWidget>> PartsOf(QWidget* widget)
+{
+    QVector<QPointer<QWidget>> parts;
+    if (widget) {
+        parts.append(widget);
+        for (QWidget* part : widget->findChildren<QWidget*>())
+            parts.append(part);
+    }
+    return parts;
+}
+
+/// A signal of a widget's part that a class of ours declares.
+struct OwnSignal
+{
+    int part;
+    QMetaMethod signal;
+};
+
+// Left out are Qt's signals and those of sliders, which hand on what Qt's slider tells in the middle of its work.
+QVector<OwnSignal> OwnSignals(QWidget* widget)
+{
+    QVector<OwnSignal> found;
+    const auto parts = PartsOf(widget);
+    for (int i = 0; i < parts.size(); ++i) {
+        for (const QMetaMethod& signal : Support::SignalsOf(parts[i])) {
+            const QString declaredBy = signal.enclosingMetaObject()->className();
+            const bool isOurs = !declaredBy.startsWith('Q') || FindEntry(declaredBy);
+            if (isOurs && !qobject_cast<QAbstractSlider*>(parts[i]))
+                found.append({i, signal});
+        }
+    }
+    return found;
+}
+
+// Works each part as a person does, with keys and mouse, as long as the scene is there.
 void Work(Scene& scene)
 {
     for (const QPointer<QWidget>& part : scene.KeyboardParts()) {
@@ -61,14 +96,16 @@ void Work(Scene& scene)
                 return;
         }
     }
-    if (!scene.widget)
-        return;
-    const QPoint center = scene.widget->mapTo(scene.window, scene.widget->rect().center());
-    QTest::mousePress(scene.window->windowHandle(), Qt::LeftButton, Qt::NoModifier, center);
-    if (scene.window)
-        QTest::mouseMove(scene.window->windowHandle(), center + QPoint(9, 9));
-    if (scene.window)
-        QTest::mouseRelease(scene.window->windowHandle(), Qt::LeftButton, Qt::NoModifier, center + QPoint(9, 9));
+    for (const QPointer<QWidget>& part : PartsOf(scene.widget)) {
+        if (!part || !part->isVisible() || part->window() != scene.window)
+            continue;
+        const QPoint center = part->mapTo(scene.window, part->rect().center());
+        QTest::mousePress(scene.window->windowHandle(), Qt::LeftButton, Qt::NoModifier, center);
+        if (scene.window)
+            QTest::mouseMove(scene.window->windowHandle(), center + QPoint(9, 9));
+        if (scene.window)
+            QTest::mouseRelease(scene.window->windowHandle(), Qt::LeftButton, Qt::NoModifier, center + QPoint(9, 9));
+    }
 }
 
 } // namespace
@@ -149,15 +186,31 @@ private Q_SLOTS:
         const auto scene = SceneOfThisRow();
         scene->Show();
         std::deque<Support::SignalTap> taps;
-        for (QWidget* part : QList<QWidget*>{scene->widget} + scene->widget->findChildren<QWidget*>())
+        for (const QPointer<QWidget>& part : PartsOf(scene->widget))
             taps.emplace_back(part, [&scene] {
-                if (qEnvironmentVariableIsSet("DIRECT"))
-                    delete scene->window;
                 if (scene->window)
                     scene->window->deleteLater();
             });
         Work(*scene);
         Settle();
+    }
+
+    void goesAtOnceInOurSignals_data() { AddRowsOfAllStates(); }
+
+    void goesAtOnceInOurSignals()
+    {
+        const Support::Census census;
+        const Support::LinkTrap links;
+        const Support::LoopWatch loops(Support::Dismiss);
+        for (const OwnSignal& own : OwnSignals(SceneOfThisRow()->widget)) {
+            InRow(own.signal.methodSignature());
+            const auto scene = SceneOfThisRow();
+            scene->Show();
+            const Support::SignalTap tap(PartsOf(scene->widget)[own.part], {own.signal},
+                                         [&scene] { delete scene->widget; });
+            Work(*scene);
+            Settle();
+        }
     }
 };
 

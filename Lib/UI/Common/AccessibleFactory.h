@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QAccessible>
+#include <QAccessibleWidget>
 #include <QLatin1String>
 #include <QObject>
 #include <QString>
@@ -35,6 +35,14 @@ private:
         const bool isOurs = className == QLatin1String(Widget::staticMetaObject.className());
         return isOurs ? new Interface(static_cast<Widget*>(object)) : nullptr;
     }
+};
+
+/// A widget of this kind, which has nothing to tell but what each widget has.
+template<QAccessible::Role ROLE>
+class AccessibleAs : public QAccessibleWidget
+{
+public:
+    explicit AccessibleAs(QWidget* widget) : QAccessibleWidget(widget, ROLE) {}
 };
 
 } // namespace Zelkor::Vx::UI::Common

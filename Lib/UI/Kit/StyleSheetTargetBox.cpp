@@ -30,6 +30,12 @@ StyleSheetTargetBox::StyleSheetTargetBox(QWidget* parent) : QComboBox(parent), w
     });
 }
 
+// The target may be a part of the box, which goes with it.
+StyleSheetTargetBox::~StyleSheetTargetBox()
+{
+    disconnect(watching);
+}
+
 void StyleSheetTargetBox::setTarget(QWidget* widget)
 {
     watch(widget);

@@ -12,6 +12,7 @@ class StyleSheetTargetBox : public QComboBox
 
 public:
     explicit StyleSheetTargetBox(QWidget* parent = nullptr);
+    ~StyleSheetTargetBox() override;
 
     /// Null is the application. Does not emit.
     void setTarget(QWidget* widget);

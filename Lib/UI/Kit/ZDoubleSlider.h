@@ -29,7 +29,8 @@ public Q_SLOTS:
     void setDoubleValue(double value);
 
 Q_SIGNALS:
-    /// Comes with every `valueChanged`, and when the multiplier is set.
+    /// Comes with every `valueChanged`, and when the multiplier is set. Like all sliders of Qt it is not done yet when
+    /// it tells that: a slot that wants it gone calls deleteLater().
     void doubleValueChanged(double value);
 
 private:

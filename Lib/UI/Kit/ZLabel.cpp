@@ -1,5 +1,6 @@
 #include <UI/Kit/ZLabel.h>
 
+#include <UI/Common/AccessibleFactory.h>
 #include <UI/Common/TextMarks.h>
 
 #include <QFontMetrics>
@@ -25,10 +26,32 @@ bool SurelyFits(const QFont& font, const QString& text, int width)
     return sum + sum / 8 < width;
 }
 
+/// Qt's own interface of a label would take the direction marks of an empty text for a name.
+class AccessibleLabel : public QAccessibleWidget
+{
+public:
+    explicit AccessibleLabel(ZLabel* label) : QAccessibleWidget(label), label(label) {}
+
+    QAccessible::Role role() const override
+    {
+        return label->pixmap(Qt::ReturnByValue).isNull() ? QAccessible::StaticText : QAccessible::Graphic;
+    }
+
+    QString text(QAccessible::Text kind) const override
+    {
+        QString own = QAccessibleWidget::text(kind);
+        return kind == QAccessible::Name && own.isEmpty() ? Common::WithoutEmbedding(label->text()) : own;
+    }
+
+private:
+    ZLabel* label;
+};
+
 } // namespace
 
 ZLabel::ZLabel(QWidget* parent) : QLabel(parent)
 {
+    Common::AccessibleFactory<ZLabel, AccessibleLabel>::Install();
     setText(storedText);
 }
 

@@ -162,8 +162,14 @@ void ZLineEdit::resizeEvent(QResizeEvent* event)
 void ZLineEdit::changeEvent(QEvent* event)
 {
     QLineEdit::changeEvent(event);
-    if (event->type() == QEvent::FontChange && !inUse)
-        refreshText();
+    if (event->type() != QEvent::FontChange || inUse)
+        return;
+    const QString shown = text();
+    const int place = cursorPosition();
+    refreshText();
+    // Where the text is the same in the other font, the cursor stays.
+    if (text() == shown)
+        setCursorPosition(place);
 }
 
 // Shows the text as it is shown with, or without, the focus.

@@ -1,5 +1,6 @@
 #include <UI/Kit/ZQuestionBar.h>
 
+#include <UI/Common/AccessibleFactory.h>
 #include <UI/Kit/ZMessageLabel.h>
 
 #include <QKeyEvent>
@@ -8,10 +9,13 @@
 
 #include <utility>
 
+using namespace Zelkor::Vx::UI;
+
 ZQuestionBar::ZQuestionBar(QWidget* parent)
     : QWidget(parent), question(new ZMessageLabel), saveButton(new QPushButton), discardButton(new QPushButton),
       cancelButton(new QPushButton)
 {
+    Common::AccessibleFactory<ZQuestionBar, Common::AccessibleAs<QAccessible::AlertMessage>>::Install();
     auto* buttons = new QHBoxLayout;
     buttons->addStretch();
     buttons->addWidget(saveButton);
@@ -56,6 +60,7 @@ void ZQuestionBar::dismiss()
 void ZQuestionBar::retranslate()
 {
     question->setText(tr("There are changes that were not saved."));
+    setAccessibleName(question->text());
     saveButton->setText(tr("&Save"));
     discardButton->setText(tr("&Discard"));
     cancelButton->setText(tr("&Cancel"));

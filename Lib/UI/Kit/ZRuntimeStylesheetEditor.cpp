@@ -1,5 +1,6 @@
 #include <UI/Kit/ZRuntimeStylesheetEditor.h>
 
+#include <UI/Common/AccessibleFactory.h>
 #include <UI/Kit/StyleSheetEdit.h>
 #include <UI/Kit/StyleSheetEditorView.h>
 #include <UI/Kit/StyleSheetFile.h>
@@ -34,6 +35,18 @@ QString Place(int line, int column)
 {
     return ZRuntimeStylesheetEditor::tr("Line %1, column %2").arg(line).arg(column);
 }
+
+/// The editor may be part of another window.
+class AccessibleEditor : public QAccessibleWidget
+{
+public:
+    using QAccessibleWidget::QAccessibleWidget;
+
+    QAccessible::Role role() const override
+    {
+        return widget()->isWindow() ? QAccessible::Window : QAccessible::Grouping;
+    }
+};
 
 } // namespace
 
@@ -85,6 +98,7 @@ ZRuntimeStylesheetEditor::Impl::Impl(ZRuntimeStylesheetEditor* window)
 ZRuntimeStylesheetEditor::ZRuntimeStylesheetEditor(QWidget* parent)
     : QWidget(parent), impl(std::make_unique<Impl>(this))
 {
+    Zelkor::Vx::UI::Common::AccessibleFactory<ZRuntimeStylesheetEditor, AccessibleEditor>::Install();
     resize(WINDOW_SIZE);
     impl->retranslate();
     impl->readUntouched();
@@ -102,10 +116,10 @@ void ZRuntimeStylesheetEditor::Impl::connectParts()
     });
     connect(view.editor, &QPlainTextEdit::modificationChanged, window, &QWidget::setWindowModified);
     connect(view.editor, &QPlainTextEdit::cursorPositionChanged, &context, [this] { showPlace(); });
-    connect(view.typingBox, &QCheckBox::toggled, &context, [this](bool on) {
-        pause.start();
-        Q_EMIT window->applyingWhileTypingChanged(on);
-    });
+    connect(view.typingBox, &QCheckBox::toggled, &context, [this] { pause.start(); });
+    // Whoever hears of it may delete the window, which the box would not survive before it is done.
+    connect(view.typingBox, &QCheckBox::toggled, window, &ZRuntimeStylesheetEditor::applyingWhileTypingChanged,
+            Qt::QueuedConnection);
     connect(view.question, &ZQuestionBar::saveWanted, &context, [this] { saveAgain(); });
     connect(view.question, &ZQuestionBar::discarded, &context, [this] { settle(QString()); });
     connect(view.targetBox, &StyleSheetTargetBox::chosen, &context, [this](QWidget* widget) { chooseTarget(widget); });
@@ -149,8 +163,10 @@ void ZRuntimeStylesheetEditor::Impl::retranslate()
 {
     view.retranslate();
     const QString file = QFileInfo(fileName).fileName();
-    window->setWindowTitle((file.isEmpty() ? QString() : file + QStringLiteral(" - ")) +
-                           ZRuntimeStylesheetEditor::tr("Style sheet editor") + QStringLiteral("[*]"));
+    const QString title = (file.isEmpty() ? QString() : file + QStringLiteral(" - ")) +
+                          ZRuntimeStylesheetEditor::tr("Style sheet editor");
+    window->setWindowTitle(title + QStringLiteral("[*]"));
+    window->setAccessibleName(title);
     showPlace();
     check();
 }

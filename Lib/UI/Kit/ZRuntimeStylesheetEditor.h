@@ -75,6 +75,7 @@ public Q_SLOTS:
 Q_SIGNALS:
     void applied();
     void reverted();
+    /// Comes out of the event loop.
     void applyingWhileTypingChanged(bool on);
 
 protected:

@@ -1,5 +1,6 @@
 #include <UI/Kit/ZSearchBar.h>
 
+#include <UI/Common/AccessibleFactory.h>
 #include <UI/Kit/ZMessageLabel.h>
 
 #include <QCheckBox>
@@ -9,6 +10,8 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QToolButton>
+
+using namespace Zelkor::Vx::UI;
 
 namespace {
 
@@ -22,6 +25,7 @@ ZSearchBar::ZSearchBar(QPlainTextEdit* editor, QWidget* parent)
       replaceAllButton(new QPushButton), closeButton(new QPushButton), caseBox(new QCheckBox), wordsBox(new QCheckBox),
       messageLabel(new ZMessageLabel)
 {
+    Common::AccessibleFactory<ZSearchBar, Common::AccessibleAs<QAccessible::Grouping>>::Install();
     previousButton->setText(QStringLiteral("\u2191"));
     nextButton->setText(QStringLiteral("\u2193"));
     messageLabel->setObjectName(QStringLiteral("searchMessage"));
@@ -69,6 +73,7 @@ void ZSearchBar::retranslate()
         widget->setAccessibleName(text);
         widget->setToolTip(text);
     };
+    setAccessibleName(tr("Find"));
     searched->setPlaceholderText(tr("Find"));
     searched->setAccessibleName(tr("Find"));
     replacement->setPlaceholderText(tr("Replace with"));

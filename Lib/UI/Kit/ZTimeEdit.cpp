@@ -8,6 +8,7 @@
 #include <QStyle>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -38,6 +39,7 @@ int TypedDigit(const QKeyEvent& event)
 
 ZTimeEdit::ZTimeEdit(QWidget* parent) : QTimeEdit(parent)
 {
+    watchCursor();
     // Qt would turn the sections around, and the format with them.
     setLayoutDirection(Qt::LeftToRight);
     // It does not read other digits than these, though it writes them.
@@ -46,6 +48,23 @@ ZTimeEdit::ZTimeEdit(QWidget* parent) : QTimeEdit(parent)
     connect(this, SIGNAL(dateTimeChanged(const QDateTime&)), this, SLOT(updateStyle()));
     setWrapping(true);
     setFocusPolicy(Qt::StrongFocus);
+}
+
+// A cursor that leaves an unfinished section completes the time, which may choose another format. Only after that does
+// Qt note the section that the cursor came to, and counts it in the old format. So the new one waits: a text field of
+// our own hears us before Qt as well as after it.
+void ZTimeEdit::watchCursor()
+{
+    auto* edit = new QLineEdit(this);
+    edit->setObjectName(lineEdit()->objectName());
+    connect(edit, &QLineEdit::cursorPositionChanged, this, [this] { ++cursorMoves; });
+    setLineEdit(edit);
+    connect(edit, &QLineEdit::cursorPositionChanged, this, [this] {
+        if (--cursorMoves == 0 && std::exchange(formatWaits, false))
+            updateStyle();
+    });
+    // Writes the text into the field.
+    setDisplayFormat(displayFormat());
 }
 
 void ZTimeEdit::setStyleTag(const QString& tag)
@@ -94,8 +113,10 @@ void ZTimeEdit::stepBy(int steps)
         break;
     }
     const qint64 stepped = qBound<qint64>(0, time().msecsSinceStartOfDay() + size * steps, LAST_MILLISECOND);
+    const QPointer<ZTimeEdit> self(this);
     setTimeClamped(QTime::fromMSecsSinceStartOfDay(int(stepped)));
-    updateStyle();
+    if (self)
+        updateStyle();
 }
 
 void ZTimeEdit::updateStyle()
@@ -111,6 +132,10 @@ void ZTimeEdit::chooseFormat()
     const QString format = ChooseTimeFormat(formats, isForMaximum ? maximumTime() : time());
     if (format.isEmpty() || format == displayFormat())
         return;
+    if (cursorMoves > 0) {
+        formatWaits = true;
+        return;
+    }
     QLineEdit* edit = lineEdit();
     const int fromEnd = edit->text().size() - edit->cursorPosition();
     const QTime minimum = minimumTime();
@@ -139,7 +164,10 @@ void ZTimeEdit::keyPressEvent(QKeyEvent* event)
 {
     const QString before = lineEdit()->text();
     const QTime timeBefore = time();
+    const QPointer<ZTimeEdit> self(this);
     QTimeEdit::keyPressEvent(event);
+    if (!self)
+        return;
     if (IsEnter(*event)) {
         finish();
         return;
@@ -157,9 +185,11 @@ void ZTimeEdit::keyPressEvent(QKeyEvent* event)
 
 void ZTimeEdit::finish()
 {
+    const QPointer<ZTimeEdit> self(this);
     lineEdit()->deselect();
     clearFocus();
-    Q_EMIT EnterPressed();
+    if (self)
+        Q_EMIT EnterPressed();
 }
 
 // What is missing at the cursor comes back, with zeros for digits.
@@ -171,7 +201,10 @@ void ZTimeEdit::fillGap(const QString& before, const QTime& timeBefore)
     std::replace_if(
         gap.begin(), gap.end(), [](QChar character) { return character.isDigit(); }, QChar('0'));
     const QTime filled = read(after.left(position) + gap + after.mid(position));
+    const QPointer<ZTimeEdit> self(this);
     setTimeClamped(filled.isValid() ? filled : timeBefore);
+    if (!self)
+        return;
     updateStyle();
     lineEdit()->setCursorPosition(position);
 }
@@ -188,7 +221,10 @@ void ZTimeEdit::overwrite(int digit)
         const QTime time = read(text);
         if (!time.isValid())
             return;
+        const QPointer<ZTimeEdit> self(this);
         setTimeClamped(time);
+        if (!self)
+            return;
         updateStyle();
         text = lineEdit()->text();
     }

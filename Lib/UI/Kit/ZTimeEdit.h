@@ -12,6 +12,9 @@
 /// section at the cursor and stop at midnight. The wheel steps in focus only.
 ///
 /// It lies from left to right in every layout direction, as times are written. GUI thread only.
+///
+/// As with any field of Qt, a slot of `dateTimeChanged` or `timeChanged` that wants it gone calls deleteLater(): the
+/// field goes on with the key or click that changed the time.
 class ZTimeEdit : public QTimeEdit
 {
     Q_OBJECT
@@ -57,6 +60,7 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
+    void watchCursor();
     QTime read(const QString& text) const;
     void chooseFormat();
     void finish();
@@ -66,4 +70,6 @@ private:
     QString currentStyleTag;
     QStringList formats;
     int stepOfMilliseconds = 1;
+    int cursorMoves = 0;      ///< that Qt is busy with; one may lead to another
+    bool formatWaits = false; ///< until Qt is done with them
 };

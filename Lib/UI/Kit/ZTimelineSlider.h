@@ -73,6 +73,8 @@ public:
     qint64 timeAt(int value) const;
 
 Q_SIGNALS:
+    /// While a person drags, the slider is not done yet when it tells that: a slot that wants it gone calls
+    /// deleteLater().
     void timeChanged(qint64 milliseconds);
 
 protected:

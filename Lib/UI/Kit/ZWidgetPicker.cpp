@@ -35,7 +35,11 @@ void ZWidgetPicker::stop()
 
 bool ZWidgetPicker::isPickable(const QWidget* widget) const
 {
-    return widget && widget != except && !except->isAncestorOf(widget);
+    // Pop-ups and dialogs are windows of their own, in which Qt sees no descendants.
+    const QObject* part = widget;
+    while (part && part != except)
+        part = part->parent();
+    return widget && !part;
 }
 
 bool ZWidgetPicker::eventFilter(QObject* watched, QEvent* event)

@@ -1,5 +1,6 @@
 #include <UI/Widgets/ButtonWithPopUpContainer.h>
 
+#include <UI/Common/AccessibleFactory.h>
 #include <UI/Common/BoxLayouts.h>
 #include <UI/Common/LogSource.h>
 #include <UI/Kit/ZFrame.h>
@@ -8,6 +9,7 @@
 #include <QApplication>
 #include <QDesktopWidget>
 #include <QMouseEvent>
+#include <QPointer>
 
 namespace Zelkor::Vx::UI {
 
@@ -39,9 +41,12 @@ QPoint GetBestPopupPosition(const QWidget* popup, const QWidget* button, const Q
 /// state, whatever shows or hides it.
 struct ButtonWithPopUpContainer::PopUpWindow : public ZFrame
 {
+    class AccessibleButton;
+
     explicit PopUpWindow(ButtonWithPopUpContainer* owner);
 
     QPoint ComputePopupPosition() const;
+    void TellExpanded();
     QRect ButtonRect() const { return QRect(button->mapToGlobal(QPoint(0, 0)), button->size()); }
 
     ButtonWithPopUpContainer* button;
@@ -105,8 +110,64 @@ void ButtonWithPopUpContainer::PopUpWindow::mousePressEvent(QMouseEvent* event)
     ZFrame::mousePressEvent(event);
 }
 
+/// For Qt, a button that can be checked is a check box. This one opens something, and tells whether it is open.
+class ButtonWithPopUpContainer::PopUpWindow::AccessibleButton : public QAccessibleWidget
+{
+public:
+    explicit AccessibleButton(ButtonWithPopUpContainer* button)
+        : QAccessibleWidget(button, QAccessible::ButtonMenu), button(button)
+    {}
+
+    QString text(QAccessible::Text kind) const override
+    {
+        QString own = QAccessibleWidget::text(kind);
+        return kind == QAccessible::Name && own.isEmpty() ? QString(button->text()).remove(QLatin1Char('&')) : own;
+    }
+
+    QAccessible::State state() const override
+    {
+        QAccessible::State state = QAccessibleWidget::state();
+        state.hasPopup = true;
+        state.expandable = true;
+        state.expanded = button->popUp->isVisible();
+        state.collapsed = !state.expanded;
+        state.pressed = button->isDown();
+        return state;
+    }
+
+    QStringList actionNames() const override { return QStringList(pressAction()) + QAccessibleWidget::actionNames(); }
+
+    void doAction(const QString& name) override
+    {
+        if (name != pressAction())
+            QAccessibleWidget::doAction(name);
+        else if (button->popUp->isVisible())
+            button->popUp->hide();
+        else
+            button->click();
+    }
+
+    QStringList keyBindingsForAction(const QString& name) const override
+    {
+        const QKeySequence keys = button->shortcut();
+        return name == pressAction() && !keys.isEmpty() ? QStringList(keys.toString()) : QStringList();
+    }
+
+private:
+    ButtonWithPopUpContainer* button;
+};
+
+void ButtonWithPopUpContainer::PopUpWindow::TellExpanded()
+{
+    QAccessible::State changed;
+    changed.expanded = true;
+    QAccessibleStateChangeEvent event(button, changed);
+    QAccessible::updateAccessibility(&event);
+}
+
 ButtonWithPopUpContainer::ButtonWithPopUpContainer(QWidget* parent) : QToolButton(parent), popUp(new PopUpWindow(this))
 {
+    Common::AccessibleFactory<ButtonWithPopUpContainer, PopUpWindow::AccessibleButton>::Install();
     setCheckable(true);
     connect(this, &QAbstractButton::clicked, this, [this] {
         if (popUp->showPopupOnClick)
@@ -243,8 +304,10 @@ int ButtonWithPopUpContainer::WidgetsCount() const
 
 void ButtonWithPopUpContainer::ShowPopup()
 {
+    const QPointer<ButtonWithPopUpContainer> self(this);
     setChecked(true);
-    popUp->show();
+    if (self)
+        popUp->show();
 }
 
 void ButtonWithPopUpContainer::hideEvent(QHideEvent* event)

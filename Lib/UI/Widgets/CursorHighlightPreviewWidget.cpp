@@ -4,7 +4,6 @@
 
 #include <Zelkor/Util/ImageGenerator.h>
 
-#include <QAccessibleWidget>
 #include <QCoreApplication>
 #include <QPainter>
 
@@ -46,14 +45,14 @@ void PaintFrame(QPainter& painter, const QRect& outside, int width, const QColor
         painter.fillRect(part, color);
 }
 
-class AccessiblePreview : public QAccessibleWidget
+class AccessiblePreview : public Common::AccessibleAs<QAccessible::Graphic>
 {
 public:
-    explicit AccessiblePreview(QWidget* preview) : QAccessibleWidget(preview, QAccessible::Graphic) {}
+    using AccessibleAs::AccessibleAs;
 
     QString text(QAccessible::Text kind) const override
     {
-        QString own = QAccessibleWidget::text(kind);
+        QString own = AccessibleAs::text(kind);
         if (kind != QAccessible::Name || !own.isEmpty())
             return own;
         return QCoreApplication::translate("CursorHighlightPreviewWidget", "Preview of the cursor highlight");

@@ -1,5 +1,6 @@
 #include <UI/Widgets/CustomTitleBar.h>
 
+#include <UI/Common/AccessibleFactory.h>
 #include <UI/Common/BoxLayouts.h>
 
 #include <Zelkor/Vx/UI/Util/WindowMouseMoveHelper.h>
@@ -152,6 +153,7 @@ CustomTitleBar::Impl::Impl(CustomTitleBar* bar)
 
 CustomTitleBar::CustomTitleBar(QWidget* parent) : ZFrame(parent), impl(std::make_unique<Impl>(this))
 {
+    Common::AccessibleFactory<CustomTitleBar, Common::AccessibleAs<QAccessible::TitleBar>>::Install();
     setObjectName(QStringLiteral("CustomTitleBar"));
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed); // height to spare belongs to the content
     Retranslate();
@@ -235,9 +237,12 @@ void CustomTitleBar::SetUpWindow(QWidget* window)
         impl->closeButton->show();
     }
 
-    impl->titleLabel->setText(window->windowTitle());
-    connect(window, &QWidget::windowTitleChanged, this,
-            [this](const QString& title) { impl->titleLabel->setText(title); });
+    const auto showTitle = [this](const QString& title) {
+        impl->titleLabel->setText(title);
+        setAccessibleName(title);
+    };
+    showTitle(window->windowTitle());
+    connect(window, &QWidget::windowTitleChanged, this, showTitle);
     connect(window, &QWidget::windowIconChanged, this, [this](const QIcon& icon) { impl->ShowIcon(icon); });
 }
 

@@ -14,6 +14,15 @@ namespace {
 constexpr char PRESET_TYPE[] = "PresetType";
 constexpr char TAG[] = "Tag";
 
+// What the label has of the action's text: line feeds, only if it wraps words.
+QString FaceText(const QAction& action, const ZLabel& label)
+{
+    QString text = action.text();
+    if (!label.wordWrap())
+        text.remove(QLatin1Char('\n'));
+    return text;
+}
+
 } // namespace
 
 struct FastPresetButton::Impl
@@ -48,8 +57,10 @@ FastPresetButton::~FastPresetButton() = default;
 
 bool FastPresetButton::eventFilter(QObject* watched, QEvent* event)
 {
-    // A style sheet may have changed whether the label wraps words, and with it what becomes of line feeds.
-    if (event->type() == QEvent::Polish || event->type() == QEvent::StyleChange)
+    // A style sheet may have changed whether the label wraps words, and with it what becomes of line feeds. Nothing
+    // else changes with the style: a name or a tool tip that somebody gave the button stays.
+    const bool isStyle = event->type() == QEvent::Polish || event->type() == QEvent::StyleChange;
+    if (isStyle && impl->action && TextLabel()->originalText() != FaceText(*impl->action, *TextLabel()))
         Refresh();
     return ButtonWithLabels::eventFilter(watched, event);
 }
@@ -70,10 +81,7 @@ void FastPresetButton::Refresh()
     const QAction* action = impl->action;
     if (!action)
         return;
-    QString text = action->text();
-    if (!TextLabel()->wordWrap())
-        text.remove(QLatin1Char('\n'));
-    SetLabelText(text);
+    SetLabelText(FaceText(*action, *TextLabel()));
     SetHotkeyText(action->shortcut().toString(QKeySequence::PortableText));
     setToolTip(action->toolTip());
 }

@@ -1,5 +1,6 @@
 #include <UI/Widgets/MaskedToolTip.h>
 
+#include <UI/Common/AccessibleFactory.h>
 #include <UI/Common/BoxLayouts.h>
 #include <UI/Common/WithinReach.h>
 
@@ -47,6 +48,7 @@ MaskedToolTip::MaskedToolTip(QWidget* parent)
     : ZFrame(parent, Qt::Dialog | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint),
       titleLabel(MakeLabel("titleLabel", this)), textLabel(MakeLabel("textLabel", this))
 {
+    Common::AccessibleFactory<MaskedToolTip, Common::AccessibleAs<QAccessible::ToolTip>>::Install();
     setObjectName(QStringLiteral("MaskedToolTip"));
     auto* layout = Common::MakeBoxLayout<QVBoxLayout>(this);
     layout->addWidget(titleLabel);
@@ -60,8 +62,8 @@ void MaskedToolTip::Show(const QPoint& globalPos)
     ensurePolished();
     SetTextOrHide(titleLabel, title);
     SetTextOrHide(textLabel, text);
-    setAccessibleName(title);
-    setAccessibleDescription(text);
+    setAccessibleName(title.isEmpty() ? text : title);
+    setAccessibleDescription(title.isEmpty() ? QString() : text);
     if (!maskImage.isNull())
         setMask(OpaquePart(maskImage));
     if (displayTime > 0)

@@ -1,5 +1,6 @@
 #include <UI/Widgets/PixmapWidget.h>
 
+#include <UI/Common/AccessibleFactory.h>
 #include <UI/Widgets/PixmapCut.h>
 
 #include <QPainter>
@@ -22,7 +23,11 @@ struct PixmapWidget::Impl
     QPixmap scaled; ///< what is drawn, in device pixels; null until the next paint
 };
 
-PixmapWidget::PixmapWidget(QWidget* parent, Qt::WindowFlags f) : QFrame(parent, f), impl(std::make_unique<Impl>()) {}
+PixmapWidget::PixmapWidget(QWidget* parent, Qt::WindowFlags f) : QFrame(parent, f), impl(std::make_unique<Impl>())
+{
+    using AccessiblePicture = UI::Common::AccessibleAs<QAccessible::Graphic>;
+    UI::Common::AccessibleFactory<PixmapWidget, AccessiblePicture>::Install();
+}
 
 PixmapWidget::~PixmapWidget() = default;
 

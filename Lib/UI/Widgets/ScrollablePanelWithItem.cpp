@@ -1,10 +1,12 @@
 #include <UI/Widgets/ScrollablePanelWithItem.h>
 
+#include <UI/Common/AccessibleFactory.h>
 #include <UI/Common/AppendToLayout.h>
 #include <UI/Common/BoxLayouts.h>
 
 #include <QCoreApplication>
 #include <QEvent>
+#include <QPointer>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QStyle>
@@ -63,7 +65,11 @@ public:
             else if (event->type() == QEvent::LayoutRequest)
                 updateGeometry();
         } else if (event->type() == QEvent::FocusIn && watched->parent() == widget()) {
+            // Whoever hears of the new place may delete the panel, and the item with it.
+            const QPointer<Strip> self(this);
             Show(static_cast<QWidget*>(watched));
+            if (!self)
+                return true;
         }
         return QScrollArea::eventFilter(watched, event);
     }
@@ -124,6 +130,7 @@ struct ScrollablePanelWithItem::Parts
 ScrollablePanelWithItem::ScrollablePanelWithItem(QWidget* parent)
     : ZFrame(parent), items(std::make_unique<Items>()), parts(std::make_unique<Parts>())
 {
+    Common::AccessibleFactory<ScrollablePanelWithItem, Common::AccessibleAs<QAccessible::ToolBar>>::Install();
     const auto makeScrollButton = [this](const QString& objectName, const QString& name) {
         auto* button = new QToolButton(this);
         button->setObjectName(objectName);

@@ -1,5 +1,6 @@
 #include <UI/Widgets/SliderWithTickLabels.h>
 
+#include <UI/Common/AccessibleFactory.h>
 #include <UI/Common/AppendToLayout.h>
 #include <UI/Common/BoxLayouts.h>
 #include <UI/Kit/ZLabel.h>
@@ -38,6 +39,7 @@ struct Q_DECL_HIDDEN SliderWithTickLabels::Impl
 
 SliderWithTickLabels::SliderWithTickLabels(QWidget* parent) : ZFrame(parent), impl(std::make_unique<Impl>())
 {
+    UI::Common::AccessibleFactory<SliderWithTickLabels, UI::Common::AccessibleAs<QAccessible::Grouping>>::Install();
     impl->slider = new TickSlider(this);
     impl->slider->setObjectName(QStringLiteral("slider"));
     impl->labelsFrame = new ZFrame(this);

@@ -1,5 +1,7 @@
 #include <UI/Widgets/VideoPreviewWidget.h>
 
+#include <UI/Common/AccessibleFactory.h>
+
 #include <Zelkor/Core/CoreManager.h>
 #include <Zelkor/Proc/ImplNames.h>
 #include <Zelkor/Proc/SettingsColorspaceConverter.h>
@@ -31,6 +33,18 @@ bool Exceeds(const QSize& size, const QSize& area)
 {
     return size.width() > area.width() || size.height() > area.height();
 }
+
+class AccessibleVideo : public Common::AccessibleAs<QAccessible::Graphic>
+{
+public:
+    using AccessibleAs::AccessibleAs;
+
+    QString text(QAccessible::Text kind) const override
+    {
+        QString own = AccessibleAs::text(kind);
+        return kind == QAccessible::Name && own.isEmpty() ? VideoPreviewWidget::tr("Video preview") : own;
+    }
+};
 
 } // namespace
 
@@ -119,7 +133,10 @@ void VideoPreviewWidget::Impl::RequestRepaint()
         QCoreApplication::postEvent(widget, event.release());
 }
 
-VideoPreviewWidget::VideoPreviewWidget(QWidget* parent) : QFrame(parent), impl(std::make_unique<Impl>(this)) {}
+VideoPreviewWidget::VideoPreviewWidget(QWidget* parent) : QFrame(parent), impl(std::make_unique<Impl>(this))
+{
+    Common::AccessibleFactory<VideoPreviewWidget, AccessibleVideo>::Install();
+}
 
 VideoPreviewWidget::~VideoPreviewWidget()
 {

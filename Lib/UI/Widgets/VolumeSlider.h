@@ -45,7 +45,8 @@ public Q_SLOTS:
     void HideToolTip();
 
 Q_SIGNALS:
-    /// The slider has another value, by a person or by the application.
+    /// The slider has another value, by a person or by the application. Like all sliders of Qt it is not done yet when
+    /// it tells that: a slot that wants it gone calls deleteLater().
     void VolumeChanged(int value);
 
 protected:
