@@ -3,6 +3,7 @@
 #include "GalleryWindow.h"
 #include "RecorderWindow.h"
 #include "Screenshot.h"
+#include "Scrolled.h"
 
 #include <UI/Kit/ZRuntimeStylesheetEditor.h>
 
@@ -48,16 +49,6 @@ int Save(const QImage& picture, const QString& file)
         return EXIT_SUCCESS;
     Complain(QString("cannot write the picture '%1'").arg(file));
     return EXIT_FAILURE;
-}
-
-void Show(QWidget* window, const QSize& size)
-{
-    if (size.isValid()) {
-        // The person's size counts, also below what the window would like.
-        window->setMinimumSize(1, 1);
-        window->resize(size);
-    }
-    window->show();
 }
 
 } // namespace
@@ -141,6 +132,18 @@ QWidget* Application::OpenPage(const QString& name)
     gallery->OpenPage(name);
     Show(gallery.get(), options.size);
     return gallery.get();
+}
+
+void Application::Show(QWidget* window, const QSize& size) const
+{
+    if (size.isValid()) {
+        // The person's size counts, also below what the window would like.
+        window->setMinimumSize(1, 1);
+        window->resize(size);
+    } else if (!options.TakesPictures()) {
+        FitScreen(window);
+    }
+    window->show();
 }
 
 void Application::MakeGallery()

@@ -32,6 +32,7 @@ private:
     void UseLanguage(const QString& code);
     void UseStyle(const QString& name);
     QWidget* OpenPage(const QString& name);
+    void Show(QWidget* window, const QSize& size) const;
     void MakeGallery();
     void OpenWidgets();
     void OpenStyleEditor();

@@ -75,7 +75,6 @@ Entry ButtonWithLabelsEntry()
                                         }),
             DisabledState(),
         },
-        [](QWidget* parent) -> QObject* { return new ButtonWithLabels(Qt::Horizontal, parent); },
     };
 }
 

@@ -66,7 +66,7 @@ Entry VideoPreviewEntry()
                                    preview.setEnabled(false);
                                }),
         },
-        MakeBare<VideoPreviewWidget>,
+        nullptr,
         2,
     };
 }

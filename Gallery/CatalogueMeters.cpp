@@ -108,7 +108,7 @@ Entry PixmapWidgetEntry()
             MakeState<Picture>(Catalogue::tr("No picture"), [](Picture& picture) { picture.SetPixmap(QPixmap()); }),
             DisabledState(),
         },
-        [](QWidget* parent) -> QObject* { return new PixmapWidget(parent, Qt::WindowFlags()); },
+        nullptr,
         3,
     };
 }

@@ -106,7 +106,7 @@ Entry TabBarEntry()
             MakeState<QTabBar>(Catalogue::tr("Vertical"), MakeVertical),
             DisabledState(),
         },
-        MakeBare<Vx::HorizontalTabBar>,
+        nullptr,
         1,
     };
 }

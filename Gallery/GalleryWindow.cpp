@@ -2,6 +2,7 @@
 #include "Catalogue.h"
 #include "RecorderView.h"
 #include "SceneBar.h"
+#include "Scrolled.h"
 #include "TrimPage.h"
 #include "WidgetPage.h"
 
@@ -12,7 +13,7 @@ namespace Zelkor::Gallery {
 
 namespace {
 
-constexpr int COMPACT_BELOW = 640; ///< width of the window below which the list shows icons only
+constexpr int COMPACT_BELOW = 720; ///< width of the window below which the list shows icons only
 constexpr QSize PREFERRED_SIZE(1120, 720);
 
 } // namespace
@@ -54,9 +55,9 @@ void GalleryWindow::ShowPage(const QString& name)
     if (widgetPage)
         page = widgetPage;
     else if (name == TrimPageName())
-        page = new TrimPage;
+        page = new Scrolled(new TrimPage);
     else
-        page = new RecorderView(model, preferences);
+        page = new Scrolled(new RecorderView(model, preferences));
     body->addWidget(page, 1);
 }
 

@@ -1,4 +1,5 @@
 #include "PropertyPanel.h"
+#include "PropertyValue.h"
 #include "StyleSheet.h"
 #include "StyleSheetLine.h"
 #include "Texts.h"
@@ -202,13 +203,14 @@ void PropertyPanel::AddRow(const QMetaProperty& property, QGridLayout* grid)
     const QString name = property.name();
     const int index = int(rows.size());
     QWidget* parent = grid->parentWidget();
-    Row row{property, ReadProperty(property, object), QString(), {}, new QLabel(BreakableName(name), parent),
-            nullptr,  new QToolButton(parent)};
-    row.editor = CreatePropertyEditor(property, parent,
-                                      [this, index, made = generation](const QVariant& value, const QString& file) {
-                                          if (made == generation)
-                                              Write(index, value, file);
-                                      });
+    PropertyEditor editor = CreatePropertyEditor(
+        property, parent, [this, index, made = generation](const QVariant& value, const QString& file) {
+            if (made == generation)
+                Write(index, value, file);
+        });
+    auto* label = new QLabel(BreakableName(name), parent);
+    auto* reset = new QToolButton(parent);
+    Row row{property, ReadProperty(property, object), QString(), std::move(editor), label, nullptr, reset};
     row.name->setWordWrap(true);
     AlignAtStart(row.name);
     QWidget* control = row.editor.control;

@@ -1,5 +1,6 @@
 #include "RecorderModel.h"
 
+#include <QCoreApplication>
 #include <QLocale>
 
 #include <algorithm>
@@ -22,6 +23,13 @@ constexpr double LOWEST_RATE = 1;
 QString IdOf(const Device& device)
 {
     return QString::fromStdString(device->GetId());
+}
+
+// Devices have the name that they come with. The test picture is ours, and is called what its settings dialog calls it.
+QString NameOf(const Device& device)
+{
+    return device->GetKind() == Kind::TestPicture ? QCoreApplication::translate("TestPicture", "Test picture")
+                                                  : QString::fromStdString(device->GetName());
 }
 
 QVector<double> RatesOf(const StandIn::VideoMode& mode)
@@ -111,7 +119,7 @@ QVector<RecorderModel::DeviceItem> RecorderModel::Devices() const
 {
     QVector<DeviceItem> items;
     const auto append = [&items](const Device& device, bool isPresent) {
-        items.append({IdOf(device), QString::fromStdString(device->GetName()), device->GetKind(), isPresent});
+        items.append({IdOf(device), NameOf(device), device->GetKind(), isPresent});
     };
     if (current && !IsCurrentPresent())
         append(current, false);
@@ -146,7 +154,7 @@ QString RecorderModel::CurrentDeviceId() const
 
 QString RecorderModel::CurrentDeviceName() const
 {
-    return current ? QString::fromStdString(current->GetName()) : QString();
+    return current ? NameOf(current) : QString();
 }
 
 void RecorderModel::ChooseDevice(const QString& id)

@@ -1,5 +1,6 @@
 #include "RecorderWindow.h"
 #include "RecorderView.h"
+#include "Scrolled.h"
 #include "SettingsDialog.h"
 #include "StyleSheet.h"
 #include "Texts.h"
@@ -25,7 +26,7 @@ RecorderWindow::RecorderWindow(RecorderModel* model, Preferences* preferences)
     setObjectName("recorderWindow");
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(view);
+    layout->addWidget(new Scrolled(view));
     auto* titleBar = new CustomTitleBar(this);
     widgetsButton = new QToolButton;
     styleButton = new QToolButton;

@@ -29,61 +29,36 @@ int FirstOwnProperty(const QMetaObject* metaObject)
     return metaObject->propertyCount();
 }
 
-/// Another value than `old`; invalid for types that a form cannot hold.
-QVariant Other(const QMetaProperty& property, const QVariant& old)
+/// A value, and how Qt Designer writes it.
+struct Written
 {
+    QVariant value;
+    QString xml;
+};
+
+/// Another value than `old`; invalid for types that a form cannot hold.
+Written Other(const QMetaProperty& property, const QVariant& old)
+{
+    const int number = old.toInt();
     if (property.isEnumType()) {
         const QMetaEnum keys = property.enumerator();
-        const int last = keys.value(keys.keyCount() - 1);
-        return last == old.toInt() ? keys.value(0) : last;
+        const int i = keys.value(0) == number ? keys.keyCount() - 1 : 0;
+        const QString xml = property.isFlagType() ? "<set>%1::%2</set>" : "<enum>%1::%2</enum>";
+        return {keys.value(i), xml.arg(keys.scope(), keys.key(i))};
     }
     switch (old.userType()) {
     case QMetaType::Bool:
-        return !old.toBool();
+        return {!old.toBool(), old.toBool() ? "<bool>false</bool>" : "<bool>true</bool>"};
     case QMetaType::Int:
-        return old.toInt() + 3;
+        return {number + 3, QString("<number>%1</number>").arg(number + 3)};
     case QMetaType::QString:
-        return QStringLiteral("a.png,b.png");
+        return {"a.png,b.png", "<string>a.png,b.png</string>"};
     case QMetaType::QColor:
-        return QColor(53, 103, old.value<QColor>().blue() ^ 0xff);
+        return {QColor(53, 103, 17), "<color><red>53</red><green>103</green><blue>17</blue></color>"};
     case QMetaType::QRect:
-        return QRect(5, 6, 7, 8);
+        return {QRect(5, 6, 7, 8), "<rect><x>5</x><y>6</y><width>7</width><height>8</height></rect>"};
     default:
         return {};
-    }
-}
-
-QString Elements(const QVector<QPair<const char*, int>>& numbers)
-{
-    QString text;
-    for (const auto& [name, number] : numbers)
-        text += QStringLiteral("<%1>%2</%1>").arg(name).arg(number);
-    return text;
-}
-
-/// The value as Qt Designer writes it.
-QString Xml(const QMetaProperty& property, const QVariant& value)
-{
-    if (property.isEnumType()) {
-        const QMetaEnum keys = property.enumerator();
-        const QString key = QStringLiteral("%1::%2").arg(keys.scope(), keys.valueToKey(value.toInt()));
-        return QStringLiteral("<%1>%2</%1>").arg(property.isFlagType() ? "set" : "enum", key);
-    }
-    const QColor color = value.value<QColor>();
-    const QRect rect = value.toRect();
-    switch (value.userType()) {
-    case QMetaType::Bool:
-        return QStringLiteral("<bool>%1</bool>").arg(value.toString());
-    case QMetaType::Int:
-        return QStringLiteral("<number>%1</number>").arg(value.toInt());
-    case QMetaType::QColor:
-        return QStringLiteral("<color>%1</color>")
-            .arg(Elements({{"red", color.red()}, {"green", color.green()}, {"blue", color.blue()}}));
-    case QMetaType::QRect:
-        return QStringLiteral("<rect>%1</rect>")
-            .arg(Elements({{"x", rect.x()}, {"y", rect.y()}, {"width", rect.width()}, {"height", rect.height()}}));
-    default:
-        return QStringLiteral("<string>%1</string>").arg(value.toString());
     }
 }
 
@@ -128,13 +103,14 @@ private:
             QVector<QMetaProperty> written;
             for (int i = FirstOwnProperty(metaObject); i < metaObject->propertyCount(); ++i) {
                 const QMetaProperty property = metaObject->property(i);
-                const QVariant value = Other(property, property.read(widget.get()));
-                if (!value.isValid() || !property.isDesignable(widget.get()) || !property.write(widget.get(), value))
+                const Written other = Other(property, property.read(widget.get()));
+                if (!other.value.isValid() || !property.isDesignable(widget.get()) ||
+                    !property.write(widget.get(), other.value))
                     continue;
                 written.append(property);
-                Append(node, Parsed(QStringLiteral("<property name=\"%1\" stdset=\"0\">%2</property>")
-                                        .arg(property.name(), Xml(property, value)))
-                                 .documentElement());
+                const QString xml =
+                    QString("<property name=\"%1\" stdset=\"0\">%2</property>").arg(property.name(), other.xml);
+                Append(node, Parsed(xml).documentElement());
             }
             for (const QMetaProperty& property : written)
                 expected[description->name()][property.name()] = property.read(widget.get());

@@ -4,6 +4,7 @@
 #include <Gallery/Preferences.h>
 #include <Gallery/RecorderModel.h>
 #include <Gallery/RecorderView.h>
+#include <Gallery/Scrolled.h>
 #include <Gallery/StateCard.h>
 #include <Gallery/StyleSheet.h>
 #include <Gallery/WidgetPage.h>
@@ -21,6 +22,7 @@
 #include <QListWidget>
 #include <QMenu>
 #include <QPointer>
+#include <QScreen>
 #include <QToolButton>
 
 using namespace Zelkor;
@@ -55,6 +57,19 @@ public:
     RecorderModel model;
     Preferences preferences;
     RecorderView view{&model, &preferences};
+};
+
+/// The gallery, shown.
+struct Browser
+{
+    Browser() { gallery.show(); }
+
+    WidgetPage* Page() const { return gallery.findChild<WidgetPage*>(); }
+
+    RecorderModel model;
+    Preferences preferences;
+    GalleryWindow gallery{&model, &preferences};
+    QListWidget* list = gallery.findChild<QListWidget*>("pageList");
 };
 
 void ChooseLikeAPerson(QComboBox* combo, int index)
@@ -190,117 +205,95 @@ private Q_SLOTS:
                 names.append(widget->accessibleName());
             widget = widget->nextInFocusChain();
         } while (widget != start);
-        QCOMPARE(names, QStringList({"Record",
-                                     "Full screen",
-                                     "Drawing colour",
-                                     "Click sound",
-                                     "Source",
-                                     "Audio",
-                                     "Settings of the device",
-                                     "Pointer",
-                                     "Pen",
-                                     "Marker",
-                                     "Line",
-                                     "Arrow",
-                                     "Rectangle",
-                                     "Ellipse",
-                                     "Text",
-                                     "Numbered step",
-                                     "Spotlight",
-                                     "Blur",
-                                     "Magnifier",
-                                     "Eraser",
-                                     "Stop"}));
+        QCOMPARE(names.join(", "),
+                 QString("Record, Full screen, Drawing colour, Click sound, Source, Audio, Settings of the device, "
+                         "Pointer, Pen, Marker, Line, Arrow, Rectangle, Ellipse, Text, Numbered step, Spotlight, Blur, "
+                         "Magnifier, Eraser, Stop"));
     }
 
     void galleryHasOnePageAtATime()
     {
-        RecorderModel model;
-        model.SetDevices({StandIn::CreateTestPictureDevice()});
-        Preferences preferences;
-        GalleryWindow gallery(&model, &preferences);
-        gallery.show();
+        Browser browser;
+        GalleryWindow& gallery = browser.gallery;
         gallery.OpenPage("NoWidget");
-        QVERIFY(!gallery.findChild<WidgetPage*>());
+        QVERIFY(!browser.Page());
         for (const QString& name : PageNames()) {
             gallery.OpenPage(name);
             QCOMPARE(gallery.findChildren<WidgetPage*>().size(), FindEntry(name) ? 1 : 0);
             QCOMPARE(gallery.findChildren<RecorderView*>().size(), name == RecorderPageName() ? 1 : 0);
+            // A page without room scrolls.
+            QCoreApplication::processEvents();
+            gallery.resize(500, 250);
+            QCOMPARE(gallery.size(), QSize(500, 250));
         }
 
         // The arrow keys walk over the headings of groups.
-        auto* list = gallery.findChild<QListWidget*>("pageList");
+        QListWidget* list = browser.list;
+        const QString last = PageNames().constLast();
+        gallery.resize(900, 600);
         gallery.OpenPage(RecorderPageName());
         for (int i = 1; i < PageNames().size(); ++i)
             QTest::keyClick(list, Qt::Key_Down);
-        QCOMPARE(list->currentItem()->text(), PageNames().constLast());
+        QCOMPARE(list->currentItem()->text(), last);
 
         // In a narrow window the list leaves the room to the page, and its names to tool tips.
         const int fullWidth = list->width();
         gallery.resize(500, 600);
         QVERIFY(list->width() < fullWidth / 2);
-        QCOMPARE(list->currentItem()->toolTip(), PageNames().constLast());
+        QCOMPARE(list->currentItem()->text() + list->currentItem()->toolTip(), last);
         gallery.resize(900, 600);
         QCOMPARE(list->width(), fullWidth);
-        QCOMPARE(list->currentItem()->text(), PageNames().constLast());
+        QCOMPARE(list->currentItem()->text(), last);
     }
 
     void searchLeavesTheHitsUnderTheirHeadings()
     {
-        RecorderModel model;
-        Preferences preferences;
-        GalleryWindow gallery(&model, &preferences);
-        gallery.show();
+        Browser browser;
+        GalleryWindow& gallery = browser.gallery;
         QVERIFY(QTest::qWaitForWindowActive(&gallery));
-        auto* list = gallery.findChild<QListWidget*>("pageList");
         auto* search = gallery.findChild<QLineEdit*>("pageSearch");
-        const auto shown = [list] {
+        const auto shown = [&] {
             QStringList texts;
-            for (int row = 0; row < list->count(); ++row)
-                texts += list->item(row)->isHidden() ? QStringList() : QStringList(list->item(row)->text());
+            for (int row = 0; row < browser.list->count(); ++row)
+                texts +=
+                    browser.list->item(row)->isHidden() ? QStringList() : QStringList(browser.list->item(row)->text());
             return texts;
         };
         const QStringList all = shown();
-        QTest::keyClick(&gallery, Qt::Key_F, Qt::ControlModifier);
-        QTRY_VERIFY(search->hasFocus());
-        QTest::keyClicks(search, "colorb");
-        QCOMPARE(shown(), QStringList({"Buttons", "ColorButton"}));
-        QTest::keyClick(search, Qt::Key_Return);
-        QCOMPARE(list->currentItem()->text(), QString("ColorButton"));
-        QTest::keyClick(search, Qt::Key_Escape);
-        QCOMPARE(shown(), all);
-
         // In a narrow window a search needs the names.
-        gallery.resize(500, 600);
-        QVERIFY(!search->isVisible());
-        QTest::keyClick(&gallery, Qt::Key_F, Qt::ControlModifier);
-        QTRY_VERIFY(search->hasFocus());
-        QTest::keyClicks(search, "colorb");
-        QCOMPARE(shown(), QStringList({"Buttons", "ColorButton"}));
-        QTest::keyClick(search, Qt::Key_Escape);
+        for (const int width : {900, 500}) {
+            gallery.resize(width, 600);
+            QCOMPARE(search->isVisible(), width == 900);
+            QTest::keyClick(&gallery, Qt::Key_F, Qt::ControlModifier);
+            QTRY_VERIFY(search->hasFocus());
+            QTest::keyClicks(search, "colorb");
+            QCOMPARE(shown(), QStringList({"Buttons", "ColorButton"}));
+            QTest::keyClick(search, Qt::Key_Return);
+            QCOMPARE(browser.list->currentItem()->data(Qt::UserRole), QVariant("ColorButton"));
+            QTest::keyClick(search, Qt::Key_Escape);
+            if (width == 900)
+                QCOMPARE(shown(), all);
+        }
         QVERIFY(!search->isVisible());
     }
 
     void sceneChangesWhileAPageIsOpen()
     {
-        RecorderModel model;
-        Preferences preferences;
+        Browser browser;
+        GalleryWindow& gallery = browser.gallery;
         Translations translations;
-        GalleryWindow gallery(&model, &preferences);
-        gallery.show();
         gallery.OpenPage("ColorButton");
-        const auto page = [&] { return gallery.findChild<WidgetPage*>(); };
-        const auto caption = [&] { return page()->findChildren<StateCard*>().last()->accessibleName(); };
-        page()->SelectState(2);
-        connect(&preferences, &Preferences::LanguageChanged, &gallery,
+        const auto caption = [&] { return browser.Page()->findChildren<StateCard*>().last()->accessibleName(); };
+        browser.Page()->SelectState(2);
+        connect(&browser.preferences, &Preferences::LanguageChanged, &gallery,
                 [&](const QString& code) { QVERIFY(translations.Use(code)); });
         for (QAction* action : gallery.findChild<QToolButton*>("languageButton")->menu()->actions()) {
             if (action->text() == "Deutsch")
                 action->trigger();
         }
         QTRY_COMPARE(caption(), QString("Deaktiviert"));
-        QCOMPARE(page()->SelectedState(), 2);
-        preferences.SetLanguage("en");
+        QCOMPARE(browser.Page()->SelectedState(), 2);
+        browser.preferences.SetLanguage("en");
         QTRY_COMPARE(caption(), QString("Disabled"));
 
         QSignalSpy restarts(&gallery, &GalleryWindow::RestartRequested);
@@ -309,12 +302,22 @@ private Q_SLOTS:
         scales.last()->trigger();
         QCOMPARE(restarts, QList<QVariantList>({{2.0, "ColorButton"}}));
 
-        const QPointer<WidgetPage> old = page();
+        const QPointer<WidgetPage> old = browser.Page();
         QApplication::setLayoutDirection(Qt::RightToLeft);
-        QTRY_VERIFY(!old && page());
-        QCOMPARE(page()->SelectedState(), 2);
+        QTRY_VERIFY(!old && browser.Page());
+        QCOMPARE(browser.Page()->SelectedState(), 2);
         QApplication::setLayoutDirection(Qt::LeftToRight);
-        QTRY_COMPARE(page()->layoutDirection(), Qt::LeftToRight);
+        QTRY_COMPARE(browser.Page()->layoutDirection(), Qt::LeftToRight);
+    }
+
+    void windowsFitTheScreen()
+    {
+        QWidget window;
+        const QRect screen = window.screen()->availableGeometry();
+        window.resize(200, 2 * screen.height());
+        FitScreen(&window);
+        QCOMPARE(window.width(), 200);
+        QVERIFY(window.height() < screen.height() && window.height() > screen.height() / 2);
     }
 };
 

@@ -109,10 +109,6 @@ bool HasDefault(const QMetaProperty& property, QObject* object, QString text)
         return text == "none" && value.value<QPixmap>().isNull();
     case QMetaType::QPointF:
         return text == "0, 0" && value.toPointF().isNull();
-    case QMetaType::QString:
-        return (text == "empty" ? QString() : text) == value.toString();
-    case QMetaType::QStringList:
-        return text == "empty" && value.toStringList().isEmpty();
     case QMetaType::QRect: {
         // There is no rectangle that is the same for all sizes.
         auto* widget = qobject_cast<QWidget*>(object);
@@ -120,8 +116,10 @@ bool HasDefault(const QMetaProperty& property, QObject* object, QString text)
         widget->grab();
         return text == "by the size" && property.read(object) != value;
     }
-    default:
-        return text == value.toString();
+    default: {
+        const bool isList = property.userType() == QMetaType::QStringList;
+        return (text == "empty" ? QString() : text) == (isList ? value.toStringList().join(',') : value.toString());
+    }
     }
 }
 
@@ -139,14 +137,6 @@ QObject* FindPiece(const QString& className, QWidget* parent)
         }
     }
     return nullptr;
-}
-
-const QMetaObject* Declaring(const QObject* object, const QString& className)
-{
-    const QMetaObject* meta = object->metaObject();
-    while (meta && className != meta->className())
-        meta = meta->superClass();
-    return meta;
 }
 
 } // namespace
@@ -205,7 +195,9 @@ private Q_SLOTS:
         const Entry* entry = FindEntry(className.section("::", -1));
         QObject* object = entry ? CreateBare(*entry, parent.get()) : FindPiece(className, parent.get());
         QVERIFY2(object, "no entry shows such an object");
-        const QMetaObject* meta = Declaring(object, className);
+        const QMetaObject* meta = object->metaObject();
+        while (meta && className != meta->className())
+            meta = meta->superClass();
         QVERIFY2(meta, object->metaObject()->className());
         QSet<QString> declared;
         for (int i = meta->propertyOffset(); i < meta->propertyCount(); ++i)
