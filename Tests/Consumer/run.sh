@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
-# run.sh installed|packages BUILD FOLDER: installs what BUILD has built into FOLDER, or makes its packages and unpacks
-# them there, and looks whether others can use what lies there then: they build and run the program beside this script
-# with CMake, and with pkg-config alone. The place is another one than what was installed or packed for.
+# run.sh installed|packages|zip BUILD FOLDER: installs what BUILD has built into FOLDER, or makes its packages or its zip
+# for Windows and unpacks them there, and looks whether others can use what lies there then: they build and run the
+# program beside this script with CMake, and with pkg-config alone. The place is another one than what was installed or
+# packed for.
 set -euo pipefail
 mode=$1
 build=$2
@@ -12,6 +13,11 @@ export QT_QPA_PLATFORM=offscreen LC_ALL=C.UTF-8 XDG_RUNTIME_DIR=$folder/runtime
 CMAKE_CXX_COMPILER_LAUNCHER=$(command -v ccache || true)
 export CMAKE_CXX_COMPILER_LAUNCHER
 unset DESTDIR LD_LIBRARY_PATH CMAKE_PREFIX_PATH PKG_CONFIG_PATH
+
+# How a program is built with CMake, and what starts it.
+settings=()
+start=()
+consumer=consumer
 
 fail() { printf '%s\n' "$*"; exit 1; }
 
@@ -48,6 +54,20 @@ pack_and_unpack() {
     need vxuiwidgets-tools 'libvxuiwidgets1 \(='
 }
 
+unzip_and_go_to_wine() {
+    cpack -G ZIP --config "$build/CPackConfig.cmake" -B "$folder/packages" >"$folder/cpack.log" 2>&1 ||
+        fail "$(tail -n 30 "$folder/cpack.log")"
+    mkdir "$folder/some where"
+    (cd "$folder/some where" && cmake -E tar xf "$folder"/packages/*.zip)
+    prefix=$(echo "$folder/some where"/*)
+    settings=(-DCMAKE_TOOLCHAIN_FILE="$source/cmake/VxWindowsToolchain.cmake" -DVX_WINDOWS_SDK="$(cache VX_WINDOWS_SDK)")
+    # With the libraries and plugins that are in the zip, and no others.
+    start=("$source/tools/windows/in-wine" "$prefix")
+    consumer=consumer.exe
+}
+
+cache() { sed -n "s/^$1:[A-Z]*=//p" "$build/CMakeCache.txt"; }
+
 # runs_from_here FILE: a program or library takes our libraries from the place that is looked at.
 runs_from_here() {
     local found
@@ -65,10 +85,10 @@ look_at_files() {
 }
 
 build_with_cmake() {
-    { cmake -S "$here" -B "$folder/cmake" -G Ninja -DCMAKE_PREFIX_PATH="$prefix" && cmake --build "$folder/cmake"; } \
-        >"$folder/cmake.log" 2>&1 || fail "$(cat "$folder/cmake.log")"
-    runs_from_here "$folder/cmake/consumer"
-    "$folder/cmake/consumer" || fail "the program built with CMake does not show what it shall"
+    cmake -S "$here" -B "$folder/cmake" -G Ninja -DCMAKE_PREFIX_PATH="$prefix" "${settings[@]}" >"$folder/cmake.log" 2>&1 &&
+        cmake --build "$folder/cmake" >>"$folder/cmake.log" 2>&1 || fail "$(cat "$folder/cmake.log")"
+    [ "$mode" = zip ] || runs_from_here "$folder/cmake/$consumer"
+    "${start[@]}" "$folder/cmake/$consumer" || fail "the program built with CMake does not show what it shall"
 }
 
 build_with_pkg_config() {
@@ -87,6 +107,14 @@ build_with_pkg_config() {
     "${compile[@]}" -c "$folder/headers.cpp" $(pkg-config --cflags VxUiWidgetsKit) -o "$folder/headers.o"
 }
 
+run_gallery_in_wine() {
+    # Where the plugins are it has to read from the file beside it.
+    QT_PLUGIN_PATH='Z:\nowhere' "${start[@]}" "$prefix/bin/VxGallery.exe" --language de \
+        --style "$prefix/share/VxUiWidgets/Styles/Light.qss" --page ColorButton --after 0 --shot "$folder/gallery.png" ||
+        fail "the gallery does not run from where the zip is unpacked"
+    [ -s "$folder/gallery.png" ] || fail "the gallery made no picture"
+}
+
 run_tools() {
     runs_from_here "$prefix/bin/VxGallery"
     "$prefix/bin/VxGallery" --language de --style "$prefix/share/VxUiWidgets/Styles/Light.qss" --page ColorButton \
@@ -102,9 +130,14 @@ mkdir -m 700 "$XDG_RUNTIME_DIR"
 case $mode in
 installed) install_and_move ;;
 packages) pack_and_unpack ;;
-*) fail "run.sh installed|packages BUILD FOLDER" ;;
+zip) unzip_and_go_to_wine ;;
+*) fail "run.sh installed|packages|zip BUILD FOLDER" ;;
 esac
 look_at_files
 build_with_cmake
-build_with_pkg_config
-run_tools
+if [ "$mode" = zip ]; then
+    run_gallery_in_wine
+else
+    build_with_pkg_config
+    run_tools
+fi

@@ -57,14 +57,10 @@ private Q_SLOTS:
         const auto row = [](const char* name, const FrameFormat& format, const char* extra, const char* detail = "") {
             QTest::newRow(name) << format << extra << detail;
         };
-        const std::pair<const char*, PixFmt> formats[] = {
-            {"I420", PixFmt::I420}, {"YV12", PixFmt::YV12},   {"NV12", PixFmt::NV12}, {"NV21", PixFmt::NV21},
-            {"YUY2", PixFmt::YUY2}, {"UYVY", PixFmt::UYVY},   {"RGB", PixFmt::RGB24}, {"BGR", PixFmt::BGR24},
-            {"RGBA", PixFmt::RGBA}, {"BGRA", PixFmt::BGRA},   {"ARGB", PixFmt::ARGB}, {"ABGR", PixFmt::ABGR},
-            {"BGRx", PixFmt::BGRX}, {"GRAY8", PixFmt::GRAY8},
-        };
-        for (const auto& [name, pixFmt] : formats)
-            row(name, {pixFmt, 322, 241}, "");
+        for (const PixFmt pixFmt :
+             {PixFmt::I420, PixFmt::YV12, PixFmt::NV12, PixFmt::NV21, PixFmt::YUY2, PixFmt::UYVY, PixFmt::RGB24,
+              PixFmt::BGR24, PixFmt::RGBA, PixFmt::BGRA, PixFmt::ARGB, PixFmt::ABGR, PixFmt::BGRX, PixFmt::GRAY8})
+            row(qPrintable(QString("format %1").arg(int(pixFmt))), {pixFmt, 322, 241}, "");
         row("NV12, BT.709 of full range", {PixFmt::NV12, 322, 241, ColorMatrix::BT709, ColorRange::Full},
             " ! capsfilter caps=video/x-raw,format=BGRA ! videoconvert"
             " ! capsfilter caps=video/x-raw,colorimetry=(string)1:3:5:1");

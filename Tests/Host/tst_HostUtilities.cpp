@@ -19,7 +19,6 @@ using Vx::UI::Util::WindowMouseMoveHelper;
 namespace {
 
 constexpr Qt::MouseButton LEFT = Qt::LeftButton;
-constexpr Qt::MouseButton RIGHT = Qt::RightButton;
 
 // A window that is moved by one handle.
 struct Scene
@@ -147,14 +146,14 @@ private Q_SLOTS:
     {
         Scene scene;
         scene.MoveBy({9, 9});
-        scene.Press(RIGHT);
-        scene.MoveBy({10, 10}, RIGHT);
+        scene.Press(Qt::RightButton);
+        scene.MoveBy({10, 10}, Qt::RightButton);
         scene.Press();
         scene.Send(QEvent::MouseButtonDblClick, LEFT, LEFT);
         scene.MoveBy({10, 10});
         scene.Press();
-        scene.Press(LEFT | RIGHT);
-        scene.MoveBy({10, 10}, LEFT | RIGHT);
+        scene.Press(LEFT | Qt::RightButton);
+        scene.MoveBy({10, 10}, LEFT | Qt::RightButton);
         scene.Press();
         scene.MoveBy({10, 10}, Qt::NoButton);
         scene.MoveBy({20, 20});

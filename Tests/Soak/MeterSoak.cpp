@@ -1,7 +1,7 @@
 // Feeds a visible level meter a hundred times a second. The first argument is the number of seconds. Fails when memory
 // or processor time grow after the first third.
 
-#include "Resident.h"
+#include "ProcessUse.h"
 
 #include <UI/Widgets/VolumeSlider.h>
 
@@ -11,7 +11,6 @@
 
 #include <cmath>
 #include <cstdio>
-#include <ctime>
 
 int main(int argc, char* argv[])
 {
@@ -34,19 +33,18 @@ int main(int argc, char* argv[])
     double processor[2] = {0, 0};
     int counted[2] = {0, 0};
     int second = 0;
-    std::clock_t last = std::clock();
+    double last = Support::ProcessorSeconds();
     QTimer watch;
     QObject::connect(&watch, &QTimer::timeout, &slider, [&] {
-        const std::clock_t now = std::clock();
+        const double now = Support::ProcessorSeconds();
         const int part = 3 * second < seconds ? 0 : 1;
         if (second > 0) { // the first one has the start in it
-            processor[part] += double(now - last) / CLOCKS_PER_SEC;
+            processor[part] += now - last;
             ++counted[part];
         }
         peakMemory[part] = std::max(peakMemory[part], Support::Resident());
         if (second % 60 == 0)
-            std::printf("%4d s: %.1f MB, %.2f %% of a processor\n", second, Support::Resident(),
-                        100.0 * double(now - last) / CLOCKS_PER_SEC);
+            std::printf("%4d s: %.1f MB, %.2f %% of a processor\n", second, Support::Resident(), 100 * (now - last));
         std::fflush(stdout);
         last = now;
         if (++second >= seconds)

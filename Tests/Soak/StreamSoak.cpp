@@ -1,7 +1,7 @@
 // Runs the live picture at 60 frames a second, with a stop and a start every second, and watches the memory. The first
 // argument is the number of seconds. Fails when the memory grows after the first third.
 
-#include "Resident.h"
+#include "ProcessUse.h"
 
 #include <UI/Widgets/VideoPreviewWidget.h>
 #include <UI/Widgets/WebCameraPreviewStream.h>
@@ -13,16 +13,20 @@
 
 #include <QTimer>
 
-#include <malloc.h>
-
 #include <cstdio>
+
+#if defined(__GLIBC__)
+#include <malloc.h>
+#endif
 
 int main(int argc, char* argv[])
 {
     Support::PrepareProcess(argv[0]);
     QApplication application(argc, argv);
-    // Frames go back to the system when they are freed. Otherwise the allocator keeps some, now these and now those.
+#if defined(__GLIBC__)
+    // Frames go back to the system when they are freed. Otherwise this allocator keeps some, now these and now those.
     mallopt(M_MMAP_THRESHOLD, 128 * 1024);
+#endif
     const int seconds = argc > 1 ? std::max(3, std::atoi(argv[1])) : 10;
 
     auto* preview = new Zelkor::Vx::UI::VideoPreviewWidget(nullptr);

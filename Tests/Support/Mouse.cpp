@@ -6,6 +6,9 @@
 #include <QProcess>
 #include <QtTest>
 
+#include <functional>
+#include <iterator>
+
 #if defined(Q_OS_WIN)
 #include <QtCore/qt_windows.h>
 #endif
@@ -22,6 +25,7 @@ void Send(DWORD what)
     input.type = INPUT_MOUSE;
     input.mi.dwFlags = what;
     QCOMPARE(SendInput(1, &input, sizeof input), 1u);
+    QCoreApplication::processEvents();
 }
 
 void Press(int button)
@@ -64,6 +68,7 @@ void MovePointer(const QPoint& global)
 {
 #if defined(Q_OS_WIN)
     QVERIFY(SetCursorPos(global.x(), global.y()));
+    QCoreApplication::processEvents();
 #else
     RunTool({"mousemove", QString::number(global.x()), QString::number(global.y())});
 #endif
@@ -75,6 +80,33 @@ void Click(const QPoint& global)
     Press(1);
     Release(1);
 }
+
+#if defined(Q_OS_WIN)
+
+// A move by the window system is a loop of its own inside the handling of an event, in which timers go on.
+bool Drag(const QPoint& global, const QPoint& way, int button)
+{
+    const QPoint first = global + QPoint(1, 0);
+    QPoint seen;
+    const EventWatch watch(qApp, [&](QEvent::Type type, QEvent* event) {
+        if (type == QEvent::MouseMove)
+            seen = static_cast<QMouseEvent*>(event)->globalPos();
+    });
+    MovePointer(global);
+    Press(button);
+    const std::function<void()> steps[] = {[&] { MovePointer(first); }, [&] { MovePointer(first + way); },
+                                           [&] { Release(button); }};
+    size_t next = 0;
+    QTimer timer;
+    QObject::connect(&timer, &QTimer::timeout, [&] {
+        if (next < std::size(steps))
+            steps[next++]();
+    });
+    timer.start(20);
+    return QTest::qWaitFor([&] { return next == std::size(steps); }) && seen != first + way;
+}
+
+#else
 
 bool Drag(const QPoint& global, const QPoint& way, int button)
 {
@@ -99,5 +131,7 @@ bool Drag(const QPoint& global, const QPoint& way, int button)
     Release(button);
     return taken;
 }
+
+#endif
 
 } // namespace Support

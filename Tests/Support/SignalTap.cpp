@@ -1,19 +1,30 @@
 #include <Support/SignalTap.h>
 
-#include <QMetaMethod>
-
 #include <utility>
 
 namespace Support {
 
-SignalTap::SignalTap(const QObject* object, std::function<void()> hear) : hear(std::move(hear))
+QVector<QMetaMethod> SignalsOf(const QObject* object)
 {
-    const QMetaMethod slot = metaObject()->method(metaObject()->indexOfSlot("Hear()"));
+    QVector<QMetaMethod> found;
     const QMetaObject* meta = object->metaObject();
     for (int i = QObject::staticMetaObject.methodCount(); i < meta->methodCount(); ++i) {
         if (meta->method(i).methodType() == QMetaMethod::Signal)
-            connect(object, meta->method(i), this, slot);
+            found.append(meta->method(i));
     }
+    return found;
+}
+
+SignalTap::SignalTap(const QObject* object, std::function<void()> hear)
+    : SignalTap(object, SignalsOf(object), std::move(hear))
+{}
+
+SignalTap::SignalTap(const QObject* object, const QVector<QMetaMethod>& heard, std::function<void()> hear)
+    : hear(std::move(hear))
+{
+    const QMetaMethod slot = metaObject()->method(metaObject()->indexOfSlot("Hear()"));
+    for (const QMetaMethod& signal : heard)
+        connect(object, signal, this, slot);
 }
 
 } // namespace Support

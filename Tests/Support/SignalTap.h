@@ -1,19 +1,24 @@
 #pragma once
 
+#include <QMetaMethod>
 #include <QObject>
+#include <QVector>
 
 #include <functional>
 
 namespace Support {
 
-/// While it lives, calls `hear` at every signal of `object` that a class below QObject declares, whatever its
-/// arguments.
+/// The signals that the classes below QObject declare.
+QVector<QMetaMethod> SignalsOf(const QObject* object);
+
+/// While it lives, calls `hear` at every signal of `object`, or at those of `heard`, whatever their arguments.
 class SignalTap : public QObject
 {
     Q_OBJECT
 
 public:
     SignalTap(const QObject* object, std::function<void()> hear);
+    SignalTap(const QObject* object, const QVector<QMetaMethod>& heard, std::function<void()> hear);
 
 private Q_SLOTS:
     void Hear() { hear(); }

@@ -37,12 +37,11 @@ private:
 private Q_SLOTS:
     void wheelOnlyInFocus()
     {
-        QWidget window;
         for (QWidget* field : QWidgetList{new ZCustomSlider, new ZSpinBox, new ZDoubleSpinBox}) {
             InRow(field->metaObject()->className());
+            QWidget window;
             field->setParent(&window);
             window.show();
-            field->show();
             window.activateWindow();
             QVERIFY(QTest::qWaitForWindowActive(&window));
             const auto value = [&] { return field->property("value").toDouble(); };
@@ -52,12 +51,10 @@ private Q_SLOTS:
             window.setFocus();
             field->setProperty("editableInFocus", true);
             QCOMPARE(PassedOn(field, 1), 1);
-            QVERIFY(!field->hasFocus());
-            QCOMPARE(value(), before);
+            QVERIFY(!field->hasFocus() && value() == before);
             field->setFocus();
             QCOMPARE(PassedOn(field, 1), 0);
             QVERIFY(value() > before);
-            field->hide();
         }
     }
 
@@ -67,14 +64,12 @@ private Q_SLOTS:
         ZComboBox combo(&window);
         combo.addItems({"a", "b", "c"});
         window.show();
-        combo.setMouseWheelEnabled(false);
-        combo.setFocus();
-        QCOMPARE(PassedOn(&combo, -1), 1);
-        QCOMPARE(combo.currentIndex(), 0);
-        combo.setMouseWheelEnabled(true);
-        window.setFocus();
-        QCOMPARE(PassedOn(&combo, -1), 0);
-        QCOMPARE(combo.currentIndex(), 1);
+        for (const bool isEnabled : {false, true}) {
+            combo.setMouseWheelEnabled(isEnabled);
+            isEnabled ? window.setFocus() : combo.setFocus();
+            QCOMPARE(PassedOn(&combo, -1), isEnabled ? 0 : 1);
+            QCOMPARE(combo.currentIndex(), isEnabled ? 1 : 0);
+        }
         QVERIFY(!combo.hasFocus());
     }
 
@@ -83,24 +78,21 @@ private Q_SLOTS:
         QWidget window;
         ZCustomSlider slider(&window);
         window.show();
-        const auto passed = [&] {
-            QVector<int> counts;
-            for (const int value : {0, 50, 99}) {
-                slider.setValue(value);
-                counts << PassedOn(&slider, 0, -5) << PassedOn(&slider, 0, 5);
-            }
-            return counts;
-        };
-        const QVector<int> all{1, 1, 1, 1, 1, 1};
-        slider.setEditableInFocus(true);
-        slider.setEditableInFocus(true);
-        QCOMPARE(passed(), all);
         window.activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(&window));
-        slider.setFocus();
-        QCOMPARE(passed(), QVector<int>({0, 1, 1, 1, 1, 0}));
-        slider.setEditableInFocus(false);
-        QCOMPARE(passed(), all);
+        using Counts = QVector<int>; // down and up at three values
+        const Counts all(6, 1);
+        for (const auto& [inFocus, focused, expected] :
+             {std::tuple(true, false, all), {true, true, Counts{0, 1, 1, 1, 1, 0}}, {false, true, all}}) {
+            slider.setEditableInFocus(inFocus);
+            focused ? slider.setFocus() : window.setFocus();
+            Counts passed;
+            for (const int value : {0, 50, 99}) {
+                slider.setValue(value);
+                passed << PassedOn(&slider, 0, -5) << PassedOn(&slider, 0, 5);
+            }
+            QCOMPARE(passed, expected);
+        }
     }
 
     void doubleSlider()
@@ -109,10 +101,8 @@ private Q_SLOTS:
         slider.setRange(-50, 100);
         slider.setValue(25);
         QSignalSpy changed(&slider, &ZDoubleSlider::doubleValueChanged);
-        slider.setMultiplier(0.1);
-        slider.setMultiplier(0.1);
-        for (const double bad : {0.0, -1e-12, INF, qQNaN()})
-            slider.setMultiplier(bad);
+        for (const double multiplier : {0.1, 0.1, 0.0, -1e-12, INF, qQNaN()})
+            slider.setMultiplier(multiplier);
         slider.setDoubleValue(2.46);
         slider.setDoubleValue(qQNaN());
         QCOMPARE(changed, (QList<QVariantList>{{2.5}, {2.5}}));
@@ -123,12 +113,12 @@ private Q_SLOTS:
             QCOMPARE(slider.value(), row.second);
             QCOMPARE(changed.last(), QVariantList{row.second * 0.1});
         }
+        // Turned over, the least is the largest.
         slider.setMultiplier(-0.5);
         QAccessibleValueInterface* value = QAccessible::queryAccessibleInterface(&slider)->valueInterface();
-        QCOMPARE(QVariantList({value->minimumValue(), value->currentValue(), value->maximumValue()}),
-                 QVariantList({-50.0, 25.0, 25.0}));
         value->setCurrentValue(-10);
-        QCOMPARE(slider.value(), 20);
+        QCOMPARE(QVariantList({value->minimumValue(), slider.value(), value->maximumValue()}),
+                 QVariantList({-50.0, 20, 25.0}));
     }
 
     void typedNumbersAreRoundedToSteps()
@@ -153,19 +143,18 @@ private Q_SLOTS:
                 field.setSingleStep(row.step);
                 field.setSuffix(" s");
                 field.setValue(1.2);
-                double atEnd = 0;
-                connect(&field, &QDoubleSpinBox::editingFinished, &field, [&] { atEnd = field.value(); });
+                QVector<double> atEnd;
+                connect(&field, &QDoubleSpinBox::editingFinished, &field, [&] { atEnd += field.value(); });
                 QSignalSpy changed(&field, QOverload<double>::of(&QDoubleSpinBox::valueChanged));
                 field.selectAll();
                 QTest::keyClicks(&field, row.typed);
                 QTest::keyClick(&field, Qt::Key_Return);
-                QCOMPARE(atEnd, row.expected);
-                QCOMPARE(field.text(), field.textFromValue(row.expected) + " s");
                 QVERIFY(tracking || changed.size() <= 1);
+                QCOMPARE(field.text(), field.textFromValue(row.expected) + " s");
                 // What was not typed stays.
                 field.setValue(7.7);
                 QTest::keyClick(&field, Qt::Key_Return);
-                QCOMPARE(field.value(), 7.7);
+                QCOMPARE(atEnd, QVector<double>({row.expected, 7.7}));
             }
         }
     }

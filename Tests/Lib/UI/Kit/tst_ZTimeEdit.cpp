@@ -1,12 +1,12 @@
 #include <UI/Kit/ZTimeEdit.h>
 
+#include <Support/Input.h>
 #include <Support/TestCase.h>
 
 #include <QAccessible>
 #include <QClipboard>
 #include <QLineEdit>
 #include <QSignalSpy>
-#include <QWheelEvent>
 
 namespace {
 
@@ -123,11 +123,7 @@ private Q_SLOTS:
         field.setDisplayFormatList({"yyyy", "", "hh:mm", "hh:mm:ss"});
         QCOMPARE(field.text() + field.minimumTime().toString(), QString("12:0012:00:00"));
         field.setTimeRange({1, 0}, {23, 59, 59});
-        const auto takesWheel = [&] {
-            QWheelEvent event({2, 2}, {2, 2}, {}, {0, 120}, {}, {}, Qt::NoScrollPhase, false);
-            return QCoreApplication::sendEvent(&field, &event) && event.isAccepted();
-        };
-        QVERIFY(!takesWheel());
+        QVERIFY(!Support::TurnWheel(&field, {0, 120}));
         field.lineEdit()->setCursorPosition(4);
         field.setStyleTag("shrinkWidth");
         QCOMPARE(field.width(), field.fontMetrics().horizontalAdvance("12:00") + 4);
@@ -138,7 +134,7 @@ private Q_SLOTS:
         field.setFocus(Qt::TabFocusReason);
         QCOMPARE(field.lineEdit()->selectedText(), QString("12"));
         QCOMPARE(QAccessible::queryAccessibleInterface(&field)->text(QAccessible::Value), QString("12:00:00"));
-        QVERIFY(takesWheel() && field.time() == QTime(13, 0));
+        QVERIFY(Support::TurnWheel(&field, {0, 120}) && field.time() == QTime(13, 0));
 
         QSignalSpy entered(&field, &ZTimeEdit::EnterPressed);
         field.type("!");
@@ -147,6 +143,20 @@ private Q_SLOTS:
         QCOMPARE(field.width(), field.fontMetrics().horizontalAdvance("13:00:07") + 4);
         field.setStyleTag({});
         QVERIFY(field.maximumWidth() > field.width() && field.minimumWidth() == 0);
+
+        // A cursor that comes to an unfinished section, which goes with the format that fits then.
+        field.setDisplayFormatList({"hh:mm:ss", "hh:mm:ss.zzz"});
+        field.setTime({13, 0, 7, 5});
+        field.lineEdit()->setSelection(9, 3);
+        field.lineEdit()->del();
+        field.lineEdit()->setSelection(0, 2);
+        field.lineEdit()->setCursorPosition(9);
+        QCOMPARE(field.text(), QString("13:00:07"));
+        QVERIFY(field.currentSectionIndex() < field.sectionCount());
+        // Who hears of the time last may delete the field.
+        auto* doomed = new ZTimeEdit;
+        connect(doomed, &QTimeEdit::timeChanged, doomed, [doomed] { delete doomed; });
+        doomed->stepBy(1);
         field.setLayoutDirection(Qt::RightToLeft);
         QCOMPARE(field.text(), QString("13:00:07")); // the hours stay on the left
     }

@@ -2,10 +2,10 @@
 #include <UI/Kit/ZSliderThumb.h>
 #include <UI/Kit/ZTimelineSlider.h>
 
+#include <Support/Input.h>
 #include <Support/TestCase.h>
 
 #include <QAccessible>
-#include <QMouseEvent>
 #include <QSignalSpy>
 #include <QTime>
 #include <QToolTip>
@@ -116,8 +116,7 @@ private Q_SLOTS:
         slider.resize(212, 30);
         slider.show();
         const auto tipAt = [&](int x) {
-            QMouseEvent move(QEvent::MouseMove, QPointF(x, 25), slider.mapToGlobal({x, 25}), {}, {}, {});
-            QCoreApplication::sendEvent(&slider, &move);
+            Support::MoveMouse(&slider, {x, 25}, Qt::NoButton);
             return QToolTip::text();
         };
         QCOMPARE(tipAt(106), QString("13:00:00"));
@@ -130,7 +129,6 @@ private Q_SLOTS:
         QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(&slider);
         QAccessibleValueInterface* value = accessible->valueInterface();
         value->setCurrentValue(22000);
-        QCOMPARE(accessible->role(), QAccessible::Slider);
         QCOMPARE(accessible->text(QAccessible::Value), QString("0:22"));
         QCOMPARE(QVariantList({value->minimumValue(), value->currentValue(), value->maximumValue()}),
                  QVariantList({20000, 22001, 23000}));

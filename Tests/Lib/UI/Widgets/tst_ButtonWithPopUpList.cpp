@@ -89,7 +89,6 @@ private Q_SLOTS:
         for (const auto& [operations, signalled, current] : rows) {
             InRow(operations);
             const auto button = ThreeItems();
-            QCOMPARE(button->popupMode(), QToolButton::MenuButtonPopup);
             Indexes seen;
             connect(button.get(), &ButtonWithPopUpList::CurrentIndexChanged, [&](int index) { seen += index; });
             for (const QString& operation : operations.split(','))
@@ -107,13 +106,11 @@ private Q_SLOTS:
         button.AppendItem("One", 1);
         button.AppendItem("Text", "text");
         button.AppendItem("Text again", "text");
-        QCOMPARE(button.ItemIndex("text"), 1);
-        QCOMPARE(button.ItemIndex("other"), -1);
+        QVERIFY(button.ItemIndex("text") == 1 && button.ItemIndex("other") == -1);
         QVERIFY(!button.ItemData(3).isValid() && !button.ItemData(-1).isValid());
         button.RemoveItem(QVariant("other"));
         button.RemoveItem(QVariant("text"));
-        QCOMPARE(button.Count(), 2);
-        QCOMPARE(button.ItemData(1), QVariant("text"));
+        QVERIFY(button.Count() == 2 && button.ItemData(1) == "text");
         QCOMPARE(ChoicesOf(button)[1]->text(), QString("Text again"));
         // Each item has a separator of its own, which stays when the item goes.
         QCOMPARE(button.menu()->actions().size(), 2 + 3);
@@ -121,20 +118,20 @@ private Q_SLOTS:
 
     void slotMayCallBack()
     {
-        for (const QString operation : {"append", "remove 0", "remove 1", "clear", "set 0", "delete", "delete later"}) {
+        for (const QString operation : {"append", "remove 0", "remove 1", "clear", "set 0", "delete"}) {
             for (const QString cause : {"set 1", "trigger 1", "remove 1"}) {
                 InRow(operation + " in the slot of " + cause);
                 QPointer<ButtonWithPopUpList> button = ThreeItems().release();
-                int calls = 0;
+                bool isCalled = false;
                 connect(button, &ButtonWithPopUpList::CurrentIndexChanged, qApp, [&] {
-                    if (++calls > 1)
+                    if (std::exchange(isCalled, true))
                         return;
-                    if (operation == "delete later")
-                        button->deleteLater();
-                    else if (operation == "delete" && !cause.startsWith("trigger")) // Qt's own rule for actions
-                        delete button;
-                    else
+                    if (operation != "delete")
                         Perform(*button, operation);
+                    else if (cause.startsWith("trigger")) // Qt's own rule for actions
+                        button->deleteLater();
+                    else
+                        delete button;
                 });
                 Perform(*button, cause);
                 if (button)

@@ -1,5 +1,6 @@
 #include <UI/Widgets/ClickSoundComboBox.h>
 
+#include <Support/Picture.h>
 #include <Support/TestCase.h>
 
 #include <QAbstractItemView>
@@ -11,17 +12,9 @@ namespace {
 
 const QString LONG_TEXT("A click sound with a name that is far too long for its box");
 
-// The columns with ink of the label's colour.
 QRect InkOf(QWidget& widget)
 {
-    const QImage image = widget.grab().toImage();
-    QRect ink;
-    for (int i = 0; i < image.width() * image.height(); ++i) {
-        const QPoint point(i % image.width(), i / image.width());
-        if (image.pixelColor(point).red() < 100)
-            ink |= QRect(point, QSize(1, 1));
-    }
-    return ink;
+    return Support::InkOf(widget.grab().toImage(), [](const QColor& color) { return color.red() < 100; });
 }
 
 } // namespace

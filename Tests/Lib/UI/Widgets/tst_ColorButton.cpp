@@ -1,5 +1,6 @@
 #include <UI/Widgets/ColorButton.h>
 
+#include <Support/Picture.h>
 #include <Support/TestCase.h>
 
 #include <QColorDialog>
@@ -7,6 +8,7 @@
 #include <QSignalSpy>
 #include <QTimer>
 
+#include <array>
 #include <cmath>
 #include <functional>
 
@@ -43,42 +45,35 @@ private Q_SLOTS:
         QCOMPARE(button.GetColorRect(), QRect(68, 6, 16, 16));
         button.setStyleSheet("QPushButton { background: white; border: none }");
         button.SetColor(Qt::blue);
-        QImage picture = button.grab().toImage();
-        const qreal ratio = picture.devicePixelRatio();
-        const auto at = [&](int x, int y) { return picture.pixelColor(QPointF(x * ratio, y * ratio).toPoint()); };
-        QCOMPARE(at(68, 6), QColor(Qt::darkGray));
+        const auto at = [&](int x, int y) { return Support::ColorAt(button.grab().toImage(), QPoint(x, y)); };
+        for (const QPoint border : {QPoint(68, 6), QPoint(84, 22)})
+            QCOMPARE(at(border.x(), border.y()), QColor(Qt::darkGray));
+        for (const int beside : {66, 86})
+            QCOMPARE(at(beside, 14), QColor(Qt::white));
         QCOMPARE(at(76, 14), QColor(Qt::blue));
-        QCOMPARE(at(84, 22), QColor(Qt::darkGray));
-        QCOMPARE(at(66, 14), QColor(Qt::white));
-        QCOMPARE(at(86, 14), QColor(Qt::white));
 
         button.setEnabled(false);
-        picture = button.grab().toImage();
         QCOMPARE(at(68, 6), QColor(Qt::lightGray));
         int colored = 0;
         for (int x = 70; x < 82; ++x)
             colored += at(x, 14) == QColor(Qt::blue);
         QVERIFY2(colored > 2 && colored < 10, qPrintable(QString::number(colored)));
-
-        button.setStyleSheet(
-            "QPushButton { qproperty-colorRect: rect(2, 3, 12, 13); qproperty-colorRectBorderDisabled: red }");
-        button.ensurePolished();
-        const QRect set = button.GetColorRect();
+        // A place that was set stays.
+        button.SetColorRect(QRect(2, 3, 12, 13));
         button.resize(200, 60);
-        QCOMPARE(button.GetColorRect(), set);
-        QCOMPARE(button.GetColorRectBorderDisabled(), QColor(Qt::red));
+        QCOMPARE(button.GetColorRect(), QRect(2, 3, 12, 13));
     }
 
     void dialogSignals()
     {
-        const QVector<QPair<QString, QStringList>> rows{
-            {"accept", {"opens", "#00ff00", "closed"}},
-            {"accept unchanged", {"opens", "#ff0000", "closed"}},
-            {"cancel", {"opens", "closed"}},
-            {"hide", {"opens", "closed"}},
-            {"new parent", {"opens", "closed"}},
-            {"disable, click again, accept", {"opens", "#00ff00", "closed"}},
-            {"destroy", {"opens"}},
+        const QPair<QString, QString> rows[] = {
+            {"accept", "opens #00ff00 closed"},
+            {"accept unchanged", "opens #ff0000 closed"},
+            {"cancel", "opens closed"},
+            {"hide", "opens closed"},
+            {"new parent", "opens closed"},
+            {"disable, click again, accept", "opens #00ff00 closed"},
+            {"destroy", "opens"},
         };
         for (const auto& row : rows) {
             const QString end = row.first;
@@ -111,7 +106,7 @@ private Q_SLOTS:
                     ok->click();
                 }
             });
-            QCOMPARE(log, row.second);
+            QCOMPARE(log.join(' '), row.second);
             QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
             QVERIFY(!button || !button->findChild<QColorDialog*>());
         }
@@ -120,14 +115,10 @@ private Q_SLOTS:
     void alphaLimit()
     {
         // The limit; the alpha stored of an opaque colour, shown in the dialog, and stored when 0.5 was chosen there.
-        using Row = std::tuple<double, double, double, double>;
-        for (const auto& [maximum, stored, shown, halved] : std::vector<Row>{{0.5, 0.5, 1, 0.25},
-                                                                             {1 / 3.0, 1 / 3.0, 1, 1 / 6.0},
-                                                                             {1, 1, 1, 0.5},
-                                                                             {0, 0, 0, 0},
-                                                                             {-3, 0, 0, 0},
-                                                                             {7, 1, 1, 0.5},
-                                                                             {std::nan(""), 1, 1, 0.5}}) {
+        using Row = std::array<double, 4>;
+        for (const auto& [maximum, stored, shown, halved] :
+             {Row{0.5, 0.5, 1, 0.25}, Row{1 / 3.0, 1 / 3.0, 1, 1 / 6.0}, Row{1, 1, 1, 0.5}, Row{0, 0, 0, 0},
+              Row{-3, 0, 0, 0}, Row{7, 1, 1, 0.5}, Row{std::nan(""), 1, 1, 0.5}}) {
             InRow(QString("limit %1").arg(maximum));
             ColorButton button;
             button.show();
@@ -135,18 +126,16 @@ private Q_SLOTS:
             QSignalSpy changed(&button, &ColorButton::ColorChanged);
             button.SetColor(Qt::red); // as it is
             button.SetMaximumAlpha(maximum);
-            QCOMPARE(button.GetColor(), QColor(Qt::red));
-            QCOMPARE(changed.size(), 0);
+            QVERIFY(button.GetColor() == QColor(Qt::red) && changed.isEmpty());
             button.SetColor(Qt::blue);
             QCOMPARE(changed, QList<QVariantList>{{button.GetColor()}});
-            QVERIFY(std::abs(button.GetColor().alphaF() - stored) < 1e-4);
-            for (int i = 0; i < 100; ++i) {
+            for (int i = 0; i < 20; ++i) { // it does not drift
+                QVERIFY(IsNear(button.GetColor().alphaF(), stored));
                 Choose(button, [shown = shown](QColorDialog* dialog) {
                     QVERIFY(IsNear(dialog->currentColor().alphaF(), shown));
                     dialog->accept();
                 });
             }
-            QVERIFY(IsNear(button.GetColor().alphaF(), stored));
             Choose(button, [](QColorDialog* dialog) {
                 dialog->setCurrentColor(QColor(0, 0, 255, 128));
                 dialog->accept();

@@ -98,7 +98,6 @@ private Q_SLOTS:
         Window window(Qt::Window);
         const auto* title = window.findChild<QLabel*>("titleLabel");
         const auto icon = [&] { return window.findChild<QLabel*>("iconLabel")->pixmap(Qt::ReturnByValue).toImage(); };
-        QCOMPARE(title->text(), QString("<b>A</b> & B"));
         QPixmap pixmap(64, 64);
         for (const Qt::GlobalColor color : {Qt::red, Qt::blue}) {
             pixmap.fill(color);
@@ -112,8 +111,10 @@ private Q_SLOTS:
         }
         // However long the title, the window may be as narrow as before.
         const int narrow = window.minimumSizeHint().width();
-        window.setWindowTitle(QString(500, 'W'));
-        QCOMPARE(title->text().size(), 500);
+        for (const QString& text : {QString("<b>A</b> & B"), QString(500, 'W')}) {
+            window.setWindowTitle(text);
+            QCOMPARE(title->text(), text);
+        }
         QCOMPARE(window.minimumSizeHint().width(), narrow);
     }
 

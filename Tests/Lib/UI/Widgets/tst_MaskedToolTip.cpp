@@ -60,13 +60,8 @@ private Q_SLOTS:
         tip.SetTitle("Another");
         tip.SetText("Text");
         tip.Show(QPoint(50, 40));
-        QCOMPARE(title->text(), QString("Another"));
-        QVERIFY(!text->isVisible());
-        QCOMPARE(text->text(), QString("Text"));
+        QVERIFY(title->text() == "Another" && text->text() == "Text" && !text->isVisible());
         QCOMPARE(tip.pos(), QPoint(0, 0));
-        MaskedToolTip empty(nullptr);
-        empty.Show(QPoint());
-        QVERIFY(empty.isVisible() && !empty.findChild<QLabel*>("titleLabel")->isVisible());
     }
 
     void closesByPressTimeAndAnotherWindow()

@@ -1,11 +1,11 @@
 #include <UI/Widgets/ScrollablePanelWithItem.h>
 
+#include <Support/Input.h>
 #include <Support/TestCase.h>
 
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QToolButton>
-#include <QWheelEvent>
 
 using Zelkor::Vx::UI::ScrollablePanelWithItem;
 
@@ -32,13 +32,7 @@ struct Scene
         return items.last();
     }
 
-    bool Wheel(const QPoint& angle)
-    {
-        QWheelEvent event({5, 5}, area->mapToGlobal(QPoint(5, 5)), {}, angle, {}, {}, Qt::NoScrollPhase, false);
-        QCoreApplication::sendEvent(area->viewport(), &event);
-        return event.isAccepted();
-    }
-
+    bool Wheel(const QPoint& angle) { return Support::TurnWheel(area->viewport(), angle); }
     bool Shows(QWidget* item) { return item->visibleRegion().boundingRect() == item->rect(); }
 
     std::unique_ptr<ScrollablePanelWithItem> panel = std::make_unique<ScrollablePanelWithItem>(nullptr);
@@ -61,7 +55,6 @@ private Q_SLOTS:
         for (const auto direction : {Qt::LeftToRight, Qt::RightToLeft}) {
             Scene scene(20, direction);
             scene.panel->SetItemsSpacing(4);
-            QCOMPARE(scene.panel->GetItemsScpacing(), 4);
             QTRY_COMPARE(scene.bar->maximum(), 20 * 50 + 19 * 4 - scene.area->viewport()->width());
             // The buttons are where they lead to.
             QCOMPARE(scene.left->x() > scene.right->x(), direction == Qt::RightToLeft);
@@ -88,10 +81,6 @@ private Q_SLOTS:
             for (const int i : {19, 0, 7}) {
                 scene.items[i]->setFocus();
                 QVERIFY(scene.Shows(scene.items[i]));
-            }
-            for (int i = 8; i < 20; ++i) {
-                QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-                QVERIFY(scene.items[i]->hasFocus() && scene.Shows(scene.items[i]));
             }
             // What goes while the strip is scrolled takes the range along.
             qDeleteAll(scene.items.mid(10));

@@ -1,11 +1,11 @@
 #include <UI/Widgets/LevelMeter.h>
 #include <UI/Widgets/VolumeSlider.h>
 
-#include <Support/EventWatch.h>
 #include <Support/LogCapture.h>
+#include <Support/PaintWatch.h>
+#include <Support/Picture.h>
 #include <Support/TestCase.h>
 
-#include <QPaintEvent>
 #include <QSignalSpy>
 #include <QToolTip>
 
@@ -55,14 +55,13 @@ private Q_SLOTS:
             window.show();
             slider.SetVolumes(volume, level);
             const QImage image = window.grab(slider.geometry()).toImage();
-            const qreal ratio = image.devicePixelRatio();
-            const int x = size.width() / 2;
             for (int y = 0; y < size.height(); ++y) {
-                const QColor expected = volumeBar.contains(x, y)         ? QColor(37, 127, 101)
-                                        : levelBar.contains(x, y)        ? QColor(86, 91, 107)
-                                        : bars.background.contains(x, y) ? QColor(28, 32, 43)
-                                                                         : QColor(Qt::white);
-                QCOMPARE(image.pixelColor(int(size.width() * ratio / 2), int((y + 0.5) * ratio)), expected);
+                const QPoint point(size.width() / 2, y);
+                const QColor expected = volumeBar.contains(point)         ? QColor(37, 127, 101)
+                                        : levelBar.contains(point)        ? QColor(86, 91, 107)
+                                        : bars.background.contains(point) ? QColor(28, 32, 43)
+                                                                          : QColor(Qt::white);
+                QCOMPARE(Support::ColorAt(image, point), expected);
             }
         }
     }
@@ -99,37 +98,26 @@ private Q_SLOTS:
         slider.resize(30, 100);
         slider.setProperty("borderRadius", 3);
         slider.setProperty("colorPeakValueBorder", QColor(Qt::red));
-        int paints = 0;
-        QRegion painted;
-        const Support::EventWatch watch(&slider, [&](QEvent::Type type, QEvent* event) {
-            if (type == QEvent::Paint && ++paints)
-                painted = static_cast<QPaintEvent*>(event)->region();
-        });
+        Support::PaintWatch paints(&slider);
         slider.SetVolumes(0, 0.9F);
-        QCoreApplication::processEvents();
-        QCOMPARE(paints, 0); // hidden
+        QVERIFY(paints.Take().isEmpty()); // hidden
         slider.show();
         QVERIFY(QTest::qWaitForWindowExposed(&slider));
         slider.SetVolumes(0, 0.5F);
-        QTRY_VERIFY(paints > 0);
-        QCoreApplication::processEvents();
 
         QImage before = slider.grab().toImage();
         for (const float next : {0.5F, 0.5001F, NAN, NAN, 0.0F, 0.02F, 0.05F, 0.5F, 0.52F, 1.0F, 7.0F}) {
-            paints = 0;
-            painted = QRegion();
+            paints.Take();
             slider.SetVolumes(0, next);
-            QCoreApplication::processEvents();
-            const int ownPaints = paints;
-            const QRegion region = painted;
+            const QVector<QRegion> painted = paints.Take();
             const QImage after = slider.grab().toImage();
-            QCOMPARE(ownPaints, after == before ? 0 : 1);
+            QCOMPARE(painted.size(), after == before ? 0 : 1);
+            const QRegion region = painted.value(0);
             for (int i = 0; i < 30 * 100; ++i) {
                 const QPoint point(i % 30, i / 30);
                 QVERIFY(region.contains(point) || after.pixel(point) == before.pixel(point));
             }
-            if (next == 0.52F)
-                QVERIFY(region.boundingRect().height() < 20);
+            QVERIFY(next != 0.52F || region.boundingRect().height() < 20);
             before = after;
         }
     }
@@ -147,8 +135,6 @@ private Q_SLOTS:
         QTRY_VERIFY(!QToolTip::isVisible());
         slider->setValue(60);
         delete slider; // its timer is pending
-        QToolTip::hideText();
-        QTRY_VERIFY(!QToolTip::isVisible());
     }
 };
 

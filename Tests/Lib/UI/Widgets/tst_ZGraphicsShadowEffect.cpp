@@ -1,6 +1,7 @@
 #include <UI/Widgets/ShadowRim.h>
 #include <UI/Widgets/ZGraphicsShadowEffect.h>
 
+#include <Support/Picture.h>
 #include <Support/TestCase.h>
 
 #include <QPainter>
@@ -22,21 +23,19 @@ QImage Literal(const QSize& size, const QPointF& offset, double level, const QCo
     image.fill(Qt::transparent);
     const int w = size.width();
     const int h = size.height();
-    for (int y = 0; y < h / 2; ++y) {
-        for (int x = 0; x < w / 2; ++x) {
-            double sum = 0;
-            if (offset.y() > y && offset.x() > x)
-                sum = 255 / (x + 1) + 255 / (y + 1);
-            else if (x >= offset.x() && offset.y() > y)
-                sum = 255 / (y + 1) + 255 / int(offset.x());
-            else if (y >= offset.y() && offset.x() > x)
-                sum = 255 / (x + 1) + 255 / int(offset.y());
-            QColor pixel = color;
-            pixel.setAlpha(int(qMin(255.0, sum * level)));
-            for (const QPoint& mirrored :
-                 {QPoint(x, y), QPoint(x, h - 1 - y), QPoint(w - 1 - x, y), QPoint(w - 1 - x, h - 1 - y)})
-                image.setPixel(mirrored, qPremultiply(pixel.rgba()));
-        }
+    for (int i = 0; i < w * h; ++i) {
+        const int x = qMin(i % w, w - 1 - i % w);
+        const int y = qMin(i / w, h - 1 - i / w);
+        const bool isLeft = offset.x() > x;
+        const bool isTop = offset.y() > y;
+        const bool isMiddle = 2 * x + 1 == w || 2 * y + 1 == h; // of an odd side, which stays clear
+        if ((!isLeft && !isTop) || isMiddle)
+            continue;
+        const int sum = (isLeft ? 255 / (x + 1) : 255 / int(offset.x())) + //
+                        (isTop ? 255 / (y + 1) : 255 / int(offset.y()));
+        QColor pixel = color;
+        pixel.setAlpha(int(qMin(255.0, sum * level)));
+        image.setPixel(i % w, i / w, qPremultiply(pixel.rgba()));
     }
     return image;
 }
@@ -65,7 +64,7 @@ private Q_SLOTS:
                                       QPointF(90, 1.5), QPointF(1e300, 1e300)}) {
             for (const QSize& size :
                  {QSize(40, 30), QSize(9, 9), QSize(31, 8), QSize(1, 1), QSize(2, 40), QSize(0, 0)}) {
-                for (const double level : {0.1, 0.5, 1.0, 3.0, 1e300}) {
+                for (const double level : {0.1, 1.0, 1e300}) {
                     InRow(QString("offset %1 by %2, level %3").arg(offset.x()).arg(offset.y()).arg(level));
                     const ShadowRim::Input input{size, offset, level, color.rgb()};
                     const QPointF bounded(qMin(offset.x(), 1e6), qMin(offset.y(), 1e6));
@@ -108,13 +107,7 @@ private Q_SLOTS:
             widget->setStyleSheet("background: white");
             auto* effect = new ZGraphicsShadowEffect(widget);
             widget->setGraphicsEffect(effect);
-            const auto grab = [&] {
-                QImage image((QSizeF(window.size()) * ratio).toSize(), QImage::Format_RGB32);
-                image.setDevicePixelRatio(ratio);
-                image.fill(Qt::white);
-                window.render(&image, {}, {}, QWidget::DrawChildren);
-                return image;
-            };
+            const auto grab = [&] { return Support::Render(window, Qt::white, ratio); };
             const QImage plain = grab();
             effect->SetOffset(5);
             QCOMPARE(grab(), plain); // still off
@@ -122,15 +115,11 @@ private Q_SLOTS:
             QCOMPARE(grab(), plain);
             effect->SetBrightnessLevel(1);
             const QImage shadowed = grab();
-            const auto redAt = [&](double x, double y) {
-                return shadowed.pixelColor(int((x + 0.5) * ratio), int((y + 0.5) * ratio)).red();
-            };
-            QCOMPARE(redAt(10, 10), 0);
-            QCOMPARE(redAt(49, 39), 0);
-            QVERIFY(qAbs(redAt(30, 12) - (255 - (85 + 51))) <= 1);
-            QCOMPARE(redAt(30, 25), 255);
-            QCOMPARE(redAt(8, 25), 255); // nothing outside
-            QCOMPARE(redAt(51, 25), 255);
+            // At two corners, near an edge, in the middle, and beside the widget.
+            using Row = QPair<QPoint, int>;
+            for (const auto& [point, red] : {Row{{10, 10}, 0}, Row{{49, 39}, 0}, Row{{30, 12}, 255 - (85 + 51)},
+                                             Row{{30, 25}, 255}, Row{{8, 25}, 255}, Row{{51, 25}, 255}})
+                QVERIFY(qAbs(Support::ColorAt(shadowed, point).red() - red) <= 1);
             // In a window the source is painted on the same device, by a painter of its own.
             window.show();
             QVERIFY(QTest::qWaitForWindowExposed(&window));

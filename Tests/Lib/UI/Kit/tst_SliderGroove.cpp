@@ -1,0 +1,99 @@
+#include <UI/Kit/ZSlider.h>
+#include <UI/Kit/ZSliderThumb.h>
+
+#include <Support/PaintWatch.h>
+#include <Support/Picture.h>
+#include <Support/TestCase.h>
+
+namespace {
+
+/// 0 to 100 over 200 pixels, with a colour for each part and no thumb.
+struct Slider : ZSlider
+{
+    Slider()
+    {
+        setOrientation(Qt::Horizontal);
+        setRange(0, 100);
+        resize(212, 30);
+        setGrooveEmptyStyle("background: white");
+        setGrooveNormalStyle("background: lime");
+        setGrooveSelectedStyle("background: blue");
+        setGrooveBorderStyle("background: red");
+        defaultThumb()->hide();
+    }
+
+    // The colours in the middle of these pixels along the groove.
+    QString at(const QVector<int>& pixels)
+    {
+        static const QMap<QRgb, QString> NAMES{{0xffffffff, "white"}, {0xff00ff00, "lime"}, {0xff0000ff, "blue"},
+                                               {0xffff0000, "red"},   {0xff808080, "gray"}, {0, "none"}};
+        const QImage image = grab().toImage();
+        const bool isHorizontal = orientation() == Qt::Horizontal;
+        QStringList names;
+        for (const int pixel : pixels) {
+            const QPoint point = isHorizontal ? QPoint(pixel, 15) : QPoint(15, pixel);
+            names << NAMES.value(Support::ColorAt(image, point).rgba(), "?");
+        }
+        return names.join(' ');
+    }
+};
+
+} // namespace
+
+class tst_SliderGroove : public Support::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void grooveInItsLooks()
+    {
+        Slider slider;
+        slider.setSegments({{20, 40, false}, {80, 60, true}, {150, 100, true}});
+        QCOMPARE(slider.at({30, 46, 47, 85, 86, 87}), "white red lime lime red white");
+        QCOMPARE(slider.at({126, 150, 166, 205, 3}), "red blue red white none");
+        slider.clearSegments();
+        slider.addSegment(0, 50);
+        slider.setOrientation(Qt::Vertical);
+        slider.resize(30, 212);
+        QCOMPARE(slider.at({20, 150}), "lime white");
+    }
+
+    void grooveFollowsWhatItShows()
+    {
+        Slider slider;
+        slider.setSubPageStyle("background: red");
+        slider.setAddPageStyle("background: blue; /* %1 and } */");
+        for (const int value : {50, 10, 90}) {
+            slider.setValue(value);
+            QCOMPARE(slider.at({2 * value, 2 * value + 12}), "red blue");
+        }
+        slider.setLayoutDirection(Qt::RightToLeft);
+        slider.setSubPageStyle("background: red } QSlider::sub-page:horizontal:disabled { background: gray");
+        QCOMPARE(slider.at({20}), "red");
+        slider.setEnabled(false);
+        QCOMPARE(slider.at({20}), "gray");
+        ExpectWarning("braces or quotes do not match");
+        slider.setSubPageStyle("background: red } }");
+        slider.setAddPageStyle({});
+        QCOMPARE(slider.at({20}), "white");
+        slider.setGrooveEmptyStyle("background: palette(window)");
+        const QPalette before = QApplication::palette();
+        QApplication::setPalette(QPalette(Qt::black, Qt::blue));
+        QCOMPARE(slider.at({20}), "blue");
+        QApplication::setPalette(before);
+
+        // A value that changes nothing but a thumb has nothing else painted.
+        slider.setEnabled(true);
+        slider.setGrooveEmptyStyle("background: white");
+        slider.defaultThumb()->show();
+        slider.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&slider));
+        Support::PaintWatch paints(&slider);
+        slider.setValue(91);
+        const auto painted = paints.Take();
+        QVERIFY(painted.size() == 1 && painted[0].boundingRect().width() < 20);
+    }
+};
+
+VX_TEST_MAIN(tst_SliderGroove)
+#include "tst_SliderGroove.moc"
