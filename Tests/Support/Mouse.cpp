@@ -25,7 +25,6 @@ void Send(DWORD what)
     input.type = INPUT_MOUSE;
     input.mi.dwFlags = what;
     QCOMPARE(SendInput(1, &input, sizeof input), 1u);
-    QCoreApplication::processEvents();
 }
 
 void Press(int button)
@@ -68,7 +67,6 @@ void MovePointer(const QPoint& global)
 {
 #if defined(Q_OS_WIN)
     QVERIFY(SetCursorPos(global.x(), global.y()));
-    QCoreApplication::processEvents();
 #else
     RunTool({"mousemove", QString::number(global.x()), QString::number(global.y())});
 #endif
@@ -79,11 +77,13 @@ void Click(const QPoint& global)
     MovePointer(global);
     Press(1);
     Release(1);
+    QCoreApplication::processEvents();
 }
 
 #if defined(Q_OS_WIN)
 
-// A move by the window system is a loop of its own inside the handling of an event, in which timers go on.
+// A move by the window system is a loop of its own inside the handling of an event. Timers go on in it, but whoever
+// processes events there takes the pointer's away from it.
 bool Drag(const QPoint& global, const QPoint& way, int button)
 {
     const QPoint first = global + QPoint(1, 0);

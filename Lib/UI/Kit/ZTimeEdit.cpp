@@ -57,14 +57,28 @@ void ZTimeEdit::watchCursor()
 {
     auto* edit = new QLineEdit(this);
     edit->setObjectName(lineEdit()->objectName());
-    connect(edit, &QLineEdit::cursorPositionChanged, this, [this] { ++cursorMoves; });
+    connect(edit, &QLineEdit::cursorPositionChanged, this, [this] { ++depthInQt; });
     setLineEdit(edit);
-    connect(edit, &QLineEdit::cursorPositionChanged, this, [this] {
-        if (--cursorMoves == 0 && std::exchange(formatWaits, false))
-            updateStyle();
-    });
+    connect(edit, &QLineEdit::cursorPositionChanged, this, &ZTimeEdit::leaveQt);
     // Writes the text into the field.
     setDisplayFormat(displayFormat());
+}
+
+void ZTimeEdit::leaveQt()
+{
+    if (--depthInQt == 0 && std::exchange(formatWaits, false))
+        updateStyle();
+}
+
+// Has Qt handle an event; it counts on the same sections when it is done. False when the field is gone then.
+bool ZTimeEdit::letQt(const std::function<void()>& handle)
+{
+    const QPointer<ZTimeEdit> self(this);
+    ++depthInQt;
+    handle();
+    if (self)
+        leaveQt();
+    return self;
 }
 
 void ZTimeEdit::setStyleTag(const QString& tag)
@@ -132,7 +146,7 @@ void ZTimeEdit::chooseFormat()
     const QString format = ChooseTimeFormat(formats, isForMaximum ? maximumTime() : time());
     if (format.isEmpty() || format == displayFormat())
         return;
-    if (cursorMoves > 0) {
+    if (depthInQt > 0) {
         formatWaits = true;
         return;
     }
@@ -160,13 +174,18 @@ bool ZTimeEdit::event(QEvent* event)
     return QTimeEdit::event(event);
 }
 
+bool ZTimeEdit::focusNextPrevChild(bool next)
+{
+    bool moved = true;
+    letQt([&] { moved = QTimeEdit::focusNextPrevChild(next); });
+    return moved;
+}
+
 void ZTimeEdit::keyPressEvent(QKeyEvent* event)
 {
     const QString before = lineEdit()->text();
     const QTime timeBefore = time();
-    const QPointer<ZTimeEdit> self(this);
-    QTimeEdit::keyPressEvent(event);
-    if (!self)
+    if (!letQt([&] { QTimeEdit::keyPressEvent(event); }))
         return;
     if (IsEnter(*event)) {
         finish();
@@ -238,7 +257,7 @@ void ZTimeEdit::overwrite(int digit)
 void ZTimeEdit::wheelEvent(QWheelEvent* event)
 {
     if (focusPolicy() != Qt::StrongFocus)
-        QTimeEdit::wheelEvent(event);
+        letQt([&] { QTimeEdit::wheelEvent(event); });
     else
         event->ignore();
 }
@@ -248,14 +267,12 @@ void ZTimeEdit::focusInEvent(QFocusEvent* event)
     setFocusPolicy(Qt::WheelFocus);
     // Before Qt selects the section to begin with.
     updateStyle();
-    QTimeEdit::focusInEvent(event);
+    letQt([&] { QTimeEdit::focusInEvent(event); });
 }
 
 void ZTimeEdit::focusOutEvent(QFocusEvent* event)
 {
-    const QPointer<ZTimeEdit> self(this);
-    QTimeEdit::focusOutEvent(event);
-    if (!self)
+    if (!letQt([&] { QTimeEdit::focusOutEvent(event); }))
         return;
     setFocusPolicy(Qt::StrongFocus);
     updateStyle();

@@ -3,6 +3,8 @@
 #include <QStringList>
 #include <QTimeEdit>
 
+#include <functional>
+
 /// A field for a time of day, of which the digits are overwritten where they stand: a typed digit replaces the one at
 /// the cursor, and a deleted one leaves a zero. What would be no time is not taken, and beyond the minimum or maximum
 /// the time becomes that.
@@ -52,6 +54,7 @@ Q_SIGNALS:
 
 protected:
     bool event(QEvent* event) override;
+    bool focusNextPrevChild(bool next) override;
     void keyPressEvent(QKeyEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
@@ -61,6 +64,8 @@ protected:
 
 private:
     void watchCursor();
+    bool letQt(const std::function<void()>& handle);
+    void leaveQt();
     QTime read(const QString& text) const;
     void chooseFormat();
     void finish();
@@ -70,6 +75,6 @@ private:
     QString currentStyleTag;
     QStringList formats;
     int stepOfMilliseconds = 1;
-    int cursorMoves = 0;      ///< that Qt is busy with; one may lead to another
-    bool formatWaits = false; ///< until Qt is done with them
+    int depthInQt = 0;        ///< of events and moves of the cursor that Qt is busy with
+    bool formatWaits = false; ///< until it is done with them
 };

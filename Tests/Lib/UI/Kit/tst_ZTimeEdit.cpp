@@ -144,21 +144,28 @@ private Q_SLOTS:
         field.setStyleTag({});
         QVERIFY(field.maximumWidth() > field.width() && field.minimumWidth() == 0);
 
-        // A cursor that comes to an unfinished section, which goes with the format that fits then.
-        field.setDisplayFormatList({"hh:mm:ss", "hh:mm:ss.zzz"});
-        field.setTime({13, 0, 7, 5});
-        field.lineEdit()->setSelection(9, 3);
-        field.lineEdit()->del();
-        field.lineEdit()->setSelection(0, 2);
-        field.lineEdit()->setCursorPosition(9);
-        QCOMPARE(field.text(), QString("13:00:07"));
-        QVERIFY(field.currentSectionIndex() < field.sectionCount());
+        // A cursor that leaves an unfinished section, which goes with the format that fits then.
+        field.clearMinimumTime();
+        field.setDisplayFormatList({"mm:ss", "hh:mm:ss.zzz"});
+        for (const bool byTab : {false, true}) {
+            field.setTime({0, 0, 7, 5});
+            field.lineEdit()->setSelection(9, 3);
+            field.lineEdit()->del();
+            if (byTab) {
+                QTest::keyClick(&field, Qt::Key_Backtab);
+            } else {
+                field.lineEdit()->setSelection(0, 2);
+                field.lineEdit()->setCursorPosition(9);
+            }
+            QCOMPARE(field.text(), QString("00:07"));
+            QVERIFY(field.currentSectionIndex() < field.sectionCount());
+        }
         // Who hears of the time last may delete the field.
         auto* doomed = new ZTimeEdit;
         connect(doomed, &QTimeEdit::timeChanged, doomed, [doomed] { delete doomed; });
         doomed->stepBy(1);
         field.setLayoutDirection(Qt::RightToLeft);
-        QCOMPARE(field.text(), QString("13:00:07")); // the hours stay on the left
+        QCOMPARE(field.text(), QString("00:07")); // the minutes stay on the left
     }
 };
 
