@@ -7,6 +7,10 @@ set(CPACK_GENERATOR ZIP)
 set(CPACK_STRIP_FILES ON)
 set(CPACK_VERBATIM_VARIABLES ON)
 
+install(FILES README.md CHANGELOG.md DESTINATION . COMPONENT development)
+install(DIRECTORY Docs DESTINATION . COMPONENT development
+        FILES_MATCHING PATTERN "*.md" PATTERN "*.png" PATTERN "*.svg")
+
 # A build on Windows itself has tools of Qt's and of the compiler's that collect these.
 if(VX_WINDOWS_SDK)
   set(sdk_libraries Qt5Core Qt5Gui Qt5Widgets Qt5Svg libglog libgcc_s_seh-1 libstdc++-6 libwinpthread-1)
