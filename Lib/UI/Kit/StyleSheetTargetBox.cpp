@@ -26,7 +26,12 @@ StyleSheetTargetBox::StyleSheetTargetBox(QWidget* parent) : QComboBox(parent), w
             return;
         }
         watch(widget);
-        Q_EMIT chosen(widget);
+        // Whoever hears of it may delete the box, which goes on with its list.
+        const auto tell = [this, index, guarded = QPointer<QWidget>(widget)] {
+            if (index == 0 || guarded)
+                Q_EMIT chosen(guarded);
+        };
+        QMetaObject::invokeMethod(this, tell, Qt::QueuedConnection);
     });
 }
 

@@ -23,7 +23,7 @@ public:
     void showPopup() override;
 
 Q_SIGNALS:
-    /// A person chose; null is the application.
+    /// A person chose; null is the application. Comes out of the event loop.
     void chosen(QWidget* widget);
 
     /// The widget that was set or chosen does not exist any more.
