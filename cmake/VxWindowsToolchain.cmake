@@ -27,8 +27,8 @@ if(NOT in_try_compile AND NOT Boost_INCLUDE_DIR)
   file(MAKE_DIRECTORY ${CMAKE_BINARY_DIR}/boost)
   file(CREATE_LINK /usr/include/boost ${CMAKE_BINARY_DIR}/boost/boost SYMBOLIC)
   set(Boost_INCLUDE_DIR ${CMAKE_BINARY_DIR}/boost CACHE PATH "Folder with Boost's headers")
-  set(Boost_NO_BOOST_CMAKE ON)
 endif()
+set(Boost_NO_BOOST_CMAKE ON)
 
 # So do the tools that translate, which run on this machine.
 file(GLOB linguist_tools /usr/lib/*/cmake/Qt5LinguistTools)
