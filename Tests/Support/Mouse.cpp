@@ -61,6 +61,16 @@ void Release(int button)
 
 #endif
 
+// Where the pointer was when one of our windows last heard of it.
+struct PointerWatch
+{
+    QPoint seen;
+    EventWatch watch{qApp, [this](QEvent::Type type, QEvent* event) {
+                         if (type == QEvent::MouseMove)
+                             seen = static_cast<QMouseEvent*>(event)->globalPos();
+                     }};
+};
+
 } // namespace
 
 void MovePointer(const QPoint& global)
@@ -87,11 +97,7 @@ void Click(const QPoint& global)
 bool Drag(const QPoint& global, const QPoint& way, int button)
 {
     const QPoint first = global + QPoint(1, 0);
-    QPoint seen;
-    const EventWatch watch(qApp, [&](QEvent::Type type, QEvent* event) {
-        if (type == QEvent::MouseMove)
-            seen = static_cast<QMouseEvent*>(event)->globalPos();
-    });
+    PointerWatch pointer;
     MovePointer(global);
     Press(button);
     const std::function<void()> steps[] = {[&] { MovePointer(first); }, [&] { MovePointer(first + way); },
@@ -103,7 +109,7 @@ bool Drag(const QPoint& global, const QPoint& way, int button)
             steps[next++]();
     });
     timer.start(20);
-    return QTest::qWaitFor([&] { return next == std::size(steps); }) && seen != first + way;
+    return QTest::qWaitFor([&] { return next == std::size(steps); }) && pointer.seen != first + way;
 }
 
 #else
@@ -113,11 +119,7 @@ bool Drag(const QPoint& global, const QPoint& way, int button)
     constexpr int FIRST_STEPS = 10;
     constexpr int LONG_MS = 5000;
     constexpr int ENOUGH_MS = 500;
-    QPoint seen;
-    const EventWatch watch(qApp, [&](QEvent::Type type, QEvent* event) {
-        if (type == QEvent::MouseMove)
-            seen = static_cast<QMouseEvent*>(event)->globalPos();
-    });
+    PointerWatch pointer;
     MovePointer(global);
     Press(button);
     // The window system takes the pointer after the first motion, but maybe not at once.
@@ -125,7 +127,7 @@ bool Drag(const QPoint& global, const QPoint& way, int button)
     for (int step = 1; step <= FIRST_STEPS && !taken; ++step) {
         const QPoint next = global + QPoint(step, 0);
         MovePointer(next);
-        taken = !QTest::qWaitFor([&] { return seen == next; }, step == 1 ? LONG_MS : ENOUGH_MS);
+        taken = !QTest::qWaitFor([&] { return pointer.seen == next; }, step == 1 ? LONG_MS : ENOUGH_MS);
     }
     MovePointer(global + QPoint(1, 0) + way);
     Release(button);

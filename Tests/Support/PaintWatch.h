@@ -8,6 +8,8 @@
 #include <QVector>
 #include <QWidget>
 
+#include <utility>
+
 namespace Support {
 
 /// Watches what a widget has to paint while it lives.
