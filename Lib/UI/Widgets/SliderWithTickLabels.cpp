@@ -95,6 +95,18 @@ void SliderWithTickLabels::AddItems(const QStringList& texts)
         AddItem(text);
 }
 
+void SliderWithTickLabels::SetItemText(int index, const QString& text)
+{
+    ZLabel* label = impl->labels.value(index);
+    if (!label)
+        return;
+    label->setOriginalText(text);
+    // Two long texts can look the same while elided, and want different widths.
+    impl->labelsLayout->update();
+    if (index == CurrentIndex())
+        TellCurrentText();
+}
+
 int SliderWithTickLabels::CurrentIndex() const
 {
     return impl->slider->value();

@@ -30,6 +30,10 @@ public:
     void AddItem(const QString& text);
     void AddItems(const QStringList& texts);
 
+    /// Replaces the text of an item, as after a change of the language. The current item stays. An index that no item
+    /// has is ignored.
+    void SetItemText(int index, const QString& text);
+
     /// 0 without items.
     int CurrentIndex() const;
 

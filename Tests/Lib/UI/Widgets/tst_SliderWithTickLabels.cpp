@@ -89,6 +89,29 @@ private Q_SLOTS:
         QCOMPARE(SliderOf(widget)->accessibleDescription(), QString("Best"));
     }
 
+    void itemTextCanBeReplaced()
+    {
+        SliderWithTickLabels widget(nullptr);
+        widget.AddItems({"Low", "High"});
+        widget.SetCurrentIndex(1);
+        widget.show();
+        QSignalSpy changed(&widget, &SliderWithTickLabels::CurrentIndexChanged);
+        const int narrow = widget.sizeHint().width();
+        widget.SetItemText(1, "Extraordinarily high");
+        QCOMPARE(widget.CurrentText(), QString("Extraordinarily high"));
+        QCOMPARE(SliderOf(widget)->accessibleName(), QString("Extraordinarily high"));
+        QTRY_VERIFY(widget.sizeHint().width() > narrow);
+        widget.resize(widget.sizeHint());
+        QTRY_VERIFY(LabelsOf(widget)[1]->text().contains("Extraordinarily high"));
+        widget.SetItemText(0, "Lowest");
+        QCOMPARE(widget.FindText("Lowest"), 0);
+        QCOMPARE(SliderOf(widget)->accessibleName(), QString("Extraordinarily high"));
+        for (const int beyond : {-1, 2})
+            widget.SetItemText(beyond, "None");
+        QCOMPARE(widget.FindText("None"), -1);
+        QCOMPARE(changed.size(), 0);
+    }
+
     void labelsStandOverTheirTicks()
     {
         const QString sentence("A text that is much longer than all of the others");
