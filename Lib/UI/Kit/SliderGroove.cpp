@@ -11,18 +11,19 @@ namespace {
 constexpr int LONGEST_SIDE = 0x7fff;
 constexpr qint64 LARGEST_AREA = qint64(1) << 25;
 
-constexpr QLatin1String HORIZONTAL_SHEET(" QSlider                    { background:rgba(0,0,0,0); } "
-                                         " QSlider::groove:horizontal { width:%1; %2 } "
-                                         " QSlider::handle:horizontal { image:none; border:none; background:none; } "
-                                         " QSlider::add-page:horizontal { %3 } "
-                                         " QSlider::sub-page:horizontal { %4 } ");
+const QString HORIZONTAL_SHEET =
+    QStringLiteral(" QSlider                    { background:rgba(0,0,0,0); } "
+                   " QSlider::groove:horizontal { width:%1; %2 } "
+                   " QSlider::handle:horizontal { image:none; border:none; background:none; } "
+                   " QSlider::add-page:horizontal { %3 } "
+                   " QSlider::sub-page:horizontal { %4 } ");
 
 // The pages of an upright slider have no part in it: these selectors find nothing there.
-constexpr QLatin1String VERTICAL_SHEET(" QSlider                  { background:rgba(0,0,0,0); } "
-                                       " QSlider::groove:vertical { height:%1; %2 } "
-                                       " QSlider::handle:vertical { image:none; border:none; background:none; } "
-                                       " QSlider::add-page:horizontal { %3 } "
-                                       " QSlider::sub-page:horizontal { %4 } ");
+const QString VERTICAL_SHEET = QStringLiteral(" QSlider                  { background:rgba(0,0,0,0); } "
+                                              " QSlider::groove:vertical { height:%1; %2 } "
+                                              " QSlider::handle:vertical { image:none; border:none; background:none; } "
+                                              " QSlider::add-page:horizontal { %3 } "
+                                              " QSlider::sub-page:horizontal { %4 } ");
 
 // Whether `text`, put into a rule, leaves the reader of the sheet inside of one rule.
 bool KeepsInsideOfRule(const QString& text)
@@ -207,6 +208,6 @@ QString SliderGroove::sheet(Part look) const
     const int length =
         (isHorizontal ? scene.size.width() : scene.size.height()) - 2 * Zelkor::Vx::UI::Common::WithinReach(inset);
     // All at once: a fragment may have a per cent sign in it.
-    return QString(isHorizontal ? HORIZONTAL_SHEET : VERTICAL_SHEET)
+    return (isHorizontal ? HORIZONTAL_SHEET : VERTICAL_SHEET)
         .arg(QString::number(length), usableStyles[look], usableStyles[ADD_PAGE], usableStyles[SUB_PAGE]);
 }
