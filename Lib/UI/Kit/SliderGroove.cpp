@@ -74,11 +74,7 @@ bool SliderGroove::Scene::operator==(const Scene& other) const
            minimum == other.minimum && maximum == other.maximum && enabled == other.enabled;
 }
 
-SliderGroove::SliderGroove(const QSlider& slider) : owner(slider)
-{
-    canvases[EMPTY].slider = new QSlider(slider.parentWidget());
-    canvases[EMPTY].slider->hide();
-}
+SliderGroove::SliderGroove(const QSlider& slider) : owner(slider) {}
 
 SliderGroove::~SliderGroove()
 {
@@ -124,7 +120,7 @@ bool SliderGroove::followsValue()
 bool SliderGroove::followsValue(Canvas& canvas)
 {
     if (!canvas.slider)
-        return true; // gone with a parent or the application
+        return true; // gone with the application
     if (!canvas.followsValue) {
         const int middle = int((qint64(scene.minimum) + scene.maximum) / 2);
         std::array<QPixmap, 3> pictures;
@@ -173,7 +169,6 @@ void SliderGroove::prepare(Canvas& canvas, Part look)
     if (!canvas.slider)
         canvas.slider = new QSlider;
     QSlider& slider = *canvas.slider;
-    slider.setParent(nullptr);
     slider.setFocusPolicy(Qt::NoFocus);
     slider.setOrientation(owner.orientation());
     slider.setRange(scene.minimum, scene.maximum);

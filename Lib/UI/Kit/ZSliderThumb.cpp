@@ -93,6 +93,9 @@ void ZSliderThumb::setName(const QString& name)
 
 void ZSliderThumb::setStyleTag(const QString& tag)
 {
+    // A style sheet sets it while the thumb is polished.
+    if (tag == currentStyleTag)
+        return;
     currentStyleTag = tag;
     style()->unpolish(this);
     style()->polish(this);

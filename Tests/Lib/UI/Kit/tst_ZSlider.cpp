@@ -1,6 +1,7 @@
 #include <UI/Kit/SliderTrack.h>
 #include <UI/Kit/ZSlider.h>
 #include <UI/Kit/ZSliderThumb.h>
+#include <UI/Kit/ZTimelineSlider.h>
 
 #include <Support/Input.h>
 #include <Support/SignalTap.h>
@@ -8,6 +9,7 @@
 
 #include <QAccessible>
 #include <QSignalSpy>
+#include <QSplitter>
 
 #include <functional>
 
@@ -132,6 +134,36 @@ private Q_SLOTS:
         other->setAccessibleName("Mine");
         other->setName("new");
         QVERIFY(told->text(QAccessible::Name) == "Mine" && slider.thumb("other") == other);
+    }
+
+    void sliderIsOnePaneOfItsSplitter_data()
+    {
+        QTest::addColumn<bool>("isTimeline");
+        QTest::newRow("slider with thumbs") << false;
+        QTest::newRow("timeline slider") << true;
+    }
+
+    void sliderIsOnePaneOfItsSplitter()
+    {
+        QFETCH(bool, isTimeline);
+        QSplitter splitter;
+        splitter.resize(300, 100);
+        splitter.show();
+        // The splitter asks each new child, and those that it has, for a size hint.
+        const ZSlider* slider = isTimeline ? new ZTimelineSlider(&splitter) : new ZSlider(&splitter);
+        QTRY_VERIFY(slider->isVisible());
+        QCOMPARE(splitter.count(), 1);
+    }
+
+    void styleSheetCanSetThePropertiesOfAThumb()
+    {
+        Trimmer slider;
+        slider.setStyleSheet("ZSliderThumb { qproperty-styleTag: x; qproperty-zOrder: 1; qproperty-parentMargin: 3 }"
+                             "ZSliderThumb[styleTag=\"x\"] { border: none; min-width: 20px }");
+        slider.show();
+        QCOMPARE(slider.defaultThumb()->styleTag(), QString("x"));
+        QCOMPARE(slider.defaultThumb()->y(), 3);
+        QCOMPARE(slider.defaultThumb()->width(), 20);
     }
 
     void defaultThumbGoesWithTheSlider()
