@@ -20,8 +20,8 @@ public:
     enum Part { EMPTY, NORMAL, SELECTED, BORDER, ADD_PAGE, SUB_PAGE, PARTS };
     static constexpr int LOOKS = BORDER + 1;
 
-    /// Renders what `slider` is: its size, range, value, state, font and palette. The hidden sliders have no parent: one
-    /// that arranges its children would make room for them.
+    /// Renders what `slider` is: its size, range, value, state, font and palette. The hidden sliders have no parent:
+    /// one that arranges its children would make room for them.
     explicit SliderGroove(const QSlider& slider);
     ~SliderGroove();
     Q_DISABLE_COPY_MOVE(SliderGroove)

@@ -78,9 +78,12 @@ void VolumeSlider::paintEvent(QPaintEvent* event)
 {
     const LevelMeter::Bars bars =
         LevelMeter::BarsOf({size(), peakValueRectOffsetX, peakValueRectOffsetY, volume, level});
+    const auto pick = [this](const QColor& enabled, const QColor& disabled) {
+        return isEnabled() ? enabled : disabled;
+    };
     QLinearGradient gradient(bars.background.topLeft(), bars.background.bottomRight());
-    gradient.setColorAt(0, isEnabled() ? colorPeakValueGradientFrom : colorPeakValueGradientDisableFrom);
-    gradient.setColorAt(1, isEnabled() ? colorPeakValueGradientTo : colorPeakValueGradientDisableTo);
+    gradient.setColorAt(0, pick(colorPeakValueGradientFrom, colorPeakValueGradientDisableFrom));
+    gradient.setColorAt(1, pick(colorPeakValueGradientTo, colorPeakValueGradientDisableTo));
 
     // Ends before the slider's own painting begins.
     {
@@ -91,8 +94,8 @@ void VolumeSlider::paintEvent(QPaintEvent* event)
             painter.setBrush(brush);
             painter.drawRoundedRect(bar, borderRadius, borderRadius);
         };
-        draw(bars.background, isEnabled() ? colorBackground : colorBackgroundDisable);
-        draw(bars.level, isEnabled() ? colorPeakValue : colorPeakValueDisable);
+        draw(bars.background, pick(colorBackground, colorBackgroundDisable));
+        draw(bars.level, pick(colorPeakValue, colorPeakValueDisable));
         draw(bars.volume, gradient);
     }
     QSlider::paintEvent(event);

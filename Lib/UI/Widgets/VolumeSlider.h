@@ -11,8 +11,8 @@ namespace Zelkor::Vx {
 ///
 /// The meter has three rounded rectangles, one over the other: a background, the input level, and that level times the
 /// volume in a gradient. The bars grow from the bottom, whatever the orientation. The meter keeps what it was given
-/// last: decay and peak hold are the business of whoever feeds it. While the value changes, a tool tip tells it for a
-/// second. Groove and handle come from the style sheet. GUI thread only.
+/// last: decay and peak hold are the caller's business. While the value changes, a tool tip shows it for a second.
+/// Groove and handle come from the style sheet. Setting a property repaints the slider. GUI thread only.
 class VX_WIDGETS_EXPORT VolumeSlider : public QSlider
 {
     Q_OBJECT
@@ -53,21 +53,42 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    /// The value of a property; repaints the slider when it changes.
+    template<class Value>
+    class Q_DECL_HIDDEN Look
+    {
+    public:
+        Look(VolumeSlider* slider, const Value& value) : slider(slider), value(value) {}
+
+        operator const Value&() const { return value; }
+        bool operator!=(const Value& other) const { return value != other; }
+        Look& operator=(const Value& newValue)
+        {
+            value = newValue;
+            slider->update();
+            return *this;
+        }
+
+    private:
+        VolumeSlider* slider;
+        Value value;
+    };
+
     void ShowValue(int value);
 
-    QColor colorPeakValueBorder = Qt::transparent;
-    QColor colorBackground{28, 32, 43};
-    QColor colorPeakValue{86, 91, 107};
-    QColor colorPeakValueGradientFrom{37, 127, 101};
-    QColor colorPeakValueGradientTo{37, 127, 101};
-    QColor colorBackgroundDisable{39, 45, 58};
-    QColor colorPeakValueDisable{68, 74, 90};
-    QColor colorPeakValueGradientDisableFrom{43, 92, 87};
-    QColor colorPeakValueGradientDisableTo{43, 92, 87};
-    int tooltipOffsetX = 5;
-    int peakValueRectOffsetX = 5;
-    int peakValueRectOffsetY = 4;
-    int borderRadius = 0;
+    Look<QColor> colorPeakValueBorder{this, Qt::transparent};
+    Look<QColor> colorBackground{this, {28, 32, 43}};
+    Look<QColor> colorPeakValue{this, {86, 91, 107}};
+    Look<QColor> colorPeakValueGradientFrom{this, {37, 127, 101}};
+    Look<QColor> colorPeakValueGradientTo{this, {37, 127, 101}};
+    Look<QColor> colorBackgroundDisable{this, {39, 45, 58}};
+    Look<QColor> colorPeakValueDisable{this, {68, 74, 90}};
+    Look<QColor> colorPeakValueGradientDisableFrom{this, {43, 92, 87}};
+    Look<QColor> colorPeakValueGradientDisableTo{this, {43, 92, 87}};
+    Look<int> tooltipOffsetX{this, 5};
+    Look<int> peakValueRectOffsetX{this, 5};
+    Look<int> peakValueRectOffsetY{this, 4};
+    Look<int> borderRadius{this, 0};
     float volume = 0;
     float level = 0;
 };

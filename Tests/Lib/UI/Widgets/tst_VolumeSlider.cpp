@@ -6,6 +6,7 @@
 #include <Support/Picture.h>
 #include <Support/TestCase.h>
 
+#include <QMetaProperty>
 #include <QSignalSpy>
 #include <QToolTip>
 
@@ -119,6 +120,29 @@ private Q_SLOTS:
             }
             QVERIFY(next != 0.52F || region.boundingRect().height() < 20);
             before = after;
+        }
+    }
+
+    void changedPropertyRepaintsTheWholeMeter_data()
+    {
+        QTest::addColumn<QByteArray>("property");
+        const QMetaObject& meta = VolumeSlider::staticMetaObject;
+        for (int i = meta.propertyOffset(); i < meta.propertyCount(); ++i)
+            QTest::newRow(meta.property(i).name()) << QByteArray(meta.property(i).name());
+    }
+
+    void changedPropertyRepaintsTheWholeMeter()
+    {
+        QFETCH(QByteArray, property);
+        VolumeSlider slider(nullptr);
+        slider.resize(30, 100);
+        slider.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&slider));
+        Support::PaintWatch paints(&slider);
+        const bool isColor = property.startsWith("color");
+        for (const QVector<QRegion>& expected : {QVector<QRegion>{slider.rect()}, QVector<QRegion>()}) {
+            slider.setProperty(property, isColor ? QVariant(QColor(Qt::red)) : QVariant(9));
+            QCOMPARE(paints.Take(), expected); // set to the same value the second time
         }
     }
 
