@@ -40,7 +40,16 @@ struct Q_DECL_HIDDEN SliderWithTickLabels::Impl
 SliderWithTickLabels::SliderWithTickLabels(QWidget* parent) : ZFrame(parent), impl(std::make_unique<Impl>())
 {
     UI::Common::AccessibleFactory<SliderWithTickLabels, UI::Common::AccessibleAs<QAccessible::Grouping>>::Install();
-    impl->slider = new TickSlider(this);
+    const auto tell = [this](int value) {
+        TellCurrentText();
+        if (value < 0)
+            return;
+        const QPointer<SliderWithTickLabels> self(this);
+        Q_EMIT CurrentIndexChanged(value);
+        if (self)
+            MarkCurrent(value);
+    };
+    impl->slider = new TickSlider(tell, this);
     impl->slider->setObjectName(QStringLiteral("slider"));
     impl->labelsFrame = new ZFrame(this);
     impl->labelsFrame->setObjectName(QStringLiteral("labelsFrame"));
@@ -58,16 +67,6 @@ SliderWithTickLabels::SliderWithTickLabels(QWidget* parent) : ZFrame(parent), im
     // As a slider by itself: extra height would part the labels from their ticks.
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     setFocusProxy(impl->slider);
-
-    connect(impl->slider, &QSlider::valueChanged, this, [this](int value) {
-        TellCurrentText();
-        if (value < 0)
-            return;
-        const QPointer<SliderWithTickLabels> self(this);
-        Q_EMIT CurrentIndexChanged(value);
-        if (self)
-            MarkCurrent(value);
-    });
 }
 
 SliderWithTickLabels::~SliderWithTickLabels() = default;

@@ -1,11 +1,25 @@
 #include <UI/Widgets/TickSlider.h>
 
 #include <QPointer>
-#include <QSignalBlocker>
 #include <QStyle>
 #include <QStyleOptionSlider>
 
 namespace Zelkor::Vx {
+
+TickSlider::TickSlider(std::function<void(int)> listener, QWidget* parent)
+    : QSlider(Qt::Horizontal, parent), listener(std::move(listener))
+{
+    connect(this, &QSlider::valueChanged, this, [this] {
+        if (!pressing)
+            CallListener();
+    });
+}
+
+void TickSlider::CallListener()
+{
+    const auto copy = listener; // outlives the slider
+    copy(value());
+}
 
 int TickSlider::HandleX(int value, int width) const
 {
@@ -22,17 +36,14 @@ int TickSlider::HandleX(int value, int width) const
 void TickSlider::mousePressEvent(QMouseEvent* event)
 {
     const int before = value();
-    const bool wasDown = isSliderDown();
-    {
-        // A press beside the handle is not over for a slider when it tells the new value. So that comes after it.
-        const QSignalBlocker blocker(this);
-        QSlider::mousePressEvent(event);
-    }
     const QPointer<TickSlider> self(this);
+    pressing = true;
+    QSlider::mousePressEvent(event);
+    if (!self)
+        return;
+    pressing = false;
     if (value() != before)
-        Q_EMIT valueChanged(value());
-    if (self && isSliderDown() && !wasDown)
-        Q_EMIT sliderPressed();
+        CallListener();
 }
 
 } // namespace Zelkor::Vx

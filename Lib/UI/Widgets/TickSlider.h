@@ -2,13 +2,17 @@
 
 #include <QSlider>
 
+#include <functional>
+
 namespace Zelkor::Vx {
 
-/// A horizontal slider that tells where its handle stands, and that may be deleted by whoever hears of its value.
+/// A horizontal slider that knows where its handle stands.
 class TickSlider : public QSlider
 {
 public:
-    explicit TickSlider(QWidget* parent) : QSlider(Qt::Horizontal, parent) {}
+    /// Calls `listener` with each new value, and after a press only when this is over: unlike a slot of the slider's
+    /// own signals, the listener may delete the slider.
+    TickSlider(std::function<void(int)> listener, QWidget* parent);
 
     /// Where the middle of the handle is at this value if the slider were this wide: pixels from the end where the
     /// values begin, which is the right one from right to left.
@@ -16,6 +20,12 @@ public:
 
 protected:
     void mousePressEvent(QMouseEvent* event) override;
+
+private:
+    void CallListener();
+
+    std::function<void(int)> listener;
+    bool pressing = false;
 };
 
 } // namespace Zelkor::Vx

@@ -112,6 +112,32 @@ private Q_SLOTS:
         QCOMPARE(changed.size(), 0);
     }
 
+    // As a slider of Qt emits them.
+    void pressBesideTheHandleEmitsTheSignalsOfASlider_data()
+    {
+        QTest::addColumn<int>("button");
+        QTest::addColumn<QStringList>("signalsInOrder");
+        QTest::newRow("page step") << int(Qt::LeftButton) << QStringList{"action 3", "value 1", "index 1"};
+        QTest::newRow("to the mouse") << int(Qt::MiddleButton)
+                                      << QStringList{"action 7", "value 1", "action 7", "pressed", "index 1"};
+    }
+
+    void pressBesideTheHandleEmitsTheSignalsOfASlider()
+    {
+        QFETCH(int, button);
+        SliderWithTickLabels widget(nullptr);
+        widget.AddItems({"a", "b", "c"});
+        QSlider* slider = SliderOf(widget);
+        QStringList heard;
+        connect(slider, &QSlider::actionTriggered, [&](int action) { heard << QString("action %1").arg(action); });
+        connect(slider, &QSlider::valueChanged, [&](int value) { heard << QString("value %1").arg(value); });
+        connect(slider, &QSlider::sliderPressed, [&] { heard << "pressed"; });
+        connect(&widget, &SliderWithTickLabels::CurrentIndexChanged,
+                [&](int index) { heard << QString("index %1").arg(index); });
+        QTest::mousePress(slider, Qt::MouseButton(button), {}, PartOf(slider, 1, QStyle::SC_SliderGroove).center());
+        QTEST(heard, "signalsInOrder");
+    }
+
     void labelsStandOverTheirTicks()
     {
         const QString sentence("A text that is much longer than all of the others");
