@@ -39,7 +39,7 @@ GalleryWindow::GalleryWindow(RecorderModel* model, Preferences* preferences, dou
             [this](double factor) { Q_EMIT RestartRequested(factor, list->CurrentPage()); });
     bar->SetForWidgets(false);
     setWindowTitle(tr("Widgets of Vx Recorder"));
-    list->setFocus();
+    list->FocusList();
 }
 
 void GalleryWindow::OpenPage(const QString& name)

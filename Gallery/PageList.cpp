@@ -73,7 +73,6 @@ PageList::PageList(QWidget* parent) : QWidget(parent), search(new QLineEdit), li
         if (!PageOf(item).isEmpty())
             Q_EMIT PageChosen(PageOf(item));
     });
-    setFocusProxy(list);
     Retranslate();
 }
 
@@ -83,6 +82,11 @@ void PageList::OpenPage(const QString& name)
         if (!name.isEmpty() && PageOf(list->item(row)) == name)
             list->setCurrentRow(row);
     }
+}
+
+void PageList::FocusList()
+{
+    list->setFocus();
 }
 
 QString PageList::CurrentPage() const

@@ -28,6 +28,9 @@ public:
     /// Opens a page; a name that is no page is ignored.
     void OpenPage(const QString& name);
 
+    /// Gives the focus to the list; as the focus proxy it would keep Tab from the search field.
+    void FocusList();
+
     /// The name of the open page, empty for none.
     QString CurrentPage() const;
 

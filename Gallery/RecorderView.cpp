@@ -64,7 +64,6 @@ RecorderView::RecorderView(RecorderModel* model, const Preferences* preferences,
     layout->addWidget(CreateToolBar());
     CreateErrorBanner();
     CoverStage();
-    setFocusProxy(recordButton);
 
     connect(runButton, &QToolButton::clicked, this, &RecorderView::ToggleRunning);
     connect(recordButton, &QToolButton::clicked, this, &RecorderView::ToggleRecording);
@@ -300,6 +299,11 @@ void RecorderView::Retranslate()
     SetTextBesideIcon(recordButton, tr("Record"));
     recordButton->setMinimumWidth(qMax(width, recordButton->sizeHint().width()));
     ShowStatus();
+}
+
+void RecorderView::FocusRecordButton()
+{
+    recordButton->setFocus();
 }
 
 void RecorderView::ShowFirstHint()

@@ -35,6 +35,10 @@ class RecorderView : public QWidget
 public:
     RecorderView(RecorderModel* model, const Preferences* preferences, QWidget* parent = nullptr);
 
+    /// Gives the focus to the button that starts a recording. The view is no focus proxy: Tab goes straight to the
+    /// proxy of a widget that it comes to, and would pass everything before it.
+    void FocusRecordButton();
+
     /// Tells somebody who is here for the first time where to begin. The view has to be visible.
     void ShowFirstHint();
 

@@ -44,7 +44,7 @@ RecorderWindow::RecorderWindow(RecorderModel* model, Preferences* preferences)
     // A frameless window has no edge to take hold of.
     sizeGrip = new QSizeGrip(this);
     addActions(view->actions());
-    view->setFocus();
+    view->FocusRecordButton();
 
     connect(widgetsButton, &QToolButton::clicked, this, &RecorderWindow::WidgetsRequested);
     connect(styleButton, &QToolButton::clicked, this, &RecorderWindow::StyleEditorRequested);

@@ -9,7 +9,6 @@ Scrolled::Scrolled(QWidget* content, QWidget* parent) : QScrollArea(parent)
 {
     setFrameShape(QFrame::NoFrame);
     setFocusPolicy(Qt::NoFocus);
-    setFocusProxy(content);
     setWidgetResizable(true);
     setWidget(content);
     content->setAutoFillBackground(false);

@@ -53,6 +53,8 @@ WidgetPage::WidgetPage(const Entry& entry, QWidget* parent)
     scrollArea->setWidget(content);
     content->setAutoFillBackground(false);
     scrollArea->setFrameShape(QFrame::NoFrame);
+    // The cards take the focus, and what they do not want of the keyboard scrolls.
+    scrollArea->setFocusPolicy(Qt::NoFocus);
     // The page has to be narrow before it can arrange itself for that.
     setMinimumWidth(1);
     splitter->setChildrenCollapsible(false);

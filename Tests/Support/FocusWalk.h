@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QAccessible>
+#include <QStringList>
+#include <QWidget>
+#include <QtTest>
+
+namespace Support {
+
+/// The accessible names of the widgets that get the focus while Tab or Backtab is pressed until the focus is back where
+/// it was; sorted, without duplicates.
+inline QStringList NamesOnTheWay(const QWidget& window, Qt::Key key)
+{
+    constexpr int MOST_STEPS = 500;
+    const Qt::KeyboardModifiers modifiers = key == Qt::Key_Backtab ? Qt::ShiftModifier : Qt::NoModifier;
+    const QWidget* start = window.focusWidget();
+    QStringList names;
+    for (int i = 0; i < MOST_STEPS && (i == 0 || window.focusWidget() != start); ++i) {
+        QTest::keyClick(window.windowHandle(), key, modifiers);
+        names.append(QAccessible::queryAccessibleInterface(window.focusWidget())->text(QAccessible::Name));
+    }
+    names.removeDuplicates();
+    names.sort();
+    return names;
+}
+
+} // namespace Support
