@@ -3,7 +3,6 @@
 #include "Preferences.h"
 #include "Texts.h"
 
-#include <UI/Kit/ZLabel.h>
 #include <UI/Widgets/ColorButton.h>
 #include <UI/Widgets/CursorHighlightPreviewWidget.h>
 #include <UI/Widgets/CustomTitleBar.h>
@@ -64,11 +63,10 @@ QVBoxLayout* MakePageLayout(QWidget* page)
 // The items of a slider stay; their texts are those of the language.
 void SetTexts(SliderWithTickLabels* slider, const QStringList& texts)
 {
-    const auto labels = slider->findChildren<ZLabel*>();
-    if (labels.isEmpty())
+    if (slider->CurrentText().isEmpty())
         slider->AddItems(texts);
-    for (int i = 0; i < labels.size(); ++i)
-        labels[i]->setOriginalText(texts[i]);
+    for (int i = 0; i < texts.size(); ++i)
+        slider->SetItemText(i, texts[i]);
 }
 
 void Name(QLabel* label, QWidget* field, const QString& text)

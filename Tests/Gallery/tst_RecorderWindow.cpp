@@ -7,6 +7,7 @@
 #include <Gallery/SettingsDialog.h>
 #include <Gallery/StyleSheet.h>
 
+#include <Support/FocusWalk.h>
 #include <Support/TestCase.h>
 
 #include <UI/Widgets/CountdownIndicatorWidget.h>
@@ -117,6 +118,20 @@ private Q_SLOTS:
         QVERIFY(!window.isVisible());
     }
 
+    void tabReachesEverythingInTheWindow()
+    {
+        RecorderWindow window(&model, &preferences);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        const QStringList forwards = Support::NamesOnTheWay(window, Qt::Key_Tab);
+        QCOMPARE(
+            forwards.join(", "),
+            QString(
+                "About, All widgets, Audio, Close, Drawing colour, Edit the style sheet (F12), "
+                "Full screen, Minimise, Pointer, Record, Settings, Settings of the device, Soft click, Source, Stop"));
+        QCOMPARE(forwards, Support::NamesOnTheWay(window, Qt::Key_Backtab));
+    }
+
     void settingsHaveTheSizeOfTheirPageAndCountAtOnce()
     {
         SettingsDialog dialog(&preferences);
@@ -165,6 +180,19 @@ private Q_SLOTS:
         QVERIFY(translations.Use("de"));
         QVERIFY(!translations.Use("xx"));
         QCOMPARE(GalleryWindow::tr("Recorder"), QString("Recorder"));
+    }
+
+    void languageChangeKeepsTheItemsOfTheSliders()
+    {
+        Translations translations;
+        SettingsDialog dialog(&preferences);
+        auto* quality = dialog.findChild<Vx::SliderWithTickLabels*>("quality");
+        quality->SetCurrentIndex(1);
+        QVERIFY(translations.Use("de"));
+        QTRY_COMPARE(quality->CurrentText(), QString("Mittel"));
+        QCOMPARE(quality->FindText("Medium"), -1);
+        QCOMPARE(quality->FindText("Verlustfrei"), 3);
+        QVERIFY(translations.Use("en"));
     }
 
 private:
