@@ -7,6 +7,7 @@
 #include <QIconEngine>
 #include <QPainter>
 #include <QPixmap>
+#include <QRegularExpression>
 #include <QStyleFactory>
 
 // A resource in a static library has to be registered by hand, from outside of any namespace.
@@ -31,6 +32,19 @@ QString FileOf(const QString& nameOrFile)
 }
 
 int appliedSheets = 0; ///< how many there were; icons of an earlier one are out of date
+QString iconFolder;    ///< of the last one
+
+// Qt looks for a file that a search path lacks in the current folder, where anything may lie. An icon that is missing
+// is therefore looked for in the resources, where it is missing as well.
+QString WithoutMissingIcons(QString text)
+{
+    static const QRegularExpression REFERENCE(SEARCH_PATH + QStringLiteral(":([^)\"'\\s]+)"));
+    for (auto match = REFERENCE.match(text); match.hasMatch(); match = REFERENCE.match(text, match.capturedEnd())) {
+        if (!QFileInfo::exists(QDir(iconFolder).filePath(match.captured(1))))
+            text.replace(match.capturedStart(), match.capturedLength(), ":/" + SEARCH_PATH + "/" + match.captured(1));
+    }
+    return text;
+}
 
 /// `stem` is the file of the plain icon without its ending.
 QIcon LoadTinted(const QString& stem, const QString& tint)
@@ -68,7 +82,7 @@ private:
     const QIcon& Current()
     {
         if (loadedFor != appliedSheets) {
-            icon = LoadTinted(SEARCH_PATH + ":" + name, tint);
+            icon = LoadTinted(QDir(iconFolder).filePath(name), tint);
             loadedFor = appliedSheets;
         }
         return icon;
@@ -96,10 +110,11 @@ std::optional<StyleSheet> LoadStyleSheet(const QString& nameOrFile, QString& err
 
 void ApplyStyleSheet(const StyleSheet& sheet)
 {
-    QDir::setSearchPaths(SEARCH_PATH, {sheet.iconFolder});
+    iconFolder = QDir(sheet.iconFolder).absolutePath();
+    QDir::setSearchPaths(SEARCH_PATH, {iconFolder});
     ++appliedSheets;
     QApplication::setStyle(QStyleFactory::create("Fusion"));
-    qApp->setStyleSheet(sheet.text);
+    qApp->setStyleSheet(WithoutMissingIcons(sheet.text));
 }
 
 QIcon BuiltInIcon(const QString& sheet, const QString& name)

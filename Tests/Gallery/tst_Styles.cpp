@@ -5,7 +5,9 @@
 
 #include <QDir>
 #include <QFile>
+#include <QLabel>
 #include <QRegularExpression>
+#include <QTemporaryDir>
 
 #include <algorithm>
 #include <cmath>
@@ -87,6 +89,31 @@ private Q_SLOTS:
             const double contrast = Contrast(palette[front], palette[back]);
             QVERIFY2(contrast >= smallest, qPrintable(QString("%1 on %2: %3").arg(front, back).arg(contrast)));
         }
+    }
+
+    void iconsNeverComeFromTheCurrentFolder()
+    {
+        QTemporaryDir folder;
+        const QString previous = QDir::currentPath();
+        QVERIFY(QDir::setCurrent(folder.path()));
+        QImage red(16, 16, QImage::Format_RGB32);
+        red.fill(Qt::red);
+        QVERIFY(red.save("vxstyle:mark.svg", "PNG"));
+        QVERIFY(QImage("vxstyle:mark.svg") == red);
+
+        QFETCH_GLOBAL(QString, name);
+        QString error;
+        StyleSheet sheet = *LoadStyleSheet(name.toLower(), error);
+        sheet.text += "\nQLabel { background-image: url(vxstyle:mark.svg); }";
+        ApplyStyleSheet(sheet);
+        QLabel label;
+        label.resize(16, 16);
+        // Qt says for each attempt that there is no such icon.
+        for (const char* icon : {"mark.svg", "mark.svg", "mark.svg", "mark.svg", "mark.svg", "mark-dis", "mark-dis"})
+            ExpectWarning(icon);
+        QVERIFY(label.grab().toImage().pixelColor(8, 8) != Qt::red);
+        QVERIFY(StyleIcon("mark").pixmap(16).isNull());
+        QVERIFY(QDir::setCurrent(previous));
     }
 
     void sheetIsWhole()
