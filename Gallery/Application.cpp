@@ -22,7 +22,6 @@ namespace Zelkor::Gallery {
 
 namespace {
 
-constexpr int EXIT_BAD_USE = 2;
 constexpr int PICTURE_MARGIN = 12;
 constexpr int HINT_DELAY_MS = 800; ///< until the window system has put the window into its place
 const QString HINT_SHOWN = QStringLiteral("firstHintShown");

@@ -12,8 +12,6 @@ namespace Zelkor::Gallery {
 
 namespace {
 
-constexpr int EXIT_BAD_USE = 2;
-constexpr int LARGEST_SIDE = 8192;
 constexpr double SMALLEST_SCALE = 0.5;
 constexpr double LARGEST_SCALE = 4;
 constexpr int LONGEST_WAIT = 600000;

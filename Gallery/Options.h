@@ -10,6 +10,9 @@
 
 namespace Zelkor::Gallery {
 
+constexpr int EXIT_BAD_USE = 2;
+constexpr int LARGEST_SIDE = 8192; ///< of a window, in pixels of the picture
+
 /// What the command line asks for, checked.
 struct Options
 {

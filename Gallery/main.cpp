@@ -111,5 +111,16 @@ int main(int argc, char* argv[])
     QApplication qtApplication(programOnly, argv);
     QApplication::setApplicationName("VxGallery");
     SettleWithoutDesktop();
+    // The scale of the screen, and of the environment, comes on top.
+    const QSize pixels = options.size * qtApplication.devicePixelRatio();
+    if (qMax(pixels.width(), pixels.height()) > LARGEST_SIDE) {
+        Complain(QString("--size %1x%2 is %3x%4 pixels at this scale; sides may have up to %5")
+                     .arg(options.size.width())
+                     .arg(options.size.height())
+                     .arg(pixels.width())
+                     .arg(pixels.height())
+                     .arg(LARGEST_SIDE));
+        return EXIT_BAD_USE;
+    }
     return Application(options).Run();
 }

@@ -103,11 +103,26 @@ private Q_SLOTS:
     void refusesBadUse_data()
     {
         QTest::addColumn<int>("exitCode");
-        for (const char* line :
-             {"--no-such-option", "ZLabel", "--page NoWidget", "--page ", "--shot", "--shot ", "--size 100x",
-              "--size -5x10", "--size 0x0", "--size 99999x99999", "--scale big", "--scale nan", "--scale 1000",
-              "--after soon", "--after -1", "--style no-such-sheet.qss", "--style .", "--shot file --shots shots",
-              "--shot file --press Nothing"})
+        for (const char* line : {"--no-such-option",
+                                 "ZLabel",
+                                 "--page NoWidget",
+                                 "--page ",
+                                 "--shot",
+                                 "--shot ",
+                                 "--size 100x",
+                                 "--size -5x10",
+                                 "--size 0x0",
+                                 "--size 99999x99999",
+                                 "--scale 4 --size 8192x8192",
+                                 "--scale big",
+                                 "--scale nan",
+                                 "--scale 1000",
+                                 "--after soon",
+                                 "--after -1",
+                                 "--style no-such-sheet.qss",
+                                 "--style .",
+                                 "--shot file --shots shots",
+                                 "--shot file --press Nothing"})
             QTest::newRow(line) << 2;
         for (const char* line :
              {"--after 0 --shot no/such/folder.png", "--shots file/folder", "--pictures file/folder"})
