@@ -1,6 +1,7 @@
 #include <UI/Widgets/ButtonWithLabels.h>
 
 #include <UI/Common/BoxLayouts.h>
+#include <UI/Common/MirroredStyle.h>
 #include <UI/Common/ObjectNames.h>
 #include <UI/Kit/ZLabel.h>
 
@@ -46,6 +47,7 @@ ButtonWithLabels::ButtonWithLabels(Qt::Orientation orientation, QWidget* parent)
       hotKeyLabel(MakeLabel(Common::HOT_KEY_LABEL, this)), iconLabel(MakeLabel(Common::ICON_LABEL, this)),
       orientation(orientation)
 {
+    Common::FollowLayoutDirection();
     QBoxLayout* texts = nullptr;
     if (orientation == Qt::Horizontal)
         texts = Common::MakeBoxLayout<QHBoxLayout>();

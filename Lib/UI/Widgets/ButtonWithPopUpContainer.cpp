@@ -3,6 +3,7 @@
 #include <UI/Common/AccessibleFactory.h>
 #include <UI/Common/BoxLayouts.h>
 #include <UI/Common/LogSource.h>
+#include <UI/Common/MirroredStyle.h>
 #include <UI/Kit/ZFrame.h>
 #include <UI/Widgets/PopUpPlacement.h>
 
@@ -167,6 +168,7 @@ void ButtonWithPopUpContainer::PopUpWindow::TellExpanded()
 
 ButtonWithPopUpContainer::ButtonWithPopUpContainer(QWidget* parent) : QToolButton(parent), popUp(new PopUpWindow(this))
 {
+    Common::FollowLayoutDirection();
     Common::AccessibleFactory<ButtonWithPopUpContainer, PopUpWindow::AccessibleButton>::Install();
     setCheckable(true);
     connect(this, &QAbstractButton::clicked, this, [this] {

@@ -1,5 +1,7 @@
 #include <UI/Widgets/ButtonWithPopUpList.h>
 
+#include <UI/Common/MirroredStyle.h>
+
 #include <QAction>
 #include <QMenu>
 #include <QPointer>
@@ -36,6 +38,7 @@ struct ButtonWithPopUpList::Impl
 
 ButtonWithPopUpList::ButtonWithPopUpList(QWidget* parent) : QToolButton(parent), impl(std::make_unique<Impl>(this))
 {
+    UI::Common::FollowLayoutDirection();
     setMenu(impl->menu);
     setPopupMode(QToolButton::MenuButtonPopup);
 }

@@ -1,5 +1,7 @@
 #include <UI/Widgets/ClickSoundComboBox.h>
 
+#include <UI/Common/MirroredStyle.h>
+
 #include <QAbstractItemView>
 #include <QStylePainter>
 
@@ -14,6 +16,7 @@ constexpr int ARROW_SPACE = 30;
 
 ClickSoundComboBox::ClickSoundComboBox(QWidget* parent) : QComboBox(parent)
 {
+    Common::FollowLayoutDirection();
     view()->setTextElideMode(Qt::ElideRight);
 }
 

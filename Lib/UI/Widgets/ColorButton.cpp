@@ -1,5 +1,7 @@
 #include <UI/Widgets/ColorButton.h>
 
+#include <UI/Common/MirroredStyle.h>
+
 #include <Zelkor/Util/WidgetStyle.h>
 
 #include <QColorDialog>
@@ -69,6 +71,7 @@ struct ColorButton::Impl
 
 ColorButton::ColorButton(QWidget* parent) : QPushButton(parent), impl(std::make_unique<Impl>())
 {
+    UI::Common::FollowLayoutDirection();
     UpdateColorRect();
     connect(this, &QAbstractButton::clicked, this, &ColorButton::ChooseColor);
 }

@@ -2,6 +2,7 @@
 
 #include <UI/Common/AccessibleFactory.h>
 #include <UI/Common/BoxLayouts.h>
+#include <UI/Common/MirroredStyle.h>
 
 #include <Zelkor/Vx/UI/Util/WindowMouseMoveHelper.h>
 
@@ -153,6 +154,7 @@ CustomTitleBar::Impl::Impl(CustomTitleBar* bar)
 
 CustomTitleBar::CustomTitleBar(QWidget* parent) : ZFrame(parent), impl(std::make_unique<Impl>(this))
 {
+    Common::FollowLayoutDirection();
     Common::AccessibleFactory<CustomTitleBar, Common::AccessibleAs<QAccessible::TitleBar>>::Install();
     setObjectName(QStringLiteral("CustomTitleBar"));
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed); // height to spare belongs to the content

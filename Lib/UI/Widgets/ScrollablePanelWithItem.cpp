@@ -3,6 +3,7 @@
 #include <UI/Common/AccessibleFactory.h>
 #include <UI/Common/AppendToLayout.h>
 #include <UI/Common/BoxLayouts.h>
+#include <UI/Common/MirroredStyle.h>
 
 #include <QCoreApplication>
 #include <QEvent>
@@ -130,6 +131,7 @@ struct ScrollablePanelWithItem::Parts
 ScrollablePanelWithItem::ScrollablePanelWithItem(QWidget* parent)
     : ZFrame(parent), items(std::make_unique<Items>()), parts(std::make_unique<Parts>())
 {
+    Common::FollowLayoutDirection();
     Common::AccessibleFactory<ScrollablePanelWithItem, Common::AccessibleAs<QAccessible::ToolBar>>::Install();
     const auto makeScrollButton = [this](const QString& objectName, const QString& name) {
         auto* button = new QToolButton(this);

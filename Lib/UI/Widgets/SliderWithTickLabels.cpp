@@ -3,6 +3,7 @@
 #include <UI/Common/AccessibleFactory.h>
 #include <UI/Common/AppendToLayout.h>
 #include <UI/Common/BoxLayouts.h>
+#include <UI/Common/MirroredStyle.h>
 #include <UI/Kit/ZLabel.h>
 #include <UI/Widgets/TickLabelRow.h>
 #include <UI/Widgets/TickSlider.h>
@@ -39,6 +40,7 @@ struct Q_DECL_HIDDEN SliderWithTickLabels::Impl
 
 SliderWithTickLabels::SliderWithTickLabels(QWidget* parent) : ZFrame(parent), impl(std::make_unique<Impl>())
 {
+    UI::Common::FollowLayoutDirection();
     UI::Common::AccessibleFactory<SliderWithTickLabels, UI::Common::AccessibleAs<QAccessible::Grouping>>::Install();
     const auto tell = [this](int value) {
         TellCurrentText();
