@@ -76,6 +76,14 @@ public:
     }
 
 protected:
+    // A scroll area places its contents when they scroll, and leaves them where they are when they are mirrored.
+    void changeEvent(QEvent* event) override
+    {
+        QScrollArea::changeEvent(event);
+        if (event->type() == QEvent::LayoutDirectionChange)
+            scrollContentsBy(0, 0);
+    }
+
     // A horizontal scroll bar takes either wheel, and leaves alone what would move it beyond its ends.
     void wheelEvent(QWheelEvent* event) override
     {
@@ -133,16 +141,16 @@ ScrollablePanelWithItem::ScrollablePanelWithItem(QWidget* parent)
 {
     Common::FollowLayoutDirection();
     Common::AccessibleFactory<ScrollablePanelWithItem, Common::AccessibleAs<QAccessible::ToolBar>>::Install();
-    const auto makeScrollButton = [this](const QString& objectName, const QString& name) {
+    const auto makeScrollButton = [this](const QString& objectName) {
         auto* button = new QToolButton(this);
         button->setObjectName(objectName);
-        button->setAccessibleName(name);
         // The keyboard goes to the items, which come into view by themselves.
         button->setFocusPolicy(Qt::NoFocus);
         return button;
     };
-    parts->leftScrollButton = makeScrollButton(QStringLiteral("leftScrollButton"), tr("Previous"));
-    parts->rightScrollButton = makeScrollButton(QStringLiteral("rightScrollButton"), tr("Next"));
+    parts->leftScrollButton = makeScrollButton(QStringLiteral("leftScrollButton"));
+    parts->rightScrollButton = makeScrollButton(QStringLiteral("rightScrollButton"));
+    Retranslate();
     Strip* area = parts->panelScrollArea = new Strip(this, items.get());
     area->setObjectName(QStringLiteral("panelScrollArea"));
     area->setFocusPolicy(Qt::NoFocus);
@@ -221,6 +229,19 @@ bool ScrollablePanelWithItem::SelectItem(int index)
         return false;
     items->list[index]->click();
     return true;
+}
+
+void ScrollablePanelWithItem::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        Retranslate();
+    ZFrame::changeEvent(event);
+}
+
+void ScrollablePanelWithItem::Retranslate()
+{
+    parts->leftScrollButton->setAccessibleName(tr("Previous"));
+    parts->rightScrollButton->setAccessibleName(tr("Next"));
 }
 
 void ScrollablePanelWithItem::Scroll(int direction)

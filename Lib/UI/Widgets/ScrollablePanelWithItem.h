@@ -43,11 +43,15 @@ public:
     /// Clicks the item, counted from 0; false when there is none. The item, and the panel, may go by its own click.
     bool SelectItem(int index);
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 private:
     class Strip;
     struct Parts;
     struct Items;
 
+    void Retranslate();
     void Scroll(int direction);
     void UpdateScrollButtons();
 

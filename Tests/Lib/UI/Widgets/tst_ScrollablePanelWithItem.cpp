@@ -6,6 +6,7 @@
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QToolButton>
+#include <QTranslator>
 
 using Zelkor::Vx::UI::ScrollablePanelWithItem;
 
@@ -89,6 +90,36 @@ private Q_SLOTS:
             QVERIFY(!scene.panel->SelectItem(0));
             QTRY_VERIFY(scene.bar->maximum() == 0 && !scene.left->isEnabled() && !scene.right->isEnabled());
         }
+    }
+
+    void directionAtRunTimeKeepsTheItems()
+    {
+        Scene scene(20);
+        scene.bar->setValue(100);
+        scene.panel->setLayoutDirection(Qt::RightToLeft);
+        QCoreApplication::processEvents();
+        QVERIFY(!scene.Shows(scene.items[1]));
+        QVERIFY(scene.Shows(scene.items[2]));
+        QVERIFY(scene.left->isEnabled());
+        scene.left->click();
+        QVERIFY(scene.Shows(scene.items[0]));
+        QVERIFY(!scene.left->isEnabled());
+    }
+
+    void accessibleNamesFollowTheLanguage()
+    {
+        struct UpperCase : QTranslator
+        {
+            bool isEmpty() const override { return false; }
+            QString translate(const char*, const char* text, const char*, int) const override
+            {
+                return QString(text).toUpper();
+            }
+        } translator;
+        Scene scene(1);
+        QCoreApplication::installTranslator(&translator);
+        QTRY_COMPARE(scene.left->accessibleName(), "PREVIOUS");
+        QCOMPARE(scene.right->accessibleName(), "NEXT");
     }
 
     void itemsComeAndGo()
