@@ -13,6 +13,7 @@
 #include <QMainWindow>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QRegularExpression>
 #include <QStyle>
 #include <QToolButton>
 
@@ -88,6 +89,29 @@ Part* MakePart(const char* objectName, Parent* parent)
     auto* part = new Part(parent);
     part->setObjectName(QLatin1String(objectName));
     return part;
+}
+
+// The title as the frame of a window shows it: the last "[*]" of an odd number of them in a row marks the place of the
+// asterisk of changed content, and two of them stand for one that is shown.
+QString ShownTitle(const QWidget* window)
+{
+    static const QRegularExpression PLACES(QStringLiteral("(?:\\[\\*\\])+"));
+    constexpr int PLACE_LENGTH = 3;
+    const bool isMarked = window->isWindowModified() &&
+                          window->style()->styleHint(QStyle::SH_TitleBar_ModifyNotification, nullptr, window);
+    const QString title = window->windowTitle();
+    QString shown;
+    int end = 0;
+    for (auto places = PLACES.globalMatch(title); places.hasNext();) {
+        const QRegularExpressionMatch place = places.next();
+        const int count = place.capturedLength() / PLACE_LENGTH;
+        shown += title.midRef(end, place.capturedStart() - end);
+        shown += place.capturedRef().left(count / 2 * PLACE_LENGTH);
+        if (count % 2 == 1 && isMarked)
+            shown += QWidget::tr("*");
+        end = place.capturedEnd();
+    }
+    return shown + title.midRef(end);
 }
 
 // A pixmap that shows `edge` pixels wide on a screen of this ratio, or less if the icon has no more.
@@ -239,13 +263,17 @@ void CustomTitleBar::SetUpWindow(QWidget* window)
         impl->closeButton->show();
     }
 
-    const auto showTitle = [this](const QString& title) {
-        impl->titleLabel->setText(title);
-        setAccessibleName(title);
-    };
-    showTitle(window->windowTitle());
-    connect(window, &QWidget::windowTitleChanged, this, showTitle);
+    ShowTitle();
+    connect(window, &QWidget::windowTitleChanged, this, &CustomTitleBar::ShowTitle);
+    window->installEventFilter(this); // there is no signal for changed content
     connect(window, &QWidget::windowIconChanged, this, [this](const QIcon& icon) { impl->ShowIcon(icon); });
+}
+
+void CustomTitleBar::ShowTitle()
+{
+    const QString title = ShownTitle(parentWidget());
+    impl->titleLabel->setText(title);
+    setAccessibleName(title);
 }
 
 void CustomTitleBar::Retranslate()
@@ -256,6 +284,13 @@ void CustomTitleBar::Retranslate()
     };
     name(impl->minimizeButton, tr("Minimise"));
     name(impl->closeButton, tr("Close"));
+}
+
+bool CustomTitleBar::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::ModifiedChange && watched == parentWidget())
+        ShowTitle();
+    return ZFrame::eventFilter(watched, event);
 }
 
 bool CustomTitleBar::event(QEvent* event)

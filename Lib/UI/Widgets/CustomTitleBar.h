@@ -41,11 +41,13 @@ public:
 
 protected:
     bool event(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
     void changeEvent(QEvent* event) override;
 
 private:
     void RebuildWindow(QWidget* window);
     void SetUpWindow(QWidget* window);
+    void ShowTitle();
     void Retranslate();
 
     struct Q_DECL_HIDDEN Impl;

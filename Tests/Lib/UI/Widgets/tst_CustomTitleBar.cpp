@@ -118,6 +118,42 @@ private Q_SLOTS:
         QCOMPARE(window.minimumSizeHint().width(), narrow);
     }
 
+    void modifiedMarkStandsWhereTheTitleHasIt_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("unmodified");
+        QTest::addColumn<QString>("modified");
+        QTest::newRow("no place") << "a * b"
+                                  << "a * b"
+                                  << "a * b";
+        QTest::newRow("at the end") << "a.txt[*]"
+                                    << "a.txt"
+                                    << "a.txt*";
+        QTest::newRow("two places") << "[*]a[*] - B"
+                                    << "a - B"
+                                    << "*a* - B";
+        QTest::newRow("literal") << "a[*][*]"
+                                 << "a[*]"
+                                 << "a[*]";
+        QTest::newRow("literal and place") << "a[*][*][*]"
+                                           << "a[*]"
+                                           << "a[*]*";
+    }
+
+    void modifiedMarkStandsWhereTheTitleHasIt()
+    {
+        QFETCH(QString, text);
+        Window window(Qt::Window);
+        const auto* title = window.findChild<QLabel*>("titleLabel");
+        window.setWindowTitle(text);
+        QTEST(title->text(), "unmodified");
+        window.setWindowModified(true);
+        QTEST(title->text(), "modified");
+        QTEST(window.bar->accessibleName(), "modified");
+        window.setWindowModified(false);
+        QTEST(title->text(), "unmodified");
+    }
+
     void leftButtonDragsByTheHandles()
     {
         Window window(Qt::Window);
