@@ -38,9 +38,27 @@ QTransform FaceToBar(const QRect& tab, bool turned, bool atEast)
 QString Elided(const QString& text, const QFontMetrics& metrics, Qt::TextElideMode mode, int width)
 {
     // A text of several lines that fits stays as it is.
-    if (mode == Qt::ElideNone || metrics.size(Qt::TextShowMnemonic, text).width() <= width)
+    if (mode == Qt::ElideNone || metrics.size(0, text).width() <= width)
         return text;
-    return metrics.elidedText(text, mode, width, Qt::TextShowMnemonic);
+    return metrics.elidedText(text, mode, width);
+}
+
+// QTabBar takes "&" for the mark of a mnemonic and makes no room for it. The text, which shows it, gets that room from
+// the padding that its alignment leaves.
+QRect WithRoomForMarks(QRect place, const QString& text, const QFontMetrics& metrics, Qt::Alignment alignment,
+                       const QRect& face)
+{
+    const int width = metrics.size(0, text).width();
+    const int missing = qMin(width - place.width(), width - metrics.size(Qt::TextShowMnemonic, text).width());
+    if (missing <= 0)
+        return place;
+    if (alignment & Qt::AlignRight)
+        place.setLeft(place.left() - missing);
+    else if (alignment & Qt::AlignHCenter)
+        place.adjust(-missing / 2, 0, missing - missing / 2, 0);
+    else
+        place.setRight(place.right() + missing);
+    return place & face;
 }
 
 // What is left of a text's place beside a button, on the side with more room.
@@ -62,6 +80,7 @@ HorizontalTabBar::HorizontalTabBar(QWidget* parent) : QTabBar(parent)
     connect(this, &QTabBar::currentChanged, this, &HorizontalTabBar::UpdateIcons);
     // Icons belong to positions, and a tab that moves takes its own along.
     connect(this, &QTabBar::tabMoved, this, &HorizontalTabBar::UpdateIcons);
+    setAttribute(Qt::WA_Hover);
 }
 
 HorizontalTabBar::~HorizontalTabBar() = default;
@@ -120,6 +139,14 @@ void HorizontalTabBar::tabRemoved(int index)
     UpdateIcons();
 }
 
+void HorizontalTabBar::changeEvent(QEvent* event)
+{
+    QTabBar::changeEvent(event);
+    // A style that has a hover look for tabs takes the attribute away as it goes.
+    if (event->type() == QEvent::StyleChange)
+        setAttribute(Qt::WA_Hover);
+}
+
 // While a tab is dragged, QTabBar shows a picture of it in a child widget. That picture is the style's, with text and
 // icon where the style has them, and it is QTabBar's paint event that moves it. So we paint and move that widget as
 // well.
@@ -174,8 +201,8 @@ bool HorizontalTabBar::AreTextsTurned() const
 {
     for (int i = 0; IsVertical() && i < count(); ++i) {
         const QSize tab = tabRect(i).size();
-        const int text = fontMetrics().size(Qt::TextShowMnemonic, tabText(i)).width() + WithinReach(paddingLeft) +
-                         WithinReach(paddingRight);
+        const int text =
+            fontMetrics().size(0, tabText(i)).width() + WithinReach(paddingLeft) + WithinReach(paddingRight);
         if (text > tab.width() && tab.height() > tab.width())
             return true;
     }
@@ -187,11 +214,14 @@ bool HorizontalTabBar::IsDragged(const QStyleOptionTab& option) const
     return draggedTab && draggedTab->isVisible() && (option.state & QStyle::State_Sunken);
 }
 
-QRect HorizontalTabBar::TextRect(const QRect& face, const QTransform& toBar, const QStyleOptionTab& option) const
+QRect HorizontalTabBar::TextRect(int index, const QRect& face, const QTransform& toBar,
+                                 const QStyleOptionTab& option) const
 {
     QRect text = face.adjusted(WithinReach(paddingLeft), WithinReach(paddingTop), -WithinReach(paddingRight),
                                -WithinReach(paddingBottom));
     text = QStyle::visualRect(layoutDirection(), face, text);
+    text = WithRoomForMarks(text, tabText(index), fontMetrics(), QStyle::visualAlignment(layoutDirection(), alignText),
+                            face);
     for (const auto part : {QStyle::SE_TabBarTabLeftButton, QStyle::SE_TabBarTabRightButton}) {
         const QSize& button = part == QStyle::SE_TabBarTabLeftButton ? option.leftButtonSize : option.rightButtonSize;
         if (!button.isEmpty())
@@ -221,22 +251,19 @@ void HorizontalTabBar::PaintTab(QPainter& painter, int index, QStyleOptionTab& o
 
     const QTransform toBar = FaceToBar(option.rect, turned, shape() == RoundedEast || shape() == TriangularEast);
     const QRect face(QPoint(), turned ? option.rect.size().transposed() : option.rect.size());
-    const QRect textRect = TextRect(face, toBar, option);
+    const QRect textRect = TextRect(index, face, toBar, option);
     if (!textRect.isEmpty()) {
         const QString text = Elided(tabText(index), fontMetrics(), elideMode(), textRect.width());
-        const bool underlines = style()->styleHint(QStyle::SH_UnderlineShortcut, &option, this);
+        const bool hovered = (option.state & QStyle::State_MouseOver) && (option.state & QStyle::State_Enabled);
         painter.save();
         painter.setTransform(toBar, true);
         painter.setFont(font());
-        painter.setPen(option.state & QStyle::State_Selected    ? selectedTextColor
-                       : option.state & QStyle::State_MouseOver ? hoverTextColor
-                                                                : normalTextColor);
+        painter.setPen(option.state & QStyle::State_Selected ? selectedTextColor
+                       : hovered                             ? hoverTextColor
+                                                             : normalTextColor);
         // The bar says at which side a text is, the text itself how it runs: dots and brackets stay where they belong.
         painter.setLayoutDirection(text.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
-        painter.drawText(textRect,
-                         int(QStyle::visualAlignment(layoutDirection(), alignText)) |
-                             (underlines ? Qt::TextShowMnemonic : Qt::TextHideMnemonic),
-                         text);
+        painter.drawText(textRect, int(QStyle::visualAlignment(layoutDirection(), alignText)), text);
         painter.restore();
     }
     const QRect iconRect(QPoint(WithinReach(xPosTabIcon), WithinReach(yPosTabIcon)), iconSize());

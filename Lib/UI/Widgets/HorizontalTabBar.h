@@ -15,8 +15,9 @@ namespace Zelkor::Vx {
 /// colours the text is in each state, and which icon files a tab has while it is selected and while it is not.
 ///
 /// The shape of a tab comes from the style, its size from `QTabBar` and the rules for `QTabBar::tab`; keep the
-/// distances here in step with the padding there. A text too long for its place is elided as `elideMode` says, and
-/// keeps clear of the tab's buttons. Right-to-left, left and right change places within a tab.
+/// distances here in step with the padding there. A text is drawn as it is, "&" included; one
+/// too long for its place is elided as `elideMode` says. It keeps clear of the tab's buttons. Right-to-left, left and
+/// right change places within a tab.
 ///
 /// In a vertical bar the text is level as long as it fits. Where one does not and tabs are higher than wide, all texts
 /// of the bar run along their tabs, upwards in the west and downwards in the east; distances then count in the
@@ -83,6 +84,7 @@ protected:
 
     void tabInserted(int index) override;
     void tabRemoved(int index) override;
+    void changeEvent(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
@@ -94,7 +96,7 @@ private:
     bool IsVertical() const;
     bool AreTextsTurned() const;
     bool IsDragged(const QStyleOptionTab& option) const;
-    QRect TextRect(const QRect& face, const QTransform& toBar, const QStyleOptionTab& option) const;
+    QRect TextRect(int index, const QRect& face, const QTransform& toBar, const QStyleOptionTab& option) const;
     void PaintTab(QPainter& painter, int index, QStyleOptionTab& option, bool turned) const;
     void PaintDraggedTab() const;
 

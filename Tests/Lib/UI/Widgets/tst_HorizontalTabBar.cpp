@@ -89,7 +89,7 @@ private Q_SLOTS:
             auto& bar = *qobject_cast<HorizontalTabBar*>(tabs.tabBar());
             tabs.tabBar()->setStyleSheet(SHEET);
             QApplication::setLayoutDirection(direction);
-            for (const char* text : {"&ll", "ll", "lllllllllllllllllllllllllllll"})
+            for (const char* text : {"ll", "ll", "lllllllllllllllllllllllllllll"})
                 tabs.addTab(new QWidget, text);
             tabs.setTabEnabled(1, false);
             bar.SetPathsSelectedIcons(File("magenta"));
@@ -108,10 +108,10 @@ private Q_SLOTS:
             };
             hover(0);
             QCOMPARE(where(Qt::magenta, 0, whole), QRect(2, 4, 10, 10));
-            const QRect selected = where(Qt::red, 0, QRect(0, 0, 100, 22)); // above the line of the mnemonic
+            const QRect selected = where(Qt::red, 0, QRect(0, 0, 100, 22));
             const QRect disabled = where(Qt::blue, 1, QRect(0, 0, 100, 22));
             QVERIFY(selected.left() >= 20 && selected.left() < 24 && selected.top() > 10);
-            QVERIFY(qAbs(selected.width() - disabled.width()) <= 2); // no ampersand
+            QVERIFY(qAbs(selected.width() - disabled.width()) <= 2);
             QVERIFY(where(Qt::blue, 0, whole).isNull() && where(Qt::green, 0, whole).isNull());
             // A text too long fills its place but for a part of a letter; elided, this one ends at the right in dots.
             hover(2);
@@ -124,6 +124,52 @@ private Q_SLOTS:
             bar.SetAlignText(Qt::AlignRight | Qt::AlignTop);
             QVERIFY(where(Qt::red, 0, whole).right() >= 76 && where(Qt::red, 0, whole).top() < selected.top());
         }
+    }
+
+    void hoverColorIsForEnabledTabs()
+    {
+        HorizontalTabBar bar(nullptr);
+        for (const char* text : {"a", "b", "c"})
+            bar.addTab(text);
+        bar.setTabEnabled(2, false);
+        bar.SetHoverTextColor(Qt::blue);
+        bar.SetNormalTextColor(Qt::red);
+        bar.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&bar));
+        QTest::mouseMove(bar.windowHandle(), bar.tabRect(1).center());
+        QTRY_VERIFY(!Where(bar, Qt::blue, bar.tabRect(1)).isNull());
+        QTest::mouseMove(bar.windowHandle(), bar.tabRect(2).center());
+        QTRY_VERIFY(Where(bar, Qt::blue, bar.rect()).isNull());
+        QVERIFY(!Where(bar, Qt::red, bar.tabRect(2)).isNull());
+    }
+
+    // QTabBar makes no room for an ampersand, which it takes for the mark of a mnemonic.
+    void ampersandIsShown_data()
+    {
+        QTest::addColumn<int>("alignment");
+        QTest::newRow("left") << int(Qt::AlignLeft);
+        QTest::newRow("centre") << int(Qt::AlignHCenter);
+        QTest::newRow("right") << int(Qt::AlignRight);
+    }
+
+    void ampersandIsShown()
+    {
+        QFETCH(int, alignment);
+        HorizontalTabBar bar(nullptr);
+        bar.setElideMode(Qt::ElideRight);
+        bar.SetAlignText(Qt::Alignment(alignment) | Qt::AlignVCenter);
+        bar.addTab("H&M");
+        const QString sheet = "QTabBar::tab { background: white; padding: 0px 14px; %1 }"
+                              "QTabBar { outline: none; qproperty-paddingLeft: 14; qproperty-paddingRight: 14 }";
+        const auto inkWidth = [&](const char* tabWidth) {
+            bar.setStyleSheet(sheet.arg(tabWidth));
+            bar.resize(bar.sizeHint());
+            return Where(bar, Qt::black, bar.rect()).width();
+        };
+        QCOMPARE(inkWidth(""), inkWidth("width: 100px"));
+        const int shown = inkWidth("");
+        bar.setTabText(0, "HM");
+        QVERIFY(shown > inkWidth("") + 5);
     }
 
     void verticalTextIsTurnedWhereItDoesNotFit()
