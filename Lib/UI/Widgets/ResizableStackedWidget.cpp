@@ -1,5 +1,6 @@
 #include <UI/Widgets/ResizableStackedWidget.h>
 
+#include <QEvent>
 #include <QPointer>
 
 ResizableStackedWidget::ResizableStackedWidget(QWidget* parent) : QStackedWidget(parent)
@@ -8,6 +9,30 @@ ResizableStackedWidget::ResizableStackedWidget(QWidget* parent) : QStackedWidget
 }
 
 ResizableStackedWidget::~ResizableStackedWidget() = default;
+
+bool ResizableStackedWidget::event(QEvent* event)
+{
+    const bool handled = QStackedWidget::event(event);
+    switch (event->type()) {
+    case QEvent::Polish:
+    case QEvent::Show:
+        // A form adds its pages before it sets their texts.
+        if (!wasShown)
+            OnCurrentChanged(currentIndex());
+        wasShown |= event->type() == QEvent::Show;
+        break;
+    case QEvent::FontChange:
+    case QEvent::StyleChange:
+    case QEvent::LanguageChange:
+        // The page gets its own event before or after this one, and changes its texts in it.
+        QMetaObject::invokeMethod(
+            this, [this] { OnCurrentChanged(currentIndex()); }, Qt::QueuedConnection);
+        break;
+    default:
+        break;
+    }
+    return handled;
+}
 
 void ResizableStackedWidget::OnCurrentChanged(int index)
 {
@@ -23,5 +48,6 @@ void ResizableStackedWidget::OnCurrentChanged(int index)
         return;
     page->setFixedSize(page->size());
     // New limits replace the old ones at once, without a size in between that could be seen.
-    setFixedSize(page->size());
+    const QMargins border = contentsMargins();
+    setFixedSize(page->size() + QSize(border.left() + border.right(), border.top() + border.bottom()));
 }

@@ -3,6 +3,7 @@
 #include <Support/EventWatch.h>
 #include <Support/TestCase.h>
 
+#include <QLabel>
 #include <QVBoxLayout>
 
 namespace {
@@ -63,6 +64,39 @@ private Q_SLOTS:
             delete page;
             QCOMPARE(stack.size(), QSize(50, 60));
         }
+    }
+
+    // As a form does it: pages are added, then they get their texts, and then the window is shown.
+    void firstPageFitsTextsThatCameAfterIt()
+    {
+        QWidget window;
+        QVBoxLayout layout(&window);
+        layout.setSizeConstraint(QLayout::SetFixedSize);
+        auto* stack = new ResizableStackedWidget(&window);
+        layout.addWidget(stack);
+        auto* page = new QWidget;
+        auto* label = new QLabel(page);
+        (new QVBoxLayout(page))->addWidget(label);
+        stack->addWidget(page);
+        label->setText("A text that is set late");
+        window.show();
+        QCOMPARE(label->size(), label->sizeHint());
+        label->setText("A text that is set while the page is shown, which does not count");
+        QCoreApplication::processEvents();
+        QVERIFY(label->width() < label->sizeHint().width());
+        window.setStyleSheet("QLabel { font-size: 30px }");
+        QTRY_COMPARE(label->size(), label->sizeHint());
+    }
+
+    void borderLiesAroundThePage()
+    {
+        ResizableStackedWidget stack(nullptr);
+        auto* page = new Page(200, 100);
+        stack.addWidget(page);
+        stack.setStyleSheet("ResizableStackedWidget { border: 3px solid red }");
+        stack.show();
+        QTRY_COMPARE(stack.size(), QSize(206, 106));
+        QCOMPARE(page->geometry(), stack.contentsRect());
     }
 };
 
