@@ -45,14 +45,13 @@ QLabel* MakeLabel(const char* objectName, const QString& text)
     return label;
 }
 
-QLabel* MakeProductLabel(const QString& product)
+// A heading is larger than the dialog's own text. What the font does not set, the label takes over from the dialog.
+QFont HeadingFont(const QFont& textFont)
 {
-    QLabel* label = MakeLabel("productLabel", product);
-    QFont font = label->font();
+    QFont font;
     font.setBold(true);
-    font.setPointSizeF(QFontInfo(font).pointSizeF() * PRODUCT_FONT_SCALE);
-    label->setFont(font);
-    return label;
+    font.setPointSizeF(QFontInfo(textFont).pointSizeF() * PRODUCT_FONT_SCALE);
+    return font;
 }
 
 void OpenLink(const QString& link)
@@ -84,6 +83,7 @@ void SetLink(QLabel* label, const QString& link, const QString& text)
 struct AboutBoxDialog::Parts
 {
     QString product;
+    QLabel* heading = nullptr;
     QLabel* homePage = nullptr;
     QLabel* mailTo = nullptr;
     QLabel* custom = nullptr;
@@ -99,6 +99,8 @@ AboutBoxDialog::AboutBoxDialog(const QString& product, const QString& version, c
     legalLabel->setWordWrap(true);
 
     parts->product = product;
+    parts->heading = MakeLabel("productLabel", product);
+    parts->heading->setFont(HeadingFont(font()));
     parts->homePage = MakeLinkLabel("homePageLabel");
     parts->mailTo = MakeLinkLabel("mailToLabel");
     parts->custom = MakeLinkLabel("customURL");
@@ -111,7 +113,7 @@ AboutBoxDialog::AboutBoxDialog(const QString& product, const QString& version, c
 
     auto* layout = new QVBoxLayout(this);
     const int space = layout->spacing() < 0 ? fontMetrics().height() / 2 : layout->spacing();
-    layout->addWidget(MakeProductLabel(product));
+    layout->addWidget(parts->heading);
     layout->addWidget(MakeLabel("versionLabel", version));
     layout->addSpacing(space);
     layout->addWidget(parts->homePage);
@@ -139,6 +141,8 @@ void AboutBoxDialog::changeEvent(QEvent* event)
 {
     if (event->type() == QEvent::LanguageChange)
         Retranslate();
+    if (event->type() == QEvent::FontChange)
+        parts->heading->setFont(HeadingFont(font()));
     QDialog::changeEvent(event);
 }
 
