@@ -101,8 +101,8 @@ void ZGraphicsShadowEffect::draw(QPainter* painter)
     // Where logical pixels share device pixels, bands drawn one by one would show seams.
     if (ratio == std::floor(ratio))
         ShadowRim::DrawBands(*painter, rim);
-    else
-        painter->drawImage(QPointF(0, 0), ShadowRim::WholeImage(rim));
+    else // over the source to its last pixel, where that was rounded to whole ones
+        painter->drawImage(QRectF(QPointF(0, 0), QSizeF(source.size()) / ratio), ShadowRim::WholeImage(rim));
 }
 
 } // namespace Zelkor

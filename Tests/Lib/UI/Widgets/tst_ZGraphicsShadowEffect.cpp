@@ -126,6 +126,57 @@ private Q_SLOTS:
         }
     }
 
+    // A pixel of the device shows one of the widget's pixels that it lies in.
+    void everyPixelOfTheRimIsShaded_data()
+    {
+        QTest::addColumn<qreal>("ratio");
+        QTest::addColumn<QPoint>("place");
+        for (const qreal ratio : {1.0, 1.1, 1.25, 1.5, 1.75, 2.0, 3.0}) {
+            QTest::addRow("pixel ratio %g", ratio) << ratio << QPoint(0, 0);
+            QTest::addRow("pixel ratio %g, moved", ratio) << ratio << QPoint(7, 9);
+        }
+    }
+
+    void everyPixelOfTheRimIsShaded()
+    {
+        QFETCH(qreal, ratio);
+        QFETCH(QPoint, place);
+        for (int side = 1; side < 40; ++side) {
+            QWidget window;
+            window.resize(60, 60);
+            auto* widget = new QWidget(&window);
+            widget->setStyleSheet("background: white");
+            widget->setGeometry(QRect(place, QSize(side, 40 - side)));
+            auto* effect = new ZGraphicsShadowEffect(widget);
+            effect->SetOffset(4, 5);
+            effect->SetBrightnessLevel(0.5);
+            widget->setGraphicsEffect(effect);
+            const QImage shaded = Support::Render(window, Qt::magenta, ratio);
+            const QImage rim = Literal(widget->size(), QPointF(4, 5), 0.5, Qt::black);
+            // What pixels of the widget a pixel of the device lies in.
+            const auto covered = [&](const QPoint& pixel) {
+                const QPointF first = QPointF(pixel) / ratio - place;
+                const QPointF end = QPointF(pixel + QPoint(1, 1)) / ratio - place;
+                const QPoint topLeft(int(std::floor(first.x())), int(std::floor(first.y())));
+                return QRect(topLeft, QPoint(int(std::ceil(end.x())), int(std::ceil(end.y()))) - QPoint(1, 1));
+            };
+            for (int i = 0; i < shaded.width() * shaded.height(); ++i) {
+                const QPoint pixel(i % shaded.width(), i / shaded.width());
+                const QColor color = shaded.pixelColor(pixel);
+                if (color == Qt::magenta)
+                    continue;
+                const QRect area = covered(pixel) & rim.rect();
+                int difference = 256;
+                for (int y = area.top(); y <= area.bottom(); ++y) {
+                    for (int x = area.left(); x <= area.right(); ++x)
+                        difference = qMin(difference, qAbs(255 - qAlpha(rim.pixel(x, y)) - color.green()));
+                }
+                QVERIFY2(difference <= 1,
+                         qPrintable(QString("%1,%2 beside a width of %3").arg(pixel.x()).arg(pixel.y()).arg(side)));
+            }
+        }
+    }
+
     void settersAlwaysTell()
     {
         ZGraphicsShadowEffect effect(nullptr);
