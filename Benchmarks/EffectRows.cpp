@@ -1,5 +1,6 @@
 #include "SpeedTable.h"
 
+#include <UI/Widgets/CursorHighlightPreviewWidget.h>
 #include <UI/Widgets/PixmapWidget.h>
 #include <UI/Widgets/VolumeSlider.h>
 #include <UI/Widgets/ZGraphicsShadowEffect.h>
@@ -150,6 +151,44 @@ Rounds PixmapResizeStep()
         15, 4);
 }
 
+constexpr int SMALL_HIGHLIGHT = 60;
+constexpr int LARGE_HIGHLIGHT = 512; // larger discs are not made
+
+// Gives the disc another colour at each call.
+std::function<void()> ChangeHighlight(Vx::UI::CursorHighlightPreviewWidget& preview, int times)
+{
+    return [&preview, times, hue = 0]() mutable {
+        for (int i = 0; i < times; ++i) {
+            hue = (hue + 1) % 360;
+            preview.SetColor(QColor::fromHsv(hue, 255, 255, 128));
+        }
+    };
+}
+
+Rounds LargeHighlight()
+{
+    Vx::UI::CursorHighlightPreviewWidget ours(nullptr);
+    ours.SetRadius(LARGE_HIGHLIGHT);
+    Vx::UI::CursorHighlightPreviewWidget theirs(nullptr);
+    theirs.SetRadius(SMALL_HIGHLIGHT);
+    // So many small discs have the area of the large one.
+    const int many = LARGE_HIGHLIGHT * LARGE_HIGHLIGHT / (SMALL_HIGHLIGHT * SMALL_HIGHLIGHT);
+    return Interleave(ChangeHighlight(ours, 1), ChangeHighlight(theirs, many), 31, 2);
+}
+
+Rounds UnchangedHighlight()
+{
+    Vx::UI::CursorHighlightPreviewWidget ours(nullptr);
+    ours.SetRadius(LARGE_HIGHLIGHT);
+    Vx::UI::CursorHighlightPreviewWidget theirs(nullptr);
+    theirs.SetRadius(LARGE_HIGHLIGHT);
+    const auto setAgain = [&] {
+        ours.SetRadius(ours.GetRadius());
+        ours.SetColor(ours.GetColor());
+    };
+    return Interleave(setAgain, ChangeHighlight(theirs, 1), 31, 2);
+}
+
 } // namespace
 
 std::vector<Row> EffectRows()
@@ -161,6 +200,10 @@ std::vector<Row> EffectRows()
         {"volume-rest", "volume slider, level constant or hidden: paint events", "one paint event", 0, VolumeAtRest},
         {"pixmap-resize", "pixmap widget, ellipse, 4000x3000 source, one resize step",
          "QImage::scaled(Smooth) of the cut part", 1.2, PixmapResizeStep},
+        {"highlight", "highlight preview, radius 512, one change", "the same area in discs of radius 60", 1.2,
+         LargeHighlight},
+        {"highlight-same", "highlight preview, radius 512, the same values again", "one change", 0.001,
+         UnchangedHighlight},
     };
 }
 

@@ -1,8 +1,7 @@
 #include <Zelkor/Util/ImageGenerator.h>
 
-#include <QtMath>
-
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 namespace Zelkor::Util {
@@ -21,17 +20,24 @@ QImage ImageGenerator::CreateCircleWithAlphaGradientCubic(const QSize& size, con
 {
     if (size.isEmpty())
         return QImage();
+    std::array<QRgb, 256> shades; // by alpha
+    for (int alpha = 0; alpha < int(shades.size()); ++alpha)
+        shades[alpha] = qPremultiply((color.rgb() & RGB_MASK) | QRgb(alpha) << 24);
     QImage image(size, QImage::Format_ARGB32_Premultiplied);
-    const double radius = std::min(size.width(), size.height()) / 2.0;
-    const QPointF centre(size.width() / 2.0, size.height() / 2.0);
-    const QRgb rgb = color.rgb();
-    for (int y = 0; y < image.height(); ++y) {
+    const int width = image.width();
+    const int height = image.height();
+    const double radius = std::min(width, height) / 2.0;
+    const double steps = 255 * color.alphaF();
+    // One quarter, the middle row and column of odd sides included; the others mirror it.
+    for (int y = 0; y < (height + 1) / 2; ++y) {
         auto* row = reinterpret_cast<QRgb*>(image.scanLine(y));
-        for (int x = 0; x < image.width(); ++x) {
-            const double r = std::hypot(x + 0.5 - centre.x(), y + 0.5 - centre.y()) / radius;
-            const int alpha = qRound(255 * color.alphaF() * Opacity(r));
-            row[x] = qPremultiply(qRgba(qRed(rgb), qGreen(rgb), qBlue(rgb), alpha));
+        const double dy = y + 0.5 - height / 2.0;
+        for (int x = 0; x < (width + 1) / 2; ++x) {
+            const double dx = x + 0.5 - width / 2.0;
+            row[x] = shades[int(steps * Opacity(std::sqrt(dx * dx + dy * dy) / radius) + 0.5)];
         }
+        std::reverse_copy(row, row + width / 2, row + (width + 1) / 2);
+        std::copy(row, row + width, reinterpret_cast<QRgb*>(image.scanLine(height - 1 - y)));
     }
     return image;
 }

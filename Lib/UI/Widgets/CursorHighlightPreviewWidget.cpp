@@ -99,12 +99,16 @@ QColor CursorHighlightPreviewWidget::GetBorderColor() const
 
 void CursorHighlightPreviewWidget::SetBorderColor(const QColor& newColor)
 {
+    if (borderColor == newColor)
+        return;
     borderColor = newColor;
     update();
 }
 
 void CursorHighlightPreviewWidget::SetRadius(int newRadius)
 {
+    if (radius == newRadius)
+        return;
     radius = newRadius;
     UpdateImage();
     update();
@@ -117,6 +121,8 @@ void CursorHighlightPreviewWidget::SetDiameter(int diameter)
 
 void CursorHighlightPreviewWidget::SetColor(const QColor& newColor)
 {
+    if (color == newColor)
+        return;
     color = newColor;
     UpdateImage();
     update();

@@ -2,6 +2,7 @@
 
 #include <Zelkor/Util/ImageGenerator.h>
 
+#include <Support/PaintWatch.h>
 #include <Support/Picture.h>
 #include <Support/TestCase.h>
 
@@ -62,6 +63,26 @@ private Q_SLOTS:
             preview.SetBorderWidth(border);
         QCOMPARE(preview.size(), QSize(76, 76));
         QCOMPARE(Support::Render(preview, Qt::red).pixelColor(0, 0), QColor(Qt::white));
+    }
+
+    void unchangedValueRepaintsNothing()
+    {
+        CursorHighlightPreviewWidget preview(nullptr);
+        const auto set = [&] {
+            preview.SetDiameter(81);
+            preview.SetRadius(40);
+            preview.SetColor(COLOR);
+            preview.SetBorderColor(Qt::green);
+            preview.SetBorderWidth(2);
+        };
+        preview.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&preview));
+        set();
+        Support::PaintWatch watch(&preview);
+        set();
+        QVERIFY(watch.Take().isEmpty());
+        preview.SetColor(Qt::red);
+        QCOMPARE(watch.Take().size(), 1);
     }
 };
 
