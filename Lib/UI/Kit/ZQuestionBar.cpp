@@ -26,10 +26,7 @@ ZQuestionBar::ZQuestionBar(QWidget* parent)
     layout->addWidget(question);
     layout->addLayout(buttons);
     connect(saveButton, &QPushButton::clicked, this, &ZQuestionBar::saveWanted);
-    connect(discardButton, &QPushButton::clicked, this, [this] {
-        Q_EMIT discarded();
-        proceed();
-    });
+    connect(discardButton, &QPushButton::clicked, this, &ZQuestionBar::proceed);
     connect(cancelButton, &QPushButton::clicked, this, &ZQuestionBar::dismiss);
     retranslate();
     hide();

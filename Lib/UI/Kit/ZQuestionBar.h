@@ -7,7 +7,7 @@
 class QPushButton;
 class ZMessageLabel;
 
-/// Asks within a window what shall become of changes that were not saved, and does not hold up the program meanwhile.
+/// Asks within a window whether to save unsaved changes, without blocking the program.
 class ZQuestionBar : public QWidget
 {
     Q_OBJECT
@@ -15,21 +15,19 @@ class ZQuestionBar : public QWidget
 public:
     explicit ZQuestionBar(QWidget* parent = nullptr);
 
-    /// Shows the question; `then` is what the person was about to do. A question that shows is dropped.
+    /// Shows the question; `then` runs once the text is saved or its changes are discarded. Replaces a question that is
+    /// shown.
     void ask(std::function<void()> then);
 
-    /// Does what the person was about to do, once the question is settled.
+    /// Hides the question and runs what it held up.
     void proceed();
 
-    /// Drops the question, and what the person was about to do.
+    /// Hides the question and drops what it held up.
     void dismiss();
 
 Q_SIGNALS:
-    /// The person wants to save; `proceed` is for when that is done.
+    /// Save was pressed; call proceed() when that is done.
     void saveWanted();
-
-    /// The person does not want the changes any more. What was to be done comes after it.
-    void discarded();
 
 protected:
     void changeEvent(QEvent* event) override;

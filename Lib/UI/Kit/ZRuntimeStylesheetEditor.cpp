@@ -121,7 +121,6 @@ void ZRuntimeStylesheetEditor::Impl::connectParts()
     connect(view.typingBox, &QCheckBox::toggled, window, &ZRuntimeStylesheetEditor::applyingWhileTypingChanged,
             Qt::QueuedConnection);
     connect(view.question, &ZQuestionBar::saveWanted, &context, [this] { saveAgain(); });
-    connect(view.question, &ZQuestionBar::discarded, &context, [this] { settle(QString()); });
     connect(view.targetBox, &StyleSheetTargetBox::chosen, &context, [this](QWidget* widget) { chooseTarget(widget); });
     connect(view.targetBox, &StyleSheetTargetBox::gone, &context,
             [this] { say(ZRuntimeStylesheetEditor::tr("The widget is gone. Choose another one."), true); });
@@ -320,14 +319,16 @@ void ZRuntimeStylesheetEditor::readFromTarget()
     impl->view.question->dismiss();
     impl->view.editor->replaceText(impl->target.sheet());
     impl->settle(QString());
-    impl->check();
 }
 
-// A text that nobody touched is that of the target.
+// An unmodified text follows the target. It becomes the state at which undo ends: the text before it is not user input.
 void ZRuntimeStylesheetEditor::Impl::readUntouched()
 {
-    if (!window->isModified() && fileName.isEmpty() && target.exists() && target.sheet() != window->text())
-        window->readFromTarget();
+    if (window->isModified() || !fileName.isEmpty() || !target.exists() || target.sheet() == window->text())
+        return;
+    view.question->dismiss();
+    view.editor->setPlainText(target.sheet());
+    settle(QString());
 }
 
 bool ZRuntimeStylesheetEditor::isModified() const
@@ -351,7 +352,6 @@ bool ZRuntimeStylesheetEditor::load(const QString& fileName)
     impl->view.question->dismiss();
     impl->view.editor->setPlainText(*text);
     impl->settle(fileName);
-    impl->check();
     return true;
 }
 
@@ -368,7 +368,7 @@ bool ZRuntimeStylesheetEditor::save(const QString& fileName)
     return true;
 }
 
-// The text is that of the file, or of none, and has no changes of its own.
+// Marks the text as unmodified, as that of `file` or, when empty, of no file.
 void ZRuntimeStylesheetEditor::Impl::settle(const QString& file)
 {
     fileName = file;
@@ -444,5 +444,9 @@ void ZRuntimeStylesheetEditor::closeEvent(QCloseEvent* event)
         return;
     }
     event->ignore();
-    impl->view.question->ask([this] { close(); });
+    impl->view.question->ask([this] {
+        if (isModified())
+            impl->settle(QString()); // discarded
+        close();
+    });
 }

@@ -8,8 +8,10 @@
 
 #include <Support/TestCase.h>
 
+#include <QAction>
 #include <QComboBox>
 #include <QFile>
+#include <QFileDialog>
 #include <QLabel>
 #include <QPushButton>
 #include <QSignalSpy>
@@ -285,6 +287,32 @@ private Q_SLOTS:
             QVERIFY(!editor.load(bad) && editor.message().contains(bad));
         QVERIFY(!editor.save(folder.filePath("none/a.qss")));
         QVERIFY(editor.message().contains("none") && editor.text() == RED && editor.isModified());
+    }
+
+    void undoEndsAtWhatWasRead()
+    {
+        qApp->setStyleSheet(RED);
+        ZRuntimeStylesheetEditor editor;
+        editor.findChild<ZCodeEditor*>()->undo();
+        QCOMPARE(editor.text(), RED);
+        qApp->setStyleSheet(QString());
+    }
+
+    void discardedTextStaysUntilAnotherIsOpened()
+    {
+        QTemporaryDir folder;
+        ZRuntimeStylesheetEditor editor;
+        editor.show();
+        QVERIFY(editor.save(folder.filePath("a.qss")));
+        editor.setText(RED);
+        for (QAction* action : editor.actions()) {
+            if (action->shortcut() == QKeySequence(QKeySequence::Open))
+                action->trigger();
+        }
+        QTest::mouseClick(ButtonOf(editor, "Discard"), Qt::LeftButton);
+        editor.findChild<QFileDialog*>()->reject();
+        QVERIFY(editor.isModified());
+        QCOMPARE(editor.fileName(), folder.filePath("a.qss"));
     }
 
     void offersNames()
