@@ -1,8 +1,9 @@
 #include "StyleSheet.h"
 
+#include <UI/Kit/StyleSheetFile.h>
+
 #include <QApplication>
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 #include <QIconEngine>
 #include <QPainter>
@@ -100,12 +101,13 @@ std::optional<StyleSheet> LoadStyleSheet(const QString& nameOrFile, QString& err
 {
     RegisterStyles();
     const QFileInfo info(FileOf(nameOrFile));
-    QFile file(info.filePath());
-    if (info.isDir() || !file.open(QIODevice::ReadOnly | QIODevice::Text)) {
-        error = QStringLiteral("cannot read the style sheet '%1'").arg(nameOrFile);
+    StyleSheetFile::Error why;
+    const auto contents = StyleSheetFile::Read(info.filePath(), why);
+    if (!contents) {
+        error = why.describe();
         return std::nullopt;
     }
-    return StyleSheet{QString::fromUtf8(file.readAll()), info.dir().filePath(info.completeBaseName())};
+    return StyleSheet{contents->text, info.dir().filePath(info.completeBaseName())};
 }
 
 void ApplyStyleSheet(const StyleSheet& sheet)

@@ -51,10 +51,6 @@
 <context>
     <name>StyleSheetFile</name>
     <message>
-        <source>it is a folder</source>
-        <translation>c’est un dossier</translation>
-    </message>
-    <message>
         <source>%1 cannot be read: %2.</source>
         <translation>Impossible de lire %1&#xa0;: %2.</translation>
     </message>
@@ -69,6 +65,10 @@
     <message>
         <source>%1 cannot be written: %2.</source>
         <translation>Impossible d’écrire %1&#xa0;: %2.</translation>
+    </message>
+    <message>
+        <source>%1 is not a regular file.</source>
+        <translation>%1 n’est pas un fichier ordinaire.</translation>
     </message>
 </context>
 <context>

@@ -51,10 +51,6 @@
 <context>
     <name>StyleSheetFile</name>
     <message>
-        <source>it is a folder</source>
-        <translation>フォルダーです</translation>
-    </message>
-    <message>
         <source>%1 cannot be read: %2.</source>
         <translation>%1 を読み込めません: %2。</translation>
     </message>
@@ -69,6 +65,10 @@
     <message>
         <source>%1 cannot be written: %2.</source>
         <translation>%1 に書き込めません: %2。</translation>
+    </message>
+    <message>
+        <source>%1 is not a regular file.</source>
+        <translation>%1 は通常のファイルではありません。</translation>
     </message>
 </context>
 <context>

@@ -121,6 +121,7 @@ private Q_SLOTS:
                                  "--after -1",
                                  "--style no-such-sheet.qss",
                                  "--style .",
+                                 "--style /dev/null",
                                  "--shot file --shots shots",
                                  "--shot file --press Nothing"})
             QTest::newRow(line) << 2;

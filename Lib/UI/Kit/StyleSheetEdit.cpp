@@ -1,5 +1,6 @@
 #include <UI/Kit/StyleSheetEdit.h>
 
+#include <UI/Kit/LineEnds.h>
 #include <UI/Kit/StyleSheetCompleter.h>
 #include <UI/Kit/StyleSheetHighlighter.h>
 
@@ -30,7 +31,7 @@ void StyleSheetEdit::setScope(Scope newScope)
 
 void StyleSheetEdit::check()
 {
-    const QString text = toPlainText();
+    const QString text = document()->toRawText().replace(QChar::ParagraphSeparator, QLatin1Char('\n'));
     found = StyleSheetSyntax::Check(text, scope);
     QVector<Mark> marks;
     for (int i = 0; i < std::min(found.size(), MOST_MARKS); ++i)
@@ -54,14 +55,26 @@ void StyleSheetEdit::goToNextMistake()
     setFocus();
 }
 
+void StyleSheetEdit::loadText(const QString& text)
+{
+    original = text;
+    setPlainText(text);
+}
+
 void StyleSheetEdit::replaceText(const QString& text)
 {
+    original = text;
     const int here = textCursor().position();
     QTextCursor cursor(document());
     cursor.select(QTextCursor::Document);
     cursor.insertText(text);
     cursor.setPosition(std::min(here, document()->characterCount() - 1));
     setTextCursor(cursor);
+}
+
+QString StyleSheetEdit::source() const
+{
+    return LineEnds::Restore(original, document()->toRawText());
 }
 
 void StyleSheetEdit::complete()

@@ -27,8 +27,15 @@ public:
     /// Goes to the next mistake behind the cursor, or to the first one.
     void goToNextMistake();
 
+    /// Sets the text and clears the undo history.
+    void loadText(const QString& text);
+
     /// Replaces the text in one step that can be undone.
     void replaceText(const QString& text);
+
+    /// The text to save and to apply: what was not edited is as it was loaded, line ends and no-break spaces included.
+    /// Its positions are not those of the document.
+    QString source() const;
 
     /// Offers names for the place of the cursor.
     void complete();
@@ -42,6 +49,7 @@ private:
 
     StyleSheetHighlighter* highlighter;
     StyleSheetCompleter* completer;
+    QString original; ///< the text that was set last
     StyleSheetSyntax::Scope scope = StyleSheetSyntax::Scope::APPLICATION;
     QVector<StyleSheetSyntax::Mistake> found;
 };

@@ -13,45 +13,68 @@ namespace {
 constexpr qint64 LARGEST_SIZE = 16 * 1024 * 1024; ///< bytes; no sheet comes near it
 constexpr int UTF_8 = 106;                        ///< the number that the codec is known by
 
-struct Texts
+const char CONTEXT[] = "StyleSheetFile";
+const char NOT_READ[] = QT_TRANSLATE_NOOP("StyleSheetFile", "%1 cannot be read: %2.");
+const char NOT_WRITTEN[] = QT_TRANSLATE_NOOP("StyleSheetFile", "%1 cannot be written: %2.");
+const char NOT_REGULAR[] = QT_TRANSLATE_NOOP("StyleSheetFile", "%1 is not a regular file.");
+const char TOO_LARGE[] = QT_TRANSLATE_NOOP("StyleSheetFile", "%1 is too large for a style sheet.");
+const char NOT_UTF_8[] = QT_TRANSLATE_NOOP("StyleSheetFile", "%1 is not a text in UTF-8.");
+
+// A pipe blocks, a device never ends, and saving replaces what is there by a regular file.
+bool IsSpecial(const QString& fileName)
 {
-    Q_DECLARE_TR_FUNCTIONS(StyleSheetFile)
-};
+    const QFileInfo info(fileName);
+    return info.exists() && !info.isFile();
+}
 
 } // namespace
 
-std::optional<QString> Read(const QString& fileName, QString& error)
+QString Error::describe() const
 {
-    QFile file(fileName);
-    if (QFileInfo(fileName).isDir() || !file.open(QIODevice::ReadOnly)) {
-        const QString why = QFileInfo(fileName).isDir() ? Texts::tr("it is a folder") : file.errorString();
-        error = Texts::tr("%1 cannot be read: %2.").arg(fileName, why);
-        return std::nullopt;
-    }
-    // One more than is allowed tells a larger one, also where a file has no size.
-    const QByteArray bytes = file.read(LARGEST_SIZE + 1);
-    if (bytes.size() > LARGEST_SIZE) {
-        error = Texts::tr("%1 is too large for a style sheet.").arg(fileName);
-        return std::nullopt;
-    }
-    QTextCodec::ConverterState state;
-    const QString text = QTextCodec::codecForMib(UTF_8)->toUnicode(bytes.constData(), bytes.size(), &state);
-    // Saved again, it would lose what could not be read.
-    if (state.invalidChars > 0 || state.remainingChars > 0 || text.contains(QChar::Null)) {
-        error = Texts::tr("%1 is not a text in UTF-8.").arg(fileName);
-        return std::nullopt;
-    }
-    return text;
+    const QString sentence = QCoreApplication::translate(CONTEXT, text);
+    return reason.isEmpty() ? sentence.arg(fileName) : sentence.arg(fileName, reason);
 }
 
-bool Write(const QString& fileName, const QString& text, QString& error)
+std::optional<Contents> Read(const QString& fileName, Error& error)
 {
+    const auto fail = [&](const char* text, const QString& reason = {}) {
+        error = {text, fileName, reason};
+        return std::nullopt;
+    };
+    if (IsSpecial(fileName))
+        return fail(NOT_REGULAR);
+    QFile file(fileName);
+    if (!file.open(QIODevice::ReadOnly))
+        return fail(NOT_READ, file.errorString());
+    // One byte more than allowed reveals a larger file, even where the file system reports no size.
+    const QByteArray bytes = file.read(LARGEST_SIZE + 1);
+    if (file.error() != QFileDevice::NoError)
+        return fail(NOT_READ, file.errorString());
+    if (bytes.size() > LARGEST_SIZE)
+        return fail(TOO_LARGE);
+    QTextCodec::ConverterState state(QTextCodec::IgnoreHeader);
+    Contents contents{QTextCodec::codecForMib(UTF_8)->toUnicode(bytes.constData(), bytes.size(), &state)};
+    // Saved again, it would lose what could not be read.
+    if (state.invalidChars > 0 || state.remainingChars > 0 || contents.text.contains(QChar::Null))
+        return fail(NOT_UTF_8);
+    contents.hasByteOrderMark = contents.text.startsWith(QChar::ByteOrderMark);
+    contents.text.remove(0, contents.hasByteOrderMark ? 1 : 0);
+    return contents;
+}
+
+// Without the fallback to writing in place, which would cut the file first and lose it on a full disk.
+bool Write(const QString& fileName, const Contents& contents, Error& error)
+{
+    if (IsSpecial(fileName)) {
+        error = {NOT_REGULAR, fileName, {}};
+        return false;
+    }
     QSaveFile file(fileName);
-    file.setDirectWriteFallback(true);
-    const QByteArray bytes = text.toUtf8();
+    const QString mark = contents.hasByteOrderMark ? QString(QChar::ByteOrderMark) : QString();
+    const QByteArray bytes = (mark + contents.text).toUtf8();
     if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit())
         return true;
-    error = Texts::tr("%1 cannot be written: %2.").arg(fileName, file.errorString());
+    error = {NOT_WRITTEN, fileName, file.errorString()};
     return false;
 }
 

@@ -7,10 +7,28 @@
 /// Style sheets in files, as UTF-8.
 namespace StyleSheetFile {
 
-/// The text of a file; nothing, and why in `error`, when it cannot be read, is no text or is far too large.
-std::optional<QString> Read(const QString& fileName, QString& error);
+struct Contents
+{
+    QString text; ///< without the byte-order mark, with the line ends of the file
+    bool hasByteOrderMark = false;
+};
 
-/// Writes a file, whole or not at all; false, and why in `error`, when that cannot be.
-bool Write(const QString& fileName, const QString& text, QString& error);
+/// Why a file was not read or written.
+struct Error
+{
+    const char* text = nullptr; ///< untranslated
+    QString fileName;
+    QString reason;
+
+    /// The whole sentence in the language of the application.
+    QString describe() const;
+};
+
+/// Reads a regular file. Fails for pipes, devices and folders, after a read error, and for contents that are not UTF-8
+/// or larger than 16 MiB.
+std::optional<Contents> Read(const QString& fileName, Error& error);
+
+/// Replaces a file as a whole, or leaves it as it was and returns false.
+bool Write(const QString& fileName, const Contents& contents, Error& error);
 
 } // namespace StyleSheetFile

@@ -80,6 +80,7 @@ struct ZRuntimeStylesheetEditor::Impl
     ZWidgetPicker* const picker;
     StyleSheetTarget target;
     QString fileName;
+    bool hasByteOrderMark = false; ///< in the file
     bool saysMistake = false;
     int seenRevision = -1; ///< of the text, when it was looked at last
     QTimer pause;
@@ -303,7 +304,7 @@ void ZRuntimeStylesheetEditor::revert()
 
 QString ZRuntimeStylesheetEditor::text() const
 {
-    return impl->view.editor->toPlainText();
+    return impl->view.editor->source();
 }
 
 void ZRuntimeStylesheetEditor::setText(const QString& text)
@@ -327,7 +328,7 @@ void ZRuntimeStylesheetEditor::Impl::readUntouched()
     if (window->isModified() || !fileName.isEmpty() || !target.exists() || target.sheet() == window->text())
         return;
     view.question->dismiss();
-    view.editor->setPlainText(target.sheet());
+    view.editor->loadText(target.sheet());
     settle(QString());
 }
 
@@ -343,23 +344,24 @@ QString ZRuntimeStylesheetEditor::fileName() const
 
 bool ZRuntimeStylesheetEditor::load(const QString& fileName)
 {
-    QString error;
-    const auto text = StyleSheetFile::Read(fileName, error);
-    if (!text) {
-        impl->say(error, true);
+    StyleSheetFile::Error error;
+    const auto contents = StyleSheetFile::Read(fileName, error);
+    if (!contents) {
+        impl->say(error.describe(), true);
         return false;
     }
     impl->view.question->dismiss();
-    impl->view.editor->setPlainText(*text);
+    impl->view.editor->loadText(contents->text);
+    impl->hasByteOrderMark = contents->hasByteOrderMark;
     impl->settle(fileName);
     return true;
 }
 
 bool ZRuntimeStylesheetEditor::save(const QString& fileName)
 {
-    QString error;
-    if (!StyleSheetFile::Write(fileName, text(), error)) {
-        impl->say(error, true);
+    StyleSheetFile::Error error;
+    if (!StyleSheetFile::Write(fileName, {text(), impl->hasByteOrderMark}, error)) {
+        impl->say(error.describe(), true);
         return false;
     }
     impl->settle(fileName);
@@ -372,6 +374,7 @@ bool ZRuntimeStylesheetEditor::save(const QString& fileName)
 void ZRuntimeStylesheetEditor::Impl::settle(const QString& file)
 {
     fileName = file;
+    hasByteOrderMark = hasByteOrderMark && !file.isEmpty();
     view.editor->document()->setModified(false);
     retranslate();
 }

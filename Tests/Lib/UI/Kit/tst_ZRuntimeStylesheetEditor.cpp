@@ -21,6 +21,11 @@
 
 #include <memory>
 
+#ifdef Q_OS_LINUX
+#include <sys/stat.h>
+#include <unistd.h>
+#endif
+
 using StyleSheetSyntax::Problem;
 using StyleSheetSyntax::Scope;
 
@@ -33,6 +38,19 @@ QColor ColorOf(QLabel& label)
 {
     label.ensurePolished();
     return label.palette().color(QPalette::WindowText);
+}
+
+QByteArray BytesOf(const QString& fileName)
+{
+    QFile file(fileName);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("none");
+}
+
+void WriteFile(const QString& fileName, const QByteArray& bytes)
+{
+    QFile file(fileName);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QCOMPARE(file.write(bytes), qint64(bytes.size()));
 }
 
 QPushButton* ButtonOf(QWidget& widget, const QString& text)
@@ -314,6 +332,74 @@ private Q_SLOTS:
         QVERIFY(editor.isModified());
         QCOMPARE(editor.fileName(), folder.filePath("a.qss"));
     }
+
+    void savesWhatWasNotEditedAsItWas_data()
+    {
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::newRow("byte-order mark") << QByteArray("\xEF\xBB\xBFQLabel {}\n");
+        QTest::newRow("carriage returns") << QByteArray("QLabel {}\r\n\r\nA {}\r\n");
+        QTest::newRow("mixed line ends") << QByteArray("A {}\r\nB {}\nC {}\rD {}");
+        QTest::newRow("no-break space") << QByteArray("A { b: \"c\xC2\xA0 d\" }");
+        QTest::newRow("Unicode line ends") << QByteArray("A {}\xE2\x80\xA8 B {}\xE2\x80\xA9 C {}");
+    }
+
+    void savesWhatWasNotEditedAsItWas()
+    {
+        QFETCH(QByteArray, bytes);
+        QTemporaryDir folder;
+        const QString name = folder.filePath("a.qss");
+        WriteFile(name, bytes);
+        ZRuntimeStylesheetEditor editor;
+        QVERIFY(editor.load(name));
+        QVERIFY(editor.save(name));
+        QCOMPARE(BytesOf(name), bytes);
+        auto* code = editor.findChild<ZCodeEditor*>();
+        code->moveCursor(QTextCursor::End);
+        code->insertPlainText("E");
+        QVERIFY(editor.save(name));
+        QCOMPARE(BytesOf(name), bytes + 'E');
+    }
+
+#ifdef Q_OS_LINUX
+    void specialFilesAreNotRead_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::newRow("pipe") << QString();
+        QTest::newRow("device") << QString("/dev/null");
+        QTest::newRow("read error") << QString("/proc/self/mem");
+    }
+
+    void specialFilesAreNotRead()
+    {
+        QFETCH(QString, name);
+        QTemporaryDir folder;
+        if (name.isEmpty()) {
+            name = folder.filePath("pipe");
+            QCOMPARE(mkfifo(QFile::encodeName(name).constData(), 0600), 0);
+        }
+        ZRuntimeStylesheetEditor editor;
+        QVERIFY(!editor.load(name));
+        QVERIFY2(editor.message().contains(name), qPrintable(editor.message()));
+    }
+
+    void fileInLockedFolderIsNotCut()
+    {
+        QTemporaryDir folder;
+        const QString name = folder.filePath("a.qss");
+        WriteFile(name, "old");
+        QVERIFY(QFile::setPermissions(name, QFile::Permissions(0x6666)));
+        QVERIFY(QFile::setPermissions(folder.path(), QFile::Permissions(0x5555)));
+        ZRuntimeStylesheetEditor editor;
+        editor.setText(RED);
+        const uid_t user = geteuid();
+        QVERIFY(user != 0 || seteuid(65534) == 0); // root may write anywhere
+        const bool isSaved = editor.save(name);
+        QCOMPARE(seteuid(user), 0);
+        QVERIFY(QFile::setPermissions(folder.path(), QFile::Permissions(0x7777)));
+        QVERIFY(!isSaved);
+        QCOMPARE(BytesOf(name), QByteArray("old"));
+    }
+#endif
 
     void offersNames()
     {
