@@ -4,6 +4,7 @@
 
 #include <Zelkor/Util/WidgetStyle.h>
 
+#include <QApplication>
 #include <QColorDialog>
 #include <QDialogButtonBox>
 #include <QPainter>
@@ -33,6 +34,16 @@ QColor WithAlpha(QColor color, double alpha)
     return color;
 }
 
+// A modal dialog closes the open pop-ups when it is shown. Those that hold its parent go before: what they do when they
+// close may not reach a dialog that is half shown.
+void ClosePopUps()
+{
+    while (QWidget* popUp = QApplication::activePopupWidget()) {
+        if (!popUp->close())
+            return;
+    }
+}
+
 } // namespace
 
 struct ColorButton::Impl
@@ -59,6 +70,28 @@ struct ColorButton::Impl
         return IsLimited() ? WithAlpha(chosen, chosen.alphaF() * MaximumAlpha()) : chosen;
     }
 
+    // Returns whether the dialog was accepted. It is shown before its event loop is entered: what closes or deletes it
+    // before that would not end the loop.
+    static bool RunDialog(ColorButton& button)
+    {
+        const QPointer<ColorButton> self(&button);
+        const QPointer<QColorDialog> dialog(button.impl->dialog);
+        if (dialog)
+            dialog->show();
+        if (!self || !dialog)
+            return false;
+        if (!dialog->isVisible()) {
+            // Its window is mapped all the same, and blocks the others.
+            delete dialog;
+            return false;
+        }
+        button.impl->isDialogShown = true;
+        const bool isAccepted = dialog->exec() == QDialog::Accepted;
+        if (self)
+            button.impl->isDialogShown = false;
+        return isAccepted && dialog;
+    }
+
     QColor color = Qt::red;
     QRect colorRect;
     bool colorRectSet = false;
@@ -66,7 +99,8 @@ struct ColorButton::Impl
     double maximumAlpha = 1.0;
     QColor borderNormal = Qt::darkGray;
     QColor borderDisabled = Qt::lightGray;
-    QColorDialog* dialog = nullptr; ///< while it is open
+    QPointer<QColorDialog> dialog; ///< from the click until it is closed
+    bool isDialogShown = false;    ///< hiding the button closes it
 };
 
 ColorButton::ColorButton(QWidget* parent) : QPushButton(parent), impl(std::make_unique<Impl>())
@@ -149,31 +183,32 @@ void ColorButton::ChooseColor()
 {
     if (impl->dialog)
         return;
-    // The dialog runs an event loop of its own, and any slot may delete the button.
+    // Any slot may delete the button.
     const QPointer<ColorButton> self(this);
     impl->ClampAlpha();
     auto* dialog = new QColorDialog(this);
     impl->dialog = dialog;
+    dialog->setModal(true);
     dialog->setOption(QColorDialog::ShowAlphaChannel, impl->alphaEnabled);
     dialog->setCurrentColor(impl->ToDialog());
-    if (const auto* buttons = findChild<QDialogButtonBox*>())
+    if (const auto* buttons = dialog->findChild<QDialogButtonBox*>())
         Zelkor::Util::ApplyWidgetStyle(buttons->button(QDialogButtonBox::Ok), QStringLiteral("Ok"), "SubStyle");
 
-    Q_EMIT ColorDialogWillBeOpened();
+    ClosePopUps();
+    if (self)
+        Q_EMIT ColorDialogWillBeOpened();
     if (!self)
         return;
-    const int result = dialog->exec();
-    if (!self)
-        return;
-    if (result == QDialog::Accepted) {
-        impl->color = impl->FromDialog(dialog->selectedColor());
+    const bool isAccepted = Impl::RunDialog(*this);
+    if (self && isAccepted) {
+        impl->color = impl->FromDialog(impl->dialog->selectedColor());
         repaint();
         Q_EMIT ColorChanged(impl->color);
     }
     if (self)
         Q_EMIT ColorDialogClosed();
-    if (self) {
-        dialog->deleteLater();
+    if (self && impl->dialog) {
+        impl->dialog->deleteLater();
         impl->dialog = nullptr;
     }
 }
@@ -196,7 +231,7 @@ void ColorButton::resizeEvent(QResizeEvent* event)
 
 void ColorButton::hideEvent(QHideEvent*)
 {
-    if (impl->dialog)
+    if (impl->dialog && impl->isDialogShown)
         impl->dialog->close();
 }
 

@@ -13,9 +13,8 @@ namespace Zelkor::Vx {
 /// A push button that shows a colour as a square at its right end, and opens a colour dialog when clicked.
 ///
 /// With alpha enabled the colour may be translucent, up to a maximum opacity; the dialog's whole alpha range then means
-/// 0 to that maximum. While the dialog is open the button may be hidden, which cancels the dialog, or destroyed. In
-/// a pop-up panel it has no place: the panel closes with the first press in the dialog, and takes the button along. GUI
-/// thread only.
+/// 0 to that maximum. While the dialog is open the button may be hidden, which cancels the dialog, or destroyed. Open
+/// pop-ups close before the dialog opens, also one that holds the button: the dialog opens without it. GUI thread only.
 class VX_WIDGETS_EXPORT ColorButton : public QPushButton
 {
     Q_OBJECT

@@ -1,18 +1,28 @@
+#include <UI/Widgets/ButtonWithPopUpContainer.h>
 #include <UI/Widgets/ColorButton.h>
 
+#include <Support/EventWatch.h>
 #include <Support/Picture.h>
 #include <Support/TestCase.h>
 
 #include <QColorDialog>
 #include <QDialogButtonBox>
+#include <QMenu>
 #include <QSignalSpy>
 #include <QTimer>
+#include <QWidgetAction>
 
 #include <array>
 #include <cmath>
 #include <functional>
 
 using Zelkor::Vx::ColorButton;
+using Zelkor::Vx::UI::ButtonWithPopUpContainer;
+
+using Act = std::function<void(QColorDialog*, ColorButton*)>;
+using Home = std::function<QWidget*(QWidget*, ColorButton*)>; ///< shows the button in what it returns
+Q_DECLARE_METATYPE(Act)
+Q_DECLARE_METATYPE(Home)
 
 namespace {
 
@@ -21,6 +31,19 @@ void Choose(ColorButton& button, const std::function<void(QColorDialog*)>& insid
 {
     QTimer::singleShot(0, qApp, [&button, inside] { inside(button.findChild<QColorDialog*>()); });
     button.click();
+}
+
+void PressOk(QColorDialog* dialog, const QColor& color)
+{
+    dialog->setCurrentColor(color);
+    dialog->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)->click();
+}
+
+void LogSignals(const ColorButton* button, QStringList& log)
+{
+    QObject::connect(button, &ColorButton::ColorChanged, [&log](const QColor& color) { log += color.name(); });
+    QObject::connect(button, &ColorButton::ColorDialogWillBeOpened, [&log] { log += "opens"; });
+    QObject::connect(button, &ColorButton::ColorDialogClosed, [&log] { log += "closed"; });
 }
 
 bool IsNear(double a, double b)
@@ -64,52 +87,147 @@ private Q_SLOTS:
         QCOMPARE(button.GetColorRect(), QRect(2, 3, 12, 13));
     }
 
+    void dialogSignals_data()
+    {
+        QTest::addColumn<Act>("act");
+        QTest::addColumn<QString>("signalled");
+        const auto row = [](const char* name, const Act& act, const char* signalled) {
+            QTest::newRow(name) << act << QString(signalled);
+        };
+        row(
+            "accept", [](auto* dialog, auto*) { PressOk(dialog, Qt::green); }, "opens #00ff00 closed");
+        row(
+            "accept unchanged", [](auto* dialog, auto*) { PressOk(dialog, Qt::red); }, "opens #ff0000 closed");
+        row(
+            "cancel", [](auto* dialog, auto*) { dialog->reject(); }, "opens closed");
+        row(
+            "delete the dialog", [](auto* dialog, auto*) { delete dialog; }, "opens closed");
+        row(
+            "hide", [](auto*, auto* button) { button->hide(); }, "opens closed");
+        row(
+            "hide the page", [](auto*, auto* button) { button->parentWidget()->hide(); }, "opens closed");
+        row(
+            "new parent", [](auto*, auto* button) { button->setParent(nullptr); }, "opens closed");
+        row(
+            "click again",
+            [](auto* dialog, auto* button) {
+                button->click();
+                PressOk(dialog, Qt::green);
+            },
+            "opens #00ff00 closed");
+        row(
+            "destroy", [](auto*, auto* button) { delete button; }, "opens");
+    }
+
     void dialogSignals()
     {
-        const QPair<QString, QString> rows[] = {
-            {"accept", "opens #00ff00 closed"},
-            {"accept unchanged", "opens #ff0000 closed"},
-            {"cancel", "opens closed"},
-            {"hide", "opens closed"},
-            {"new parent", "opens closed"},
-            {"disable, click again, accept", "opens #00ff00 closed"},
-            {"destroy", "opens"},
-        };
-        for (const auto& row : rows) {
-            const QString end = row.first;
-            InRow(end);
-            QWidget window;
-            QWidget other;
-            QPointer<ColorButton> button = new ColorButton(&window);
-            window.show();
-            QStringList log;
-            connect(button, &ColorButton::ColorChanged, [&](const QColor& color) { log += color.name(); });
-            connect(button, &ColorButton::ColorDialogWillBeOpened, [&] { log += "opens"; });
-            connect(button, &ColorButton::ColorDialogClosed, [&] { log += "closed"; });
-            Choose(*button, [&](QColorDialog* dialog) {
-                auto* ok = dialog->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok);
-                QCOMPARE(ok->property("SubStyle"), QVariant("Ok"));
-                if (!end.contains("unchanged"))
-                    dialog->setCurrentColor(Qt::green);
-                if (end == "hide")
-                    button->hide();
-                else if (end == "new parent")
-                    button->setParent(&other);
-                else if (end == "destroy")
-                    delete button;
-                else if (end == "cancel")
-                    dialog->reject();
-                else {
-                    button->setDisabled(end.startsWith("disable"));
-                    button->setEnabled(true);
-                    button->click();
-                    ok->click();
-                }
+        QFETCH(Act, act);
+        QWidget window;
+        QPointer<ColorButton> button = new ColorButton(new QWidget(&window));
+        window.show();
+        QStringList log;
+        LogSignals(button, log);
+        Choose(*button, [&](QColorDialog* dialog) {
+            auto* ok = dialog->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok);
+            QCOMPARE(ok->property("SubStyle"), QVariant("Ok"));
+            act(dialog, button);
+        });
+        QTEST(log.join(' '), "signalled");
+        if (!button)
+            return;
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QVERIFY(!button->findChild<QColorDialog*>());
+        if (!button->parent())
+            delete button;
+    }
+
+    void opensOutOfWhateverHidesTheButton_data()
+    {
+        QTest::addColumn<Home>("show");
+        QTest::newRow("panel") << Home([](QWidget* window, ColorButton* button) {
+            auto* opener = new ButtonWithPopUpContainer(window);
+            opener->show();
+            opener->AppendWidget(button);
+            opener->ShowPopup();
+            return button->window();
+        });
+        QTest::newRow("menu") << Home([](QWidget* window, ColorButton* button) {
+            auto* menu = new QMenu(window);
+            auto* action = new QWidgetAction(menu);
+            action->setDefaultWidget(button);
+            menu->addAction(action);
+            menu->popup(QPoint(200, 200));
+            return menu;
+        });
+        QTest::newRow("hidden by the slot") << Home([](QWidget* window, ColorButton* button) {
+            button->setParent(window);
+            connect(button, &ColorButton::ColorDialogWillBeOpened, button, &QWidget::hide);
+            button->show();
+            return window;
+        });
+        QTest::newRow("hidden with the dialog's first event") << Home([](QWidget* window, ColorButton* button) {
+            button->setParent(window);
+            connect(button, &ColorButton::ColorDialogWillBeOpened, button, [button] {
+                auto* dialog = button->findChild<QColorDialog*>();
+                new Support::EventWatch(dialog, [button](QEvent::Type type, QEvent*) {
+                    button->setHidden(button->isHidden() || type == QEvent::Show);
+                });
             });
-            QCOMPARE(log.join(' '), row.second);
+            button->show();
+            return window;
+        });
+    }
+
+    void opensOutOfWhateverHidesTheButton()
+    {
+        QFETCH(Home, show);
+        QWidget window;
+        window.show();
+        auto* button = new ColorButton;
+        QStringList log;
+        LogSignals(button, log);
+        for (const QColor color : {Qt::green, Qt::blue}) {
+            QWidget* home = show(&window, button);
+            QVERIFY(home->isVisible());
+            QTimer::singleShot(0, button, [&] {
+                QVERIFY(!QApplication::activePopupWidget());
+                PressOk(button->findChild<QColorDialog*>(), color);
+            });
+            QTest::mouseClick(button, Qt::LeftButton);
+            QVERIFY(!button->isVisible());
+            QCOMPARE(log.join(' '), QString("opens %1 closed").arg(color.name()));
+            log.clear();
             QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-            QVERIFY(!button || !button->findChild<QColorDialog*>());
         }
+    }
+
+    // A dialog that goes while it is being opened does not leave the program waiting for it.
+    void dialogThatGoesEarlyCountsAsCancelled_data()
+    {
+        QTest::addColumn<bool>("isDeleted");
+        QTest::newRow("closed when shown") << false;
+        QTest::newRow("deleted before") << true;
+    }
+
+    void dialogThatGoesEarlyCountsAsCancelled()
+    {
+        QFETCH(bool, isDeleted);
+        ColorButton button;
+        button.show();
+        QStringList log;
+        LogSignals(&button, log);
+        connect(&button, &ColorButton::ColorDialogWillBeOpened, &button, [&] {
+            auto* dialog = button.findChild<QColorDialog*>();
+            if (isDeleted)
+                return delete dialog;
+            new Support::EventWatch(dialog, [dialog](QEvent::Type type, QEvent*) {
+                if (type == QEvent::Show)
+                    dialog->close();
+            });
+        });
+        button.click();
+        QCOMPARE(log.join(' '), QString("opens closed"));
+        QVERIFY(!QApplication::activeModalWidget());
     }
 
     void alphaLimit()
