@@ -14,6 +14,10 @@ endforeach()
 
 vx_test(Catalogue/tst_Properties.cpp LIBRARIES VxGalleryWindows)
 
+vx_test(Catalogue/tst_CatalogueChanges.cpp SOURCES Catalogue/Look.cpp LIBRARIES VxGalleryWindows)
+add_dependencies(tst_CatalogueChanges VxTranslations)
+target_compile_definitions(tst_CatalogueChanges PRIVATE VX_TRANSLATIONS="${CMAKE_BINARY_DIR}/Translations")
+
 vx_test(Catalogue/tst_CatalogueAccessibility.cpp LIBRARIES VxCatalogue)
 vx_test(Catalogue/tst_CatalogueRandomEvents.cpp SOURCES Catalogue/RandomEvents.cpp LIBRARIES VxCatalogue)
 vx_test(Catalogue/tst_CatalogueLifetime.cpp LIBRARIES VxCatalogue)
