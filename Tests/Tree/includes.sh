@@ -22,6 +22,8 @@ forbid Host/include/Zelkor 'gst/|glib|libyuv|glog/' 'the boundary shows nothing 
 # No widget includes another, but for these pairs; what is no class of its own (a placement, a pump) belongs to one.
 allowed='WebCameraPreviewStream:VideoPreviewWidget
 FramePump:VideoPreviewWidget
+VideoPreviewWidget:PreviewFeeder
+WebCameraPreviewStream:PreviewFeeder
 WebCameraPreviewStream:FramePump
 WebCameraPreviewStream:RetrySchedule
 WebCameraPreviewStream:VideoModeChoice

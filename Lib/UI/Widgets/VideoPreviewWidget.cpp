@@ -1,19 +1,18 @@
 #include <UI/Widgets/VideoPreviewWidget.h>
 
 #include <UI/Common/AccessibleFactory.h>
+#include <UI/Common/GuiThreadCall.h>
+#include <UI/Widgets/PreviewFeeder.h>
 
 #include <Zelkor/Core/CoreManager.h>
 #include <Zelkor/Proc/ImplNames.h>
 #include <Zelkor/Proc/SettingsColorspaceConverter.h>
 #include <Zelkor/Util/ImageUtils.h>
 
-#include <QCoreApplication>
-#include <QEvent>
 #include <QPainter>
 #include <QPixmap>
 #include <QThread>
 
-#include <atomic>
 #include <mutex>
 #include <utility>
 
@@ -57,6 +56,7 @@ struct VideoPreviewWidget::Impl
     QImage Convert(boost::intrusive_ptr<Proc::IDataVideo> frame);
     void SetFrame(QPixmap pixmap, const QRect& rect);
     void RequestRepaint();
+    void Repaint();
 
     VideoPreviewWidget* widget;
 
@@ -72,10 +72,11 @@ struct VideoPreviewWidget::Impl
     QPixmap defaultPixmap; ///< this and the next for the GUI thread alone
     QRect defaultRect;
 
-    std::atomic<bool> repaintRequested{false}; ///< an event that asks for a repaint is on its way
+    bool awaitsPaint = false; ///< another thread's picture has not been painted yet; GUI thread
+    Common::GuiThreadCall repaint;
 };
 
-VideoPreviewWidget::Impl::Impl(VideoPreviewWidget* widget) : widget(widget)
+VideoPreviewWidget::Impl::Impl(VideoPreviewWidget* widget) : widget(widget), repaint(widget, [this] { Repaint(); })
 {
     const auto factory = Core::CoreManager::Instance().GetEffectFactory();
     factory->CreateEffect(converter, Proc::SettingsColorspaceConverter::CLASS_ID, Proc::ImplNames::DEFAULT, nullptr);
@@ -117,20 +118,24 @@ void VideoPreviewWidget::Impl::SetFrame(QPixmap pixmap, const QRect& rect)
     RequestRepaint();
 }
 
-// QWidget::update() is for the GUI thread. From elsewhere an event asks for it, at most one at a time, so that a busy
-// GUI thread does not pile them up.
+// QWidget::update() is for the GUI thread. Other threads have at most one request pending, so that memory stays flat
+// while the GUI thread is busy.
 void VideoPreviewWidget::Impl::RequestRepaint()
 {
-    if (QThread::currentThread() == widget->thread()) {
+    if (QThread::currentThread() == widget->thread())
         widget->update();
-        return;
-    }
-    if (repaintRequested)
-        return;
-    // Made before the flag is set: the flag orders the event's memory for the thread that clears it.
-    auto event = std::make_unique<QEvent>(QEvent::User);
-    if (!repaintRequested.exchange(true))
-        QCoreApplication::postEvent(widget, event.release());
+    else
+        repaint.Request();
+}
+
+// Qt posts one update request for a window and no other one until it is delivered. When the paint of the last picture
+// has not come by the next one, the request may have been swallowed by an event filter: repaint() needs none.
+void VideoPreviewWidget::Impl::Repaint()
+{
+    if (std::exchange(awaitsPaint, true))
+        widget->repaint();
+    else
+        widget->update();
 }
 
 VideoPreviewWidget::VideoPreviewWidget(QWidget* parent) : QFrame(parent), impl(std::make_unique<Impl>(this))
@@ -140,8 +145,8 @@ VideoPreviewWidget::VideoPreviewWidget(QWidget* parent) : QFrame(parent), impl(s
 
 VideoPreviewWidget::~VideoPreviewWidget()
 {
-    QEvent farewell(QEvent::Destroy);
-    QCoreApplication::sendEvent(this, &farewell);
+    PreviewFeeder::EndAllOf(this);
+    impl->repaint.Cancel();
 }
 
 int VideoPreviewWidget::GetPreviewWidth() const
@@ -205,19 +210,13 @@ void VideoPreviewWidget::UpdateView(const boost::intrusive_ptr<Proc::IDataVideo>
 void VideoPreviewWidget::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
+    impl->awaitsPaint = false;
     // Held while the picture is drawn: a feeder that replaces it meanwhile waits, and frees it after.
     const std::lock_guard<std::mutex> lock(impl->pictureMutex);
     if (!impl->framePixmap.isNull())
         painter.drawPixmap(impl->frameRect, impl->framePixmap);
     else if (!impl->defaultPixmap.isNull())
         painter.drawPixmap(impl->defaultRect, impl->defaultPixmap);
-}
-
-void VideoPreviewWidget::customEvent(QEvent*)
-{
-    // Cleared before the repaint: a frame that comes meanwhile asks for one more.
-    if (impl->repaintRequested.exchange(false))
-        update();
 }
 
 } // namespace Zelkor::Vx::UI

@@ -17,9 +17,8 @@ namespace Zelkor::Vx::UI {
 /// frame the default image shows, at its own size, centred or, when it is larger, cut at the right and the bottom.
 /// Around the picture is what the style sheet paints as background; the frame lines of `QFrame` are not drawn.
 ///
-/// GUI thread, except `UpdateView` and `ResetPreview`, which any thread may call. Whoever feeds the widget from
-/// another thread has to stop before it dies: at the start of its destruction the widget sends itself a
-/// `QEvent::Destroy`, which an event filter sees while frames are still taken.
+/// GUI thread, except `UpdateView` and `ResetPreview`, which any thread may call. A caller on another thread must stop
+/// before the widget and the application object are destroyed; `WebCameraPreviewStream` does.
 class VX_WIDGETS_EXPORT VideoPreviewWidget : public QFrame
 {
     Q_OBJECT
@@ -52,7 +51,6 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
-    void customEvent(QEvent* event) override;
 
 private:
     struct Q_DECL_HIDDEN Impl;

@@ -1,7 +1,9 @@
 #include <UI/Widgets/WebCameraPreviewStream.h>
 
+#include <UI/Common/GuiThreadCall.h>
 #include <UI/Common/LogSource.h>
 #include <UI/Widgets/FramePump.h>
+#include <UI/Widgets/PreviewFeeder.h>
 #include <UI/Widgets/RetrySchedule.h>
 #include <UI/Widgets/VideoModeChoice.h>
 #include <UI/Widgets/VideoPreviewWidget.h>
@@ -10,8 +12,6 @@
 #include <Zelkor/Core/CoreManager.h>
 #include <Zelkor/Proc/ImplNames.h>
 
-#include <QCoreApplication>
-#include <QEvent>
 #include <QTimer>
 
 #include <algorithm>
@@ -42,7 +42,7 @@ public:
 /// One mutex guards the state. It is never held while the engine is called or a pump is joined, so neither can wait for
 /// the other; instead, each step that goes on after such a call looks whether what it began with still holds. A session
 /// is current as long as its observer is; each stop makes another epoch, into which nothing of an earlier one gets.
-class WebCameraPreviewStream::Impl : public std::enable_shared_from_this<Impl>
+class WebCameraPreviewStream::Impl : public PreviewFeeder, public std::enable_shared_from_this<Impl>
 {
 public:
     Impl(WebCameraPreviewStream* stream, UI::VideoPreviewWidget* preview);
@@ -52,8 +52,7 @@ public:
     void Start();
     void Stop();
     bool Retry();
-    void ArmRetryTimer();
-    void ClosePreview();
+    void EndFeeding() override;
     void Shutdown();
     boost::intrusive_ptr<Acquis::IDeviceSettings> SettingsHandle() const;
 
@@ -76,11 +75,13 @@ private:
     void StartSession(const Session& started);
     void EndPump(const std::shared_ptr<FramePump>& ended);
     void RequestRetry();
+    void ArmRetryTimer();
     void RunRetryTimer();
 
     const boost::intrusive_ptr<Acquis::ICaptureFactory> captureFactory = Acquis::CaptureFactory::Create();
     const std::shared_ptr<PreviewGate> gate;
-    QTimer* const retryTimer; ///< a child of the stream, for the GUI thread alone
+    QTimer* const retryTimer; ///< a child of the stream; GUI thread only
+    UI::Common::GuiThreadCall armRetryTimer;
 
     mutable std::mutex mutex; ///< guards all that follows
     WebCameraPreviewStream* stream;
@@ -124,7 +125,8 @@ private:
 };
 
 WebCameraPreviewStream::Impl::Impl(WebCameraPreviewStream* stream, UI::VideoPreviewWidget* preview)
-    : gate(std::make_shared<PreviewGate>(preview)), retryTimer(new QTimer(stream)), stream(stream)
+    : gate(std::make_shared<PreviewGate>(preview)), retryTimer(new QTimer(stream)),
+      armRetryTimer(stream, [this] { ArmRetryTimer(); }), stream(stream)
 {
     retryTimer->setTimerType(Qt::PreciseTimer);
     retryTimer->setSingleShot(true);
@@ -233,7 +235,7 @@ void WebCameraPreviewStream::Impl::ArmRetryTimer()
     RunRetryTimer();
 }
 
-void WebCameraPreviewStream::Impl::ClosePreview()
+void WebCameraPreviewStream::Impl::EndFeeding()
 {
     gate->Close();
     Stop();
@@ -245,7 +247,8 @@ void WebCameraPreviewStream::Impl::Shutdown()
         const std::lock_guard<std::mutex> lock(mutex);
         stream = nullptr;
     }
-    ClosePreview();
+    armRetryTimer.Cancel();
+    EndFeeding();
 }
 
 boost::intrusive_ptr<Acquis::IDeviceSettings> WebCameraPreviewStream::Impl::SettingsHandle() const
@@ -378,14 +381,15 @@ void WebCameraPreviewStream::Impl::EndPump(const std::shared_ptr<FramePump>& end
         pump = nullptr;
 }
 
-/// Has the GUI thread retry later. Called under the lock.
+/// Schedules a retry. Called under the lock.
 void WebCameraPreviewStream::Impl::RequestRetry()
 {
     if (stream && retries.Request(Clock::now()))
-        QCoreApplication::postEvent(stream, new QEvent(QEvent::User));
+        armRetryTimer.Request();
 }
 
-/// Has the timer end when a retry is due. GUI thread, under the lock.
+/// Starts the timer for the retry that is due. A timer whose event an event filter swallows fires again, so the retry
+/// is late and not lost. GUI thread, under the lock.
 void WebCameraPreviewStream::Impl::RunRetryTimer()
 {
     if (const auto due = retries.Due()) {
@@ -398,7 +402,7 @@ WebCameraPreviewStream::WebCameraPreviewStream(UI::VideoPreviewWidget* preview)
     : QObject(preview), impl(std::make_shared<Impl>(this, preview))
 {
     if (preview)
-        preview->installEventFilter(this);
+        PreviewFeeder::Register(preview, impl);
 }
 
 WebCameraPreviewStream::~WebCameraPreviewStream()
@@ -431,19 +435,6 @@ void WebCameraPreviewStream::ShowCurrentDeviceSettings()
 {
     if (const auto handle = impl->SettingsHandle())
         handle->ShowSettingsDialog();
-}
-
-bool WebCameraPreviewStream::eventFilter(QObject* watched, QEvent* event)
-{
-    // The preview is about to die; this is the last moment at which it can take a frame.
-    if (event->type() == QEvent::Destroy)
-        impl->ClosePreview();
-    return QObject::eventFilter(watched, event);
-}
-
-void WebCameraPreviewStream::customEvent(QEvent*)
-{
-    impl->ArmRetryTimer();
 }
 
 } // namespace Zelkor::Vx

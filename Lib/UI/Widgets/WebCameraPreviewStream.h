@@ -51,14 +51,9 @@ public:
     /// Opens that dialog; nothing where there is none.
     void ShowCurrentDeviceSettings();
 
-    bool eventFilter(QObject* watched, QEvent* event) override;
-
 Q_SIGNALS:
     /// The device could not be opened, nor in any of the six retries. Comes once for a start, on the GUI thread.
     void WebCameraOpenError();
-
-protected:
-    void customEvent(QEvent* event) override;
 
 private:
     class Q_DECL_HIDDEN Impl;

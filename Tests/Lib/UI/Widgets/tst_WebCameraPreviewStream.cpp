@@ -2,11 +2,13 @@
 
 #include <UI/Widgets/VideoPreviewWidget.h>
 
+#include <Support/EventSwallower.h>
 #include <Support/Frames.h>
 #include <Support/LogCapture.h>
 #include <Support/ScriptedEngine.h>
 #include <Support/TestCase.h>
 
+#include <QProcess>
 #include <QSemaphore>
 #include <QSignalSpy>
 
@@ -63,6 +65,24 @@ struct Scene
 const QString ERROR_LINE("E Lib/UI/Widgets/WebCameraPreviewStream:212"
                          " Zelkor::Vx::WebCameraPreviewStream::Impl::handleError:"
                          " Cannot create preview stream. Error code: %1");
+
+constexpr char LEAK_OPTION[] = "--leak";
+
+// Leaks a preview that runs, and gives its thread time to use what is gone at the end of the program.
+void LeakRunningPreview()
+{
+    static auto* engine = new ScriptedEngine;
+    static auto* preview = new VideoPreviewWidget(nullptr);
+    static auto* stream = new WebCameraPreviewStream(preview);
+    preview->SetPreviewWidth(64);
+    preview->SetPreviewHeight(48);
+    const boost::intrusive_ptr<ScriptedReader> reader(new ScriptedReader([] { return GreyFrame({64, 48}, 100); }));
+    engine->onStart = [=](const auto& session) { session->ReportStarted(reader); };
+    stream->SetDevice(OrdinaryDevice(1000), "only", 1000);
+    stream->StartStream();
+    QTRY_VERIFY(reader->reads >= 5);
+    std::atexit([] { std::this_thread::sleep_for(std::chrono::milliseconds(100)); });
+}
 
 } // namespace
 
@@ -190,6 +210,7 @@ private Q_SLOTS:
             InRow(QString("%1 threads").arg(threads));
             LogCapture log;
             Scene scene;
+            const EventSwallower swallower;
             QSignalSpy failed(scene.stream, &WebCameraPreviewStream::WebCameraOpenError);
             const auto isOnGuiThread = [] { QCOMPARE(QThread::currentThread(), qApp->thread()); };
             connect(scene.stream, &WebCameraPreviewStream::WebCameraOpenError, isOnGuiThread);
@@ -286,6 +307,7 @@ private Q_SLOTS:
             for (int i = 0; i < 20; ++i) {
                 InRow(what);
                 Scene scene;
+                const EventSwallower swallower;
                 const auto reader = scene.reader;
                 scene.AnswerWith([=](const auto& session) {
                     session->ReportStarted(reader);
@@ -311,6 +333,17 @@ private Q_SLOTS:
                 QCOMPARE(reader->reads.load(), reads);
             }
         }
+    }
+
+    // It outlives the application object, and no thread may feed it then.
+    void leakedPreviewLetsTheProgramEnd()
+    {
+        QProcess program;
+        program.setProcessChannelMode(QProcess::ForwardedChannels);
+        program.start(QCoreApplication::applicationFilePath(), {LEAK_OPTION});
+        QVERIFY(program.waitForFinished(60000));
+        QCOMPARE(program.exitStatus(), QProcess::NormalExit);
+        QCOMPARE(program.exitCode(), 0);
     }
 
     void startAndStopFromTwoThreads()
@@ -384,5 +417,15 @@ private Q_SLOTS:
     }
 };
 
-VX_TEST_MAIN(tst_WebCameraPreviewStream)
+int main(int argc, char* argv[])
+{
+    PrepareProcess(argv[0]);
+    QApplication application(argc, argv);
+    if (argc == 2 && argv[1] == QLatin1String(LEAK_OPTION)) {
+        LeakRunningPreview();
+        return 0;
+    }
+    tst_WebCameraPreviewStream test;
+    return QTest::qExec(&test, argc, argv);
+}
 #include "tst_WebCameraPreviewStream.moc"
