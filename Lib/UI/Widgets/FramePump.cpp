@@ -20,6 +20,8 @@ std::chrono::milliseconds FramePeriod(double frameRate)
 
 void PreviewGate::Show(const boost::intrusive_ptr<Proc::IDataVideo>& frame)
 {
+    if (isClosing)
+        return;
     const std::lock_guard<std::mutex> lock(mutex);
     if (preview)
         preview->UpdateView(frame);
@@ -34,12 +36,15 @@ void PreviewGate::Reset()
 
 bool PreviewGate::IsOpen() const
 {
+    if (isClosing)
+        return false;
     const std::lock_guard<std::mutex> lock(mutex);
     return preview;
 }
 
 void PreviewGate::Close()
 {
+    isClosing = true;
     const std::lock_guard<std::mutex> lock(mutex);
     preview = nullptr;
 }
@@ -92,6 +97,7 @@ void FramePump::Run()
     }
     lock.unlock();
     gate->Reset();
+    reader = nullptr;
 }
 
 } // namespace Zelkor::Vx

@@ -2,6 +2,7 @@
 
 #include <Zelkor/Acquis/IFrameProvider.h>
 
+#include <atomic>
 #include <condition_variable>
 #include <memory>
 #include <mutex>
@@ -24,11 +25,12 @@ public:
     void Reset();
     bool IsOpen() const;
 
-    /// When this returns, nobody uses the preview and nobody will.
+    /// When this returns, no thread uses the preview and none will. Waits for the conversion that runs, for no other.
     void Close();
 
 private:
-    mutable std::mutex mutex; ///< held while the preview takes a frame
+    std::atomic<bool> isClosing{false}; ///< keeps a pump that is late from taking the mutex again before `Close`
+    mutable std::mutex mutex;           ///< held while the preview takes a frame
     UI::VideoPreviewWidget* preview;
 };
 
@@ -54,7 +56,7 @@ private:
     void Run();
 
     const std::shared_ptr<PreviewGate> gate;
-    const boost::intrusive_ptr<Acquis::IFrameReader> reader;
+    boost::intrusive_ptr<Acquis::IFrameReader> reader; ///< released by the thread at its end; it may hold the device
     const std::chrono::milliseconds period;
 
     std::mutex mutex;

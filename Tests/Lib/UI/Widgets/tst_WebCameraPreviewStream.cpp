@@ -66,6 +66,20 @@ const QString ERROR_LINE("E Lib/UI/Widgets/WebCameraPreviewStream:212"
                          " Zelkor::Vx::WebCameraPreviewStream::Impl::handleError:"
                          " Cannot create preview stream. Error code: %1");
 
+// A frame whose conversion takes a while; counts how often the preview asks for it.
+class SlowFrame : public RefCounted<Proc::IDataVideo>
+{
+public:
+    Proc::PixFmt GetPixelFormat() const override
+    {
+        ++conversions;
+        std::this_thread::sleep_for(std::chrono::milliseconds(40));
+        return Proc::PixFmt::None;
+    }
+
+    mutable std::atomic<int> conversions{0};
+};
+
 constexpr char LEAK_OPTION[] = "--leak";
 
 // Leaks a preview that runs, and gives its thread time to use what is gone at the end of the program.
@@ -333,6 +347,54 @@ private Q_SLOTS:
                 QCOMPARE(reader->reads.load(), reads);
             }
         }
+    }
+
+    void destructionWaitsForOneConversionAtMost_data()
+    {
+        QTest::addColumn<bool>("ofStream");
+        QTest::newRow("preview") << false;
+        QTest::newRow("stream") << true;
+    }
+
+    void destructionWaitsForOneConversionAtMost()
+    {
+        QFETCH(bool, ofStream);
+        LogCapture log;
+        int late = 0;
+        for (int i = 0; i < 12; ++i) {
+            Scene scene;
+            const boost::intrusive_ptr<SlowFrame> frames[] = {new SlowFrame, new SlowFrame};
+            const boost::intrusive_ptr<ScriptedReader> reader(
+                new ScriptedReader([&frames, n = 0]() mutable { return frames[++n % 2]; }));
+            scene.engine.onStart = [&](const auto& session) { session->ReportStarted(reader); };
+            scene.Run(1000);
+            QTRY_VERIFY(frames[0]->conversions + frames[1]->conversions >= 3);
+            const int before = frames[0]->conversions + frames[1]->conversions;
+            if (ofStream)
+                delete scene.stream;
+            else
+                scene.preview.reset();
+            late += frames[0]->conversions + frames[1]->conversions > before + 1;
+        }
+        QCOMPARE(late, 0);
+    }
+
+    // The output of an engine may hold the camera.
+    void retryReleasesTheOldOutputBeforeItStarts()
+    {
+        Scene scene;
+        int readersAtStart = -1;
+        scene.engine.onStart = [&](const auto& session) {
+            if (scene.engine.starts == 1) {
+                session->ReportStarted(scene.reader);
+                session->ReportError(1);
+            } else {
+                readersAtStart = scene.reader->GetRefCount();
+            }
+        };
+        scene.Run();
+        QTRY_COMPARE(scene.engine.starts.load(), 2);
+        QCOMPARE(readersAtStart, 1);
     }
 
     // It outlives the application object, and no thread may feed it then.
