@@ -1,6 +1,7 @@
 #include <Zelkor/StandIn/AudioLevelSource.h>
 #include <Zelkor/StandIn/CaptureEngine.h>
 
+#include <Support/EventSwallower.h>
 #include <Support/TestCase.h>
 
 #include <QSignalSpy>
@@ -19,6 +20,7 @@ private Q_SLOTS:
     void testSignalMovesUntilItIsStopped()
     {
         AudioLevelSource source(AudioLevelSource::Input::TestSignal);
+        const Support::EventSwallower swallower;
         QSignalSpy peaks(&source, &AudioLevelSource::PeakMeasured);
         source.Start();
         source.Start();

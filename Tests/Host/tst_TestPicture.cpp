@@ -1,4 +1,5 @@
 #include <Host/SessionRecorder.h>
+#include <Support/EventSwallower.h>
 #include <Support/LogCapture.h>
 #include <Support/TestCase.h>
 
@@ -138,6 +139,7 @@ private Q_SLOTS:
         const auto testPicture = list.GetDevices()[0];
         QVERIFY(testPicture->GetKind() == CaptureDevice::Kind::TestPicture);
 
+        const Support::EventSwallower swallower;
         QSignalSpy changed(&list, &DeviceList::Changed);
         QTRY_VERIFY_WITH_TIMEOUT(list.IsComplete(), 60000);
         QCOMPARE(changed.size(), 1);

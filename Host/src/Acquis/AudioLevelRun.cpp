@@ -22,7 +22,6 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-constexpr std::chrono::milliseconds INTERVAL(33);
 constexpr double PI = 3.14159265358979323846;
 
 // Phrases of somewhat less than three seconds with a breath between them; syllables of changing weight.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <condition_variable>
 #include <functional>
 #include <memory>
@@ -17,7 +18,9 @@ public:
         bool isTestSignal = false;
     };
 
-    /// Called about thirty times a second, on a thread of the run or of its microphone.
+    static constexpr std::chrono::milliseconds INTERVAL{33};
+
+    /// Called once per interval, on a thread of the run or of its microphone.
     using Report = std::function<void(const Peak&)>;
 
     AudioLevelRun(bool withMicrophone, Report report) : withMicrophone(withMicrophone), report(std::move(report)) {}

@@ -2,11 +2,11 @@
 
 #include <Acquis/AudioLevelRun.h>
 
-#include <QCoreApplication>
-#include <QEvent>
+#include <QTimer>
 
 #include <algorithm>
 #include <mutex>
+#include <optional>
 #include <utility>
 
 namespace Zelkor::StandIn {
@@ -15,36 +15,26 @@ namespace {
 
 using Peak = AudioLevelRun::Peak;
 
-/// The way from the thread of one run to the source, which may die at any time. The source is told by an event to look,
-/// by at most one however long it does not.
-struct Mailbox
+/// The highest peak that the thread of one run has measured since the source looked last.
+class Mailbox
 {
+public:
     void Put(const Peak& newPeak)
     {
         const std::lock_guard<std::mutex> lock(mutex);
-        const double before = isFull ? peak.decibels : AudioLevelSource::SILENCE_DB;
+        const double before = peak ? peak->decibels : AudioLevelSource::SILENCE_DB;
         peak = {std::max(newPeak.decibels, before), newPeak.isTestSignal};
-        if (!std::exchange(isFull, true) && source)
-            QCoreApplication::postEvent(source, new QEvent(QEvent::User));
     }
 
-    bool Take(Peak& taken)
+    std::optional<Peak> Take()
     {
         const std::lock_guard<std::mutex> lock(mutex);
-        taken = peak;
-        return std::exchange(isFull, false);
+        return std::exchange(peak, std::nullopt);
     }
 
-    void Close()
-    {
-        const std::lock_guard<std::mutex> lock(mutex);
-        source = nullptr;
-    }
-
-    std::mutex mutex; ///< guards all that follows
-    AudioLevelSource* source = nullptr;
-    Peak peak;
-    bool isFull = false;
+private:
+    std::mutex mutex;
+    std::optional<Peak> peak;
 };
 
 } // namespace
@@ -55,11 +45,15 @@ struct AudioLevelSource::Impl
     std::shared_ptr<AudioLevelRun> run; ///< null while the source does not run
     std::shared_ptr<Mailbox> mailbox;   ///< of this run
     bool isTestSignal = false;
+    QTimer timer; ///< looks into the mailbox; a posted event could be swallowed, a timer's comes again
 };
 
 AudioLevelSource::AudioLevelSource(Input input, QObject* parent) : QObject(parent), impl(std::make_unique<Impl>())
 {
     impl->input = input;
+    impl->timer.setTimerType(Qt::PreciseTimer);
+    impl->timer.setInterval(AudioLevelRun::INTERVAL);
+    connect(&impl->timer, &QTimer::timeout, this, &AudioLevelSource::EmitPeak);
 }
 
 AudioLevelSource::~AudioLevelSource()
@@ -72,10 +66,10 @@ void AudioLevelSource::Start()
     if (impl->run)
         return;
     impl->mailbox = std::make_shared<Mailbox>();
-    impl->mailbox->source = this;
     impl->run = std::make_shared<AudioLevelRun>(impl->input == Input::Microphone,
                                                 [mailbox = impl->mailbox](const Peak& peak) { mailbox->Put(peak); });
     impl->run->Start();
+    impl->timer.start();
 }
 
 void AudioLevelSource::Stop()
@@ -84,7 +78,7 @@ void AudioLevelSource::Stop()
         return;
     impl->run->End();
     impl->run = nullptr;
-    impl->mailbox->Close();
+    impl->timer.stop();
 }
 
 bool AudioLevelSource::IsTestSignal() const
@@ -92,14 +86,13 @@ bool AudioLevelSource::IsTestSignal() const
     return impl->isTestSignal;
 }
 
-void AudioLevelSource::customEvent(QEvent*)
+void AudioLevelSource::EmitPeak()
 {
-    // The event of a run that was stopped finds nothing, or what the next run has put there already.
-    Peak peak;
-    if (!impl->run || !impl->mailbox->Take(peak))
+    const std::optional<Peak> peak = impl->mailbox->Take();
+    if (!peak)
         return;
-    impl->isTestSignal = peak.isTestSignal;
-    Q_EMIT PeakMeasured(peak.decibels);
+    impl->isTestSignal = peak->isTestSignal;
+    Q_EMIT PeakMeasured(peak->decibels);
 }
 
 } // namespace Zelkor::StandIn

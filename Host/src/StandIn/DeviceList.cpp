@@ -2,22 +2,25 @@
 
 #include <Acquis/DeviceSearch.h>
 
-#include <QEvent>
 #include <QGuiApplication>
+#include <QTimer>
 
+#include <chrono>
 #include <mutex>
+#include <optional>
 #include <utility>
 
 namespace Zelkor::StandIn {
 
 namespace {
 
-/// The way from the search's thread to a list, which may die at any time. The list is told by an event to look.
+constexpr std::chrono::milliseconds LOOK_INTERVAL(100);
+
+/// What the search's thread has found since the list looked last.
 struct Mailbox
 {
-    std::mutex mutex; ///< guards all that follows
-    DeviceList* list;
-    DeviceSearch::Found found; ///< the newest
+    std::mutex mutex;
+    std::optional<DeviceSearch::Found> found; ///< guarded by `mutex`
 };
 
 // An X server that a Wayland session keeps for old programs has no picture of the screen.
@@ -45,17 +48,17 @@ struct DeviceList::Impl
     std::shared_ptr<DeviceSearch> search;
     DeviceSearch::Found found;
     bool isComplete = false;
+    QTimer timer; ///< looks into the mailbox; a posted event could be swallowed, a timer's comes again
 };
 
 DeviceList::DeviceList(QObject* parent) : QObject(parent), impl(std::make_unique<Impl>())
 {
-    impl->mailbox->list = this;
     const auto report = [mailbox = impl->mailbox](const DeviceSearch::Found& found) {
         const std::lock_guard<std::mutex> lock(mailbox->mutex);
         mailbox->found = found;
-        if (mailbox->list)
-            QCoreApplication::postEvent(mailbox->list, new QEvent(QEvent::User));
     };
+    connect(&impl->timer, &QTimer::timeout, this, &DeviceList::Look);
+    impl->timer.start(LOOK_INTERVAL);
     impl->search = std::make_shared<DeviceSearch>(MayHaveX11Screen(), report);
     impl->search->Start();
 }
@@ -63,18 +66,17 @@ DeviceList::DeviceList(QObject* parent) : QObject(parent), impl(std::make_unique
 DeviceList::~DeviceList()
 {
     impl->search->End();
-    const std::lock_guard<std::mutex> lock(impl->mailbox->mutex);
-    impl->mailbox->list = nullptr;
 }
 
-void DeviceList::customEvent(QEvent*)
+void DeviceList::Look()
 {
-    DeviceSearch::Found found;
+    std::optional<DeviceSearch::Found> found;
     {
         const std::lock_guard<std::mutex> lock(impl->mailbox->mutex);
-        found = impl->mailbox->found;
+        found.swap(impl->mailbox->found);
     }
-    impl->Take(this, found);
+    if (found)
+        impl->Take(this, *found);
 }
 
 QList<DeviceList::Device> DeviceList::GetDevices() const

@@ -40,10 +40,9 @@ Q_SIGNALS:
     /// The highest peak since the last one, in decibels of full scale, from `SILENCE_DB` to 0.
     void PeakMeasured(double decibels);
 
-protected:
-    void customEvent(QEvent* event) override;
-
 private:
+    void EmitPeak();
+
     struct Impl;
     std::unique_ptr<Impl> impl;
 };

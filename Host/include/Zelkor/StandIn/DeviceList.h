@@ -35,10 +35,9 @@ Q_SIGNALS:
     /// The list is another than before. A device that is still there keeps its object.
     void Changed();
 
-protected:
-    void customEvent(QEvent* event) override;
-
 private:
+    void Look();
+
     struct Impl;
     std::unique_ptr<Impl> impl;
 };
