@@ -28,7 +28,7 @@ QString Bare(QString text, const QString& prefix, const QString& suffix)
 
 ZDoubleSpinBox::ZDoubleSpinBox(QWidget* parent) : QDoubleSpinBox(parent)
 {
-    connect(lineEdit(), &QLineEdit::textEdited, this, [this] { typed = true; });
+    connect(lineEdit(), &QLineEdit::textEdited, this, [this](const QString& text) { typedText = text; });
     // Made here, the connection comes before those of others: they find the rounded value.
     connect(this, &QDoubleSpinBox::editingFinished, this, &ZDoubleSpinBox::finishTyping);
 }
@@ -40,6 +40,8 @@ void ZDoubleSpinBox::setFixupWithStep(bool on)
 
 void ZDoubleSpinBox::setEditableInFocus(bool on)
 {
+    if (editableInFocus == on)
+        return;
     editableInFocus = on;
     Common::LetWheelGiveFocus(*this, !on);
 }
@@ -57,7 +59,13 @@ double ZDoubleSpinBox::valueFromText(const QString& text) const
 {
     const double number = QDoubleSpinBox::valueFromText(text);
     // Without tracking, what was typed is read when the editing is finished.
-    return fixupWithStep && typed && !keyboardTracking() ? roundedToStep(number) : number;
+    return fixupWithStep && text == typedText && !keyboardTracking() ? roundedToStep(number) : number;
+}
+
+void ZDoubleSpinBox::stepBy(int steps)
+{
+    QDoubleSpinBox::stepBy(steps);
+    typedText.clear();
 }
 
 void ZDoubleSpinBox::wheelEvent(QWheelEvent* event)
@@ -77,7 +85,8 @@ double ZDoubleSpinBox::roundedToStep(double number) const
 
 void ZDoubleSpinBox::finishTyping()
 {
-    if (typed && fixupWithStep)
+    // Code may have set another value since.
+    if (fixupWithStep && !typedText.isEmpty() && value() == QDoubleSpinBox::valueFromText(typedText))
         setValue(roundedToStep(value()));
-    typed = false;
+    typedText.clear();
 }

@@ -35,6 +35,8 @@ public:
     /// Rounds what was typed, with `fixupWithStep` and without `keyboardTracking`.
     double valueFromText(const QString& text) const override;
 
+    void stepBy(int steps) override;
+
 protected:
     void wheelEvent(QWheelEvent* event) override;
 
@@ -44,5 +46,5 @@ private:
 
     bool fixupWithStep = false;
     bool editableInFocus = false;
-    bool typed = false; ///< since the last end of editing
+    QString typedText; ///< the latest since the end of editing, prefix and suffix included; empty after a step
 };

@@ -8,6 +8,8 @@ ZSpinBox::ZSpinBox(QWidget* parent) : QSpinBox(parent) {}
 
 void ZSpinBox::setEditableInFocus(bool on)
 {
+    if (editableInFocus == on)
+        return;
     editableInFocus = on;
     Common::LetWheelGiveFocus(*this, !on);
 }
