@@ -1,11 +1,13 @@
 #include "SpeedTable.h"
 
 #include <UI/Kit/QLedMatrix.h>
+#include <UI/Kit/ZComboBox.h>
 #include <UI/Kit/ZLabel.h>
 #include <UI/Kit/ZUndoStack.h>
 
 #include <QCoreApplication>
 #include <QPainter>
+#include <QStringListModel>
 #include <QUndoStack>
 
 namespace SpeedTable {
@@ -122,6 +124,29 @@ Rounds LabelText()
     return Interleave(ShowTexts(ours, &ZLabel::setOriginalText), ShowTexts(theirs, &QLabel::setText), 61, 200);
 }
 
+// A new combo box each time, up to the first paint of its list.
+template<class Combo>
+std::function<void()> OpenLongList(QAbstractItemModel& items)
+{
+    return [&items] {
+        Combo combo;
+        combo.setModel(&items);
+        combo.show();
+        combo.showPopup();
+        PaintNow();
+        combo.hidePopup();
+    };
+}
+
+Rounds LongList()
+{
+    QStringList texts;
+    for (int i = 0; i < 100000; ++i)
+        texts += QStringLiteral("Item %1").arg(i);
+    QStringListModel items(texts);
+    return Interleave(OpenLongList<ZComboBox>(items), OpenLongList<QComboBox>(items), 5, 1);
+}
+
 } // namespace
 
 std::vector<Row> KitRows()
@@ -131,6 +156,7 @@ std::vector<Row> KitRows()
         {"led-change", "LED matrix, one LED changed", "full repaint of the same matrix", 0.05, OneLed},
         {"undo", "undo stack, 10^6 push, undo, redo", "QUndoStack", 0.5, UndoStack},
         {"label-text", "ZLabel::setOriginalText and repaint, text fits", "QLabel::setText and repaint", 1.5, LabelText},
+        {"combo-open", "ZComboBox, list of 10^5 items opened", "QComboBox", 1.3, LongList},
     };
 }
 

@@ -11,6 +11,7 @@
 #include <QTimer>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -63,13 +64,20 @@ AdvancedComboView::AdvancedComboView(ZComboBox* combo, bool wide) : combo(combo)
 
 void AdvancedComboView::fitToItems()
 {
+    ensurePolished();
+    executeDelayedItemsLayout();
+    applyWidth();
+}
+
+void AdvancedComboView::applyWidth()
+{
     if (!wide || !combo)
         return;
     const QScrollBar* bar = verticalScrollBar();
     const int barWidth = bar && bar->maximum() != 0 ? bar->width() : 0;
     // A style sheet may give the list a border and padding of its own.
     const int frame = width() - maximumViewportSize().width();
-    const int needed = sizeHintForColumn(combo->modelColumn()) + barWidth + frame;
+    const int needed = widestItem + barWidth + frame;
     setMinimumWidth(std::min(needed, ScreenOf(*combo).width() - WidthAround(parentWidget())));
 }
 
@@ -86,7 +94,35 @@ void AdvancedComboView::resizeEvent(QResizeEvent* event)
 {
     resizeContents(viewport()->width(), contentsSize().height());
     QListView::resizeEvent(event);
-    fitToItems();
+    applyWidth();
+}
+
+void AdvancedComboView::doItemsLayout()
+{
+    hasNewLayout = true;
+    QListView::doItemsLayout();
+    applyWidth();
+}
+
+void AdvancedComboView::updateGeometries()
+{
+    if (std::exchange(hasNewLayout, false) && wide && combo)
+        widestItem = std::max(0, measureItems());
+    QListView::updateGeometries();
+}
+
+// Called right after a layout. In a long list, measuring all items once more would take as long as opening it.
+int AdvancedComboView::measureItems() const
+{
+    const int column = combo->modelColumn();
+    // Rows of a menu differ only in the bold one; QComboBox::showPopup() makes room for the texts.
+    if (itemDelegate()->inherits("QComboMenuDelegate"))
+        return sizeHintForIndex(model()->index(std::max(0, combo->currentIndex()), column, rootIndex())).width();
+    // The layout measured the items; until scroll bars come, the contents are as wide as the widest one.
+    if (itemDelegate()->inherits("QComboBoxDelegate"))
+        return contentsSize().width();
+    // What other delegates ask for may depend on the width that the list has already.
+    return sizeHintForColumn(column);
 }
 
 bool AdvancedComboView::eventFilter(QObject* watched, QEvent* event)

@@ -19,17 +19,24 @@ public:
     /// Makes a wide list as wide as its items need by now, by its minimum width.
     void fitToItems();
 
+    void doItemsLayout() override;
+
 protected:
     QStyleOptionViewItem viewOptions() const override;
+    void updateGeometries() override;
     void resizeEvent(QResizeEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void changeEvent(QEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    void applyWidth();
+    int measureItems() const;
     void paintMenuBackground(const QRect& area);
     void keepPopUpOnScreen();
 
     QPointer<ZComboBox> combo;
     const bool wide;
+    bool hasNewLayout = false; ///< that updateGeometries() has not seen
+    int widestItem = 0;        ///< in pixels, as of the last layout
 };

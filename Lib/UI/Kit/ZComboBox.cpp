@@ -4,6 +4,7 @@
 
 #include <QFontMetrics>
 #include <QPainter>
+#include <QStyledItemDelegate>
 #include <QWheelEvent>
 
 namespace {
@@ -15,12 +16,23 @@ QFontMetrics MetricsOn(const QWidget* widget)
     return QFontMetrics(widget->font(), widget);
 }
 
+// The delegate that QComboBox made for its list, and replaces when the style changes. It draws separators, and the rows
+// as the style or a style sheet draws them in combo boxes. Null when QComboBox::setItemDelegate deleted it.
+QAbstractItemDelegate* ComboDelegateOf(const QAbstractItemView& list)
+{
+    for (auto* delegate : list.findChildren<QAbstractItemDelegate*>(QString(), Qt::FindDirectChildrenOnly)) {
+        if (delegate->inherits("QComboBoxDelegate") || delegate->inherits("QComboMenuDelegate"))
+            return delegate;
+    }
+    return nullptr;
+}
+
 } // namespace
 
 ZComboBox::ZComboBox(QWidget* parent) : QComboBox(parent)
 {
     setFocusPolicy(Qt::StrongFocus);
-    setView(new AdvancedComboView(this, widePopupEnabled));
+    setView(makeList());
 }
 
 void ZComboBox::setMouseWheelEnabled(bool on)
@@ -37,20 +49,36 @@ void ZComboBox::setWidePopupEnabled(bool on)
         return;
     widePopupEnabled = on;
     QAbstractItemView* old = view();
-    const bool isOpen = old->isVisible();
+    const bool isOpen = !popUp && old->isVisible();
     if (isOpen)
         QComboBox::hidePopup();
-    auto* fresh = new AdvancedComboView(this, on);
-    fresh->setModel(model());
-    fresh->setRootIndex(rootModelIndex());
-    fresh->setModelColumn(modelColumn());
-    // Taken out of the pop-up, or that would delete it on the spot; a list that is just being clicked goes later.
+    AdvancedComboView* fresh = makeList();
+    // Taken out of the pop-up, which would delete it at once: the change may come from one of its own events. A child
+    // of the combo box would be taken for its list by style sheets.
     old->setParent(nullptr);
+    connect(model(), &QObject::destroyed, old, [old] { delete old; });
     old->deleteLater();
     setView(fresh);
     if (isOpen)
         QComboBox::showPopup();
     Q_EMIT widePopupEnabledChanged();
+}
+
+// A list for the place of the present one, whose delegate it takes.
+AdvancedComboView* ZComboBox::makeList()
+{
+    QAbstractItemView* present = view();
+    auto* list = new AdvancedComboView(this, widePopupEnabled);
+    list->setModel(model());
+    list->setRootIndex(rootModelIndex());
+    list->setModelColumn(modelColumn());
+    if (QAbstractItemDelegate* delegate = ComboDelegateOf(*present)) {
+        delegate->setParent(list);
+        list->setItemDelegate(delegate);
+        // QComboBox may delete its delegate before the present list goes.
+        present->setItemDelegate(new QStyledItemDelegate(present));
+    }
+    return list;
 }
 
 void ZComboBox::setEliding(bool on)

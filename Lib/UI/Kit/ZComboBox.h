@@ -3,6 +3,8 @@
 #include <QComboBox>
 #include <QPointer>
 
+class AdvancedComboView;
+
 /// A combo box that can leave the mouse wheel to its panel, show a fixed text whatever is chosen, elide what is too
 /// long for it, open a list as wide as its items, and open a widget of the application in place of the list.
 ///
@@ -25,7 +27,8 @@ public:
     void setMouseWheelEnabled(bool on);
 
     /// Whether the list is as wide as its widest item, also beyond the combo box; on by default. A change makes a new
-    /// list: what was set on the old one, a delegate for instance, is lost. A list that is open opens again.
+    /// list: what was set on the old one, a delegate for instance, is lost. A list that is open opens again. Styles
+    /// that make the list a menu give it room for its texts in either case.
     bool isWidePopupEnabled() const { return widePopupEnabled; }
     void setWidePopupEnabled(bool on);
 
@@ -61,6 +64,7 @@ protected:
     void wheelEvent(QWheelEvent* event) override;
 
 private:
+    AdvancedComboView* makeList();
     QString faceText(const QStyleOptionComboBox& option);
 
     bool mouseWheelEnabled = true;

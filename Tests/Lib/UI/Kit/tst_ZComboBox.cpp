@@ -82,6 +82,55 @@ private Q_SLOTS:
         QTRY_VERIFY(!old);
     }
 
+    // Separators and rows are drawn as by the style, one that comes after the list is made too.
+    void listLooksLikeQts_data()
+    {
+        QTest::addColumn<QString>("style");
+        QTest::addColumn<QString>("sheet");
+        QTest::newRow("menu") << "Fusion"
+                              << "";
+        QTest::newRow("list") << "Windows"
+                              << "";
+        QTest::newRow("style sheet") << "Fusion"
+                                     << "QComboBox { combobox-popup: 0 } QComboBox QAbstractItemView { padding: 3px }"
+                                        "QComboBox QAbstractItemView::item { color: blue; min-height: 30px }";
+    }
+
+    void listLooksLikeQts()
+    {
+        QFETCH(QString, style);
+        QFETCH(QString, sheet);
+        ZComboBox combo;
+        QComboBox plain;
+        const auto picture = [&](QComboBox& box) {
+            box.setStyleSheet(sheet);
+            box.insertSeparator(1);
+            box.view()->setTextElideMode(Qt::ElideRight);
+            box.show();
+            box.showPopup();
+            const QImage image = box.view()->grab().toImage();
+            box.hidePopup();
+            return image;
+        };
+        prepare(combo);
+        prepare(plain);
+        combo.setWidePopupEnabled(false);
+        QApplication::setStyle(style);
+        QCOMPARE(picture(combo), picture(plain));
+    }
+
+    void replacedListGoesWithItsBox()
+    {
+        auto combo = std::make_unique<ZComboBox>();
+        prepare(*combo);
+        combo->showPopup();
+        const QPointer<QAbstractItemView> old = combo->view();
+        combo->setWidePopupEnabled(false);
+        combo.reset();
+        QVERIFY(!old);
+        QCoreApplication::processEvents(); // without a warning
+    }
+
     void widePopUpStaysOnTheScreen()
     {
         const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
@@ -96,7 +145,7 @@ private Q_SLOTS:
                     combo.show();
                     combo.showPopup();
                     const QWidget* popUp = combo.view()->window();
-                    const int items = static_cast<AdvancedComboView*>(combo.view())->sizeHintForColumn(0);
+                    const int items = combo.fontMetrics().horizontalAdvance(combo.itemText(1));
                     QVERIFY(items > 120);
                     QTRY_VERIFY(popUp->width() >= std::min(items, screen.width()));
                     QTRY_VERIFY(screen.contains(popUp->geometry()));
