@@ -1,5 +1,6 @@
 #include <UI/Kit/ZSlider.h>
 
+#include <UI/Common/WithinReach.h>
 #include <UI/Kit/SliderTrack.h>
 #include <UI/Kit/ZSliderThumb.h>
 
@@ -175,7 +176,8 @@ QSize ZSlider::withThumbs(const QSize& size) const
     for (ZSliderThumb* thumb : thumbs) {
         thumb->ensurePolished();
         const bool isHorizontal = orientation() == Qt::Horizontal;
-        const int thickness = thumb->parentMargin() + (isHorizontal ? thumb->height() : thumb->width());
+        const int thickness = Zelkor::Vx::UI::Common::WithinReach(thumb->parentMargin()) +
+                              (isHorizontal ? thumb->height() : thumb->width());
         whole = whole.expandedTo(isHorizontal ? QSize(0, thickness) : QSize(thickness, 0));
     }
     return whole;

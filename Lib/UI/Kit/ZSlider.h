@@ -126,6 +126,10 @@ private Q_SLOTS:
 
 private:
     friend class ZSliderThumb;
+
+    /// Called after a thumb was dragged, with the place of the mouse in the slider.
+    virtual void pointerMoved(const QPoint&) {}
+
     enum class Follower { NONE, THUMB, SLIDER };
 
     SliderTrack track() const;

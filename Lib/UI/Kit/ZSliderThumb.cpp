@@ -1,6 +1,7 @@
 #include <UI/Kit/ZSliderThumb.h>
 
 #include <UI/Common/AccessibleFactory.h>
+#include <UI/Common/WithinReach.h>
 #include <UI/Kit/SliderTrack.h>
 #include <UI/Kit/ZSlider.h>
 
@@ -14,6 +15,8 @@
 #include <algorithm>
 
 namespace {
+
+using Zelkor::Vx::UI::Common::WithinReach;
 
 constexpr QSize SIZE(14, 14);
 constexpr QPoint NOWHERE(-1, -1);
@@ -153,11 +156,12 @@ void ZSliderThumb::setUpperLimit(int limit)
 
 void ZSliderThumb::place()
 {
-    const int position = slider->track().pixelOfThumb(currentValue) - currentPointOffset;
+    const int position = slider->track().pixelOfThumb(currentValue) - WithinReach(currentPointOffset);
+    const int margin = WithinReach(currentParentMargin);
     if (slider->orientation() == Qt::Horizontal)
-        move(position, currentParentMargin);
+        move(position, margin);
     else
-        move(currentParentMargin, position);
+        move(margin, position);
 }
 
 QSize ZSliderThumb::sizeHint() const
@@ -255,11 +259,13 @@ void ZSliderThumb::mouseMoveEvent(QMouseEvent* event)
         if (!self || !dragging)
             return;
     }
-    const QPoint offset(currentPointOffset, currentPointOffset);
-    const int value = slider->valueAt(mapToParent(event->pos()) + offset - pressPosition);
+    const int offset = WithinReach(currentPointOffset);
+    const QPoint pointer = mapToParent(event->pos());
+    const int value = slider->valueAt(pointer + QPoint(offset, offset) - pressPosition);
     setValue(slider->snapped(*this, value));
     if (!self)
         return;
+    slider->pointerMoved(pointer);
     QAbstractButton::mouseMoveEvent(event);
     event->accept();
 }

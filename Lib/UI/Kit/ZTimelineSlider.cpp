@@ -1,6 +1,7 @@
 #include <UI/Kit/ZTimelineSlider.h>
 
 #include <UI/Common/AccessibleFactory.h>
+#include <UI/Common/WithinReach.h>
 #include <UI/Kit/TimeFormat.h>
 #include <UI/Kit/ZSliderThumb.h>
 
@@ -20,6 +21,8 @@
 #endif
 
 namespace {
+
+using Zelkor::Vx::UI::Common::WithinReach;
 
 constexpr int STEPS = 1000;
 constexpr qint64 NO_BOUND = -1;
@@ -77,7 +80,9 @@ public:
     QVariant maximumValue() const override { return end(slider->rightBound(), slider->maximum()); }
     QVariant minimumStepSize() const override
     {
-        return slider->timeAt(slider->minimum() + slider->singleStep()) - slider->timeAt(slider->minimum());
+        const int first = slider->minimum();
+        const qint64 second = qMin<qint64>(qint64(first) + slider->singleStep(), slider->maximum());
+        return Saturated<qint64>(Wide(slider->timeAt(int(second))) - slider->timeAt(first));
     }
 
 private:
@@ -243,15 +248,20 @@ void ZTimelineSlider::updateTime(int value)
     Q_EMIT timeChanged(newTime);
 }
 
-void ZTimelineSlider::mouseMoveEvent(QMouseEvent* event)
+void ZTimelineSlider::pointerMoved(const QPoint& point)
 {
-    const int start = grooveOffset();
-    const int end = width() - grooveOffset();
-    double ratio = event->x() <= start ? 0 : 1;
-    if (start < event->x() && event->x() < end)
-        ratio = double(event->x() - start) / (end - start);
+    const int start = WithinReach(grooveOffset());
+    const int end = width() - start;
+    double ratio = point.x() <= start ? 0 : 1;
+    if (start < point.x() && point.x() < end)
+        ratio = double(point.x() - start) / (end - start);
     const auto seconds = qint64(double(scale().length()) * ratio / 1000);
     const QTime shown = QTime(0, 0).addSecs(int(seconds % SECONDS_A_DAY));
-    QToolTip::showText(event->globalPos(), TimeText(shown, formats, locale()), this, rect());
+    QToolTip::showText(mapToGlobal(point), TimeText(shown, formats, locale()), this, rect());
+}
+
+void ZTimelineSlider::mouseMoveEvent(QMouseEvent* event)
+{
+    pointerMoved(event->pos());
     ZSlider::mouseMoveEvent(event);
 }

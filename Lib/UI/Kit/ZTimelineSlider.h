@@ -86,6 +86,8 @@ private Q_SLOTS:
 private:
     struct Scale;
 
+    void pointerMoved(const QPoint& point) override;
+
     Scale scale() const;
     std::optional<int> limitOf(qint64 bound) const;
     std::optional<qint64> boundAt(int value) const;

@@ -1,6 +1,7 @@
 #include <UI/Widgets/TickLabelRow.h>
 
 #include <UI/Common/TextMarks.h>
+#include <UI/Common/WithinReach.h>
 #include <UI/Kit/ZLabel.h>
 #include <UI/Widgets/TickSlider.h>
 
@@ -12,6 +13,8 @@ namespace Zelkor::Vx {
 
 namespace {
 
+using UI::Common::WithinReach;
+
 // Between two texts, so that they do not read as one.
 constexpr int GAP = 8;
 
@@ -19,7 +22,8 @@ constexpr int GAP = 8;
 int WantedWidth(const ZLabel* label)
 {
     const QMargins margins = label->contentsMargins();
-    const int around = margins.left() + margins.right() + 2 * label->margin() + qMax(0, label->indent());
+    const int around = WithinReach(margins.left() + margins.right()) + 2 * WithinReach(label->margin()) +
+                       qMax(0, WithinReach(label->indent()));
     const QString text = UI::Common::Embed(label->originalText());
     return qCeil(QFontMetricsF(label->font()).horizontalAdvance(text)) + around;
 }

@@ -104,6 +104,15 @@ private Q_SLOTS:
         thumb->setPointOffset(3);
         slider.resize(412, 30);
         QCOMPARE(thumb->pos(), QPoint(203, 5));
+        for (const int offset : {INT_MIN, INT_MAX}) {
+            thumb->setPointOffset(offset);
+            thumb->setParentMargin(offset);
+            QCOMPARE(thumb->x() < 0, offset > 0);
+            QCOMPARE(thumb->y() < 0, offset < 0);
+            QVERIFY(slider.sizeHint().height() > 0);
+        }
+        thumb->setParentMargin(5);
+        thumb->setPointOffset(3);
         slider.setGrooveOffset(56);
         slider.setRange(0, 200);
         slider.setOrientation(Qt::Vertical);

@@ -121,6 +121,15 @@ private Q_SLOTS:
         };
         QCOMPARE(tipAt(106), QString("13:00:00"));
         QCOMPARE(tipAt(211), QString("02:00:00"));
+        // A thumb that is dragged takes the mouse.
+        ZSliderThumb* thumb = slider.defaultThumb();
+        QTest::mousePress(thumb, Qt::LeftButton, {}, {7, 7});
+        Support::MoveMouse(thumb, thumb->mapFromParent({56, 7}));
+        QCOMPARE(QToolTip::text(), QString("06:30:00"));
+        QTest::mouseRelease(thumb, Qt::LeftButton, {}, {7, 7});
+        slider.setGrooveOffset(std::numeric_limits<int>::min());
+        QCOMPARE(tipAt(106), QString("13:00:00"));
+        slider.setGrooveOffset(6);
         slider.setBounds(20000, 23000);
         slider.setDisplayFormatList({"", "hh:mm", "m:ss", "ss"});
         QCOMPARE(tipAt(105), QString("0:01"));
@@ -132,6 +141,9 @@ private Q_SLOTS:
         QCOMPARE(accessible->text(QAccessible::Value), QString("0:22"));
         QCOMPARE(QVariantList({value->minimumValue(), value->currentValue(), value->maximumValue()}),
                  QVariantList({20000, 22001, 23000}));
+        slider.setSingleStep(std::numeric_limits<int>::max());
+        slider.setRange(1, std::numeric_limits<int>::max());
+        QCOMPARE(value->minimumStepSize(), QVariant(3000)); // no further than the end
     }
 };
 

@@ -9,6 +9,7 @@
 #include <QStyle>
 #include <QStyleOptionSlider>
 
+#include <climits>
 #include <memory>
 
 using Zelkor::Vx::SliderWithTickLabels;
@@ -106,6 +107,8 @@ private Q_SLOTS:
         widget.SetItemText(0, "Lowest");
         QCOMPARE(widget.FindText("Lowest"), 0);
         QCOMPARE(SliderOf(widget)->accessibleName(), QString("Extraordinarily high"));
+        LabelsOf(widget)[1]->setMargin(INT_MAX);
+        QTRY_VERIFY(widget.sizeHint().width() > 1000000);
         for (const int beyond : {-1, 2})
             widget.SetItemText(beyond, "None");
         QCOMPARE(widget.FindText("None"), -1);
