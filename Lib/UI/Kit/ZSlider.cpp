@@ -34,6 +34,23 @@ QList<ZSliderThumb*> ByValue(const QMap<QString, ZSliderThumb*>& thumbs)
     return sorted;
 }
 
+// The key that leads the other way.
+int Opposite(int key)
+{
+    switch (key) {
+    case Qt::Key_Up:
+        return Qt::Key_Down;
+    case Qt::Key_Down:
+        return Qt::Key_Up;
+    case Qt::Key_PageUp:
+        return Qt::Key_PageDown;
+    case Qt::Key_PageDown:
+        return Qt::Key_PageUp;
+    default:
+        return key;
+    }
+}
+
 } // namespace
 
 ZSlider::ZSlider(QWidget* parent) : QSlider(Qt::Vertical, parent), groove(*this)
@@ -333,12 +350,21 @@ bool ZSlider::moveFocus(QKeyEvent& event, ZSliderThumb* from)
     return true;
 }
 
+// For Qt the values of an upright slider grow upwards.
+void ZSlider::pressValueKey(QKeyEvent& event)
+{
+    const int key = orientation() == Qt::Vertical ? Opposite(event.key()) : event.key();
+    QKeyEvent asQtHasIt(event.type(), key, event.modifiers());
+    QAbstractSlider::keyPressEvent(&asQtHasIt);
+    event.setAccepted(asQtHasIt.isAccepted());
+}
+
 void ZSlider::keyPressEvent(QKeyEvent* event)
 {
     if (moveFocus(*event, keyThumb()))
         return;
     if (!selected) {
-        QAbstractSlider::keyPressEvent(event);
+        pressValueKey(*event);
         return;
     }
     // Its release would come to the slider as well, and leave the thumb down.

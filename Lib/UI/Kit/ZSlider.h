@@ -19,7 +19,7 @@ struct SliderTrack;
 /// Keys: Tab reaches the slider and leaves it. Ctrl with an arrow key goes from thumb to thumb in the order of their
 /// values, also where they lie over one another; the space bar selects; the arrow keys step the thumb that has the
 /// keyboard. They go to the selected thumb while the slider itself has it, and move the slider's value while no thumb
-/// was selected yet.
+/// was selected yet. Up and Page Up lead to the smaller values of a vertical slider, which lie higher.
 ///
 /// The groove is not that of the application's style. The style properties are declarations of a style sheet for its
 /// looks: empty, the segments normal and selected, their borders, and the pages after and before the value over all of
@@ -139,6 +139,7 @@ private:
     ZSliderThumb* keyThumb() const { return selected ? selected : valueThumb; }
     bool hasOtherThumbAt(const QPoint& point, const ZSliderThumb& thumb) const;
     bool moveFocus(QKeyEvent& event, ZSliderThumb* from);
+    void pressValueKey(QKeyEvent& event);
     void forget(ZSliderThumb* thumb);
     void layOut();
     void restack();

@@ -6,6 +6,7 @@
 #include <UI/Kit/ZSlider.h>
 
 #include <QAccessibleWidget>
+#include <QMetaMethod>
 #include <QMouseEvent>
 #include <QPointer>
 #include <QStyle>
@@ -297,6 +298,13 @@ void ZSliderThumb::keyPressEvent(QKeyEvent* event)
 {
     if (slider->moveFocus(*event, this))
         return;
+    const bool isStepped = isSignalConnected(QMetaMethod::fromSignal(&ZSliderThumb::stepped));
+    if (keyStepping && !isStepped && slider->valueThumb == this) {
+        const QPointer<ZSliderThumb> self(this);
+        slider->pressValueKey(*event);
+        if (!self || event->isAccepted())
+            return;
+    }
     const bool isStep = keyStepping && (IsUpwards(event->key()) || IsDownwards(event->key()));
     if (!isStep) {
         QAbstractButton::keyPressEvent(event);

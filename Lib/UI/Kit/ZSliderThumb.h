@@ -11,7 +11,8 @@ class ZSlider;
 /// A thumb has a value of its own within the slider's range and its own limits. It can be dragged, and a click selects
 /// it, which shows as the checked state. While it has the keyboard, or is selected and the slider has it, the arrow
 /// keys ask its owner for a step by `stepped`; so does the wheel over the selected thumb. The owner decides what a step
-/// is. Where thumbs lie over one another, a click that leaves its thumb unselected lets the one beneath come up.
+/// is. While nothing is connected to `stepped` of the default thumb, its keys are those of the slider. Where thumbs lie
+/// over one another, a click that leaves its thumb unselected lets the one beneath come up.
 ///
 /// A thumb is 14 by 14 pixels unless the style sheet gives it another size, and is selected there by
 /// [styleTag="..."], `:checked` and `:focus`.

@@ -358,6 +358,49 @@ private Q_SLOTS:
         }
     }
 
+    void keysLeadWhereTheyPoint_data()
+    {
+        QTest::addColumn<int>("orientation");
+        QTest::addColumn<int>("key");
+        QTest::addColumn<int>("value");
+        const auto add = [](const char* row, Qt::Orientation orientation, Qt::Key key, int value) {
+            QTest::newRow(row) << int(orientation) << int(key) << value;
+        };
+        add("vertical, up", Qt::Vertical, Qt::Key_Up, 49);
+        add("vertical, down", Qt::Vertical, Qt::Key_Down, 51);
+        add("vertical, page up", Qt::Vertical, Qt::Key_PageUp, 40);
+        add("vertical, page down", Qt::Vertical, Qt::Key_PageDown, 60);
+        add("vertical, home", Qt::Vertical, Qt::Key_Home, 0);
+        add("horizontal, up", Qt::Horizontal, Qt::Key_Up, 51);
+        add("horizontal, page down", Qt::Horizontal, Qt::Key_PageDown, 40);
+    }
+
+    void keysLeadWhereTheyPoint()
+    {
+        QFETCH(int, orientation);
+        QFETCH(int, key);
+        Trimmer slider;
+        slider.setOrientation(Qt::Orientation(orientation));
+        slider.setValue(50);
+        QTest::keyClick(&slider, Qt::Key(key));
+        QTEST(slider.value(), "value");
+        // A click on the default thumb gives it the keys.
+        slider.setValue(50);
+        Click(slider.defaultThumb());
+        QTest::keyClick(slider.defaultThumb(), Qt::Key(key));
+        QTEST(slider.value(), "value");
+    }
+
+    void ownerThatStepsTheDefaultThumbDecidesWhatAStepIs()
+    {
+        Trimmer slider;
+        Click(slider.defaultThumb());
+        const QSignalSpy stepped(slider.defaultThumb(), &Thumb::stepped);
+        QTest::keyClick(slider.defaultThumb(), Qt::Key_Up);
+        QCOMPARE(stepped, QList<QVariantList>({{120}}));
+        QCOMPARE(slider.value(), 0);
+    }
+
     void keysAndWheelReachEveryThumb()
     {
         Trimmer slider;
