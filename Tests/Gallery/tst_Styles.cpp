@@ -1,6 +1,8 @@
 #include <Gallery/Catalogue.h>
 #include <Gallery/StyleSheet.h>
 
+#include <UI/Widgets/HorizontalTabBar.h>
+
 #include <Support/TestCase.h>
 
 #include <QDir>
@@ -114,6 +116,27 @@ private Q_SLOTS:
         QVERIFY(label.grab().toImage().pixelColor(8, 8) != Qt::red);
         QVERIFY(StyleIcon("mark").pixmap(16).isNull());
         QVERIFY(QDir::setCurrent(previous));
+    }
+
+    void disabledTabLooksDisabled()
+    {
+        QFETCH_GLOBAL(QString, name);
+        QString error;
+        ApplyStyleSheet(*LoadStyleSheet(name.toLower(), error));
+        Zelkor::Vx::HorizontalTabBar bar(nullptr);
+        bar.addTab("l");
+        bar.addTab("l");
+        bar.show();
+        const auto inside = [&] { return bar.grab(bar.tabRect(1).adjusted(4, 4, -4, -4)).toImage(); };
+        const QImage enabled = inside();
+        bar.setTabEnabled(1, false);
+        const QImage disabled = inside();
+        int changed = 0;
+        for (int i = 0; i < enabled.width() * enabled.height(); ++i) {
+            const QPoint pixel(i % enabled.width(), i / enabled.width());
+            changed += enabled.pixel(pixel) != disabled.pixel(pixel);
+        }
+        QVERIFY(changed > enabled.width() * enabled.height() / 10);
     }
 
     void sheetIsWhole()
