@@ -44,7 +44,7 @@ QString Elided(const QString& text, const QFontMetrics& metrics, Qt::TextElideMo
 }
 
 // QTabBar takes "&" for the mark of a mnemonic and makes no room for it. The text, which shows it, gets that room from
-// the padding that its alignment leaves.
+// the paddings, first from the one at its free end.
 QRect WithRoomForMarks(QRect place, const QString& text, const QFontMetrics& metrics, Qt::Alignment alignment,
                        const QRect& face)
 {
@@ -52,13 +52,10 @@ QRect WithRoomForMarks(QRect place, const QString& text, const QFontMetrics& met
     const int missing = qMin(width - place.width(), width - metrics.size(Qt::TextShowMnemonic, text).width());
     if (missing <= 0)
         return place;
-    if (alignment & Qt::AlignRight)
-        place.setLeft(place.left() - missing);
-    else if (alignment & Qt::AlignHCenter)
-        place.adjust(-missing / 2, 0, missing - missing / 2, 0);
-    else
-        place.setRight(place.right() + missing);
-    return place & face;
+    const QSize size(qMin(place.width() + missing, face.width()), place.height());
+    QRect room = QStyle::alignedRect(Qt::LeftToRight, alignment, size, place);
+    room.moveLeft(qBound(face.left(), room.left(), face.right() + 1 - room.width()));
+    return room;
 }
 
 // What is left of a text's place beside a button, on the side with more room.
@@ -137,6 +134,17 @@ void HorizontalTabBar::tabRemoved(int index)
 {
     QTabBar::tabRemoved(index);
     UpdateIcons();
+}
+
+bool HorizontalTabBar::event(QEvent* event)
+{
+    const bool handled = QTabBar::event(event);
+    // Tabs and their buttons may have been laid out before the style sheet applied.
+    if (event->type() == QEvent::Polish) {
+        QEvent change(QEvent::StyleChange);
+        changeEvent(&change);
+    }
+    return handled;
 }
 
 void HorizontalTabBar::changeEvent(QEvent* event)

@@ -84,6 +84,7 @@ protected:
 
     void tabInserted(int index) override;
     void tabRemoved(int index) override;
+    bool event(QEvent* event) override;
     void changeEvent(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
