@@ -108,7 +108,7 @@ QString ShownTitle(const QWidget* window)
         shown += title.midRef(end, place.capturedStart() - end);
         shown += place.capturedRef().left(count / 2 * PLACE_LENGTH);
         if (count % 2 == 1 && isMarked)
-            shown += QWidget::tr("*");
+            shown += QLatin1Char('*');
         end = place.capturedEnd();
     }
     return shown + title.midRef(end);
@@ -295,9 +295,9 @@ bool CustomTitleBar::eventFilter(QObject* watched, QEvent* event)
 
 bool CustomTitleBar::event(QEvent* event)
 {
-    // A window that comes to another screen may need its icon in another size.
-    if (event->type() == QEvent::ScreenChangeInternal && parentWidget() &&
-        !impl->iconLabel->pixmap(Qt::ReturnByValue).isNull())
+    // On another screen the icon may have another size, in another style other colours.
+    const bool isOutdated = event->type() == QEvent::ScreenChangeInternal || event->type() == QEvent::StyleChange;
+    if (isOutdated && parentWidget() && !impl->iconLabel->pixmap(Qt::ReturnByValue).isNull())
         impl->ShowIcon(parentWidget()->windowIcon());
     return ZFrame::event(event);
 }
