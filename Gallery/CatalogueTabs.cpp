@@ -4,6 +4,8 @@
 #include <UI/Widgets/HorizontalTabBar.h>
 #include <UI/Widgets/ResizableStackedWidget.h>
 
+#include <Zelkor/Util/WidgetStyle.h>
+
 #include <QLabel>
 #include <QVBoxLayout>
 #include <QVariant>
@@ -17,7 +19,7 @@ constexpr QSize PAGES_SIZE(400, 160);
 
 QStringList SourceNames()
 {
-    return {Catalogue::tr("&Screen"), Catalogue::tr("&Camera"), Catalogue::tr("&Microphone")};
+    return {Catalogue::tr("Screen"), Catalogue::tr("Camera"), Catalogue::tr("Microphone")};
 }
 
 QWidget* CreateTabBar(QWidget* parent)
@@ -31,7 +33,7 @@ QWidget* CreateTabBar(QWidget* parent)
 // The style sheet has the icons of the tabs with this role, and room for them.
 void ShowIcons(QTabBar& bar)
 {
-    bar.setProperty("role", QStringLiteral("sources"));
+    Util::ApplyWidgetStyle(&bar, QStringLiteral("sources"), "role");
 }
 
 void ShowMany(QTabBar& bar)

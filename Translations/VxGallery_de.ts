@@ -556,16 +556,16 @@ oder das Testbild</translation>
         <translation>Ellipse hochkant</translation>
     </message>
     <message>
-        <source>&amp;Screen</source>
-        <translation>&amp;Bildschirm</translation>
+        <source>Screen</source>
+        <translation>Bildschirm</translation>
     </message>
     <message>
-        <source>&amp;Camera</source>
-        <translation>&amp;Kamera</translation>
+        <source>Camera</source>
+        <translation>Kamera</translation>
     </message>
     <message>
-        <source>&amp;Microphone</source>
-        <translation>&amp;Mikrofon</translation>
+        <source>Microphone</source>
+        <translation>Mikrofon</translation>
     </message>
     <message>
         <source>Recording %1</source>
@@ -822,10 +822,6 @@ und nicht breit</translation>
         <translation>Stopp</translation>
     </message>
     <message>
-        <source>Microphone</source>
-        <translation>Mikrofon</translation>
-    </message>
-    <message>
         <source>An editor for the style sheet of the running application; here it works on the sample above it.</source>
         <translation>Ein Editor für das Stylesheet der laufenden Anwendung; hier wirkt er auf das Beispiel darüber.</translation>
     </message>
@@ -844,10 +840,6 @@ und nicht breit</translation>
     <message>
         <source>Built-in camera of the laptop in the lecture hall</source>
         <translation>Integrierte Kamera des Laptops im Hörsaal</translation>
-    </message>
-    <message>
-        <source>Camera</source>
-        <translation>Kamera</translation>
     </message>
     <message>
         <source>No camera</source>

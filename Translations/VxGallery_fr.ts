@@ -556,16 +556,16 @@ ou la mire</translation>
         <translation>Ellipse verticale</translation>
     </message>
     <message>
-        <source>&amp;Screen</source>
-        <translation>É&amp;cran</translation>
+        <source>Screen</source>
+        <translation>Écran</translation>
     </message>
     <message>
-        <source>&amp;Camera</source>
-        <translation>C&amp;améra</translation>
+        <source>Camera</source>
+        <translation>Caméra</translation>
     </message>
     <message>
-        <source>&amp;Microphone</source>
-        <translation>&amp;Microphone</translation>
+        <source>Microphone</source>
+        <translation>Microphone</translation>
     </message>
     <message>
         <source>Recording %1</source>
@@ -822,10 +822,6 @@ et peu large</translation>
         <translation>Arrêt</translation>
     </message>
     <message>
-        <source>Microphone</source>
-        <translation>Microphone</translation>
-    </message>
-    <message>
         <source>An editor for the style sheet of the running application; here it works on the sample above it.</source>
         <translation>Un éditeur pour la feuille de style de l’application en cours&#xa0;; ici, il agit sur l’exemple au-dessus.</translation>
     </message>
@@ -844,10 +840,6 @@ et peu large</translation>
     <message>
         <source>Built-in camera of the laptop in the lecture hall</source>
         <translation>Caméra intégrée de l’ordinateur portable de l’amphithéâtre</translation>
-    </message>
-    <message>
-        <source>Camera</source>
-        <translation>Caméra</translation>
     </message>
     <message>
         <source>No camera</source>

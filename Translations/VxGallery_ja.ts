@@ -556,16 +556,16 @@ or the test picture</source>
         <translation>縦長の楕円</translation>
     </message>
     <message>
-        <source>&amp;Screen</source>
-        <translation>画面(&amp;S)</translation>
+        <source>Screen</source>
+        <translation>画面</translation>
     </message>
     <message>
-        <source>&amp;Camera</source>
-        <translation>カメラ(&amp;C)</translation>
+        <source>Camera</source>
+        <translation>カメラ</translation>
     </message>
     <message>
-        <source>&amp;Microphone</source>
-        <translation>マイク(&amp;M)</translation>
+        <source>Microphone</source>
+        <translation>マイク</translation>
     </message>
     <message>
         <source>Recording %1</source>
@@ -822,10 +822,6 @@ and not wide</source>
         <translation>停止</translation>
     </message>
     <message>
-        <source>Microphone</source>
-        <translation>マイク</translation>
-    </message>
-    <message>
         <source>An editor for the style sheet of the running application; here it works on the sample above it.</source>
         <translation>実行中のアプリケーションのスタイルシートエディターです。ここでは上のサンプルに適用されます。</translation>
     </message>
@@ -844,10 +840,6 @@ and not wide</source>
     <message>
         <source>Built-in camera of the laptop in the lecture hall</source>
         <translation>講義室のノートパソコンの内蔵カメラ</translation>
-    </message>
-    <message>
-        <source>Camera</source>
-        <translation>カメラ</translation>
     </message>
     <message>
         <source>No camera</source>
