@@ -22,7 +22,9 @@ constexpr qreal SHADOW_STRENGTH = 0.35;
 
 QRect LargestOfShape(const QRect& area)
 {
-    QRect rect(QPoint(), SHAPE.scaled(area.size(), Qt::KeepAspectRatio));
+    const QSize size = SHAPE.scaled(area.size(), Qt::KeepAspectRatio);
+    // The shadow leaves the middle row and column of odd sides clear.
+    QRect rect(0, 0, size.width() & ~1, size.height() & ~1);
     rect.moveCenter(area.center());
     return rect;
 }
