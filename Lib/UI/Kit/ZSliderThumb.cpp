@@ -179,6 +179,10 @@ void ZSliderThumb::check(bool on)
         const QSignalBlocker silence(this);
         setChecked(on);
     }
+    QAccessible::State changed;
+    changed.selected = true;
+    QAccessibleStateChangeEvent accessibleEvent(this, changed);
+    QAccessible::updateAccessibility(&accessibleEvent);
     Q_EMIT toggled(on);
 }
 
