@@ -34,7 +34,13 @@ private:
     }
 
     QVariant currentValue() const override { return Slider().doubleValue(); }
-    void setCurrentValue(const QVariant& value) override { Slider().setDoubleValue(value.toDouble()); }
+    // setDoubleValue() rounds negative values towards zero, and never comes to a negative minimum.
+    void setCurrentValue(const QVariant& value) override
+    {
+        const double position = std::round(value.toDouble() / Slider().multiplier());
+        if (!std::isnan(position))
+            Slider().setValue(int(std::clamp(position, double(Slider().minimum()), double(Slider().maximum()))));
+    }
     QVariant minimumValue() const override { return Ends().first; }
     QVariant maximumValue() const override { return Ends().second; }
     QVariant minimumStepSize() const override { return std::abs(Slider().singleStep() * Slider().multiplier()); }
