@@ -18,6 +18,12 @@ vx_test(Catalogue/tst_CatalogueChanges.cpp SOURCES Catalogue/Look.cpp LIBRARIES 
 add_dependencies(tst_CatalogueChanges VxTranslations)
 target_compile_definitions(tst_CatalogueChanges PRIVATE VX_TRANSLATIONS="${CMAKE_BINARY_DIR}/Translations")
 
-vx_test(Catalogue/tst_CatalogueAccessibility.cpp LIBRARIES VxCatalogue)
+# Only the platform can turn accessibility on, and Qt's headers for that are private.
+find_package(Qt5 5.15 REQUIRED COMPONENTS Gui)
+vx_test(Catalogue/tst_CatalogueAccessibility.cpp SOURCES Catalogue/Hearing.cpp LIBRARIES VxCatalogue)
+if(TARGET Qt5::GuiPrivate)
+  target_link_libraries(tst_CatalogueAccessibility PRIVATE Qt5::GuiPrivate)
+  target_compile_definitions(tst_CatalogueAccessibility PRIVATE VX_WITH_QT_PRIVATE)
+endif()
 vx_test(Catalogue/tst_CatalogueRandomEvents.cpp SOURCES Catalogue/RandomEvents.cpp LIBRARIES VxCatalogue)
 vx_test(Catalogue/tst_CatalogueLifetime.cpp LIBRARIES VxCatalogue)
