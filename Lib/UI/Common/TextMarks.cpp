@@ -16,4 +16,16 @@ QString WithoutEmbedding(QString text)
     return text;
 }
 
+QString WithoutMnemonic(const QString& text)
+{
+    QString plain;
+    plain.reserve(text.size());
+    for (int i = 0; i < text.size(); ++i) {
+        if (text[i] == QLatin1Char('&') && ++i == text.size())
+            break;
+        plain += text[i];
+    }
+    return plain;
+}
+
 } // namespace Zelkor::Vx::UI::Common

@@ -17,4 +17,7 @@ QString Embed(const QString& text);
 /// `text` without the marks of `Embed`. A text that does not begin with such a mark is returned as it is.
 QString WithoutEmbedding(QString text);
 
+/// `text` as it is drawn with mnemonics: without the marks of the underlined letter, "&&" as "&".
+QString WithoutMnemonic(const QString& text);
+
 } // namespace Zelkor::Vx::UI::Common

@@ -4,6 +4,7 @@
 #include <UI/Common/BoxLayouts.h>
 #include <UI/Common/LogSource.h>
 #include <UI/Common/MirroredStyle.h>
+#include <UI/Common/TextMarks.h>
 #include <UI/Kit/ZFrame.h>
 #include <UI/Widgets/PopUpPlacement.h>
 
@@ -11,6 +12,7 @@
 #include <QDesktopWidget>
 #include <QMouseEvent>
 #include <QPointer>
+#include <QSignalBlocker>
 
 namespace Zelkor::Vx::UI {
 
@@ -24,6 +26,12 @@ static_assert(int(ButtonWithPopUpContainer::LAYOUT_RIGHT_TO_LEFT) == QBoxLayout:
 static_assert(int(ButtonWithPopUpContainer::LAYOUT_TOP_TO_BOTTOM) == QBoxLayout::TopToBottom);
 static_assert(int(ButtonWithPopUpContainer::LAYOUT_BOTTOM_TO_TOP) == QBoxLayout::BottomToTop);
 
+bool IsKnown(ButtonWithPopUpContainer::LayoutDirection direction)
+{
+    return direction >= ButtonWithPopUpContainer::LAYOUT_LEFT_TO_RIGHT &&
+           direction <= ButtonWithPopUpContainer::LAYOUT_BOTTOM_TO_TOP;
+}
+
 // The whole screen counts, task bars included: a pop-up may lie over them.
 QPoint GetBestPopupPosition(const QWidget* popup, const QWidget* button, const QPoint& point)
 {
@@ -36,6 +44,31 @@ QPoint GetBestPopupPosition(const QWidget* popup, const QWidget* button, const Q
     return PopUpPlacement::FitToScreen(screen, popup->size(), point);
 }
 
+// The signal comes last: Qt still uses a button after its signal, which a slot may have deleted.
+void SetChecked(QAbstractButton* button, bool isChecked)
+{
+    if (button->isChecked() == isChecked)
+        return;
+    {
+        const QSignalBlocker blocker(button);
+        button->setChecked(isChecked);
+    }
+    Q_EMIT button->toggled(isChecked);
+}
+
+// The part or the widget itself, whichever takes the keyboard first.
+QWidget* FirstFocusable(QWidget* widget)
+{
+    QWidget* part = widget;
+    do {
+        const bool takesKeyboard = part->focusPolicy() & Qt::TabFocus;
+        if (takesKeyboard && part->isEnabled() && (part == widget || widget->isAncestorOf(part)) && part->isVisible())
+            return part;
+        part = part->nextInFocusChain();
+    } while (part != widget);
+    return nullptr;
+}
+
 } // namespace
 
 /// The floating window: transparent itself, with the panel inside. It mirrors its visibility in the button's checked
@@ -44,26 +77,40 @@ struct ButtonWithPopUpContainer::PopUpWindow : public ZFrame
 {
     class AccessibleButton;
 
+    struct Settings
+    {
+        PreferredPopupDirection direction = DIRECTION_DOWN_RIGHT;
+        PreferredPopupAnchor anchor = ANCHOR_BOTTOM_LEFT;
+        bool canOverlapButton = true;
+        int vOffset = 0;
+        int hOffset = 0;
+    };
+
     explicit PopUpWindow(ButtonWithPopUpContainer* owner);
 
+    void setVisible(bool visible) override;
+    void Open();
+    void LeaveButton();
     QPoint ComputePopupPosition() const;
-    void TellExpanded();
     QRect ButtonRect() const { return QRect(button->mapToGlobal(QPoint(0, 0)), button->size()); }
 
-    ButtonWithPopUpContainer* button;
+    ButtonWithPopUpContainer* button; ///< null once the window has outlived it
     ZFrame* container;
     QBoxLayout* containerLayout;
-    PreferredPopupDirection preferredDirection = DIRECTION_DOWN_RIGHT;
-    PreferredPopupAnchor preferredAnchor = ANCHOR_BOTTOM_LEFT;
-    bool popupCanOverlapButton = true;
+    Settings settings;
+    Settings shown; ///< the settings of when the window was shown last
     bool showPopupOnClick = true;
-    int popupVOffset = 0;
-    int popupHOffset = 0;
+    bool isMouseReleased = false; ///< while the button handles that
 
 protected:
+    bool event(QEvent* event) override;
     void showEvent(QShowEvent* event) override;
-    void hideEvent(QHideEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
+
+private:
+    void FocusFirstWidget();
+
+    int eventDepth = 0;
 };
 
 ButtonWithPopUpContainer::PopUpWindow::PopUpWindow(ButtonWithPopUpContainer* owner)
@@ -78,11 +125,72 @@ ButtonWithPopUpContainer::PopUpWindow::PopUpWindow(ButtonWithPopUpContainer* own
     container->setAutoFillBackground(true);
 }
 
+// The button is checked and unchecked here and not in the handlers of the events: a slot may delete the button, and the
+// window with it, which Qt does not survive while it shows or hides the window.
+void ButtonWithPopUpContainer::PopUpWindow::setVisible(bool visible)
+{
+    const bool wasVisible = isVisible();
+    ZFrame::setVisible(visible);
+    if (!button || isVisible() == wasVisible)
+        return;
+    QAccessible::State changed;
+    changed.expanded = true;
+    changed.collapsed = true;
+    QAccessibleStateChangeEvent event(button, changed);
+    QAccessible::updateAccessibility(&event);
+    SetChecked(button, !wasVisible);
+}
+
+/// Shows the window. Opened by a key or by the program, it takes the keyboard; opened by the mouse it has no focus that
+/// a frame would show.
+void ButtonWithPopUpContainer::PopUpWindow::Open()
+{
+    const bool isByMouse = isMouseReleased;
+    if (!isVisible() && focusWidget())
+        focusWidget()->clearFocus();
+    const QPointer<PopUpWindow> self(this);
+    show();
+    if (self && !isByMouse)
+        FocusFirstWidget();
+}
+
+void ButtonWithPopUpContainer::PopUpWindow::FocusFirstWidget()
+{
+    for (int i = 0; i < containerLayout->count() && !focusWidget(); ++i) {
+        QWidget* widget = containerLayout->itemAt(i)->widget();
+        if (QWidget* first = widget ? FirstFocusable(widget) : nullptr)
+            first->setFocus(Qt::TabFocusReason);
+    }
+}
+
+/// Called by the button's destructor. The window goes with the button, but for one that handles an event, out of which
+/// the button was deleted: that one goes when it is done.
+void ButtonWithPopUpContainer::PopUpWindow::LeaveButton()
+{
+    button = nullptr;
+    if (eventDepth == 0)
+        return;
+    setParent(nullptr, windowFlags());
+    deleteLater();
+}
+
+bool ButtonWithPopUpContainer::PopUpWindow::event(QEvent* event)
+{
+    ++eventDepth;
+    const bool isHandled = ZFrame::event(event);
+    if (event->type() == QEvent::LayoutRequest && button && isVisible()) {
+        adjustSize();
+        move(ComputePopupPosition());
+    }
+    --eventDepth;
+    return isHandled;
+}
+
 QPoint ButtonWithPopUpContainer::PopUpWindow::ComputePopupPosition() const
 {
-    const PopUpPlacement::Scene scene{ButtonRect(), size(), popupHOffset, popupVOffset};
+    const PopUpPlacement::Scene scene{ButtonRect(), size(), shown.hOffset, shown.vOffset};
     return PopUpPlacement::FindPosition(
-        scene, {preferredAnchor, preferredDirection}, popupCanOverlapButton,
+        scene, {shown.anchor, shown.direction}, shown.canOverlapButton,
         [this](const QPoint& point) { return GetBestPopupPosition(this, button, point); });
 }
 
@@ -92,22 +200,16 @@ void ButtonWithPopUpContainer::PopUpWindow::showEvent(QShowEvent* event)
     setLayoutDirection(button->layoutDirection());
     adjustSize();
     ZFrame::showEvent(event);
-    button->setChecked(true);
+    shown = settings;
     move(ComputePopupPosition());
     // The pop-up grabs the mouse, so the button would not learn that the pointer left it.
     button->setAttribute(Qt::WA_UnderMouse, false);
 }
 
-void ButtonWithPopUpContainer::PopUpWindow::hideEvent(QHideEvent* event)
-{
-    button->setChecked(false);
-    ZFrame::hideEvent(event);
-}
-
 void ButtonWithPopUpContainer::PopUpWindow::mousePressEvent(QMouseEvent* event)
 {
     // A press outside closes the pop-up and is then given to what lies under it. The button would open it again.
-    setAttribute(Qt::WA_NoMouseReplay, ButtonRect().contains(event->globalPos()));
+    setAttribute(Qt::WA_NoMouseReplay, button && ButtonRect().contains(event->globalPos()));
     ZFrame::mousePressEvent(event);
 }
 
@@ -122,7 +224,7 @@ public:
     QString text(QAccessible::Text kind) const override
     {
         QString own = QAccessibleWidget::text(kind);
-        return kind == QAccessible::Name && own.isEmpty() ? QString(button->text()).remove(QLatin1Char('&')) : own;
+        return kind == QAccessible::Name && own.isEmpty() ? Common::WithoutMnemonic(button->text()) : own;
     }
 
     QAccessible::State state() const override
@@ -158,14 +260,6 @@ private:
     ButtonWithPopUpContainer* button;
 };
 
-void ButtonWithPopUpContainer::PopUpWindow::TellExpanded()
-{
-    QAccessible::State changed;
-    changed.expanded = true;
-    QAccessibleStateChangeEvent event(button, changed);
-    QAccessible::updateAccessibility(&event);
-}
-
 ButtonWithPopUpContainer::ButtonWithPopUpContainer(QWidget* parent) : QToolButton(parent), popUp(new PopUpWindow(this))
 {
     Common::FollowLayoutDirection();
@@ -175,51 +269,55 @@ ButtonWithPopUpContainer::ButtonWithPopUpContainer(QWidget* parent) : QToolButto
         if (popUp->showPopupOnClick)
             ShowPopup();
         else
-            setChecked(false);
+            SetChecked(this, false);
     });
 }
 
-ButtonWithPopUpContainer::~ButtonWithPopUpContainer() = default;
+ButtonWithPopUpContainer::~ButtonWithPopUpContainer()
+{
+    popUp->LeaveButton();
+}
 
 ButtonWithPopUpContainer::LayoutDirection ButtonWithPopUpContainer::GetLayoutDirection() const
 {
-    return LayoutDirection(popUp->containerLayout->direction());
+    const auto direction = LayoutDirection(popUp->containerLayout->direction());
+    return IsKnown(direction) ? direction : LAYOUT_LEFT_TO_RIGHT;
 }
 
 void ButtonWithPopUpContainer::SetLayoutDirection(LayoutDirection direction)
 {
-    const bool known = direction >= LAYOUT_LEFT_TO_RIGHT && direction <= LAYOUT_BOTTOM_TO_TOP;
-    popUp->containerLayout->setDirection(known ? QBoxLayout::Direction(direction) : QBoxLayout::LeftToRight);
+    popUp->containerLayout->setDirection(IsKnown(direction) ? QBoxLayout::Direction(direction)
+                                                            : QBoxLayout::LeftToRight);
 }
 
 ButtonWithPopUpContainer::PreferredPopupDirection ButtonWithPopUpContainer::GetPreferredPopupDirection() const
 {
-    return popUp->preferredDirection;
+    return popUp->settings.direction;
 }
 
 void ButtonWithPopUpContainer::SetPreferredPopupDirection(PreferredPopupDirection direction)
 {
-    popUp->preferredDirection = direction;
+    popUp->settings.direction = direction;
 }
 
 ButtonWithPopUpContainer::PreferredPopupAnchor ButtonWithPopUpContainer::GetPreferredPopupAnchor() const
 {
-    return popUp->preferredAnchor;
+    return popUp->settings.anchor;
 }
 
 void ButtonWithPopUpContainer::SetPreferredPopupAnchor(PreferredPopupAnchor anchor)
 {
-    popUp->preferredAnchor = anchor;
+    popUp->settings.anchor = anchor;
 }
 
 bool ButtonWithPopUpContainer::GetPopupCanOverlapButton() const
 {
-    return popUp->popupCanOverlapButton;
+    return popUp->settings.canOverlapButton;
 }
 
 void ButtonWithPopUpContainer::SetPopupCanOverlapButton(bool canOverlap)
 {
-    popUp->popupCanOverlapButton = canOverlap;
+    popUp->settings.canOverlapButton = canOverlap;
 }
 
 bool ButtonWithPopUpContainer::GetShowPopupOnClick() const
@@ -234,22 +332,22 @@ void ButtonWithPopUpContainer::SetShowPopupOnClick(bool show)
 
 int ButtonWithPopUpContainer::GetPopupHOffset() const
 {
-    return popUp->popupHOffset;
+    return popUp->settings.hOffset;
 }
 
 void ButtonWithPopUpContainer::SetPopupHOffset(int offset)
 {
-    popUp->popupHOffset = offset;
+    popUp->settings.hOffset = offset;
 }
 
 int ButtonWithPopUpContainer::GetPopupVOffset() const
 {
-    return popUp->popupVOffset;
+    return popUp->settings.vOffset;
 }
 
 void ButtonWithPopUpContainer::SetPopupVOffset(int offset)
 {
-    popUp->popupVOffset = offset;
+    popUp->settings.vOffset = offset;
 }
 
 void ButtonWithPopUpContainer::AppendWidget(QWidget* widget)
@@ -307,15 +405,26 @@ int ButtonWithPopUpContainer::WidgetsCount() const
 void ButtonWithPopUpContainer::ShowPopup()
 {
     const QPointer<ButtonWithPopUpContainer> self(this);
-    setChecked(true);
+    SetChecked(this, true);
     if (self)
-        popUp->show();
+        popUp->Open();
+}
+
+void ButtonWithPopUpContainer::mouseReleaseEvent(QMouseEvent* event)
+{
+    const QPointer<ButtonWithPopUpContainer> self(this);
+    popUp->isMouseReleased = true;
+    QToolButton::mouseReleaseEvent(event);
+    if (self)
+        popUp->isMouseReleased = false;
 }
 
 void ButtonWithPopUpContainer::hideEvent(QHideEvent* event)
 {
+    const QPointer<ButtonWithPopUpContainer> self(this);
     popUp->hide();
-    QToolButton::hideEvent(event);
+    if (self)
+        QToolButton::hideEvent(event);
 }
 
 } // namespace Zelkor::Vx::UI

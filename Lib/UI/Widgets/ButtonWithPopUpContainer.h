@@ -109,6 +109,7 @@ public:
 
 protected:
     void hideEvent(QHideEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:
     struct Q_DECL_HIDDEN PopUpWindow;

@@ -5,10 +5,19 @@
 #include <Support/TestCase.h>
 
 #include <QAccessible>
+#include <QBoxLayout>
+#include <QCheckBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
 #include <QSignalSpy>
+
+#include <functional>
 
 using namespace Zelkor::Vx::UI;
 using namespace Zelkor::Vx::UI::PopUpPlacement;
+
+Q_DECLARE_METATYPE(std::function<void(QWidget*)>)
 
 namespace {
 
@@ -176,6 +185,110 @@ private Q_SLOTS:
         connect(button, &QAbstractButton::clicked, button, &ButtonWithPopUpContainer::ShowPopup);
         button->click();
         QVERIFY(isOpen() && popUp->layoutDirection() == Qt::RightToLeft);
+    }
+
+    void slotMayDeleteTheButton_data()
+    {
+        using Close = std::function<void(QWidget*)>;
+        QTest::addColumn<Close>("close");
+        QTest::newRow("hide") << Close(&QWidget::hide);
+        QTest::newRow("close") << Close(&QWidget::close);
+        QTest::newRow("press outside") << Close(
+            [](QWidget* popUp) { QTest::mousePress(popUp->windowHandle(), Qt::LeftButton, {}, QPoint(-50, -90)); });
+        QTest::newRow("Escape") << Close(
+            [](QWidget* popUp) { QTest::keyPress(popUp->windowHandle(), Qt::Key_Escape); });
+    }
+
+    void slotMayDeleteTheButton()
+    {
+        QFETCH(std::function<void(QWidget*)>, close);
+        QWidget window;
+        window.setGeometry(300, 300, 200, 100);
+        QPointer<ButtonWithPopUpContainer> button = new ButtonWithPopUpContainer(&window);
+        const QPointer<QWidget> content = new QLineEdit;
+        button->AppendWidget(content);
+        window.show();
+        button->ShowPopup();
+        connect(button, &QAbstractButton::toggled, qApp, [&] { delete button; });
+        close(button->findChild<QWidget*>("popUpWindow"));
+        QVERIFY(!button);
+        QTRY_VERIFY(!content);
+        QVERIFY(!QApplication::activePopupWidget());
+    }
+
+    void slotMayDeleteTheButtonWhileItOpens()
+    {
+        QPointer<ButtonWithPopUpContainer> button = new ButtonWithPopUpContainer;
+        button->show();
+        connect(button, &QAbstractButton::toggled, qApp, [&] { delete button; });
+        button->findChild<QWidget*>("popUpWindow")->show();
+        QVERIFY(!button);
+        QVERIFY(!QApplication::activePopupWidget());
+    }
+
+    void openPanelFollowsItsContents()
+    {
+        ButtonWithPopUpContainer button;
+        button.move(300, 400);
+        button.SetPreferredPopupAnchor(ButtonWithPopUpContainer::ANCHOR_TOP_LEFT);
+        button.SetPreferredPopupDirection(ButtonWithPopUpContainer::DIRECTION_UP_RIGHT);
+        const auto append = [&](const QSize& size) {
+            auto* content = new QWidget;
+            content->setFixedSize(size);
+            button.AppendWidget(content);
+        };
+        append({60, 40});
+        button.show();
+        button.ShowPopup();
+        auto* popUp = button.findChild<QWidget*>("popUpWindow");
+        const QPoint corner = button.mapToGlobal(QPoint(0, 0));
+        QCOMPARE(popUp->geometry(), QRect(corner - QPoint(0, 40), QSize(60, 40)));
+        button.SetPopupVOffset(9); // for the next time
+        append({90, 30});
+        QTRY_COMPARE(popUp->geometry(), QRect(corner - QPoint(0, 70), QSize(90, 70)));
+        button.RemoveWidget(0);
+        QTRY_COMPARE(popUp->geometry(), QRect(corner - QPoint(0, 30), QSize(90, 30)));
+    }
+
+    void openedByKeyThePanelTakesTheKeyboard()
+    {
+        ButtonWithPopUpContainer button;
+        auto* edit = new QLineEdit;
+        auto* box = new QGroupBox;
+        (new QVBoxLayout(box))->addWidget(new QCheckBox);
+        button.AppendWidget(edit);
+        button.InsertWidget(new QLabel, 0);
+        button.InsertWidget(box, 1);
+        button.show();
+        auto* popUp = button.findChild<QWidget*>("popUpWindow");
+        QTest::keyClick(&button, Qt::Key_Space);
+        QCOMPARE(popUp->focusWidget(), box->findChild<QWidget*>());
+        QTest::keyClick(popUp->windowHandle(), Qt::Key_Tab);
+        QCOMPARE(popUp->focusWidget(), edit);
+        QTest::keyClick(popUp->windowHandle(), Qt::Key_Escape);
+        QVERIFY(!popUp->isVisible());
+
+        QTest::mouseClick(&button, Qt::LeftButton);
+        QVERIFY(popUp->isVisible());
+        QVERIFY(!popUp->focusWidget());
+    }
+
+    void nameIsTheTextAsItIsDrawn()
+    {
+        ButtonWithPopUpContainer button;
+        button.setText("&Sound && more");
+        QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(&button);
+        QCOMPARE(accessible->text(QAccessible::Name), QString("Sound & more"));
+        button.setAccessibleName("Own & name");
+        QCOMPARE(accessible->text(QAccessible::Name), QString("Own & name"));
+    }
+
+    void unknownLayoutDirectionReadsLeftToRight()
+    {
+        ButtonWithPopUpContainer button;
+        QLayout* layout = button.findChild<QWidget*>("popUpContainer")->layout();
+        static_cast<QBoxLayout*>(layout)->setDirection(QBoxLayout::Direction(17));
+        QCOMPARE(button.GetLayoutDirection(), ButtonWithPopUpContainer::LAYOUT_LEFT_TO_RIGHT);
     }
 };
 
