@@ -42,13 +42,34 @@ QBitmap OpaquePart(const QImage& image)
     return QBitmap::fromImage(bits);
 }
 
+/// Named after its title, else its text, unless the application gives it a name.
+class AccessibleToolTip : public QAccessibleWidget
+{
+public:
+    explicit AccessibleToolTip(MaskedToolTip* tip) : QAccessibleWidget(tip, QAccessible::ToolTip), tip(tip) {}
+
+    QString text(QAccessible::Text kind) const override
+    {
+        const QString own = QAccessibleWidget::text(kind);
+        if (!own.isEmpty())
+            return own;
+        const bool hasTitle = !tip->GetTitle().isEmpty();
+        if (kind == QAccessible::Name)
+            return hasTitle ? tip->GetTitle() : tip->GetText();
+        return kind == QAccessible::Description && hasTitle ? tip->GetText() : QString();
+    }
+
+private:
+    MaskedToolTip* tip;
+};
+
 } // namespace
 
 MaskedToolTip::MaskedToolTip(QWidget* parent)
     : ZFrame(parent, Qt::Dialog | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint),
       titleLabel(MakeLabel("titleLabel", this)), textLabel(MakeLabel("textLabel", this))
 {
-    Common::AccessibleFactory<MaskedToolTip, Common::AccessibleAs<QAccessible::ToolTip>>::Install();
+    Common::AccessibleFactory<MaskedToolTip, AccessibleToolTip>::Install();
     setObjectName(QStringLiteral("MaskedToolTip"));
     auto* layout = Common::MakeBoxLayout<QVBoxLayout>(this);
     layout->addWidget(titleLabel);
@@ -62,8 +83,6 @@ void MaskedToolTip::Show(const QPoint& globalPos)
     ensurePolished();
     SetTextOrHide(titleLabel, title);
     SetTextOrHide(textLabel, text);
-    setAccessibleName(title.isEmpty() ? text : title);
-    setAccessibleDescription(title.isEmpty() ? QString() : text);
     if (!maskImage.isNull())
         setMask(OpaquePart(maskImage));
     if (displayTime > 0)

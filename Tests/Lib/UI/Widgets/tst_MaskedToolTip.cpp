@@ -3,6 +3,7 @@
 #include <Support/Mouse.h>
 #include <Support/TestCase.h>
 
+#include <QAccessible>
 #include <QLabel>
 #include <QPainter>
 
@@ -44,6 +45,19 @@ private Q_SLOTS:
             const QRegion whole(0, 0, 100, 60);
             QCOMPARE(tip.mask(), mask.hasAlphaChannel() ? whole - QRegion(0, 0, 20, 10) : whole);
         }
+    }
+
+    void nameOfTheApplicationStays()
+    {
+        MaskedToolTip tip(nullptr);
+        QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(&tip);
+        tip.SetTitle("Title");
+        tip.SetText("Text");
+        QCOMPARE(accessible->text(QAccessible::Name), QString("Title"));
+        QCOMPARE(accessible->text(QAccessible::Description), QString("Text"));
+        tip.setAccessibleName("Own");
+        tip.Show(QPoint(50, 40));
+        QCOMPARE(accessible->text(QAccessible::Name), QString("Own"));
     }
 
     void labelsAndPlace()
