@@ -3,8 +3,11 @@
 #include <UI/Common/AccessibleFactory.h>
 #include <UI/Common/TextMarks.h>
 
+#include <QEvent>
 #include <QFontMetrics>
 #include <QPointer>
+
+#include <cmath>
 
 using namespace Zelkor::Vx::UI;
 
@@ -39,8 +42,9 @@ public:
 
     QString text(QAccessible::Text kind) const override
     {
-        QString own = QAccessibleWidget::text(kind);
-        return kind == QAccessible::Name && own.isEmpty() ? Common::WithoutEmbedding(label->text()) : own;
+        if (kind != QAccessible::Name || !label->accessibleName().isEmpty())
+            return QAccessibleWidget::text(kind);
+        return label->buddy() ? Common::WithoutMnemonic(label->originalText()) : label->originalText();
     }
 
 private:
@@ -62,14 +66,14 @@ QString ZLabel::originalText() const
 
 void ZLabel::setOriginalText(const QString& text)
 {
-    const QString previous = originalText();
-    if (previous == text)
+    if (originalText() == text)
         return;
     storedText = Common::Embed(text);
     refreshText();
-    // A name that somebody else gave stays; ours follows the text, which the label itself may show elided.
-    if (accessibleName().isEmpty() || accessibleName() == previous)
-        setAccessibleName(text);
+    // What is displayed may be the same, where both are elided.
+    updateGeometry();
+    QAccessibleEvent event(this, QAccessible::NameChanged);
+    QAccessible::updateAccessibility(&event);
     Q_EMIT originalTextChanged(text);
 }
 
@@ -99,6 +103,24 @@ void ZLabel::refreshText()
         displayedText = QFontMetrics(font()).elidedText(storedText, Qt::ElideRight, available, 0);
     setText(displayedText);
     setToolTip(displayedText == storedText ? QString() : storedText);
+}
+
+// Qt's hint is for what is displayed: once elided, the label would never ask for the room that it lacks.
+QSize ZLabel::sizeHint() const
+{
+    QSize hint = QLabel::sizeHint();
+    if (eliding && !originalText().isEmpty()) {
+        const int text = int(std::ceil(QFontMetricsF(font()).horizontalAdvance(storedText)));
+        hint.setWidth(qMax(hint.width(), text + 2 * frameWidth()));
+    }
+    return hint;
+}
+
+void ZLabel::changeEvent(QEvent* event)
+{
+    QLabel::changeEvent(event);
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
+        refreshText();
 }
 
 void ZLabel::mousePressEvent(QMouseEvent* event)

@@ -31,6 +31,9 @@ public:
     bool isClickable() const { return clickable; }
     void setClickable(bool on);
 
+    /// Room for the whole text, also while it is elided.
+    QSize sizeHint() const override;
+
 Q_SIGNALS:
     /// A mouse button went down on the clickable label. Comes before the label handles the press itself.
     void clicked();
@@ -39,6 +42,7 @@ Q_SIGNALS:
     void originalTextChanged(QString text);
 
 protected:
+    void changeEvent(QEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 

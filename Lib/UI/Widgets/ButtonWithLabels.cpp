@@ -3,6 +3,7 @@
 #include <UI/Common/BoxLayouts.h>
 #include <UI/Common/MirroredStyle.h>
 #include <UI/Common/ObjectNames.h>
+#include <UI/Common/TextMarks.h>
 #include <UI/Kit/ZLabel.h>
 
 #include <QStyleOptionButton>
@@ -11,41 +12,46 @@ namespace Zelkor::Vx::UI {
 
 namespace {
 
-ZLabel* MakeLabel(const QString& objectName, QWidget* parent)
+/// A part of the face. In a narrow button a text keeps its beginning, and the others all of their width.
+class FaceLabel : public ZLabel
 {
-    auto* label = new ZLabel(parent);
-    label->setObjectName(objectName);
-    label->setOriginalText(QString());
-    // Presses on the face are the button's.
-    label->setAttribute(Qt::WA_TransparentForMouseEvents);
-    return label;
-}
+public:
+    FaceLabel(const QString& objectName, bool keepsBeginning, QWidget* parent)
+        : ZLabel(parent), keepsBeginning(keepsBeginning)
+    {
+        setObjectName(objectName);
+        setOriginalText(QString());
+        // Presses on the face are the button's.
+        setAttribute(Qt::WA_TransparentForMouseEvents);
+    }
 
-int WidthOf(const ZLabel& label, const QString& text)
-{
-    return QFontMetrics(label.font()).horizontalAdvance(text);
-}
+    QSize minimumSizeHint() const override
+    {
+        if (!isEliding())
+            return ZLabel::minimumSizeHint();
+        QSize hint = sizeHint();
+        if (keepsBeginning) {
+            const int beginning = fontMetrics().horizontalAdvance(QStringLiteral("MM") + QChar(0x2026));
+            hint.setWidth(qMin(hint.width(), beginning + 2 * frameWidth()));
+        }
+        return hint;
+    }
 
-// A label reckons its size by what it shows. It is given the room to show all, until the layout gives it less.
-void SetText(ZLabel& label, const QString& text)
-{
-    label.ensurePolished();
-    label.resize(WidthOf(label, text) + 2 * label.frameWidth() + 1, label.height());
-    label.setOriginalText(text);
-}
+private:
+    bool keepsBeginning;
+};
 
-// What the label's own size hint lacks while its text is elided.
-int MissingWidth(const ZLabel& label)
+QString NameOf(const ZLabel& label)
 {
-    return qMax(0, WidthOf(label, label.originalText()) - WidthOf(label, label.text()));
+    return label.buddy() ? Common::WithoutMnemonic(label.originalText()) : label.originalText();
 }
 
 } // namespace
 
 ButtonWithLabels::ButtonWithLabels(Qt::Orientation orientation, QWidget* parent)
-    : QPushButton(parent), textLabel(MakeLabel(Common::TEXT_LABEL, this)),
-      hotKeyLabel(MakeLabel(Common::HOT_KEY_LABEL, this)), iconLabel(MakeLabel(Common::ICON_LABEL, this)),
-      orientation(orientation)
+    : QPushButton(parent), textLabel(new FaceLabel(Common::TEXT_LABEL, true, this)),
+      hotKeyLabel(new FaceLabel(Common::HOT_KEY_LABEL, false, this)),
+      iconLabel(new FaceLabel(Common::ICON_LABEL, false, this)), orientation(orientation)
 {
     Common::FollowLayoutDirection();
     QBoxLayout* texts = nullptr;
@@ -64,37 +70,33 @@ ButtonWithLabels::~ButtonWithLabels() = default;
 
 void ButtonWithLabels::SetLabelText(const QString& text)
 {
-    SetText(*textLabel, text);
+    const QString previous = NameOf(*textLabel);
+    textLabel->setOriginalText(text);
     layout()->activate();
-    setAccessibleName(text);
-    updateGeometry();
+    // A name that the application gave stays.
+    if (accessibleName().isEmpty() || accessibleName() == previous)
+        setAccessibleName(NameOf(*textLabel));
 }
 
 void ButtonWithLabels::SetHotkeyText(const QString& text)
 {
-    SetText(*hotKeyLabel, text);
+    hotKeyLabel->setOriginalText(text);
     layout()->activate();
-    updateGeometry();
 }
 
 // QPushButton would reckon with its own text, which is empty.
 QSize ButtonWithLabels::sizeHint() const
 {
     ensurePolished();
-    const int text = MissingWidth(*textLabel);
-    const int hotKey = MissingWidth(*hotKeyLabel);
-    const int missing = orientation == Qt::Horizontal ? text + hotKey : qMax(text, hotKey);
     QStyleOptionButton option;
     initStyleOption(&option);
-    return style()->sizeFromContents(QStyle::CT_PushButton, &option, layout()->sizeHint() + QSize(missing, 0), this);
+    return style()->sizeFromContents(QStyle::CT_PushButton, &option, layout()->sizeHint(), this);
 }
 
 QSize ButtonWithLabels::minimumSizeHint() const
 {
-    const int whole = WidthOf(*textLabel, textLabel->originalText());
-    const int beginning = WidthOf(*textLabel, QStringLiteral("MM") + QChar(0x2026));
-    const int beside = orientation == Qt::Horizontal ? 0 : WidthOf(*hotKeyLabel, hotKeyLabel->originalText());
-    return sizeHint() - QSize(qMax(0, whole - qMax(beginning, beside)), 0);
+    const QSize hint = sizeHint();
+    return hint - QSize(layout()->sizeHint().width() - layout()->minimumSize().width(), 0);
 }
 
 } // namespace Zelkor::Vx::UI

@@ -28,10 +28,11 @@ QString FaceText(const QAction& action, const ZLabel& label)
 struct FastPresetButton::Impl
 {
     QPointer<QAction> action;
+    bool isActionEnabled = true;
 };
 
 FastPresetButton::FastPresetButton(QAction* action, const QString& name, QWidget* parent)
-    : ButtonWithLabels(Qt::Horizontal, parent), impl(new Impl{action})
+    : ButtonWithLabels(Qt::Horizontal, parent), impl(new Impl{action, true})
 {
     const QString presetType = action ? action->property(PRESET_TYPE).toString() : QString();
     setObjectName(presetType + Common::FAST_CAPTURE_BUTTON + name);
@@ -48,6 +49,8 @@ FastPresetButton::FastPresetButton(QAction* action, const QString& name, QWidget
             action->setParent(this);
         connect(action, &QAction::changed, this, &FastPresetButton::Refresh);
     }
+    // The mark before a letter of the action's text underlines it, and the letter with Alt presses the button.
+    TextLabel()->setBuddy(this);
     TextLabel()->installEventFilter(this);
     TextLabel()->ensurePolished();
     Refresh();
@@ -58,7 +61,7 @@ FastPresetButton::~FastPresetButton() = default;
 bool FastPresetButton::eventFilter(QObject* watched, QEvent* event)
 {
     // A style sheet may have changed whether the label wraps words, and with it what becomes of line feeds. Nothing
-    // else changes with the style: a name or a tool tip that somebody gave the button stays.
+    // else changes with the style: a name or a tool tip that the application gave the button stays.
     const bool isStyle = event->type() == QEvent::Polish || event->type() == QEvent::StyleChange;
     if (isStyle && impl->action && TextLabel()->originalText() != FaceText(*impl->action, *TextLabel()))
         Refresh();
@@ -84,6 +87,11 @@ void FastPresetButton::Refresh()
     SetLabelText(FaceText(*action, *TextLabel()));
     SetHotkeyText(action->shortcut().toString(QKeySequence::PortableText));
     setToolTip(action->toolTip());
+    // The application may disable the button itself; only a change of the action undoes that.
+    if (impl->isActionEnabled != action->isEnabled()) {
+        impl->isActionEnabled = action->isEnabled();
+        setEnabled(impl->isActionEnabled);
+    }
 }
 
 } // namespace Zelkor::Vx::UI

@@ -8,8 +8,8 @@ class QAction;
 
 namespace Zelkor::Vx::UI {
 
-/// A labelled button for an action: it shows the action's text, shortcut and tool tip, follows their changes and
-/// triggers the action when clicked.
+/// A labelled button for an action: it shows the action's text, shortcut and tool tip, is enabled with it, follows
+/// changes of these and triggers the action when clicked. A mnemonic in the text works as in other buttons.
 ///
 /// The button owns an action that has no parent, no other. When the action dies first, the button keeps its texts and
 /// does nothing any more. GUI thread only.

@@ -2,12 +2,17 @@
 
 #include <Support/TestCase.h>
 
+#include <QAccessible>
 #include <QAction>
 #include <QLabel>
 #include <QSignalSpy>
 
+#include <functional>
+
 using Zelkor::Vx::UI::ButtonWithLabels;
 using Zelkor::Vx::UI::FastPresetButton;
+
+Q_DECLARE_METATYPE(std::function<void(ButtonWithLabels&)>)
 
 namespace {
 
@@ -53,6 +58,98 @@ private Q_SLOTS:
             QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {}, button.rect().center());
             QCOMPARE(clicked.size(), 1);
         }
+    }
+
+    void elidedTextReturnsWithTheRoom_data()
+    {
+        QTest::addColumn<Qt::Orientation>("orientation");
+        QTest::addColumn<std::function<void(ButtonWithLabels&)>>("change");
+        using Change = std::function<void(ButtonWithLabels&)>;
+        const Change narrow = [](ButtonWithLabels& button) {
+            for (int width = button.width(); width > 20; width -= 7)
+                button.resize(width, button.height());
+        };
+        const Change enlarge = [](ButtonWithLabels& button) {
+            QFont font = button.font();
+            font.setPointSize(24);
+            button.setFont(font);
+        };
+        const Change pad = [](ButtonWithLabels& button) {
+            button.setStyleSheet("#TextLabel { padding: 3px 30px 3px 2px }");
+        };
+        for (const Qt::Orientation orientation : {Qt::Horizontal, Qt::Vertical}) {
+            const char* side = orientation == Qt::Horizontal ? "horizontal" : "vertical";
+            QTest::addRow("%s, narrowed", side) << orientation << narrow;
+            QTest::addRow("%s, larger font", side) << orientation << enlarge;
+            QTest::addRow("%s, padding", side) << orientation << pad;
+        }
+    }
+
+    void elidedTextReturnsWithTheRoom()
+    {
+        QFETCH(Qt::Orientation, orientation);
+        QFETCH(std::function<void(ButtonWithLabels&)>, change);
+        const auto prepare = [](ButtonWithLabels& button) {
+            button.SetLabelText("A text that is rather long");
+            button.SetHotkeyText("Ctrl+Shift+F12");
+        };
+        QWidget window;
+        ButtonWithLabels button(orientation, &window);
+        prepare(button);
+        button.resize(button.sizeHint());
+        window.show();
+        change(button);
+        QCoreApplication::processEvents();
+        button.resize(button.sizeHint());
+        QCOMPARE(LabelOf(button, "TextLabel")->toolTip(), QString());
+
+        // The same as in a button that was like this from the beginning.
+        ButtonWithLabels fresh(orientation, &window);
+        fresh.setFont(button.font());
+        fresh.setStyleSheet(button.styleSheet());
+        prepare(fresh);
+        QCOMPARE(button.sizeHint(), fresh.sizeHint());
+        fresh.resize(button.size());
+        fresh.show();
+        for (const char* name : {"IconLabel", "TextLabel", "HotKeyLabel"})
+            QCOMPARE(LabelOf(button, name)->geometry(), LabelOf(fresh, name)->geometry());
+    }
+
+    void nameOfTheApplicationStays()
+    {
+        ButtonWithLabels button(nullptr);
+        const auto name = [&] { return QAccessible::queryAccessibleInterface(&button)->text(QAccessible::Name); };
+        button.SetLabelText("Audio & Video");
+        QCOMPARE(name(), QString("Audio & Video"));
+        button.setAccessibleName("Own");
+        button.SetLabelText("Another");
+        QCOMPARE(name(), QString("Own"));
+    }
+
+    void mnemonicIsUnderlinedAndPresses()
+    {
+        QWidget window;
+        QAction action("&Record && more", this);
+        FastPresetButton button(&action, "", &window);
+        QCOMPARE(QAccessible::queryAccessibleInterface(&button)->text(QAccessible::Name), QString("Record & more"));
+        QSignalSpy clicked(&button, &QAbstractButton::clicked);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        QTest::keyClick(window.windowHandle(), Qt::Key_R, Qt::AltModifier);
+        QTRY_COMPARE(clicked.size(), 1);
+    }
+
+    void isEnabledWithTheAction()
+    {
+        QAction action("Record", this);
+        action.setEnabled(false);
+        FastPresetButton button(&action, "", nullptr);
+        QVERIFY(!button.isEnabled());
+        action.setEnabled(true);
+        QVERIFY(button.isEnabled());
+        button.setEnabled(false);
+        action.setText("Pause");
+        QVERIFY(!button.isEnabled());
     }
 
     void showsAndFollowsTheAction()
