@@ -15,6 +15,7 @@ constexpr int MARGIN_PADDING = 6;  ///< pixels at each side of a number
 constexpr int LINE_ALPHA = 20;     ///< of 255, how the colour of the text shows behind the current line
 constexpr int NUMBER_ALPHA = 150;  ///< and in the numbers of the other lines
 constexpr int SMALLEST_DIGITS = 2; ///< so that the margin of a short text does not grow at once
+constexpr int LONGEST_WAVE = 100;  ///< characters under a mark; a longer word is not seen whole
 constexpr QRgb MARK = 0xffe5484d;  ///< a red that shows on dark and on light
 
 // The leading spaces and tabs of a line.
@@ -24,21 +25,23 @@ QString IndentationOf(const QString& line)
     return line.left(static_cast<int>(end - line.begin()));
 }
 
-// Selects from the position up to a space or a sign that ends things; where there is nothing more in the line, the
-// letter before it.
+// Selects from the position up to a space or a sign that ends things, or LONGEST_WAVE characters; at the end of a line,
+// the letter before it.
 QTextCursor WordAt(QTextDocument* document, int position)
 {
     static const QString ENDS = QStringLiteral(" \t;,:{}");
     QTextCursor cursor(document);
     cursor.setPosition(qBound(0, position, document->characterCount() - 1));
-    if (cursor.atBlockEnd())
+    if (cursor.atBlockEnd()) {
         cursor.movePosition(QTextCursor::Left, QTextCursor::KeepAnchor);
-    else
-        cursor.movePosition(QTextCursor::Right, QTextCursor::KeepAnchor);
-    while (cursor.position() > cursor.anchor() && !cursor.atBlockEnd() &&
-           !ENDS.contains(document->characterAt(cursor.position() - 1)) &&
-           !ENDS.contains(document->characterAt(cursor.position())))
-        cursor.movePosition(QTextCursor::Right, QTextCursor::KeepAnchor);
+        return cursor;
+    }
+    const int lineEnd = cursor.block().position() + cursor.block().length() - 1;
+    const int limit = std::min(lineEnd, cursor.position() + LONGEST_WAVE);
+    int end = cursor.position() + 1;
+    while (end < limit && !ENDS.contains(document->characterAt(end - 1)) && !ENDS.contains(document->characterAt(end)))
+        ++end;
+    cursor.setPosition(end, QTextCursor::KeepAnchor);
     return cursor;
 }
 
@@ -73,12 +76,12 @@ private:
 
 ZCodeEditor::ZCodeEditor(QWidget* parent) : QPlainTextEdit(parent), margin(new Margin(this))
 {
-    QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
-    // Where the desktop names none that is fixed, the font system may know one.
-    if (!QFontInfo(font).fixedPitch())
-        font.setFamily(QStringLiteral("monospace"));
-    font.setPointSizeF(std::max(1.0, this->font().pointSizeF()));
-    setFont(font);
+    // The family alone, so that the size follows the application. Where the desktop names no family that is fixed, the
+    // font system may know one.
+    const QFont fixed = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    QFont family;
+    family.setFamily(QFontInfo(fixed).fixedPitch() ? fixed.family() : QStringLiteral("monospace"));
+    setFont(family);
     setLineWrapMode(QPlainTextEdit::NoWrap);
     setLayoutDirection(Qt::LeftToRight);
     QTextOption option = document()->defaultTextOption();
@@ -129,9 +132,11 @@ void ZCodeEditor::applyFontMetrics()
     layOutMargin();
 }
 
+// Setting the viewport's margins adds scroll bars before it removes any, so they are set on change only.
 void ZCodeEditor::layOutMargin()
 {
-    setViewportMargins(marginWidth(), 0, 0, 0);
+    if (viewportMargins().left() != marginWidth())
+        setViewportMargins(marginWidth(), 0, 0, 0);
     const QRect inside = contentsRect();
     margin->setGeometry(inside.left(), inside.top(), marginWidth(), viewport()->height());
     margin->update();

@@ -14,6 +14,7 @@
 #include <QFileDialog>
 #include <QLabel>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTextBlock>
@@ -400,6 +401,50 @@ private Q_SLOTS:
         QCOMPARE(BytesOf(name), QByteArray("old"));
     }
 #endif
+
+    void markUnderlinesNoMoreThanCanBeSeen()
+    {
+        ZCodeEditor editor;
+        editor.setPlainText("A { b: " + QString(40000, 'x') + " }");
+        editor.setMarks({{8, "c"}});
+        QVERIFY(editor.extraSelections().last().cursor.selectedText().size() < 200);
+    }
+
+    void codeFollowsTheFontOfTheApplication()
+    {
+        const QFont before = QApplication::font();
+        ZRuntimeStylesheetEditor editor;
+        auto* code = editor.findChild<ZCodeEditor*>();
+        const int width = code->marginWidth();
+        QFont large = before;
+        large.setPointSizeF(2 * before.pointSizeF());
+        QApplication::setFont(large);
+        QTRY_COMPARE(code->font().pointSizeF(), large.pointSizeF());
+        QTRY_VERIFY(code->marginWidth() > width);
+        QApplication::setFont(before);
+    }
+
+    void scrollBarsDependOnTheSizeAlone()
+    {
+        const QString text = QString("A { color: red; background-color: blue }\n").repeated(8);
+        ZCodeEditor resized;
+        resized.setPlainText(text);
+        resized.show();
+        QStringList differences;
+        for (int width = 360; width < 480; width += 30) {
+            for (int height = 130; height < 220; height += 4) {
+                ZCodeEditor fresh;
+                fresh.setPlainText(text);
+                fresh.resize(width, height);
+                fresh.show();
+                resized.resize(60, 60);
+                resized.resize(width, height);
+                if (resized.verticalScrollBar()->isVisible() != fresh.verticalScrollBar()->isVisible())
+                    differences.append(QString("%1x%2").arg(width).arg(height));
+            }
+        }
+        QVERIFY2(differences.isEmpty(), qPrintable(differences.join(' ')));
+    }
 
     void offersNames()
     {
