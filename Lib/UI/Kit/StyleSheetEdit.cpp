@@ -33,15 +33,20 @@ void StyleSheetEdit::check()
 {
     const QString text = document()->toRawText().replace(QChar::ParagraphSeparator, QLatin1Char('\n'));
     found = StyleSheetSyntax::Check(text, scope);
-    QVector<Mark> marks;
-    for (int i = 0; i < std::min(found.size(), MOST_MARKS); ++i)
-        marks.append({found[i].position, StyleSheetSyntax::Describe(found[i].problem)});
-    setMarks(marks);
+    markMistakes();
     // Before the first declaration ends, it could as well be a selector.
     const bool declarationsAlone =
         scope == Scope::WIDGET && text.contains(QLatin1Char(';')) && !text.contains(QLatin1Char('{'));
     highlighter->setDeclarationsAlone(declarationsAlone);
     completer->setDeclarationsAlone(declarationsAlone);
+}
+
+void StyleSheetEdit::markMistakes()
+{
+    QVector<Mark> marks;
+    for (int i = 0; i < std::min(found.size(), MOST_MARKS); ++i)
+        marks.append({found[i].position, StyleSheetSyntax::Describe(found[i].problem)});
+    setMarks(marks);
 }
 
 void StyleSheetEdit::goToNextMistake()

@@ -21,6 +21,9 @@ public:
     /// Looks for mistakes in the text as it is, and marks them.
     void check();
 
+    /// Describes the mistakes that were found last in the language of the application.
+    void markMistakes();
+
     /// Those that the last look found.
     const QVector<StyleSheetSyntax::Mistake>& mistakes() const { return found; }
 

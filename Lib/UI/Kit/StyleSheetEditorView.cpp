@@ -18,6 +18,8 @@
 #include <QVBoxLayout>
 #include <QVariant>
 
+#include <utility>
+
 namespace {
 
 constexpr QSize SMALLEST_EDITOR(200, 80);
@@ -139,9 +141,9 @@ void StyleSheetEditorView::retranslate()
 }
 
 // A style sheet tells the two apart by the property "problem".
-void StyleSheetEditorView::say(const QString& text, bool isProblem)
+void StyleSheetEditorView::say(std::function<QString()> message, bool isProblem)
 {
-    messageLabel->setText(text);
+    messageLabel->say(std::move(message));
     if (messageLabel->property("problem").toBool() == isProblem)
         return;
     messageLabel->setProperty("problem", isProblem);

@@ -1,6 +1,8 @@
 #pragma once
 
-#include <QVector>
+#include <QString>
+
+#include <functional>
 
 class QAction;
 class QCheckBox;
@@ -27,7 +29,7 @@ public:
     void retranslate();
 
     /// What the window says; marked when it is about something that is wrong.
-    void say(const QString& text, bool isProblem);
+    void say(std::function<QString()> message, bool isProblem);
 
     StyleSheetEdit* editor;
     ZSearchBar* search;

@@ -5,9 +5,24 @@
 #include <QStyle>
 #include <QToolTip>
 
+#include <utility>
+
 ZMessageLabel::ZMessageLabel(QWidget* parent) : QLabel(parent)
 {
     setTextFormat(Qt::PlainText);
+}
+
+void ZMessageLabel::say(std::function<QString()> newMessage)
+{
+    message = std::move(newMessage);
+    setText(message ? message() : QString());
+}
+
+void ZMessageLabel::changeEvent(QEvent* event)
+{
+    QLabel::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange && message)
+        setText(message());
 }
 
 QSize ZMessageLabel::minimumSizeHint() const

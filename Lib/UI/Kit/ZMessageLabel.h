@@ -2,8 +2,11 @@
 
 #include <QLabel>
 
-/// One line that says something. It takes whatever width is left, elides what does not fit, and shows it whole as the
-/// tool tip. It begins at the side where the window's rows begin, whatever letters it has.
+#include <functional>
+
+/// One line that says something, in the language of the application also after that changes. It takes whatever width is
+/// left, elides what does not fit, and shows it whole as the tool tip. It begins at the side where the window's rows
+/// begin, whatever letters it has.
 class ZMessageLabel : public QLabel
 {
     Q_OBJECT
@@ -11,12 +14,18 @@ class ZMessageLabel : public QLabel
 public:
     explicit ZMessageLabel(QWidget* parent = nullptr);
 
+    /// Shows what `message` returns, and calls it again when the language changes. Without one, shows nothing.
+    void say(std::function<QString()> message);
+
     QSize minimumSizeHint() const override;
 
 protected:
+    void changeEvent(QEvent* event) override;
     bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:
     QString shownText() const;
+
+    std::function<QString()> message;
 };

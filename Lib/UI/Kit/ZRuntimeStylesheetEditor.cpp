@@ -22,6 +22,7 @@
 #include <QToolButton>
 
 #include <functional>
+#include <utility>
 
 using StyleSheetSyntax::Mistake;
 using StyleSheetSyntax::Scope;
@@ -58,9 +59,9 @@ struct ZRuntimeStylesheetEditor::Impl
     void connectCommands();
     void retranslate();
 
-    void say(const QString& text, bool isProblem = false);
+    void say(std::function<QString()> message, bool isProblem = false);
     const QVector<Mistake>& mistakes() const { return view.editor->mistakes(); }
-    void sayMistake();
+    QString mistake() const;
     void showPlace();
     void check();
     void checkAndFollow();
@@ -123,19 +124,20 @@ void ZRuntimeStylesheetEditor::Impl::connectParts()
             Qt::QueuedConnection);
     connect(view.question, &ZQuestionBar::saveWanted, &context, [this] { saveAgain(); });
     connect(view.targetBox, &StyleSheetTargetBox::chosen, &context, [this](QWidget* widget) { chooseTarget(widget); });
-    connect(view.targetBox, &StyleSheetTargetBox::gone, &context,
-            [this] { say(ZRuntimeStylesheetEditor::tr("The widget is gone. Choose another one."), true); });
+    connect(view.targetBox, &StyleSheetTargetBox::gone, &context, [this] {
+        say([] { return ZRuntimeStylesheetEditor::tr("The widget is gone. Choose another one."); }, true);
+    });
     connect(view.pickButton, &QToolButton::toggled, &context, [this](bool on) {
         if (!on)
             return picker->stop();
         picker->start();
-        say(ZRuntimeStylesheetEditor::tr("Click on a widget of the application, or press Escape."));
+        say([] { return ZRuntimeStylesheetEditor::tr("Click on a widget of the application, or press Escape."); });
     });
     connect(picker, &ZWidgetPicker::pointed, &context,
-            [this](QWidget* widget) { say(StyleSheetTargetBox::nameOf(widget)); });
+            [this](QWidget* widget) { say([name = StyleSheetTargetBox::nameOf(widget)] { return name; }); });
     connect(picker, &ZWidgetPicker::stopped, &context, [this] {
         view.pickButton->setChecked(false);
-        say(QString());
+        say({});
     });
     connect(picker, &ZWidgetPicker::picked, window, &ZRuntimeStylesheetEditor::setTarget);
 }
@@ -168,26 +170,26 @@ void ZRuntimeStylesheetEditor::Impl::retranslate()
     window->setWindowTitle(title + QStringLiteral("[*]"));
     window->setAccessibleName(title);
     showPlace();
-    check();
 }
 
 // What the window says
 
-void ZRuntimeStylesheetEditor::Impl::say(const QString& text, bool isProblem)
+void ZRuntimeStylesheetEditor::Impl::say(std::function<QString()> message, bool isProblem)
 {
     saysMistake = false;
-    view.say(text, isProblem);
+    view.say(std::move(message), isProblem);
 }
 
-void ZRuntimeStylesheetEditor::Impl::sayMistake()
+QString ZRuntimeStylesheetEditor::Impl::mistake() const
 {
+    if (mistakes().isEmpty())
+        return {};
     const Mistake& first = mistakes().first();
-    QString text = ZRuntimeStylesheetEditor::tr("%1: %2").arg(Place(first.line, first.column),
-                                                              StyleSheetSyntax::Describe(first.problem));
-    if (mistakes().size() > 1)
-        text += QLatin1Char(' ') + ZRuntimeStylesheetEditor::tr("(and %n more)", nullptr, mistakes().size() - 1);
-    say(text, true);
-    saysMistake = true;
+    const QString text = ZRuntimeStylesheetEditor::tr("%1: %2").arg(Place(first.line, first.column),
+                                                                    StyleSheetSyntax::Describe(first.problem));
+    if (mistakes().size() == 1)
+        return text;
+    return text + QLatin1Char(' ') + ZRuntimeStylesheetEditor::tr("(and %n more)", nullptr, mistakes().size() - 1);
 }
 
 QString ZRuntimeStylesheetEditor::message() const
@@ -207,9 +209,10 @@ void ZRuntimeStylesheetEditor::Impl::check()
     seenRevision = view.editor->document()->revision();
     view.editor->check();
     if (!mistakes().isEmpty())
-        sayMistake();
+        say([this] { return mistake(); }, true);
     else if (saysMistake)
-        say(QString());
+        say({});
+    saysMistake = !mistakes().isEmpty();
 }
 
 void ZRuntimeStylesheetEditor::Impl::checkAndFollow()
@@ -223,7 +226,7 @@ void ZRuntimeStylesheetEditor::Impl::goToNextMistake()
 {
     check();
     if (mistakes().isEmpty())
-        say(ZRuntimeStylesheetEditor::tr("There are no mistakes."));
+        say([] { return ZRuntimeStylesheetEditor::tr("There are no mistakes."); });
     view.editor->goToNextMistake();
 }
 
@@ -238,7 +241,7 @@ void ZRuntimeStylesheetEditor::setTarget(QWidget* widget)
 void ZRuntimeStylesheetEditor::Impl::chooseTarget(QWidget* widget)
 {
     target.set(widget);
-    say(QString());
+    say({});
     view.editor->setScope(widget ? Scope::WIDGET : Scope::APPLICATION);
     readUntouched();
     check();
@@ -268,11 +271,11 @@ bool ZRuntimeStylesheetEditor::apply()
 {
     impl->check();
     if (!hasTarget()) {
-        impl->say(tr("Not applied: the widget is gone. Choose another one."), true);
+        impl->say([] { return tr("Not applied: the widget is gone. Choose another one."); }, true);
         return false;
     }
     if (!impl->mistakes().isEmpty()) {
-        impl->say(tr("Not applied. %1").arg(message()), true);
+        impl->say([this] { return tr("Not applied. %1").arg(impl->mistake()); }, true);
         return false;
     }
     impl->applyText();
@@ -282,9 +285,11 @@ bool ZRuntimeStylesheetEditor::apply()
 void ZRuntimeStylesheetEditor::Impl::applyText()
 {
     target.apply(window->text());
-    say(target.widget()
-            ? ZRuntimeStylesheetEditor::tr("Applied to %1.").arg(StyleSheetTargetBox::nameOf(target.widget()))
-            : ZRuntimeStylesheetEditor::tr("Applied to the application."));
+    const QString name = target.widget() ? StyleSheetTargetBox::nameOf(target.widget()) : QString();
+    say([name] {
+        return name.isEmpty() ? ZRuntimeStylesheetEditor::tr("Applied to the application.")
+                              : ZRuntimeStylesheetEditor::tr("Applied to %1.").arg(name);
+    });
     Q_EMIT window->applied();
 }
 
@@ -293,10 +298,10 @@ void ZRuntimeStylesheetEditor::revert()
     // What was typed last would come back by itself.
     impl->pause.stop();
     if (!impl->target.revert()) {
-        impl->say(tr("Nothing was applied that could be reverted."));
+        impl->say([] { return tr("Nothing was applied that could be reverted."); });
         return;
     }
-    impl->say(tr("Reverted."));
+    impl->say([] { return tr("Reverted."); });
     Q_EMIT reverted();
 }
 
@@ -347,7 +352,7 @@ bool ZRuntimeStylesheetEditor::load(const QString& fileName)
     StyleSheetFile::Error error;
     const auto contents = StyleSheetFile::Read(fileName, error);
     if (!contents) {
-        impl->say(error.describe(), true);
+        impl->say([error] { return error.describe(); }, true);
         return false;
     }
     impl->view.question->dismiss();
@@ -361,11 +366,11 @@ bool ZRuntimeStylesheetEditor::save(const QString& fileName)
 {
     StyleSheetFile::Error error;
     if (!StyleSheetFile::Write(fileName, {text(), impl->hasByteOrderMark}, error)) {
-        impl->say(error.describe(), true);
+        impl->say([error] { return error.describe(); }, true);
         return false;
     }
     impl->settle(fileName);
-    impl->say(tr("Saved."));
+    impl->say([] { return tr("Saved."); });
     impl->view.question->proceed();
     return true;
 }
@@ -377,6 +382,7 @@ void ZRuntimeStylesheetEditor::Impl::settle(const QString& file)
     hasByteOrderMark = hasByteOrderMark && !file.isEmpty();
     view.editor->document()->setModified(false);
     retranslate();
+    check();
 }
 
 void ZRuntimeStylesheetEditor::Impl::whenSettled(std::function<void()> action)
@@ -422,8 +428,10 @@ void ZRuntimeStylesheetEditor::openSearch()
 void ZRuntimeStylesheetEditor::changeEvent(QEvent* event)
 {
     QWidget::changeEvent(event);
-    if (event->type() == QEvent::LanguageChange)
+    if (event->type() == QEvent::LanguageChange) {
         impl->retranslate();
+        impl->view.editor->markMistakes();
+    }
 }
 
 void ZRuntimeStylesheetEditor::showEvent(QShowEvent* event)

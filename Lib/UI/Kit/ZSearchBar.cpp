@@ -99,7 +99,7 @@ void ZSearchBar::open()
     const QString selection = editor->textCursor().selectedText();
     if (!selection.isEmpty() && !selection.contains(QChar::ParagraphSeparator))
         searched->setText(selection);
-    messageLabel->clear();
+    messageLabel->say({});
     show();
     searched->setFocus();
     searched->selectAll();
@@ -156,7 +156,7 @@ bool ZSearchBar::findPrevious()
 
 bool ZSearchBar::find(const QTextCursor& from, QTextDocument::FindFlags direction)
 {
-    messageLabel->clear();
+    messageLabel->say({});
     const QString text = searched->text();
     if (text.isEmpty())
         return false;
@@ -167,9 +167,11 @@ bool ZSearchBar::find(const QTextCursor& from, QTextDocument::FindFlags directio
         if (direction)
             end.movePosition(QTextCursor::End);
         place = document->find(text, end, flags() | direction);
-        messageLabel->setText(place.isNull() ? tr("Nothing was found.")
-                              : direction    ? tr("Found from the end on.")
-                                             : tr("Found from the beginning on."));
+        messageLabel->say([isFound = !place.isNull(), direction] {
+            if (!isFound)
+                return tr("Nothing was found.");
+            return direction ? tr("Found from the end on.") : tr("Found from the beginning on.");
+        });
     }
     if (place.isNull())
         return false;
@@ -208,7 +210,7 @@ int ZSearchBar::replaceAll()
         place.insertText(replacement->text());
     }
     edit.endEditBlock();
-    messageLabel->setText(count == 0 ? tr("Nothing was found.") : tr("%n replaced.", nullptr, count));
+    messageLabel->say([count] { return count == 0 ? tr("Nothing was found.") : tr("%n replaced.", nullptr, count); });
     return count;
 }
 

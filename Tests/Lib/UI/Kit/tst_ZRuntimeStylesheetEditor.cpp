@@ -19,6 +19,7 @@
 #include <QTemporaryDir>
 #include <QTextBlock>
 #include <QToolButton>
+#include <QTranslator>
 
 #include <memory>
 
@@ -53,6 +54,17 @@ void WriteFile(const QString& fileName, const QByteArray& bytes)
     QVERIFY(file.open(QIODevice::WriteOnly));
     QCOMPARE(file.write(bytes), qint64(bytes.size()));
 }
+
+/// Puts every text in brackets.
+class Brackets : public QTranslator
+{
+public:
+    bool isEmpty() const override { return false; }
+    QString translate(const char*, const char* text, const char*, int) const override
+    {
+        return '[' + QString::fromUtf8(text) + ']';
+    }
+};
 
 QPushButton* ButtonOf(QWidget& widget, const QString& text)
 {
@@ -444,6 +456,23 @@ private Q_SLOTS:
             }
         }
         QVERIFY2(differences.isEmpty(), qPrintable(differences.join(' ')));
+    }
+
+    void messagesFollowTheLanguage()
+    {
+        QLabel label;
+        ZRuntimeStylesheetEditor editor;
+        editor.setTarget(&label);
+        const QPair<QString, QString> rows[] = {{RED, "[Applied to QLabel.]"}, {BROKEN, "[Not applied. [[Line 1"}};
+        for (const auto& row : rows) {
+            editor.setText(row.first);
+            editor.apply();
+            Brackets brackets;
+            QVERIFY(QCoreApplication::installTranslator(&brackets));
+            QTRY_VERIFY2(editor.message().startsWith(row.second), qPrintable(editor.message()));
+            QCoreApplication::removeTranslator(&brackets);
+            QTRY_VERIFY(!editor.message().contains('['));
+        }
     }
 
     void offersNames()
