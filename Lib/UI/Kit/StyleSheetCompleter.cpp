@@ -15,7 +15,8 @@
 
 namespace {
 
-constexpr int LETTERS = 2; ///< after so many letters of a name, names are offered unasked
+constexpr int LETTERS = 2;       ///< after so many letters of a name, names are offered unasked
+constexpr int MOST_LINES = 1000; ///< of a rule that are looked at
 
 } // namespace
 
@@ -49,9 +50,18 @@ void StyleSheetCompleter::open()
     show(0);
 }
 
-QString StyleSheetCompleter::textBefore() const
+// A rule begins behind a line that ends with a brace and leaves nothing open, by the state that the highlighter keeps.
+QString StyleSheetCompleter::context() const
 {
-    return editor->toPlainText().left(editor->textCursor().position());
+    const QTextCursor cursor = editor->textCursor();
+    QTextBlock block = cursor.block();
+    QStringList lines{block.text().left(cursor.positionInBlock())};
+    for (block = block.previous(); block.isValid() && lines.size() < MOST_LINES; block = block.previous()) {
+        if (block.userState() == 0 && block.text().trimmed().endsWith(QLatin1Char('}')))
+            break;
+        lines.prepend(block.text());
+    }
+    return lines.join(QLatin1Char('\n'));
 }
 
 // What was offered is narrowed down while the name goes on, and taken away where it ends.
@@ -75,7 +85,7 @@ void StyleSheetCompleter::follow()
 
 void StyleSheetCompleter::show(int fewestLetters)
 {
-    const QString before = textBefore();
+    const QString before = context();
     const QString prefix = before.right(StyleSheetNames::PrefixLength(before));
     if (prefix.size() < fewestLetters || editor->isReadOnly())
         return;

@@ -28,11 +28,13 @@ public:
     /// What is offered; empty when nothing is.
     QStringList offered() const;
 
+    /// What decides on the names: the text before the cursor from the beginning of its rule.
+    QString context() const;
+
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    QString textBefore() const;
     void follow();
     void show(int fewestLetters);
     void insert(const QString& name);

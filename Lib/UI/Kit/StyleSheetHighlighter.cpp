@@ -26,6 +26,8 @@ enum class Look {
     KEYWORD
 };
 
+constexpr int COLORED_LENGTH = 4096; ///< of a line; each colour in a line slows down every key in it
+
 struct Colors
 {
     QRgb onLight;
@@ -116,7 +118,7 @@ void StyleSheetHighlighter::highlightBlock(const QString& text)
     for (int i = 0; i < tokens.size(); ++i) {
         const Token& token = tokens[i];
         const Look look = LookOf(text, token, at, i > 0 ? &tokens[i - 1] : nullptr);
-        if (look != Look::PLAIN) {
+        if (look != Look::PLAIN && token.start < COLORED_LENGTH) {
             const Colors& colors = COLORS[static_cast<int>(look)];
             QTextCharFormat format;
             format.setForeground(QColor(onDark ? colors.onDark : colors.onLight));

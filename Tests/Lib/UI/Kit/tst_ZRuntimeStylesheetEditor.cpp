@@ -414,6 +414,35 @@ private Q_SLOTS:
     }
 #endif
 
+    void aKeyLooksAtItsRuleAlone()
+    {
+        class Counter : public StyleSheetHighlighter
+        {
+        public:
+            using StyleSheetHighlighter::StyleSheetHighlighter;
+            int count = 0;
+
+        protected:
+            void highlightBlock(const QString& text) override
+            {
+                ++count;
+                StyleSheetHighlighter::highlightBlock(text);
+            }
+        };
+        QPlainTextEdit code;
+        Counter highlighter(code.document());
+        StyleSheetCompleter completer(&code, nullptr);
+        const QString rule = "QLabel {\n    color: red;\n}\n";
+        code.setPlainText(rule.repeated(1000) + "QLabel {\n    co");
+        QTRY_VERIFY(highlighter.count >= code.blockCount());
+        QVERIFY(highlighter.count < 2 * code.blockCount());
+        highlighter.count = 0;
+        code.moveCursor(QTextCursor::End);
+        QTest::keyClick(&code, 'l');
+        QCOMPARE(highlighter.count, 1);
+        QCOMPARE(completer.context(), QString("QLabel {\n    col"));
+    }
+
     void markUnderlinesNoMoreThanCanBeSeen()
     {
         ZCodeEditor editor;
