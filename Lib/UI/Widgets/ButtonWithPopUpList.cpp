@@ -1,8 +1,11 @@
 #include <UI/Widgets/ButtonWithPopUpList.h>
 
 #include <UI/Common/MirroredStyle.h>
+#include <UI/Common/AccessibleFactory.h>
+#include <UI/Common/TextMarks.h>
 
 #include <QAction>
+#include <QKeyEvent>
 #include <QMenu>
 #include <QPointer>
 #include <QVector>
@@ -11,16 +14,30 @@
 
 namespace Zelkor::Vx {
 
-struct ButtonWithPopUpList::Impl
+namespace Common = UI::Common;
+
+/// Watches the menu: tells assistive technology when it opens and closes, and highlights the current choice of a menu
+/// that was opened by a key.
+struct ButtonWithPopUpList::Impl : public QObject
 {
+    class AccessibleButton;
+
     struct Item
     {
         QAction* action;
+        QPointer<QAction> separator;
         QVariant data;
     };
 
-    explicit Impl(ButtonWithPopUpList* button) : menu(new QMenu(button)) {}
-    ~Impl() { delete menu; }
+    explicit Impl(ButtonWithPopUpList* button) : button(button), menu(new QMenu(button))
+    {
+        menu->installEventFilter(this);
+    }
+    ~Impl() override
+    {
+        menu->removeEventFilter(this);
+        delete menu;
+    }
 
     bool Has(int index) const { return index >= 0 && index < items.size(); }
 
@@ -31,14 +48,109 @@ struct ButtonWithPopUpList::Impl
         return found == items.end() ? -1 : int(found - items.begin());
     }
 
+    // One that a removed item has left in the menu moves to its end, else a new one.
+    QPointer<QAction> AppendSeparator()
+    {
+        while (!leftSeparators.isEmpty()) {
+            const QPointer<QAction> separator = leftSeparators.takeLast();
+            if (!separator)
+                continue;
+            menu->removeAction(separator);
+            menu->addAction(separator);
+            return separator;
+        }
+        return menu->addSeparator();
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() != QEvent::Show && event->type() != QEvent::Hide)
+            return false;
+        if (event->type() == QEvent::Show && isOpenedByKey && Has(currentIndex))
+            menu->setActiveAction(items[currentIndex].action);
+        isOpenedByKey = false;
+        QAccessible::State changed;
+        changed.expanded = true;
+        changed.collapsed = true;
+        QAccessibleStateChangeEvent change(button, changed);
+        QAccessible::updateAccessibility(&change);
+        return QObject::eventFilter(watched, event);
+    }
+
+    ButtonWithPopUpList* button;
     QVector<Item> items;
+    QVector<QPointer<QAction>> leftSeparators;
     QMenu* menu;
     int currentIndex = -1;
+    bool isOpenedByKey = false;
+    QString describedAs; ///< the description that was set last; the application may have set another one
+};
+
+/// Qt's own interface of a tool button has one of its actions twice, the marks of mnemonics in its name, and does not
+/// say whether the menu is open.
+class ButtonWithPopUpList::Impl::AccessibleButton : public QAccessibleWidget
+{
+public:
+    explicit AccessibleButton(ButtonWithPopUpList* button)
+        : QAccessibleWidget(button, QAccessible::ButtonMenu), button(button)
+    {}
+
+    QString text(QAccessible::Text kind) const override
+    {
+        const QString own = QAccessibleWidget::text(kind);
+        return kind == QAccessible::Name && own.isEmpty() ? Common::WithoutMnemonic(button->text()) : own;
+    }
+
+    QAccessible::State state() const override
+    {
+        QAccessible::State state = QAccessibleWidget::state();
+        const QMenu* menu = button->menu();
+        state.hasPopup = true;
+        state.expandable = true;
+        state.expanded = menu && menu->isVisible();
+        state.collapsed = !state.expanded;
+        state.pressed = button->isDown();
+        state.checkable = button->isCheckable();
+        state.checked = button->isChecked();
+        return state;
+    }
+
+    QStringList actionNames() const override
+    {
+        return button->isEnabled() ? QStringList{showMenuAction(), pressAction()} + QAccessibleWidget::actionNames()
+                                   : QStringList();
+    }
+
+    void doAction(const QString& name) override
+    {
+        QMenu* menu = button->menu();
+        if (!button->isEnabled())
+            return;
+        if (name == pressAction())
+            button->click();
+        else if (name != showMenuAction())
+            QAccessibleWidget::doAction(name);
+        else if (menu && menu->isVisible())
+            menu->close();
+        else
+            // The menu runs an event loop, and the caller would wait for its end.
+            QMetaObject::invokeMethod(button, &QToolButton::showMenu, Qt::QueuedConnection);
+    }
+
+    QStringList keyBindingsForAction(const QString& name) const override
+    {
+        const QKeySequence keys = button->shortcut();
+        return name == pressAction() && !keys.isEmpty() ? QStringList(keys.toString()) : QStringList();
+    }
+
+private:
+    ButtonWithPopUpList* button;
 };
 
 ButtonWithPopUpList::ButtonWithPopUpList(QWidget* parent) : QToolButton(parent), impl(std::make_unique<Impl>(this))
 {
     UI::Common::FollowLayoutDirection();
+    Common::AccessibleFactory<ButtonWithPopUpList, Impl::AccessibleButton>::Install();
     setMenu(impl->menu);
     setPopupMode(QToolButton::MenuButtonPopup);
 }
@@ -50,9 +162,8 @@ void ButtonWithPopUpList::AppendItem(const QString& text, const QVariant& data)
     auto* action = new QAction(text, this);
     action->setCheckable(true);
     connect(action, &QAction::triggered, this, [this, action] { ActionTriggered(action); });
-    impl->items.append({action, data});
     impl->menu->addAction(action);
-    impl->menu->addSeparator();
+    impl->items.append({action, impl->AppendSeparator(), data});
     // The others stay as they are, however many they are.
     if (impl->currentIndex < 0)
         UpdateSelectionState();
@@ -64,7 +175,9 @@ void ButtonWithPopUpList::RemoveItem(int index)
 {
     if (!impl->Has(index))
         return;
-    QAction* action = impl->items.takeAt(index).action;
+    QAction* action = impl->items[index].action;
+    impl->leftSeparators.append(impl->items[index].separator);
+    impl->items.removeAt(index);
     impl->menu->removeAction(action);
     action->deleteLater();
     if (impl->currentIndex == index)
@@ -85,6 +198,7 @@ void ButtonWithPopUpList::Clear()
     for (const Impl::Item& item : qAsConst(impl->items))
         item.action->deleteLater();
     impl->items.clear();
+    impl->leftSeparators.clear();
     impl->currentIndex = -1;
 }
 
@@ -152,9 +266,28 @@ void ButtonWithPopUpList::CheckCurrentAction()
 {
     for (int i = 0; i < impl->items.size(); ++i)
         impl->items[i].action->setChecked(i == impl->currentIndex);
-    // What a screen reader says beside the button's own name.
-    setAccessibleDescription(impl->Has(impl->currentIndex) ? impl->items[impl->currentIndex].action->text()
-                                                           : QString());
+    // What a screen reader says beside the button's own name, unless the application gave it something else to say.
+    if (accessibleDescription() != impl->describedAs)
+        return;
+    impl->describedAs = impl->Has(impl->currentIndex)
+                            ? Common::WithoutMnemonic(impl->items[impl->currentIndex].action->text())
+                            : QString();
+    setAccessibleDescription(impl->describedAs);
+}
+
+// The keys that open combo boxes and menu buttons.
+void ButtonWithPopUpList::keyPressEvent(QKeyEvent* event)
+{
+    const Qt::KeyboardModifiers modifiers = event->modifiers() & ~Qt::KeypadModifier;
+    const bool isPlain = modifiers == Qt::NoModifier;
+    const bool isDown = event->key() == Qt::Key_Down && (isPlain || modifiers == Qt::AltModifier);
+    const bool opens = isDown || (isPlain && (event->key() == Qt::Key_F4 || event->key() == Qt::Key_Menu));
+    if (!opens || impl->items.isEmpty())
+        return QToolButton::keyPressEvent(event);
+    event->accept();
+    impl->isOpenedByKey = true;
+    // Runs an event loop, in which the button may go.
+    showMenu();
 }
 
 } // namespace Zelkor::Vx

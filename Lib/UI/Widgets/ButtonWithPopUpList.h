@@ -11,9 +11,10 @@ namespace Zelkor::Vx {
 
 /// A tool button with a menu of choices, of which one is current.
 ///
-/// Each choice is a text with a value of the application's. The menu opens from the arrow part of the button and shows
-/// a check mark at the current choice; a click on the main part is the application's. Text and icon of the button are
-/// the application's too. The button owns the menu and its actions. GUI thread only.
+/// Each choice is a text with a value of the application's. The menu opens from the arrow part of the button, by
+/// keyboard with Down, Alt+Down, F4 or the menu key, and shows a check mark at the current choice; a click on the main
+/// part is the application's. Text and icon of the button are the application's too. The button owns the menu and its
+/// actions. GUI thread only.
 class VX_WIDGETS_EXPORT ButtonWithPopUpList : public QToolButton
 {
     Q_OBJECT
@@ -53,6 +54,9 @@ public:
 Q_SIGNALS:
     /// A choice was made, by a person or by the application; also the one that was current already.
     void CurrentIndexChanged(int index);
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
 
 private Q_SLOTS:
     void ActionTriggered(QAction* action);

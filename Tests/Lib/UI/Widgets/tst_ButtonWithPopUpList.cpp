@@ -1,8 +1,11 @@
 #include <UI/Widgets/ButtonWithPopUpList.h>
 
+#include <Support/LoopWatch.h>
 #include <Support/TestCase.h>
 
+#include <QAccessible>
 #include <QMenu>
+#include <QSignalSpy>
 
 #include <memory>
 
@@ -114,6 +117,83 @@ private Q_SLOTS:
         QCOMPARE(ChoicesOf(button)[1]->text(), QString("Text again"));
         // Each item has a separator of its own, which stays when the item goes.
         QCOMPARE(button.menu()->actions().size(), 2 + 3);
+    }
+
+    void menuDoesNotGrowWithChanges()
+    {
+        const auto button = ThreeItems();
+        for (int i = 0; i < 100; ++i) {
+            Perform(*button, i % 2 == 0 ? "remove 0" : "remove 1");
+            Perform(*button, "append");
+        }
+        const auto actions = button->menu()->actions();
+        QCOMPARE(actions.size(), 3 + 3);
+        for (int i = 0; i < actions.size(); ++i)
+            QCOMPARE(actions[i]->isSeparator(), i % 2 == 1);
+    }
+
+    void keyOpensTheMenuAtTheCurrentItem_data()
+    {
+        QTest::addColumn<Qt::Key>("key");
+        QTest::addColumn<Qt::KeyboardModifiers>("modifiers");
+        QTest::newRow("Down") << Qt::Key_Down << Qt::KeyboardModifiers(Qt::NoModifier);
+        QTest::newRow("Alt+Down") << Qt::Key_Down << Qt::KeyboardModifiers(Qt::AltModifier);
+        QTest::newRow("F4") << Qt::Key_F4 << Qt::KeyboardModifiers(Qt::NoModifier);
+        QTest::newRow("Menu") << Qt::Key_Menu << Qt::KeyboardModifiers(Qt::NoModifier);
+    }
+
+    void keyOpensTheMenuAtTheCurrentItem()
+    {
+        QFETCH(Qt::Key, key);
+        QFETCH(Qt::KeyboardModifiers, modifiers);
+        const auto button = ThreeItems();
+        button->show();
+        QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(button.get());
+        bool isOpened = false;
+        const Support::LoopWatch loops([&](QWidget* menu) {
+            isOpened = true;
+            QVERIFY(accessible->state().expanded);
+            QTest::keyClick(menu, Qt::Key_Down);
+            QTest::keyClick(menu, Qt::Key_Return);
+        });
+        QTest::keyClick(button.get(), key, modifiers);
+        QVERIFY(isOpened);
+        QVERIFY(accessible->state().collapsed);
+        QCOMPARE(button->CurrentIndex(), 2);
+    }
+
+    void screenReaderHearsTheApplicationFirst()
+    {
+        const auto button = ThreeItems();
+        QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(button.get());
+        button->setText("&Mode && more");
+        button->AppendItem("&Last", 0);
+        button->SetCurrentIndex(3);
+        QCOMPARE(accessible->text(QAccessible::Name), QString("Mode & more"));
+        QCOMPARE(accessible->text(QAccessible::Description), QString("Last"));
+        button->setAccessibleDescription("Own");
+        button->SetCurrentIndex(0);
+        QCOMPARE(accessible->text(QAccessible::Description), QString("Own"));
+    }
+
+    void screenReaderMayPressAndOpen()
+    {
+        const auto button = ThreeItems();
+        button->show();
+        auto* actions = QAccessible::queryAccessibleInterface(button.get())->actionInterface();
+        const QStringList names = actions->actionNames();
+        QCOMPARE(names.count(QAccessibleActionInterface::showMenuAction()), 1);
+        QSignalSpy clicked(button.get(), &QAbstractButton::clicked);
+        actions->doAction(QAccessibleActionInterface::pressAction());
+        QCOMPARE(clicked.size(), 1);
+        bool isOpened = false;
+        const Support::LoopWatch loops([&](QWidget* menu) {
+            isOpened = true;
+            Support::Dismiss(menu);
+        });
+        actions->doAction(QAccessibleActionInterface::showMenuAction());
+        QTRY_VERIFY(isOpened);
+        QTRY_VERIFY(!button->menu()->isVisible());
     }
 
     void slotMayCallBack()
