@@ -9,6 +9,7 @@
 #include <QDialogButtonBox>
 #include <QPainter>
 #include <QPointer>
+#include <QStyleOptionButton>
 
 #include <cmath>
 
@@ -26,6 +27,8 @@ QRect DefaultColorRect(const QSize& button)
     const int side = button.height() - VERTICAL_SPACE;
     return QRect(button.width() - RIGHT_SPACE - side, TOP_SPACE, side, side);
 }
+
+constexpr int TEXT_SPACE = 4; ///< at least, between the text and the square
 
 // A colour keeps its alpha in 16 bits, so quotients may lie a little above 1.
 QColor WithAlpha(QColor color, double alpha)
@@ -211,6 +214,25 @@ void ColorButton::ChooseColor()
         impl->dialog->deleteLater();
         impl->dialog = nullptr;
     }
+}
+
+// As wide as to keep the text clear of the square. A square that the application placed is its own matter.
+QSize ColorButton::sizeHint() const
+{
+    const QSize hint = QPushButton::sizeHint();
+    if (impl->colorRectSet || text().isEmpty())
+        return hint;
+    QStyleOptionButton option;
+    initStyleOption(&option);
+    option.rect = QRect(QPoint(), hint);
+    const QRect contents = style()->subElementRect(QStyle::SE_PushButtonContents, &option, this);
+    int width = fontMetrics().size(Qt::TextShowMnemonic, text()).width();
+    if (!icon().isNull())
+        width += iconSize().width() + TEXT_SPACE;
+    const int textRight = contents.center().x() + (width + 1) / 2;
+    const int covered = textRight + TEXT_SPACE - DefaultColorRect(hint).left();
+    // The text is centred: of what the button grows, half is to the right of it.
+    return covered > 0 ? hint + QSize(2 * covered, 0) : hint;
 }
 
 void ColorButton::paintEvent(QPaintEvent* event)

@@ -49,6 +49,9 @@ public:
     QColor GetColorRectBorderDisabled() const;
     void SetColorRectBorderDisabled(const QColor& color);
 
+    /// Room for the text and, unless it was placed, the square beside it.
+    QSize sizeHint() const override;
+
 Q_SIGNALS:
     /// The colour is another one; after the dialog was accepted also when it is the same.
     void ColorChanged(const QColor& color);

@@ -87,6 +87,23 @@ private Q_SLOTS:
         QCOMPARE(button.GetColorRect(), QRect(2, 3, 12, 13));
     }
 
+    void sizeHintKeepsTheTextClearOfTheSquare()
+    {
+        ColorButton button;
+        button.setText("Highlight colour");
+        button.SetColorRectBorderNormal(Qt::magenta);
+        button.SetColor(Qt::magenta);
+        button.resize(button.sizeHint());
+        button.show();
+        const QImage withText = button.grab().toImage();
+        const QRect square = button.GetColorRect().adjusted(-3, 0, 1, 1);
+        button.SetColorRect(QRect());
+        const QImage textAlone = button.grab().toImage().copy(square);
+        button.setText(QString());
+        QCOMPARE(textAlone, button.grab().toImage().copy(square));
+        QVERIFY(withText.copy(square) != textAlone);
+    }
+
     void dialogSignals_data()
     {
         QTest::addColumn<Act>("act");
