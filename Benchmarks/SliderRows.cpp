@@ -1,6 +1,7 @@
 #include "SpeedTable.h"
 
 #include <UI/Kit/ZSlider.h>
+#include <UI/Kit/ZSliderThumb.h>
 
 #include <QCoreApplication>
 
@@ -48,6 +49,25 @@ Rounds SliderStep()
     return Interleave(Steps(ours), Steps(theirs), 61, 100);
 }
 
+constexpr int THUMBS = 1000;
+
+// From an empty slider that is shown until it has laid out its thumbs, and back.
+void AddThumbs(int count)
+{
+    ZSlider slider;
+    slider.setOrientation(Qt::Horizontal);
+    Prepare(slider);
+    for (int i = 0; i < count; ++i)
+        slider.addThumb(QStringLiteral("mark %1").arg(i))->setValue(i % 1000);
+    QCoreApplication::sendPostedEvents();
+    QCoreApplication::processEvents();
+}
+
+Rounds Thumbs()
+{
+    return Interleave([] { AddThumbs(2 * THUMBS); }, [] { AddThumbs(THUMBS); }, 11, 1);
+}
+
 } // namespace
 
 std::vector<Row> SliderRows()
@@ -55,6 +75,7 @@ std::vector<Row> SliderRows()
     return {
         {"zslider-step", "slider with thumbs, value change and repaint", "plain QSlider with the same groove", 2,
          SliderStep},
+        {"zslider-thumbs", "ZSlider::addThumb, 2000 thumbs", "the same with 1000 thumbs", 2.3, Thumbs},
     };
 }
 

@@ -9,6 +9,7 @@
 #include <QPointer>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -79,8 +80,10 @@ ZSliderThumb* ZSlider::addThumb(const QString& name)
 {
     removeThumb(name);
     auto* thumb = new ZSliderThumb(this);
+    thumb->key = name;
     thumb->setFocusPolicy(Qt::ClickFocus);
-    setTabOrder(this, thumb);
+    // Behind any other thumb: behind the slider itself, Qt searches all children.
+    setTabOrder(thumbs.isEmpty() ? static_cast<QWidget*>(this) : thumbs.last(), thumb);
     thumb->setName(name);
     thumb->setStyleTag(name);
     thumbs.insert(name, thumb);
@@ -94,7 +97,7 @@ ZSliderThumb* ZSlider::addThumb(const QString& name)
         connect(this, &QAbstractSlider::valueChanged, this, &ZSlider::defaultSliderSetValue, Qt::UniqueConnection);
     }
     thumb->place();
-    restack();
+    setZOrder(*thumb, thumb->zOrder());
     if (isVisible())
         thumb->show();
     updateGeometry();
@@ -110,8 +113,10 @@ void ZSlider::removeThumb(const QString& name)
 void ZSlider::forget(ZSliderThumb* thumb)
 {
     const bool isDragged = thumb->dragging || (draggingFromGroove && grooveThumb() == thumb);
-    for (auto it = thumbs.begin(); it != thumbs.end();)
-        it = it.value() == thumb ? thumbs.erase(it) : std::next(it);
+    if (thumbs.value(thumb->key) == thumb) {
+        thumbs.remove(thumb->key);
+        stacking.remove({thumb->currentZOrder, thumb->key});
+    }
     if (valueThumb == thumb)
         valueThumb = nullptr;
     if (selected == thumb)
@@ -218,12 +223,23 @@ void ZSlider::layOut()
     }
 }
 
+void ZSlider::setZOrder(ZSliderThumb& thumb, int order)
+{
+    const int before = std::exchange(thumb.currentZOrder, order);
+    if (thumbs.value(thumb.key) != &thumb)
+        return;
+    stacking.remove({before, thumb.key});
+    const auto above = stacking.upperBound({order, thumb.key});
+    if (above == stacking.end())
+        thumb.raise();
+    else
+        thumb.stackUnder(*above);
+    stacking.insert({order, thumb.key}, &thumb);
+}
+
 void ZSlider::restack()
 {
-    QList<ZSliderThumb*> sorted = thumbs.values();
-    std::stable_sort(sorted.begin(), sorted.end(),
-                     [](const ZSliderThumb* a, const ZSliderThumb* b) { return a->zOrder() < b->zOrder(); });
-    for (ZSliderThumb* thumb : qAsConst(sorted))
+    for (ZSliderThumb* thumb : qAsConst(stacking))
         thumb->raise();
 }
 

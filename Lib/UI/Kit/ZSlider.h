@@ -142,6 +142,7 @@ private:
     void pressValueKey(QKeyEvent& event);
     void forget(ZSliderThumb* thumb);
     void layOut();
+    void setZOrder(ZSliderThumb& thumb, int order);
     void restack();
     void synchronise(Follower follower, int value);
     void finishGrooveDrag();
@@ -154,6 +155,7 @@ private:
     ZSliderThumb* valueThumb = nullptr; ///< the one named "default"
     QVector<Segment> stretches;
     QMap<QString, ZSliderThumb*> thumbs;
+    QMap<QPair<int, QString>, ZSliderThumb*> stacking; ///< by order and name, the lowest thumb first
     bool draggingFromGroove = false;
     bool synchronising = false;
     Follower pending = Follower::NONE; ///< who is behind after what happened while synchronising

@@ -121,8 +121,7 @@ void ZSliderThumb::setParentMargin(int margin)
 
 void ZSliderThumb::setZOrder(int order)
 {
-    currentZOrder = order;
-    slider->restack();
+    slider->setZOrder(*this, order);
 }
 
 int ZSliderThumb::bounded(int value) const

@@ -123,6 +123,7 @@ private:
 
     ZSlider* slider;
     QPoint pressPosition{-1, -1};
+    QString key; ///< under which the slider knows it
     QString currentName;
     QString currentStyleTag;
     bool armed = false;    ///< pressed with the left button, and draggable

@@ -209,8 +209,8 @@ private Q_SLOTS:
     void oneThumbIsSelectedAndOneIsOnTop()
     {
         Trimmer slider;
-        Thumb* a = slider.add("a", 50);
         Thumb* b = slider.add("b", 50);
+        Thumb* a = slider.add("a", 50);
         slider.show();
         const auto top = [&] { return static_cast<Thumb*>(slider.childAt(106, 7)); };
         QCOMPARE(top(), b);
