@@ -145,21 +145,13 @@ private Q_SLOTS:
         QVERIFY(told->text(QAccessible::Name) == "Mine" && slider.thumb("other") == other);
     }
 
-    void sliderIsOnePaneOfItsSplitter_data()
-    {
-        QTest::addColumn<bool>("isTimeline");
-        QTest::newRow("slider with thumbs") << false;
-        QTest::newRow("timeline slider") << true;
-    }
-
     void sliderIsOnePaneOfItsSplitter()
     {
-        QFETCH(bool, isTimeline);
         QSplitter splitter;
         splitter.resize(300, 100);
         splitter.show();
         // The splitter asks each new child, and those that it has, for a size hint.
-        const ZSlider* slider = isTimeline ? new ZTimelineSlider(&splitter) : new ZSlider(&splitter);
+        const ZSlider* slider = new ZTimelineSlider(&splitter);
         QTRY_VERIFY(slider->isVisible());
         QCOMPARE(splitter.count(), 1);
     }
