@@ -23,13 +23,20 @@ void PreviewGate::Show(const boost::intrusive_ptr<Proc::IDataVideo>& frame)
     if (isClosing)
         return;
     const std::lock_guard<std::mutex> lock(mutex);
-    if (preview)
-        preview->UpdateView(frame);
+    if (!preview || (frame == shown && preview->GetRevision() == shownRevision))
+        return;
+    // The revision that this frame makes. A change by another thread in between makes another one, which no frame has.
+    const unsigned revision = preview->GetRevision() + 1;
+    preview->UpdateView(frame);
+    shown = frame;
+    shownRevision = revision;
 }
 
 void PreviewGate::Reset()
 {
     const std::lock_guard<std::mutex> lock(mutex);
+    shown = nullptr;
+    shownRevision.reset();
     if (preview)
         preview->ResetPreview();
 }
@@ -47,6 +54,7 @@ void PreviewGate::Close()
     isClosing = true;
     const std::lock_guard<std::mutex> lock(mutex);
     preview = nullptr;
+    shown = nullptr;
 }
 
 FramePump::FramePump(std::shared_ptr<PreviewGate> gate, boost::intrusive_ptr<Acquis::IFrameReader> reader,

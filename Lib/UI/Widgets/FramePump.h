@@ -6,6 +6,7 @@
 #include <condition_variable>
 #include <memory>
 #include <mutex>
+#include <optional>
 #include <thread>
 
 namespace Zelkor::Vx {
@@ -20,7 +21,7 @@ class PreviewGate
 public:
     explicit PreviewGate(UI::VideoPreviewWidget* preview) : preview(preview) {}
 
-    /// Shows the frame, if the preview is still there.
+    /// Shows the frame, if the preview is still there. Does nothing when it shows this frame already, in this size.
     void Show(const boost::intrusive_ptr<Proc::IDataVideo>& frame);
     void Reset();
     bool IsOpen() const;
@@ -32,6 +33,8 @@ private:
     std::atomic<bool> isClosing{false}; ///< keeps a pump that is late from taking the mutex again before `Close`
     mutable std::mutex mutex;           ///< held while the preview takes a frame
     UI::VideoPreviewWidget* preview;
+    boost::intrusive_ptr<Proc::IDataVideo> shown; ///< held, so that no other frame can have its address
+    std::optional<unsigned> shownRevision;        ///< of the preview, none before the first frame
 };
 
 /// A thread that shows the newest frame of a reader once per frame period. Internal.

@@ -64,6 +64,7 @@ struct VideoPreviewWidget::Impl
     QRect previewRect = QRect(0, 0, 0, 0);
     QPixmap framePixmap;
     QRect frameRect;
+    unsigned revision = 0; ///< changes with each picture and each size
 
     std::mutex converterMutex; ///< one conversion at a time, whoever feeds
     boost::intrusive_ptr<Proc::IEffect> converter;
@@ -94,6 +95,7 @@ void VideoPreviewWidget::Impl::SetArea(const QSize& size)
 {
     const std::lock_guard<std::mutex> lock(pictureMutex);
     previewRect.setSize(size);
+    ++revision;
 }
 
 QImage VideoPreviewWidget::Impl::Convert(boost::intrusive_ptr<Proc::IDataVideo> frame)
@@ -114,6 +116,7 @@ void VideoPreviewWidget::Impl::SetFrame(QPixmap pixmap, const QRect& rect)
         const std::lock_guard<std::mutex> lock(pictureMutex);
         framePixmap.swap(pixmap);
         frameRect = rect;
+        ++revision;
     }
     RequestRepaint();
 }
@@ -205,6 +208,13 @@ void VideoPreviewWidget::UpdateView(const boost::intrusive_ptr<Proc::IDataVideo>
     QPixmap pixmap = QPixmap::fromImage(std::move(image));
     const QRect rect = CenteredRect(area, pixmap.size());
     impl->SetFrame(std::move(pixmap), rect);
+}
+
+/// Another value once the picture or the size of the area has been set. Any thread.
+unsigned VideoPreviewWidget::GetRevision() const
+{
+    const std::lock_guard<std::mutex> lock(impl->pictureMutex);
+    return impl->revision;
 }
 
 void VideoPreviewWidget::paintEvent(QPaintEvent*)

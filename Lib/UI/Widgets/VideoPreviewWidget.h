@@ -9,6 +9,10 @@
 
 #include <memory>
 
+namespace Zelkor::Vx {
+class PreviewGate;
+}
+
 namespace Zelkor::Vx::UI {
 
 /// Shows live video frames in an area of fixed size.
@@ -53,6 +57,10 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    friend class Vx::PreviewGate;
+
+    Q_DECL_HIDDEN unsigned GetRevision() const;
+
     struct Q_DECL_HIDDEN Impl;
     std::unique_ptr<Impl> impl;
 };

@@ -213,7 +213,12 @@ bool WebCameraPreviewStream::Impl::Retry()
     EndPump(ended);
     failed = Session();
     gate->Reset();
-    BuildSession(forEpoch);
+    try {
+        BuildSession(forEpoch);
+    } catch (const std::exception& error) {
+        // An exception must not reach Qt's event loop, which calls this: it counts as one more failed start.
+        LOG_SOURCE.Error(150, "Zelkor::Vx::WebCameraPreviewStream::Impl::BuildSession", error.what());
+    }
 
     Session started;
     {
@@ -314,7 +319,8 @@ void WebCameraPreviewStream::Impl::HandleStopped(const Observer* from)
         gate->Reset();
 }
 
-/// A new session for device and settings; null, logged, when the engine does not make one.
+/// Returns a new session for device and settings; null when there are none or the engine does not make one. Throws what
+/// the engine throws.
 boost::intrusive_ptr<Acquis::ICaptureSession> WebCameraPreviewStream::Impl::CreateCaptureSession() const
 {
     boost::intrusive_ptr<Acquis::ICaptureDevice> sessionDevice;
@@ -327,15 +333,11 @@ boost::intrusive_ptr<Acquis::ICaptureSession> WebCameraPreviewStream::Impl::Crea
     boost::intrusive_ptr<Acquis::ICaptureSession> capture;
     if (!sessionDevice || !sessionSettings)
         return capture;
-    try {
-        using Unit = Acquis::CaptureSessionInitializer::Unit;
-        const Acquis::CaptureSessionInitializer initializer({Unit(sessionDevice, sessionSettings)},
-                                                            Core::CoreManager::Instance().GetEffectFactory(), nullptr,
-                                                            Proc::PixFmt::None);
-        captureFactory->CreateSession(capture, initializer, Proc::ImplNames::DEFAULT);
-    } catch (const std::exception& error) {
-        LOG_SOURCE.Error(150, "Zelkor::Vx::WebCameraPreviewStream::Impl::BuildSession", error.what());
-    }
+    using Unit = Acquis::CaptureSessionInitializer::Unit;
+    const Acquis::CaptureSessionInitializer initializer({Unit(sessionDevice, sessionSettings)},
+                                                        Core::CoreManager::Instance().GetEffectFactory(), nullptr,
+                                                        Proc::PixFmt::None);
+    captureFactory->CreateSession(capture, initializer, Proc::ImplNames::DEFAULT);
     return capture;
 }
 

@@ -35,6 +35,10 @@ public:
     /// its first one when none is; in this mode the rate that is exactly `frameRate` per second, or the last one when
     /// none is. A null device leaves the stream without one. Rates below 1 per second are logged and ignored; a device
     /// without a usable mode is logged and leaves the stream without a session.
+    ///
+    /// Throws `std::logic_error` when the engine finds the mode incompatible with the device; the stream then has the
+    /// device and no session. In a retry, which Qt's event loop calls and no exception may leave, the error is logged
+    /// and counts as a failed start.
     void SetDevice(const boost::intrusive_ptr<Acquis::ICaptureDevice>& device, const QString& settingsName,
                    double frameRate);
 

@@ -148,10 +148,7 @@ private Q_SLOTS:
         QCOMPARE(log.Take().size(), 1);
         const auto device = OrdinaryDevice(); // one whose modes do not belong to it
         device->deniesItsModes = true;
-        scene.stream->SetDevice(device, "only", 30);
-        QCOMPARE(log.Take(), QStringList("E Lib/UI/Widgets/WebCameraPreviewStream:150"
-                                         " Zelkor::Vx::WebCameraPreviewStream::Impl::BuildSession:"
-                                         " Incompatible device and settings"));
+        QVERIFY_EXCEPTION_THROWN(scene.stream->SetDevice(device, "only", 30), std::logic_error);
         scene.engine.refusesSessions = true;
         scene.Run();
         scene.stream->SetDevice(nullptr, "only", 30);
@@ -251,6 +248,49 @@ private Q_SLOTS:
                 QCOMPARE(log.Take(), QStringList(lines.toList()));
             }
         }
+    }
+
+    // An exception in the event loop would end the program.
+    void incompatibleSettingsFailTheRetry()
+    {
+        LogCapture log;
+        Scene scene;
+        QSignalSpy failed(scene.stream, &WebCameraPreviewStream::WebCameraOpenError);
+        const auto device = OrdinaryDevice();
+        scene.engine.onStart = [&](const auto& session) {
+            device->deniesItsModes = true;
+            session->ReportError(1);
+        };
+        scene.stream->SetDevice(device, "only", 100);
+        scene.stream->StartStream();
+        QTRY_COMPARE_WITH_TIMEOUT(failed.size(), 1, 20000);
+        const QString line("E Lib/UI/Widgets/WebCameraPreviewStream:150"
+                           " Zelkor::Vx::WebCameraPreviewStream::Impl::BuildSession: Incompatible device and settings");
+        QCOMPARE(log.Lines().count(line), 6);
+    }
+
+    void frameIsConvertedOnceUntilThePreviewChanges()
+    {
+        LogCapture log;
+        Scene scene;
+        const boost::intrusive_ptr<SlowFrame> frame(new SlowFrame);
+        scene.reader.reset(new ScriptedReader([=] { return frame; }));
+        scene.engine.onStart = [&](const auto& session) { session->ReportStarted(scene.reader); };
+        scene.Run();
+        const auto conversionsAfterSomeReads = [&] {
+            const int reads = scene.reader->reads;
+            return QTest::qWaitFor([&] { return scene.reader->reads >= reads + 10; }) ? frame->conversions.load() : -1;
+        };
+        const int once = conversionsAfterSomeReads();
+        QVERIFY(once > 0);
+        QCOMPARE(conversionsAfterSomeReads(), once);
+        scene.preview->SetPreviewWidth(32);
+        QCOMPARE(conversionsAfterSomeReads(), once + 1);
+        scene.preview->ResetPreview();
+        QCOMPARE(conversionsAfterSomeReads(), once + 2);
+        scene.stream->StopStream();
+        scene.reader = nullptr;
+        QCOMPARE(frame->GetRefCount(), 1);
     }
 
     // The retries count also where there is no session any more. A slot of the signal may delete the preview.
