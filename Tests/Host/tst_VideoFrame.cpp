@@ -192,8 +192,10 @@ private Q_SLOTS:
                 if (!whole.data)
                     continue;
                 const int shortest = whole.stride - 2;
-                for (const Plane& bad : {Plane{whole.data, whole.stride, whole.size - 1}, Plane{nullptr, 99, ENDLESS},
-                                         Plane{whole.data, -99, ENDLESS}, Plane{whole.data, shortest - 1, ENDLESS}}) {
+                for (const Plane& bad :
+                     {Plane{whole.data, whole.stride, whole.size - 1}, Plane{nullptr, 99, ENDLESS},
+                      Plane{whole.data, 1 - shortest, ENDLESS}, Plane{whole.data, shortest - 1, ENDLESS},
+                      Plane{whole.data, -whole.stride, whole.size - 1}}) {
                     plane = bad;
                     QVERIFY2(!IsReadable(format, planes), layout.name);
                 }
@@ -317,6 +319,33 @@ private Q_SLOTS:
         }
         for (auto& reader : readers)
             QVERIFY(reader.get());
+    }
+
+    void bottomUpFramesAreReadable_data() { convertsEveryPixel_data(); }
+
+    void bottomUpFramesAreReadable()
+    {
+        QFETCH(Layout, layout);
+        const FrameFormat format{layout.pixFmt, 33, 19};
+        const Frame down = MakeNoise(format, 4);
+        // The same picture with its rows in reverse order.
+        const auto storage = std::make_shared<std::array<std::vector<std::uint8_t>, 3>>();
+        Planes planes = down->GetPlanes();
+        for (std::size_t i = 0; i < 3 && planes[i].data; ++i) {
+            const int rows = int((planes[i].size + 4) / std::size_t(planes[i].stride));
+            (*storage)[i].resize(planes[i].size);
+            std::uint8_t* const top = (*storage)[i].data() + std::ptrdiff_t{planes[i].stride} * (rows - 1);
+            for (int row = 0; row < rows; ++row)
+                std::memcpy(top - std::ptrdiff_t{planes[i].stride} * row, planes[i].data + planes[i].stride * row,
+                            std::size_t(planes[i].stride - 4));
+            planes[i] = {top, -planes[i].stride, planes[i].size};
+        }
+        const Frame up = VideoFrame::Reference(format, planes, storage);
+        const Frame converted = Converted(MakeConverter(), up);
+        QVERIFY(converted);
+        QCOMPARE(Bytes(*converted), Bytes(*Converted(MakeConverter(), down)));
+        if (layout.pixFmt == PixFmt::BGRA)
+            QCOMPARE(Util::ImageUtils().FrameToImage(up), Util::ImageUtils().FrameToImage(down));
     }
 
     void badFramesAreRefusedAndLoggedOnce()

@@ -8,14 +8,16 @@ namespace Support {
 
 using namespace Zelkor;
 
-boost::intrusive_ptr<StandIn::VideoFrame> SolidFrame(const QSize& size, const QColor& color)
+boost::intrusive_ptr<StandIn::VideoFrame> SolidFrame(const QSize& size, const QColor& color, int alpha)
 {
     StandIn::FrameFormat format;
     format.pixFmt = Proc::PixFmt::BGRA;
     format.width = size.width();
     format.height = size.height();
     return StandIn::VideoFrame::Create(format, [&](const auto& data, const auto& strides) {
-        QImage(data[0], size.width(), size.height(), strides[0], QImage::Format_RGB32).fill(color);
+        QColor pixel = color;
+        pixel.setAlpha(alpha);
+        QImage(data[0], size.width(), size.height(), strides[0], QImage::Format_ARGB32).fill(pixel);
     });
 }
 

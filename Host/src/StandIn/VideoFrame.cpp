@@ -2,6 +2,7 @@
 
 #include <Proc/PixelLayout.h>
 
+#include <cstdlib>
 #include <limits>
 #include <new>
 #include <utility>
@@ -16,10 +17,11 @@ constexpr std::int64_t ROW_ALIGNMENT = 64;
 bool Holds(const Plane& plane, const Proc::PlaneLayout& layout, int width, int height)
 {
     const std::int64_t rowBytes = layout.RowBytes(width);
-    if (!plane.data || plane.stride < rowBytes)
+    const std::int64_t distance = std::abs(std::int64_t{plane.stride});
+    if (!plane.data || distance < rowBytes)
         return false;
-    // The last row needs its own bytes alone: what pads it to the stride may lie beyond the plane.
-    const std::int64_t needed = plane.stride * (layout.Rows(height) - 1) + rowBytes;
+    // The row with the highest address needs its own bytes alone: what pads it to the stride may lie beyond the plane.
+    const std::int64_t needed = distance * (layout.Rows(height) - 1) + rowBytes;
     return plane.size >= static_cast<std::uint64_t>(needed);
 }
 

@@ -22,11 +22,12 @@ void LetGo(void* frame)
     intrusive_ptr_release(static_cast<const VideoFrame*>(frame));
 }
 
-// Qt's vector code steps through rows by whole pixels and expects them at addresses that whole pixels have.
-bool IsAligned(const Plane& plane)
+// An image's rows go downwards. Qt's vector code steps through them by whole pixels and expects them at addresses that
+// whole pixels have.
+bool IsImageMemory(const Plane& plane)
 {
     constexpr std::uintptr_t PIXEL = sizeof(QRgb);
-    return reinterpret_cast<std::uintptr_t>(plane.data) % PIXEL == 0 && plane.stride % sizeof(QRgb) == 0;
+    return plane.stride > 0 && reinterpret_cast<std::uintptr_t>(plane.data) % PIXEL == 0 && plane.stride % PIXEL == 0;
 }
 
 QImage Copy(const Plane& plane, const FrameFormat& format)
@@ -59,7 +60,7 @@ QImage ImageUtils::FrameToImage(const boost::intrusive_ptr<Proc::IDataVideo>& fr
 
     const Plane& plane = source->GetPlanes()[0];
     const FrameFormat& format = source->GetFormat();
-    if (!IsAligned(plane))
+    if (!IsImageMemory(plane))
         return Copy(plane, format);
     QImage image(plane.data, format.width, format.height, plane.stride, FORMAT, LetGo, source.get());
     if (!image.isNull())

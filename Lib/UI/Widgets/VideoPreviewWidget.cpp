@@ -33,6 +33,31 @@ bool Exceeds(const QSize& size, const QSize& area)
     return size.width() > area.width() || size.height() > area.height();
 }
 
+// Makes the picture of a frame opaque: the fourth byte of its pixels has any value, and would make holes in a window
+// with a translucent background.
+QImage Opaque(QImage image)
+{
+    if (image.hasAlphaChannel())
+        return std::move(image).convertToFormat(QImage::Format_RGB32);
+    if (image.format() != QImage::Format_RGB32)
+        return image;
+    constexpr QRgb ALPHA = 0xff000000;
+    QRgb common = ALPHA;
+    for (int y = 0; y < image.height(); ++y) {
+        const auto* row = reinterpret_cast<const QRgb*>(image.constScanLine(y));
+        for (int x = 0; x < image.width(); ++x)
+            common &= row[x];
+    }
+    if (common == ALPHA) // as usual; a picture that fits is shown without a copy
+        return image;
+    for (int y = 0; y < image.height(); ++y) {
+        auto* row = reinterpret_cast<QRgb*>(image.scanLine(y));
+        for (int x = 0; x < image.width(); ++x)
+            row[x] |= ALPHA;
+    }
+    return image;
+}
+
 class AccessibleVideo : public Common::AccessibleAs<QAccessible::Graphic>
 {
 public:
@@ -205,7 +230,7 @@ void VideoPreviewWidget::UpdateView(const boost::intrusive_ptr<Proc::IDataVideo>
     const QSize area = impl->Area();
     if (Exceeds(image.size(), area))
         image = image.scaled(area, Qt::KeepAspectRatio, Qt::FastTransformation);
-    QPixmap pixmap = QPixmap::fromImage(std::move(image));
+    QPixmap pixmap = QPixmap::fromImage(Opaque(std::move(image)));
     const QRect rect = CenteredRect(area, pixmap.size());
     impl->SetFrame(std::move(pixmap), rect);
 }

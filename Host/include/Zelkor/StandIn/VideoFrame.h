@@ -23,7 +23,9 @@ struct FrameFormat
     ColorRange range = ColorRange::Limited;
 };
 
-/// Rows of samples. `size` is the number of bytes from the first row's start that belong to the plane.
+/// Rows of samples. `data` is the start of the top row, and each row begins `stride` bytes after the one above it; the
+/// stride of a bottom-up picture is negative. `size` is the number of bytes of the plane, counted from the start of the
+/// row with the lowest address.
 struct Plane
 {
     const std::uint8_t* data = nullptr;

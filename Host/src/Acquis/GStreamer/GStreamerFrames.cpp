@@ -45,12 +45,15 @@ struct MappedFrame
     const bool isMapped;
 };
 
-/// What is left of the memory that `start` lies in.
-std::size_t BytesFrom(const std::uint8_t* start, const GstVideoFrame& frame)
+/// The bytes of the memory that a plane's top row lies in, as `Plane::size` counts them.
+std::size_t BytesOf(const Plane& plane, const GstVideoFrame& frame)
 {
     for (const auto& map : frame.map) {
-        if (map.data && map.data <= start && start < map.data + map.size)
-            return std::size_t(map.data + map.size - start);
+        if (!map.data || plane.data < map.data || plane.data >= map.data + map.size)
+            continue;
+        const auto before = std::size_t(plane.data - map.data);
+        const std::size_t after = map.size - before;
+        return plane.stride < 0 ? before + std::min(after, std::size_t(-std::int64_t{plane.stride})) : after;
     }
     return 0;
 }
@@ -130,7 +133,7 @@ boost::intrusive_ptr<VideoFrame> WrapSample(GstSample* sample, std::int64_t time
     for (guint i = 0; i < GST_VIDEO_FRAME_N_PLANES(&frame) && i < planes.size(); ++i) {
         planes[i].data = static_cast<const std::uint8_t*>(GST_VIDEO_FRAME_PLANE_DATA(&frame, i));
         planes[i].stride = GST_VIDEO_FRAME_PLANE_STRIDE(&frame, i);
-        planes[i].size = BytesFrom(planes[i].data, frame);
+        planes[i].size = BytesOf(planes[i], frame);
     }
     return VideoFrame::Reference(format, planes, mapped, time);
 }

@@ -118,6 +118,27 @@ private Q_SLOTS:
         QCOMPARE(log.Lines().size(), 2);
     }
 
+    void framesAreOpaque_data()
+    {
+        QTest::addColumn<QSize>("size");
+        QTest::newRow("as large as the preview") << QSize(64, 48);
+        QTest::newRow("shrunk") << QSize(128, 96);
+    }
+
+    void framesAreOpaque()
+    {
+        QFETCH(QSize, size);
+        VideoPreviewWidget preview(nullptr);
+        preview.setAttribute(Qt::WA_TranslucentBackground);
+        preview.SetPreviewWidth(64);
+        preview.SetPreviewHeight(48);
+        preview.UpdateView(SolidFrame(size, QColor(10, 200, 30), 0));
+        QImage window(64, 48, QImage::Format_ARGB32_Premultiplied);
+        window.fill(Qt::transparent);
+        preview.render(&window, QPoint(), QRegion(), QWidget::RenderFlags());
+        QCOMPARE(window.pixelColor(32, 24), QColor(10, 200, 30));
+    }
+
     // The GUI thread is busy; of all that came meanwhile the newest frame is painted, at one repaint, and of the others
     // nothing is left.
     void busyGuiThreadPaintsTheNewestFrame()
