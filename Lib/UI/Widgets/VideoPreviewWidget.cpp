@@ -13,6 +13,8 @@
 #include <QPixmap>
 #include <QThread>
 
+#include <algorithm>
+#include <array>
 #include <mutex>
 #include <utility>
 
@@ -42,13 +44,21 @@ QImage Opaque(QImage image)
     if (image.format() != QImage::Format_RGB32)
         return image;
     constexpr QRgb ALPHA = 0xff000000;
-    QRgb common = ALPHA;
+    constexpr int STEP = 16; // a fixed number of pixels at a time, for the compiler to use vectors
+    std::array<QRgb, STEP> common;
+    common.fill(ALPHA);
     for (int y = 0; y < image.height(); ++y) {
         const auto* row = reinterpret_cast<const QRgb*>(image.constScanLine(y));
-        for (int x = 0; x < image.width(); ++x)
-            common &= row[x];
+        int x = 0;
+        for (; x + STEP <= image.width(); x += STEP) {
+            for (int i = 0; i < STEP; ++i)
+                common[i] &= row[x + i];
+        }
+        for (; x < image.width(); ++x)
+            common[0] &= row[x];
     }
-    if (common == ALPHA) // as usual; a picture that fits is shown without a copy
+    // As usual; a picture that fits is shown without a copy.
+    if (std::all_of(common.begin(), common.end(), [](QRgb pixels) { return pixels == ALPHA; }))
         return image;
     for (int y = 0; y < image.height(); ++y) {
         auto* row = reinterpret_cast<QRgb*>(image.scanLine(y));
