@@ -7,17 +7,20 @@
 #include <Zelkor/StandIn/CaptureEngine.h>
 
 #include <QCoreApplication>
+#include <QEvent>
 #include <QEventLoop>
 #include <QLabel>
 #include <QTimer>
 
 #include <libyuv.h>
 
+#include <algorithm>
 #include <chrono>
 #include <cstring>
 #include <ctime>
 #include <memory>
 #include <thread>
+#include <vector>
 
 using namespace Zelkor;
 
@@ -85,11 +88,15 @@ Rounds UpdateViewConverted()
 Rounds UpdateViewUnconverted()
 {
     const auto preview = MakePreview();
-    const auto frame = MakeFrame(Proc::PixFmt::BGRA);
-    const boost::intrusive_ptr<Proc::IDataVideo> asVideo = frame;
+    // More than the cache holds, as it is with a camera.
+    std::vector<boost::intrusive_ptr<StandIn::VideoFrame>> frames(12);
+    std::generate(frames.begin(), frames.end(), [] { return MakeFrame(Proc::PixFmt::BGRA); });
+    std::size_t shown = 0;
+    std::size_t copied = 0;
     std::vector<std::uint8_t> copy(size_t(WIDTH) * HEIGHT * 4);
-    return Interleave([&] { preview->UpdateView(asVideo); },
+    return Interleave([&] { preview->UpdateView(frames[++shown % frames.size()]); },
                       [&] {
+                          const auto& frame = frames[++copied % frames.size()];
                           std::memcpy(copy.data(), frame->GetPlanes()[0].data, copy.size());
                           // The copy is for somebody, as far as the compiler knows.
                           asm volatile("" : : "r"(copy.data()) : "memory");
@@ -115,29 +122,47 @@ Rounds PaintUnchangedFrame()
     return Interleave([&] { paint(*preview); }, [&] { paint(label); }, 61, 200);
 }
 
-// A device that has one frame and stays open: what costs is the reading, not the capturing.
-class OneFrameDevice : public StandIn::CaptureDevice
+constexpr std::chrono::milliseconds PERIOD(1000 / FRAME_RATE);
+
+// A device that delivers a few frames in turn: what costs is the reading, not the capturing. It delivers in the
+// middle between two reads, so that each read gets another frame.
+class FewFramesDevice : public StandIn::CaptureDevice
 {
 public:
-    OneFrameDevice()
-        : CaptureDevice(Kind::Other, "one-frame", "One frame",
-                        {new StandIn::VideoMode("only", StandIn::FrameFormat(), {{FRAME_RATE, 1}})})
+    explicit FewFramesDevice(std::size_t count)
+        : CaptureDevice(Kind::Other, "few-frames", "Few frames",
+                        {new StandIn::VideoMode("only", StandIn::FrameFormat(), {{FRAME_RATE, 1}})}),
+          count(count)
     {}
 
     std::unique_ptr<StandIn::CaptureSource> CreateSource(const StandIn::VideoMode&) const override
     {
         struct Source : StandIn::CaptureSource
         {
+            explicit Source(std::size_t count) : frames(count)
+            {
+                std::generate(frames.begin(), frames.end(), [] { return MakeFrame(Proc::PixFmt::NV12); });
+            }
+
             StandIn::CaptureError Run(StandIn::SourceChannel& channel) override
             {
-                channel.Deliver(MakeFrame(Proc::PixFmt::NV12));
-                while (!channel.WaitForEnd(std::chrono::steady_clock::now() + std::chrono::hours(1))) {
+                std::size_t number = 0;
+                channel.Deliver(frames[0]);
+                auto deadline = std::chrono::steady_clock::now() + PERIOD / 2;
+                while (!channel.WaitForEnd(deadline)) {
+                    channel.Deliver(frames[++number % frames.size()]);
+                    deadline += PERIOD;
                 }
                 return StandIn::CaptureError::None;
             }
+
+            std::vector<boost::intrusive_ptr<StandIn::VideoFrame>> frames;
         };
-        return std::make_unique<Source>();
+        return std::make_unique<Source>(count);
     }
+
+private:
+    const std::size_t count;
 };
 
 // Seconds of processor time, of all threads, while the event loop runs.
@@ -156,9 +181,8 @@ Rounds WorkerAtSixtyFrames()
     constexpr int ROUNDS = 5;
     const auto preview = MakePreview(); // not shown: the GUI thread has nothing to paint
     auto* stream = new Vx::WebCameraPreviewStream(preview.get());
-    const boost::intrusive_ptr<StandIn::CaptureDevice> device(new OneFrameDevice);
+    const boost::intrusive_ptr<StandIn::CaptureDevice> device(new FewFramesDevice(3));
     BareConversion conversion(MakeFrame(Proc::PixFmt::NV12));
-    const std::chrono::milliseconds period(1000 / FRAME_RATE);
 
     Rounds result;
     for (int i = 0; i < ROUNDS; ++i) {
@@ -171,8 +195,8 @@ Rounds WorkerAtSixtyFrames()
 
         std::thread pacedConversion([&] {
             auto deadline = std::chrono::steady_clock::now();
-            for (auto spent = period; spent <= ROUND; spent += period) {
-                std::this_thread::sleep_until(deadline += period);
+            for (auto spent = PERIOD; spent <= ROUND; spent += PERIOD) {
+                std::this_thread::sleep_until(deadline += PERIOD);
                 conversion();
             }
         });
@@ -180,6 +204,32 @@ Rounds WorkerAtSixtyFrames()
         pacedConversion.join();
     }
     return result;
+}
+
+// Conversions while the device delivers one frame again and again, after the first one. Each one has the preview ask
+// the GUI thread for a repaint.
+Rounds ShownFrame()
+{
+    struct RequestCounter : QObject
+    {
+        bool eventFilter(QObject*, QEvent* event) override
+        {
+            requests += event->type() == QEvent::User;
+            return false;
+        }
+        int requests = 0;
+    } counter;
+    const auto preview = MakePreview();
+    preview->installEventFilter(&counter);
+    auto* stream = new Vx::WebCameraPreviewStream(preview.get());
+    stream->SetDevice(new FewFramesDevice(1), "only", FRAME_RATE);
+    stream->StartStream();
+    while (counter.requests == 0)
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    counter.requests = 0;
+    ProcessorTimeOf(std::chrono::milliseconds(500));
+    stream->StopStream();
+    return {{double(counter.requests)}, {1.0}};
 }
 
 } // namespace
@@ -195,6 +245,7 @@ std::vector<Row> PreviewRows()
          PaintUnchangedFrame},
         {"worker-60", "worker at 60 frames a second, 1080p, GUI idle", "processor time of the conversion alone", 1.5,
          WorkerAtSixtyFrames},
+        {"shown-frame", "a frame that the stream has shown already: conversions", "one conversion", 0, ShownFrame},
     };
 }
 
