@@ -2,6 +2,7 @@
 
 #include <UI/Kit/TimeFormat.h>
 
+#include <QCoreApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QPointer>
@@ -16,6 +17,30 @@ const QString SHRINK_WIDTH = QStringLiteral("shrinkWidth");
 constexpr char FORCE_MAXIMUM[] = "forceMaxtimeFormat";
 constexpr int TEXT_MARGINS = 4; // what the line edit leaves free on both sides of its text
 constexpr int LAST_MILLISECOND = 24 * 60 * 60 * 1000 - 1;
+constexpr int HALF_DAY_HOURS = 12;
+
+bool IsAfternoon(const QTime& time)
+{
+    return time.hour() >= HALF_DAY_HOURS;
+}
+
+QString WithLatinDigits(QString text)
+{
+    for (QChar& character : text) {
+        if (character.isDigit())
+            character = QChar('0' + character.digitValue());
+    }
+    return text;
+}
+
+/// The text with zeros for digits in a part of it.
+QString WithZeros(QString text, int position, int length)
+{
+    const auto begin = text.begin() + position;
+    std::replace_if(
+        begin, begin + length, [](QChar character) { return character.isDigit(); }, QChar('0'));
+    return text;
+}
 
 bool IsEnter(const QKeyEvent& event)
 {
@@ -42,9 +67,6 @@ ZTimeEdit::ZTimeEdit(QWidget* parent) : QTimeEdit(parent)
     watchCursor();
     // Qt would turn the sections around, and the format with them.
     setLayoutDirection(Qt::LeftToRight);
-    // It does not read other digits than these, though it writes them.
-    if (locale().zeroDigit() != '0')
-        setLocale(QLocale::c());
     connect(this, SIGNAL(dateTimeChanged(const QDateTime&)), this, SLOT(updateStyle()));
     setWrapping(true);
     setFocusPolicy(Qt::StrongFocus);
@@ -91,6 +113,10 @@ void ZTimeEdit::setStyleTag(const QString& tag)
         currentStyleTag = tag;
         style()->unpolish(this);
         style()->polish(this);
+        // A new look may need another size, which the base class keeps until then.
+        QEvent change(QEvent::StyleChange);
+        QCoreApplication::sendEvent(this, &change);
+        updateGeometry();
     }
     updateStyle();
 }
@@ -161,9 +187,28 @@ void ZTimeEdit::chooseFormat()
     edit->setCursorPosition(qMax(0, edit->text().size() - fromEnd));
 }
 
+// Parts of the time that the format does not show keep their value.
 QTime ZTimeEdit::read(const QString& text) const
 {
-    return locale().toTime(text, displayFormat());
+    const QTime shown = locale().toTime(text, displayFormat());
+    if (!shown.isValid())
+        return shown;
+    const QTime previous = time();
+    const Sections sections = displayedSections();
+    int hour = shown.hour();
+    if (!sections.testFlag(HourSection)) {
+        const bool isAfternoon = sections.testFlag(AmPmSection) ? IsAfternoon(shown) : IsAfternoon(previous);
+        hour = previous.hour() % HALF_DAY_HOURS + (isAfternoon ? HALF_DAY_HOURS : 0);
+    }
+    return QTime(hour, sections.testFlag(MinuteSection) ? shown.minute() : previous.minute(),
+                 sections.testFlag(SecondSection) ? shown.second() : previous.second(),
+                 sections.testFlag(MSecSection) ? shown.msec() : previous.msec());
+}
+
+// Qt writes the digits of every locale but reads only these in all of them.
+QString ZTimeEdit::textFromDateTime(const QDateTime& dateTime) const
+{
+    return WithLatinDigits(QTimeEdit::textFromDateTime(dateTime));
 }
 
 bool ZTimeEdit::event(QEvent* event)
@@ -183,22 +228,38 @@ bool ZTimeEdit::focusNextPrevChild(bool next)
 
 void ZTimeEdit::keyPressEvent(QKeyEvent* event)
 {
+    const int digit = TypedDigit(*event);
+    if (digit >= 0) {
+        QKeyEvent latin(event->type(), event->key(), event->modifiers(), QString::number(digit), event->isAutoRepeat());
+        typeDigit(latin, digit);
+        event->setAccepted(latin.isAccepted());
+    } else if (!isReadOnly() && IsDeletion(*event) && lineEdit()->hasSelectedText()) {
+        clearSelection(event->matches(QKeySequence::Cut));
+    } else if (currentSection() == AmPmSection && (event->key() == Qt::Key_Up || event->key() == Qt::Key_Down)) {
+        setAfternoon(event->key() == Qt::Key_Up);
+    } else {
+        const QString before = lineEdit()->text();
+        const QTime timeBefore = time();
+        if (!letQt([&] { QTimeEdit::keyPressEvent(event); }))
+            return;
+        if (IsEnter(*event))
+            finish();
+        else if (IsDeletion(*event) && lineEdit()->text().size() < before.size())
+            fillGap(before, timeBefore);
+    }
+}
+
+void ZTimeEdit::typeDigit(QKeyEvent& event, int digit)
+{
     const QString before = lineEdit()->text();
     const QTime timeBefore = time();
-    if (!letQt([&] { QTimeEdit::keyPressEvent(event); }))
+    if (!letQt([&] { QTimeEdit::keyPressEvent(&event); }))
         return;
-    if (IsEnter(*event)) {
-        finish();
-        return;
-    }
     const QString after = lineEdit()->text();
-    const int digit = TypedDigit(*event);
-    // A digit typed over several ones may leave a time nevertheless, where the format has no leading zeros. Other keys,
-    // those that step for example, shorten the text without leaving a gap.
-    const bool leavesGap = digit < 0 ? IsDeletion(*event) : !read(after).isValid();
-    if (after.size() < before.size() && leavesGap)
+    // A digit typed over several ones may leave a time nevertheless, where the format has no leading zeros.
+    if (after.size() < before.size() && !read(after).isValid())
         fillGap(before, timeBefore);
-    else if (after == before && digit >= 0 && !isReadOnly())
+    else if (after == before && !isReadOnly())
         overwrite(digit);
 }
 
@@ -216,16 +277,39 @@ void ZTimeEdit::fillGap(const QString& before, const QTime& timeBefore)
 {
     const QString after = lineEdit()->text();
     const int position = lineEdit()->cursorPosition();
-    QString gap = before.mid(position, before.size() - after.size());
-    std::replace_if(
-        gap.begin(), gap.end(), [](QChar character) { return character.isDigit(); }, QChar('0'));
-    const QTime filled = read(after.left(position) + gap + after.mid(position));
+    const int length = before.size() - after.size();
+    const QString gap = before.mid(position, length);
+    setTimeOf(WithZeros(after.left(position) + gap + after.mid(position), position, length), position, timeBefore);
+}
+
+// Qt deletes nothing that reaches over the end of a section.
+void ZTimeEdit::clearSelection(bool toClipboard)
+{
+    if (toClipboard)
+        lineEdit()->copy();
+    const int position = lineEdit()->selectionStart();
+    setTimeOf(WithZeros(lineEdit()->text(), position, lineEdit()->selectionLength()), position, time());
+}
+
+void ZTimeEdit::setTimeOf(const QString& text, int position, const QTime& fallback)
+{
+    const QTime read = this->read(text);
     const QPointer<ZTimeEdit> self(this);
-    setTimeClamped(filled.isValid() ? filled : timeBefore);
+    setTimeClamped(read.isValid() ? read : fallback);
     if (!self)
         return;
     updateStyle();
     lineEdit()->setCursorPosition(position);
+}
+
+void ZTimeEdit::setAfternoon(bool on)
+{
+    if (isReadOnly() || on == IsAfternoon(time()))
+        return;
+    const QPointer<ZTimeEdit> self(this);
+    setTimeClamped(time().addSecs(HALF_DAY_HOURS * 60 * 60));
+    if (self)
+        setSelectedSection(AmPmSection);
 }
 
 void ZTimeEdit::overwrite(int digit)
@@ -287,7 +371,7 @@ void ZTimeEdit::showEvent(QShowEvent* event)
 void ZTimeEdit::changeEvent(QEvent* event)
 {
     QTimeEdit::changeEvent(event);
-    if (event->type() == QEvent::FontChange)
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::LocaleChange)
         updateStyle();
     else if (event->type() == QEvent::LayoutDirectionChange && isRightToLeft())
         setLayoutDirection(Qt::LeftToRight);

@@ -6,12 +6,13 @@
 #include <functional>
 
 /// A field for a time of day, of which the digits are overwritten where they stand: a typed digit replaces the one at
-/// the cursor, and a deleted one leaves a zero. What would be no time is not taken, and beyond the minimum or maximum
-/// the time becomes that.
+/// the cursor, and a deleted one leaves a zero. Parts of the time that the format does not show keep their value. What
+/// would be no time is not taken, and beyond the minimum or maximum the time becomes that. Digits are shown as 0 to 9
+/// and can be typed in the digits of any script.
 ///
 /// The display format can be chosen from a list, as the one that loses least: of the time, or of the maximum time while
 /// the field has the focus or its dynamic property "forceMaxtimeFormat" is true. Keys, buttons and wheel step the
-/// section at the cursor and stop at midnight. The wheel steps in focus only.
+/// section at the cursor and stop at midnight; on AM/PM, only the keys Up and Down act. The wheel steps in focus only.
 ///
 /// It lies from left to right in every layout direction, as times are written. GUI thread only.
 ///
@@ -53,6 +54,7 @@ Q_SIGNALS:
     void EnterPressed();
 
 protected:
+    QString textFromDateTime(const QDateTime& dateTime) const override;
     bool event(QEvent* event) override;
     bool focusNextPrevChild(bool next) override;
     void keyPressEvent(QKeyEvent* event) override;
@@ -69,6 +71,10 @@ private:
     QTime read(const QString& text) const;
     void chooseFormat();
     void finish();
+    void typeDigit(QKeyEvent& event, int digit);
+    void setTimeOf(const QString& text, int position, const QTime& fallback);
+    void clearSelection(bool toClipboard);
+    void setAfternoon(bool on);
     void fillGap(const QString& before, const QTime& timeBefore);
     void overwrite(int digit);
 

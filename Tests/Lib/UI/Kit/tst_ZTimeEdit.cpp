@@ -60,8 +60,8 @@ private Q_SLOTS:
             {"hh:mm:ss",
              {"|12:34:56 5 |12:34:56", "1|2:34:56 5 15:|34:56", "|12:34:56 235958 23:59:58|", "2|0:34:56 4 2|0:34:56",
               "12|:34:56 5 12:5|4:56", "12:34:56| 5 12:34:56|", "|00|:00:00 0930 09:30:|00", "|12:34:56| 23 23:|34:56",
-              "12:34:56| << 12:34:|00", "1|1:11:11 < |01:11:11", "12:|34|:56 > 12:|00:56", "12:|34:56 <x 12:|34:56",
-              "|12:34:56| *! 01:02:03|"}},
+              "12:34:56| << 12:34:|00", "1|1:11:11 < |01:11:11", "12:|34|:56 > 12:|00:56", "|12:34:56| > |00:00:00",
+              "12|:34:|56 < 12|:00:56", "12:|34:56 <x 12:|34:56", "|12:34:56| *! 01:02:03|"}},
             {"hh:mm:ss.zzz", {"12:34:56.7|89 5< 12:34:56.7|09", "12:34:56.|789| 1 12:34:56.1|00"}},
             {"h:mm", {"|9:30 1 1|9:30", "19|:30 < 1|0:30", "|12|:30 1 1|:30"}},
             {"h:mm_AP",
@@ -88,6 +88,84 @@ private Q_SLOTS:
                 QCOMPARE(field.text(), QString(parts[2]).remove('|'));
             }
         }
+    }
+
+    void hiddenPartsKeepTheirValue_data()
+    {
+        QTest::addColumn<QString>("format");
+        QTest::addColumn<int>("key");
+        QTest::addColumn<QTime>("expected");
+        QTest::newRow("Backspace, hours hidden") << "mm:ss" << int(Qt::Key_Backspace) << QTime(14, 20, 36, 500);
+        QTest::newRow("digit, hours hidden") << "mm:ss" << int(Qt::Key_1) << QTime(14, 15, 36, 500);
+        QTest::newRow("Backspace, only minutes shown") << "mm" << int(Qt::Key_Backspace) << QTime(14, 20, 36, 500);
+        QTest::newRow("hours hidden but for AM/PM") << "mm_AP" << int(Qt::Key_Backspace) << QTime(14, 20, 36, 500);
+        QTest::newRow("seconds hidden") << "mm.zzz" << int(Qt::Key_Backspace) << QTime(14, 20, 36, 500);
+    }
+
+    void hiddenPartsKeepTheirValue()
+    {
+        QFETCH(QString, format);
+        QFETCH(int, key);
+        QFETCH(QTime, expected);
+        Field field(format);
+        field.setTime({14, 25, 36, 500});
+        field.lineEdit()->setCursorPosition(key == Qt::Key_1 ? 0 : 2);
+        QTest::keyClick(&field, Qt::Key(key));
+        QCOMPARE(field.time(), expected);
+    }
+
+    void digitsOfOtherScriptsAreTypedAndShownAsLatinOnes_data()
+    {
+        QTest::addColumn<bool>("isOfParent");
+        QTest::newRow("locale of the parent") << true;
+        QTest::newRow("locale of the field") << false;
+    }
+
+    void digitsOfOtherScriptsAreTypedAndShownAsLatinOnes()
+    {
+        QFETCH(bool, isOfParent);
+        QWidget window;
+        Field field("hh:mm:ss AP", &window);
+        field.setStyleTag("shrinkWidth");
+        field.setTime({14, 25, 36});
+        window.show();
+        const QLocale arabic("ar_EG");
+        (isOfParent ? &window : &field)->setLocale(arabic);
+        QCOMPARE(field.text(), "02:25:36 " + arabic.pmText());
+        QCOMPARE(field.width(), field.fontMetrics().horizontalAdvance(field.text()) + 4);
+        field.lineEdit()->setCursorPosition(0);
+        QTest::sendKeyEvent(QTest::Click, &field, Qt::Key_unknown, QString(QChar(0x0661)), Qt::NoModifier);
+        QCOMPARE(field.time(), QTime(12, 25, 36));
+        field.type("9");
+        QCOMPARE(field.time(), QTime(12, 25, 36));
+        field.type("1");
+        QCOMPARE(field.time(), QTime(23, 25, 36));
+    }
+
+    void upAndDownSwitchTheHalfOfTheDay()
+    {
+        Field field("hh:mm AP");
+        field.setTime({10, 30});
+        field.setCurrentSection(QTimeEdit::AmPmSection);
+        field.type("_^");
+        QCOMPARE(field.time(), QTime(22, 30));
+        field.type("^");
+        QCOMPARE(field.time(), QTime(22, 30));
+        field.type("_");
+        QCOMPARE(field.time(), QTime(10, 30));
+    }
+
+    void sizeHintFollowsTheStyleTag()
+    {
+        QWidget window;
+        window.setStyleSheet("ZTimeEdit[styleTag=\"big\"] { padding: 20px }");
+        Field early("hh:mm", &window);
+        early.setStyleTag("big");
+        Field late("hh:mm", &window);
+        window.show();
+        QVERIFY(late.sizeHint().height() < early.sizeHint().height());
+        late.setStyleTag("big");
+        QCOMPARE(late.sizeHint(), early.sizeHint());
     }
 
     void steps()
