@@ -12,6 +12,15 @@ namespace {
 // Kept for the arrow and the margins, whatever the style makes of them.
 constexpr int ARROW_SPACE = 30;
 
+// Of the text, in average characters; where items are longer, the box elides them.
+constexpr int LEAST_SHOWN = 5;
+constexpr int MOST_PREFERRED = 40;
+
+int WidthFor(const QWidget& box, int characters)
+{
+    return box.fontMetrics().averageCharWidth() * characters + ARROW_SPACE;
+}
+
 } // namespace
 
 ClickSoundComboBox::ClickSoundComboBox(QWidget* parent) : QComboBox(parent)
@@ -21,6 +30,22 @@ ClickSoundComboBox::ClickSoundComboBox(QWidget* parent) : QComboBox(parent)
 }
 
 ClickSoundComboBox::~ClickSoundComboBox() = default;
+
+QSize ClickSoundComboBox::sizeHint() const
+{
+    QSize size = QComboBox::sizeHint();
+    size.setWidth(qMax(qMin(size.width(), WidthFor(*this, MOST_PREFERRED)), minimumSizeHint().width()));
+    return size;
+}
+
+QSize ClickSoundComboBox::minimumSizeHint() const
+{
+    QSize size = QComboBox::minimumSizeHint();
+    // With a minimum length, which the application chose, the base class asks for no more.
+    if (minimumContentsLength() == 0)
+        size.setWidth(qMin(size.width(), WidthFor(*this, LEAST_SHOWN)));
+    return size;
+}
 
 void ClickSoundComboBox::paintEvent(QPaintEvent*)
 {

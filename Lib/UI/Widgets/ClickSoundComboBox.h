@@ -18,6 +18,12 @@ public:
     explicit ClickSoundComboBox(QWidget* parent = nullptr);
     ~ClickSoundComboBox() override;
 
+    /// The width for the longest item, up to about 40 characters.
+    QSize sizeHint() const override;
+
+    /// The width for the longest item, up to about 5 characters; for `minimumContentsLength` when that is set.
+    QSize minimumSizeHint() const override;
+
 protected:
     void paintEvent(QPaintEvent* event) override;
 };

@@ -24,6 +24,29 @@ class tst_ClickSoundComboBox : public Support::TestCase
     Q_OBJECT
 
 private Q_SLOTS:
+    void sizeHintsAreBounded_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<int>("minimumLength");
+        QTest::newRow("short text") << "On" << 0;
+        QTest::newRow("long text") << LONG_TEXT.repeated(9) << 0;
+        QTest::newRow("long text, minimum length") << LONG_TEXT.repeated(9) << 60;
+    }
+
+    void sizeHintsAreBounded()
+    {
+        QFETCH(QString, text);
+        QFETCH(int, minimumLength);
+        ClickSoundComboBox box;
+        box.setMinimumContentsLength(minimumLength);
+        box.addItem(text);
+        const int least = box.fontMetrics().averageCharWidth() * minimumLength;
+        QVERIFY(box.minimumSizeHint().width() >= least);
+        QVERIFY(box.minimumSizeHint().width() <= 100 + least * 2);
+        QVERIFY(box.sizeHint().width() >= box.minimumSizeHint().width());
+        QVERIFY(box.sizeHint().width() <= 400 + least * 2);
+    }
+
     void longTextStaysOffTheArrow()
     {
         // 20 is narrower than the arrow.
