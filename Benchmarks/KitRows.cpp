@@ -3,6 +3,7 @@
 #include <UI/Kit/QLedMatrix.h>
 #include <UI/Kit/ZComboBox.h>
 #include <UI/Kit/ZLabel.h>
+#include <UI/Kit/ZTimeEdit.h>
 #include <UI/Kit/ZUndoStack.h>
 
 #include <QCoreApplication>
@@ -147,6 +148,25 @@ Rounds LongList()
     return Interleave(OpenLongList<ZComboBox>(items), OpenLongList<QComboBox>(items), 5, 1);
 }
 
+// New times for a field with a list of formats, of which none shows them without loss.
+std::function<void()> UpdateTime(ZTimeEdit& field, int formats)
+{
+    const QString parts[] = {QStringLiteral("hh"), QStringLiteral("hh:mm"), QStringLiteral("mm"),
+                             QStringLiteral("h:mm AP")};
+    QStringList list;
+    for (int i = 0; i < formats; ++i)
+        list += QStringLiteral("%1' %2'").arg(parts[i % 4]).arg(i);
+    field.setDisplayFormatList(list);
+    return [&field, seconds = 0]() mutable { field.setTime(QTime(1, 2, ++seconds % 60)); };
+}
+
+Rounds TimeFormats()
+{
+    ZTimeEdit many;
+    ZTimeEdit few;
+    return Interleave(UpdateTime(many, 100000), UpdateTime(few, 4), 31, 20);
+}
+
 } // namespace
 
 std::vector<Row> KitRows()
@@ -157,6 +177,7 @@ std::vector<Row> KitRows()
         {"undo", "undo stack, 10^6 push, undo, redo", "QUndoStack", 0.5, UndoStack},
         {"label-text", "ZLabel::setOriginalText and repaint, text fits", "QLabel::setText and repaint", 1.5, LabelText},
         {"combo-open", "ZComboBox, list of 10^5 items opened", "QComboBox", 1.3, LongList},
+        {"time-formats", "ZTimeEdit, new time with 10^5 formats", "the same with 4 formats", 1.2, TimeFormats},
     };
 }
 

@@ -1,6 +1,7 @@
 #include <UI/Kit/TimeFormat.h>
 
 #include <QLocale>
+#include <QSet>
 #include <QTime>
 
 #include <cstdlib>
@@ -15,7 +16,45 @@ bool ShowsTime(const QString& format)
     return QLocale::c().toString(QTime(1, 2, 3, 4), format) != QLocale::c().toString(QTime(14, 15, 16, 17), format);
 }
 
+// The parts of a time in a format, and what separates them: ':' or, where it begins with a digit that a number before
+// it may swallow, '0'. Formats of the same shape lose the same.
+QString ShapeOf(const QString& format)
+{
+    const QString partLetters = QStringLiteral("hHmszaApPtdMy");
+    if (format.count('\'') % 2 != 0 || format.contains(QLatin1String("''")))
+        return format;
+    QString shape;
+    bool isQuoted = false;
+    bool isSeparated = false;
+    for (const QChar character : format) {
+        if (character == '\'') {
+            isQuoted = !isQuoted;
+        } else if (!isQuoted && partLetters.contains(character)) {
+            shape += character;
+            isSeparated = false;
+        } else if (!isSeparated) {
+            shape += character.isDigit() ? '0' : ':';
+            isSeparated = true;
+        }
+    }
+    return shape;
+}
+
 } // namespace
+
+QStringList DistinctTimeFormats(const QStringList& formats)
+{
+    QSet<QString> shapes;
+    QStringList distinct;
+    for (const QString& format : formats) {
+        const QString shape = ShapeOf(format);
+        if (shapes.contains(shape))
+            continue;
+        shapes.insert(shape);
+        distinct += format;
+    }
+    return distinct;
+}
 
 QString ChooseTimeFormat(const QStringList& formats, const QTime& time)
 {
@@ -32,6 +71,8 @@ QString ChooseTimeFormat(const QStringList& formats, const QTime& time)
             choice = format;
             smallestLoss = loss;
         }
+        if (smallestLoss == 0)
+            break;
     }
     return choice;
 }

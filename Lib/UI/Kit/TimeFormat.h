@@ -9,5 +9,9 @@ class QTime;
 /// back. Formats that show no part of a time do not count; empty when no other is there.
 QString ChooseTimeFormat(const QStringList& formats, const QTime& time);
 
+/// The first of each kind among `formats` that loses alike, whatever the time. ChooseTimeFormat() chooses the same from
+/// these, in a time that does not grow with a list of many variants of few formats.
+QStringList DistinctTimeFormats(const QStringList& formats);
+
 /// `time` in the format chosen from `formats`, or as "hh:mm:ss" when there is none.
 QString TimeText(const QTime& time, const QStringList& formats, const QLocale& locale);

@@ -123,7 +123,10 @@ void ZTimeEdit::setStyleTag(const QString& tag)
 
 void ZTimeEdit::setDisplayFormatList(const QStringList& list)
 {
-    formats = list;
+    if (formats != list) {
+        formats = list;
+        distinctFormats = DistinctTimeFormats(list);
+    }
     updateStyle();
 }
 
@@ -169,7 +172,7 @@ void ZTimeEdit::updateStyle()
 void ZTimeEdit::chooseFormat()
 {
     const bool isForMaximum = hasFocus() || property(FORCE_MAXIMUM).toBool();
-    const QString format = ChooseTimeFormat(formats, isForMaximum ? maximumTime() : time());
+    const QString format = ChooseTimeFormat(distinctFormats, isForMaximum ? maximumTime() : time());
     if (format.isEmpty() || format == displayFormat())
         return;
     if (depthInQt > 0) {

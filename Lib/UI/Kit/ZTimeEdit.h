@@ -80,6 +80,7 @@ private:
 
     QString currentStyleTag;
     QStringList formats;
+    QStringList distinctFormats; ///< those among `formats` that an update has to try
     int stepOfMilliseconds = 1;
     int depthInQt = 0;        ///< of events and moves of the cursor that Qt is busy with
     bool formatWaits = false; ///< until it is done with them

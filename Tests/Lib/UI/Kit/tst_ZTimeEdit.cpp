@@ -1,3 +1,4 @@
+#include <UI/Kit/TimeFormat.h>
 #include <UI/Kit/ZTimeEdit.h>
 
 #include <Support/Input.h>
@@ -166,6 +167,22 @@ private Q_SLOTS:
         QVERIFY(late.sizeHint().height() < early.sizeHint().height());
         late.setStyleTag("big");
         QCOMPARE(late.sizeHint(), early.sizeHint());
+    }
+
+    void variantsOfAFormatCountOnce()
+    {
+        QStringList variants;
+        for (int i = 0; i < 1000; ++i)
+            variants += QString("hh:mm 'of take %1'").arg(i);
+        QCOMPARE(DistinctTimeFormats(variants).size(), 1);
+        // Digits after a number that has no leading zero, quotes in a text, letters of parts in quotes.
+        const QStringList formats{"'h'",        "h'1'mm", "h'x'mm", "h 1mm",   "hmm", "hhmm",     "h'h'mm",   "'m'hh",
+                                  "hh' o''ck'", "hh'",    "m:ss",   "m'2' ss", "yy",  "hh:mm AP", "hh'AP'mm", "s.z"};
+        for (int i = 0; i < formats.size(); ++i) {
+            const QStringList list = formats.mid(i) + formats.mid(0, i);
+            for (const QTime& time : {QTime(1, 2), QTime(1, 20, 3), QTime(21, 1, 45, 60), QTime(0, 0, 2, 300)})
+                QCOMPARE(ChooseTimeFormat(DistinctTimeFormats(list), time), ChooseTimeFormat(list, time));
+        }
     }
 
     void steps()
