@@ -133,6 +133,10 @@
         <source>This is no colour.</source>
         <translation>Das ist keine Farbe.</translation>
     </message>
+    <message>
+        <source>Qt does not accept this.</source>
+        <translation>Das nimmt Qt nicht an.</translation>
+    </message>
 </context>
 <context>
     <name>StyleSheetTargetBox</name>

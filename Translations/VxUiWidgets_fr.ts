@@ -133,6 +133,10 @@
         <source>This is no colour.</source>
         <translation>Ce n’est pas une couleur.</translation>
     </message>
+    <message>
+        <source>Qt does not accept this.</source>
+        <translation>Qt n’accepte pas ceci.</translation>
+    </message>
 </context>
 <context>
     <name>StyleSheetTargetBox</name>

@@ -133,6 +133,10 @@
         <source>This is no colour.</source>
         <translation>これは色ではありません。</translation>
     </message>
+    <message>
+        <source>Qt does not accept this.</source>
+        <translation>Qt はこれを受け付けません。</translation>
+    </message>
 </context>
 <context>
     <name>StyleSheetTargetBox</name>

@@ -3,6 +3,7 @@
 #include <UI/Kit/LineEnds.h>
 #include <UI/Kit/StyleSheetCompleter.h>
 #include <UI/Kit/StyleSheetHighlighter.h>
+#include <UI/Kit/StyleSheetVerdict.h>
 
 #include <algorithm>
 
@@ -33,6 +34,9 @@ void StyleSheetEdit::check()
 {
     const QString text = document()->toRawText().replace(QChar::ParagraphSeparator, QLatin1Char('\n'));
     found = StyleSheetSyntax::Check(text, scope);
+    // Where warnings are fatal, that of Qt would end the program.
+    const bool mayAsk = found.isEmpty() || !qEnvironmentVariableIsSet("QT_FATAL_WARNINGS");
+    accepted = mayAsk && StyleSheetVerdict::IsAccepted(source(), scope);
     markMistakes();
     // Before the first declaration ends, it could as well be a selector.
     const bool declarationsAlone =

@@ -27,6 +27,9 @@ public:
     /// Those that the last look found.
     const QVector<StyleSheetSyntax::Mistake>& mistakes() const { return found; }
 
+    /// Whether Qt accepts the text that was looked at last, with or without mistakes.
+    bool isAccepted() const { return accepted; }
+
     /// Goes to the next mistake behind the cursor, or to the first one.
     void goToNextMistake();
 
@@ -55,4 +58,5 @@ private:
     QString original; ///< the text that was set last
     StyleSheetSyntax::Scope scope = StyleSheetSyntax::Scope::APPLICATION;
     QVector<StyleSheetSyntax::Mistake> found;
+    bool accepted = true;
 };

@@ -1,6 +1,7 @@
 #include <UI/Kit/StyleSheetSyntax.h>
 
 #include <UI/Kit/StyleSheetTokens.h>
+#include <UI/Kit/StyleSheetVerdict.h>
 
 #include <QColor>
 #include <QCoreApplication>
@@ -43,6 +44,8 @@ public:
             declarations(NO_BRACE);
         else
             rules(false);
+        if (found.isEmpty() && !StyleSheetVerdict::IsAccepted(sheet, scope))
+            report(Problem::REFUSED, StyleSheetVerdict::FindRefused(sheet, scope));
     }
 
     QVector<Mistake> mistakes()
@@ -393,6 +396,8 @@ QString Describe(Problem problem)
         return Texts::tr("This cannot stand in a value.");
     case Problem::BAD_COLOR:
         return Texts::tr("This is no colour.");
+    case Problem::REFUSED:
+        return Texts::tr("Qt does not accept this.");
     }
     return {};
 }

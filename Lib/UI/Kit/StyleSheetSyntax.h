@@ -3,8 +3,8 @@
 #include <QString>
 #include <QVector>
 
-/// Finds the mistakes in a style sheet. Qt only says that it could not read a sheet, and drops it whole, or a part of
-/// it without a word; a person who writes one wants to know where.
+/// Finds the mistakes in a style sheet. Qt only says that it could not parse a sheet, and drops it whole, or drops a
+/// declaration silently; a person who writes one wants to know where.
 namespace StyleSheetSyntax {
 
 enum class Problem {
@@ -22,7 +22,8 @@ enum class Problem {
     NO_VALUE,         ///< nothing behind the ":"
     NO_SEMICOLON,     ///< two declarations with no ";" between them
     BAD_VALUE,        ///< something that cannot stand in a value
-    BAD_COLOR         ///< no colour behind a "#"
+    BAD_COLOR,        ///< no colour behind a "#"
+    REFUSED           ///< something else that Qt does not accept
 };
 
 struct Mistake
@@ -36,8 +37,9 @@ struct Mistake
 /// For whom a sheet is. That of one widget may be declarations alone, without a selector and braces.
 enum class Scope { APPLICATION, WIDGET };
 
-/// The mistakes of `sheet` in the order of their places. A sheet without any is one that Qt reads; whether there are
-/// such properties and such widgets is another matter.
+/// The mistakes of `sheet` in the order of their places. A sheet without any is one that Qt accepts; one with some may
+/// be accepted too, without the declarations that have them. Does not check whether there are such properties and
+/// widgets. GUI thread.
 QVector<Mistake> Check(const QString& sheet, Scope scope = Scope::APPLICATION);
 
 /// What is wrong and what to do, in the language of the application.

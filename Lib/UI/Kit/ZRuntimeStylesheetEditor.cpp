@@ -274,7 +274,7 @@ bool ZRuntimeStylesheetEditor::apply()
         impl->say([] { return tr("Not applied: the widget is gone. Choose another one."); }, true);
         return false;
     }
-    if (!impl->mistakes().isEmpty()) {
+    if (!impl->view.editor->isAccepted()) {
         impl->say([this] { return tr("Not applied. %1").arg(impl->mistake()); }, true);
         return false;
     }
@@ -286,10 +286,12 @@ void ZRuntimeStylesheetEditor::Impl::applyText()
 {
     target.apply(window->text());
     const QString name = target.widget() ? StyleSheetTargetBox::nameOf(target.widget()) : QString();
-    say([name] {
-        return name.isEmpty() ? ZRuntimeStylesheetEditor::tr("Applied to the application.")
-                              : ZRuntimeStylesheetEditor::tr("Applied to %1.").arg(name);
-    });
+    const auto message = [this, name] {
+        const QString done = name.isEmpty() ? ZRuntimeStylesheetEditor::tr("Applied to the application.")
+                                            : ZRuntimeStylesheetEditor::tr("Applied to %1.").arg(name);
+        return (done + QLatin1Char(' ') + mistake()).trimmed();
+    };
+    say(message, !mistakes().isEmpty());
     Q_EMIT window->applied();
 }
 

@@ -7,9 +7,10 @@
 /// A window in which a developer edits the style sheet of the running application, or of one widget in it, and sees the
 /// change at once.
 ///
-/// It checks the sheet while it is typed, shows mistakes beside their line, and applies none that has any: Qt would
-/// drop it whole. It offers the names of classes, objects and properties that the application has. Files are UTF-8. A
-/// change that was not saved is asked about within the window before it would be lost; the program goes on meanwhile.
+/// It checks the sheet while it is typed, shows mistakes beside their line, and applies none that Qt refuses, as it
+/// would drop it whole. Where Qt drops a declaration alone, the sheet is applied and the mistake is shown. It offers
+/// the names of classes, objects and properties that the application has. Files are UTF-8. A change that was not saved
+/// is asked about within the window before it would be lost; the program goes on meanwhile.
 ///
 /// Unless it was changed, the text is that of the target, read again whenever the target is set or the editor is shown.
 class ZRuntimeStylesheetEditor : public QWidget
@@ -52,8 +53,7 @@ public:
     QString message() const;
 
 public Q_SLOTS:
-    /// Applies the text to the target; false, and the reason as the message, when it has mistakes or the target is
-    /// gone.
+    /// Applies the text to the target; false, and the reason as the message, when Qt refuses it or the target is gone.
     bool apply();
 
     /// Gives the target the sheet that it had before the first one was applied. The text stays as it is.

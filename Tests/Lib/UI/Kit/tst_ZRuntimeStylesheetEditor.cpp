@@ -133,6 +133,66 @@ private Q_SLOTS:
         QVERIFY(StyleSheetSyntax::Check("a: b; c: d", Scope::WIDGET).isEmpty());
     }
 
+    void refusesWhatQtRefuses_data()
+    {
+        QTest::addColumn<QString>("sheet");
+        for (const char* sheet : {u8"A { b: \u00e9 }", u8"A {\u00a0b: c }", "A { b: a,,b }", "A { b: 1px / / 2px }",
+                                  "A { b: c !important d }", "A { } @import \"a\";", "@media { A { } }",
+                                  "@media 5 { A { } }", "A[a~^=\"b\"] { }", "A { b: rgb(#) }", "A { b: \x01 }"})
+            QTest::newRow(sheet) << QString::fromUtf8(sheet);
+    }
+
+    void refusesWhatQtRefuses()
+    {
+        QFETCH(QString, sheet);
+        const QString before = "A { }";
+        qApp->setStyleSheet(before);
+        ZRuntimeStylesheetEditor editor;
+        editor.setText(sheet);
+        QVERIFY(!editor.apply());
+        QCOMPARE(qApp->styleSheet(), before);
+        QVERIFY(!editor.findChild<ZCodeEditor*>()->marks().isEmpty());
+        qApp->setStyleSheet(QString());
+    }
+
+    void refusedPartIsFound_data()
+    {
+        QTest::addColumn<QPoint>("place");
+        QTest::addColumn<QString>("sheet");
+        QTest::newRow("declaration") << QPoint(3, 3) << "A { b: c }\nB { c: d;\n  d: e,,f; }\nC { }";
+        QTest::newRow("rule") << QPoint(1, 2) << "A { }\n@media 5 { B { } }\nC { }";
+    }
+
+    void refusedPartIsFound()
+    {
+        QFETCH(QPoint, place);
+        QFETCH(QString, sheet);
+        const auto found = StyleSheetSyntax::Check(sheet);
+        QCOMPARE(found.size(), 1);
+        QCOMPARE(QPoint(found[0].column, found[0].line), place);
+    }
+
+    void saysWhatQtDrops()
+    {
+        QLabel label;
+        ZRuntimeStylesheetEditor editor;
+        editor.setTarget(&label);
+        editor.setText("QLabel { b c; color: #ff0000 }");
+        QVERIFY(editor.apply());
+        QCOMPARE(ColorOf(label), QColor("#ff0000"));
+        QVERIFY2(editor.message().endsWith("colon is missing."), qPrintable(editor.message()));
+    }
+
+    void askingQtHasNoEffects()
+    {
+        // Qt warns of images that it cannot load and of properties that it cannot set.
+        const QString sheet = "* { qproperty-no: 1; image: url(:/no) } *::close-button { background-image: url(:/no) }";
+        QVERIFY(StyleSheetSyntax::Check(sheet, Scope::WIDGET).isEmpty());
+        QVERIFY(!StyleSheetSyntax::Check("A {{ }", Scope::WIDGET).isEmpty());
+        ExpectWarning("heard again");
+        qWarning("heard again");
+    }
+
     void appliesAndReverts()
     {
         for (const bool toApplication : {true, false}) {
