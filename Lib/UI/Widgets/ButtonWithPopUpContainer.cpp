@@ -235,6 +235,8 @@ public:
         state.expanded = button->popUp->isVisible();
         state.collapsed = !state.expanded;
         state.pressed = button->isDown();
+        state.checkable = button->isCheckable();
+        state.checked = button->isChecked();
         return state;
     }
 
