@@ -316,6 +316,14 @@ private Q_SLOTS:
     }
 
 private:
+    /// What has opened a pop-up says so, as far as it said that it has one.
+    static void CheckExpanded(Scene& scene)
+    {
+        QAccessibleInterface* opener = QAccessible::queryAccessibleInterface(scene.window->focusWidget());
+        if (opener && opener->state().hasPopup)
+            QVERIFY2(opener->state().expanded, qPrintable(Describe(*opener) + ": opens, but is not expanded"));
+    }
+
     /// Whether anything opened. What changed by the input, and when that closed, must have had an event.
     static bool HearChanges(Scene& scene, const QString& what, const std::function<void()>& input)
     {
@@ -332,6 +340,8 @@ private:
         const Support::LinkTrap links;
         const Support::LoopWatch loops([&](QWidget* window) {
             opened = true;
+            if (QApplication::activePopupWidget() == window)
+                CheckExpanded(scene);
             compare();
             Support::Dismiss(window);
         });
@@ -340,6 +350,7 @@ private:
         compare();
         while (QWidget* popUp = QApplication::activePopupWidget()) {
             opened = true;
+            CheckExpanded(scene);
             popUp->close();
             QCoreApplication::processEvents();
             compare();
