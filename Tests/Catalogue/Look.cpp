@@ -123,6 +123,7 @@ void Stage::Show()
 {
     show();
     Settle();
+    QApplication::setActiveWindow(nullptr);
 }
 
 QObject* Stage::Subject(const Entry& entry) const
@@ -136,7 +137,6 @@ void Settle()
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         QCoreApplication::processEvents();
     }
-    QApplication::setActiveWindow(nullptr);
 }
 
 QStringList AccessibleTree(QWidget* widget)
@@ -152,6 +152,7 @@ QString Difference(Stage& changed, Stage& made, qreal pixelRatio)
     timer.start();
     for (;;) {
         Settle();
+        QApplication::setActiveWindow(nullptr);
         const QString difference = DifferenceNow(changed, made, pixelRatio);
         if (difference.isEmpty() || timer.hasExpired(LONGEST_ANIMATION_MS))
             return difference;

@@ -25,5 +25,23 @@ if(TARGET Qt5::GuiPrivate)
   target_link_libraries(tst_CatalogueAccessibility PRIVATE Qt5::GuiPrivate)
   target_compile_definitions(tst_CatalogueAccessibility PRIVATE VX_WITH_QT_PRIVATE)
 endif()
+
+# The form is written and compiled as it would be from Designer; the program that writes it has to run here.
+add_executable(VxFormWriter Catalogue/FormWriter.cpp ${PROJECT_SOURCE_DIR}/Designer/FormXml.cpp)
+vx_target(VxFormWriter)
+target_link_libraries(VxFormWriter PRIVATE VxCatalogue)
+set(form ${CMAKE_CURRENT_BINARY_DIR}/FormOfAll)
+add_custom_command(
+  OUTPUT ${form}/ui_FormOfAll.h
+  COMMAND ${CMAKE_COMMAND} -E make_directory ${form}
+  COMMAND ${CMAKE_COMMAND} -E env QT_QPA_PLATFORM=offscreen ${CMAKE_CROSSCOMPILING_EMULATOR}
+          $<TARGET_FILE:VxFormWriter> ${form}/FormOfAll.ui
+  COMMAND Qt5::uic -o ${form}/ui_FormOfAll.h ${form}/FormOfAll.ui
+  DEPENDS VxFormWriter VERBATIM)
+vx_test(Catalogue/tst_CatalogueParents.cpp SOURCES Catalogue/Homes.cpp Catalogue/Look.cpp ${form}/ui_FormOfAll.h
+        LIBRARIES VxGalleryWindows)
+set_source_files_properties(${form}/ui_FormOfAll.h PROPERTIES SKIP_AUTOGEN ON)
+target_include_directories(tst_CatalogueParents SYSTEM PRIVATE ${form})
+
 vx_test(Catalogue/tst_CatalogueRandomEvents.cpp SOURCES Catalogue/RandomEvents.cpp LIBRARIES VxCatalogue)
 vx_test(Catalogue/tst_CatalogueLifetime.cpp LIBRARIES VxCatalogue)

@@ -41,8 +41,9 @@ const ApplicationChange APPLICATION_CHANGES[] = {
     {"left to right", {"dark", {}, 0, Qt::RightToLeft}, {}},
     {"German", {}, {"dark", "de", 0, Qt::LeftToRight}},
     {"French after Japanese", {"dark", "ja", 0, Qt::LeftToRight}, {"dark", "fr", 0, Qt::LeftToRight}},
-    {"larger font", {}, {"dark", {}, FONT_STEP, Qt::LeftToRight}},
-    {"smaller font", {"dark", {}, FONT_STEP, Qt::LeftToRight}, {}},
+    // Qt changes the font of the application only where there is no sheet for all of it.
+    {"larger font", {"", {}, 0, Qt::LeftToRight}, {"", {}, FONT_STEP, Qt::LeftToRight}},
+    {"smaller font", {"", {}, FONT_STEP, Qt::LeftToRight}, {"", {}, 0, Qt::LeftToRight}},
     {"light", {}, {"light", {}, 0, Qt::LeftToRight}},
     {"dark", {"light", {}, 0, Qt::LeftToRight}, {}},
 };
@@ -58,11 +59,19 @@ struct WidgetChange
 
 void Nothing(Stage&) {}
 
+void EnlargeFont(Stage& stage)
+{
+    QFont font = stage.font();
+    font.setPointSize(font.pointSize() + FONT_STEP);
+    stage.setFont(font);
+}
+
 const WidgetChange WIDGET_CHANGES[] = {
     {"disabled", Nothing, [](Stage& stage) { stage.widget->setEnabled(false); },
      [](Stage& stage) { stage.widget->setEnabled(false); }},
     {"enabled", [](Stage& stage) { stage.setEnabled(false); }, [](Stage& stage) { stage.setEnabled(true); },
      [](Stage& stage) { stage.setEnabled(true); }},
+    {"larger font", Nothing, EnlargeFont, EnlargeFont},
     {"hidden and shown", Nothing,
      [](Stage& stage) {
          stage.widget->hide();
@@ -357,7 +366,10 @@ private:
         }
         if (wanted.sheet != now.sheet) {
             QString error;
-            ApplyStyleSheet(*LoadStyleSheet(wanted.sheet, error));
+            StyleSheet sheet = *LoadStyleSheet(wanted.sheet.isEmpty() ? "dark" : wanted.sheet, error);
+            if (wanted.sheet.isEmpty())
+                sheet.text.clear();
+            ApplyStyleSheet(sheet);
         }
         if (wanted.fontStep != now.fontStep) {
             QFont font = initialFont;
@@ -370,7 +382,7 @@ private:
 
     QFont initialFont;
     QMap<QString, QTranslator*> translators;
-    Surroundings now{{}, {}, 0, Qt::LeftToRight};
+    Surroundings now{"none yet", {}, 0, Qt::LeftToRight};
 };
 
 VX_TEST_MAIN(tst_CatalogueChanges)

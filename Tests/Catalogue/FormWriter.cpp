@@ -1,0 +1,34 @@
+#include <Designer/FormXml.h>
+
+#include <Gallery/Catalogue.h>
+
+#include <QApplication>
+#include <QFile>
+
+// Writes the form that tst_CatalogueParents compiles: every widget as Designer starts it, one below the other.
+int main(int argc, char* argv[])
+{
+    QApplication application(argc, argv);
+    QString widgets;
+    QString classes;
+    for (const Zelkor::Gallery::Entry& entry : Zelkor::Gallery::Entries()) {
+        if (!entry.form.metaObject)
+            continue;
+        const QString xml = Zelkor::Designer::FormXml(entry);
+        const int start = xml.indexOf("<widget");
+        const int classesStart = xml.indexOf("<customwidgets>");
+        const int classesEnd = xml.indexOf("</customwidget>");
+        widgets += "<item>" + xml.mid(start, classesStart - start) + "</item>";
+        classes += xml.mid(classesStart, classesEnd - classesStart).remove("<customwidgets>") +
+                   QStringLiteral("<header>UI/Widgets/%1.h</header></customwidget>").arg(entry.className);
+    }
+    QFile file(application.arguments().value(1));
+    if (!file.open(QIODevice::WriteOnly))
+        return 1;
+    file.write(QStringLiteral("<ui version=\"4.0\"><class>FormOfAll</class><widget class=\"QWidget\" "
+                              "name=\"FormOfAll\"><layout class=\"QVBoxLayout\">%1</layout></widget>"
+                              "<customwidgets>%2</customwidgets></ui>")
+                   .arg(widgets, classes)
+                   .toUtf8());
+    return 0;
+}
