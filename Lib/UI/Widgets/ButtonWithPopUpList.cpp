@@ -1,7 +1,7 @@
 #include <UI/Widgets/ButtonWithPopUpList.h>
 
-#include <UI/Common/MirroredStyle.h>
 #include <UI/Common/AccessibleFactory.h>
+#include <UI/Common/MirroredStyle.h>
 #include <UI/Common/TextMarks.h>
 
 #include <QAction>
