@@ -108,7 +108,7 @@ private Q_SLOTS:
         auto* page = new WidgetPage(*FindEntry("ColorButton"));
         auto* button = page->findChild<StateCard*>()->findChild<Zelkor::Vx::ColorButton*>();
         auto* pageLog = page->findChild<SignalLog*>();
-        connect(button, &Zelkor::Vx::ColorButton::ColorChanged, pageLog, [page, pageLog] {
+        connect(button, &Zelkor::Vx::ColorButton::ColorChanged, pageLog, [pageLog] {
             QCOMPARE(LinesOf(*pageLog), QStringList("Opaque   ColorChanged(#ff000000)"));
             delete pageLog;
         });
