@@ -132,6 +132,16 @@ void ZComboBox::hidePopup()
         QComboBox::hidePopup();
 }
 
+// Qt forgets the minimum size of the old style, but not that of the old font.
+void ZComboBox::changeEvent(QEvent* event)
+{
+    QComboBox::changeEvent(event);
+    if (event->type() == QEvent::FontChange) {
+        QEvent change(QEvent::StyleChange);
+        QComboBox::changeEvent(&change);
+    }
+}
+
 QSize ZComboBox::minimumSizeHint() const
 {
     QSize size = QComboBox::minimumSizeHint();

@@ -60,6 +60,7 @@ Q_SIGNALS:
     void displayTextChanged();
 
 protected:
+    void changeEvent(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
 
