@@ -299,6 +299,9 @@ bool CustomTitleBar::event(QEvent* event)
     const bool isOutdated = event->type() == QEvent::ScreenChangeInternal || event->type() == QEvent::StyleChange;
     if (isOutdated && parentWidget() && !impl->iconLabel->pixmap(Qt::ReturnByValue).isNull())
         impl->ShowIcon(parentWidget()->windowIcon());
+    // A label without a picture takes its size from its font, and keeps it when that changes.
+    if (event->type() == QEvent::FontChange && impl->iconLabel->pixmap(Qt::ReturnByValue).isNull())
+        impl->iconLabel->clear();
     return ZFrame::event(event);
 }
 
