@@ -119,8 +119,9 @@ State EditState(
     const QString& name, const QString& text, void (*apply)(ZLineEdit&) = [](ZLineEdit&) {})
 {
     return MakeState<ZLineEdit>(name, [text, apply](ZLineEdit& edit) {
-        edit.setOriginalText(text);
+        // What the field is like shows with the next text.
         apply(edit);
+        edit.setOriginalText(text);
     });
 }
 

@@ -1,5 +1,6 @@
 #include "Artwork.h"
 #include "Catalogue.h"
+#include "Texts.h"
 
 #include <UI/Widgets/MaskedToolTip.h>
 
@@ -58,7 +59,13 @@ public:
         for (MaskedToolTip* tip : {look, hint}) {
             tip->setProperty("role", QStringLiteral("bubble"));
             tip->setFixedSize(BUBBLE_SIZE);
-            tip->SetMask(SpeechBubbleImage(BUBBLE_SIZE, layoutDirection()));
+            const auto shape = [tip] { tip->SetMask(SpeechBubbleImage(BUBBLE_SIZE, tip->layoutDirection())); };
+            shape();
+            AdaptToSurroundings(tip, [this, tip, shape] {
+                shape();
+                if (tip == look && look->isVisible())
+                    look->Show(QPoint());
+            });
         }
     }
 

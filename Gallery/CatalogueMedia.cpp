@@ -1,5 +1,6 @@
 #include "Artwork.h"
 #include "Catalogue.h"
+#include "Texts.h"
 
 #include <UI/Widgets/VideoPreviewWidget.h>
 #include <UI/Widgets/WebCameraPreviewStream.h>
@@ -24,12 +25,18 @@ QWidget* CreatePreview(QWidget* parent)
     return preview;
 }
 
-void ShowDefaultImage(VideoPreviewWidget& preview)
+void DrawDefaultImage(VideoPreviewWidget& preview)
 {
     // The colour of text is the style sheet's only from here on.
     preview.ensurePolished();
     preview.SetDefaultImage(
         NoPictureImage(PREVIEW_SIZE, preview.palette().color(QPalette::Text), Catalogue::tr("No picture")));
+}
+
+void ShowDefaultImage(VideoPreviewWidget& preview)
+{
+    DrawDefaultImage(preview);
+    AdaptToSurroundings(&preview, [&preview] { DrawDefaultImage(preview); });
 }
 
 QWidget* CreatePreviewWithStream(QWidget* parent)

@@ -74,12 +74,13 @@ State ToolsState(const QString& name, int count, int width)
     });
 }
 
-/// Scrolls to the middle once the range is known.
+/// Scrolls to the middle once the range is known and the panel has shown the selected item.
 void ScrollToMiddle(ScrollablePanelWithItem& panel)
 {
     panel.setFixedWidth(NARROW_WIDTH);
     auto* bar = panel.findChild<QScrollArea*>()->horizontalScrollBar();
-    QObject::connect(bar, &QScrollBar::rangeChanged, bar, [bar] { bar->setValue(bar->maximum() / 2); });
+    QObject::connect(
+        bar, &QScrollBar::rangeChanged, bar, [bar] { bar->setValue(bar->maximum() / 2); }, Qt::QueuedConnection);
 }
 
 Entry ScrollablePanelEntry()
