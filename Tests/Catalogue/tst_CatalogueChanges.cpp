@@ -42,8 +42,8 @@ const ApplicationChange APPLICATION_CHANGES[] = {
     {"German", {}, {"dark", "de", 0, Qt::LeftToRight}},
     {"French after Japanese", {"dark", "ja", 0, Qt::LeftToRight}, {"dark", "fr", 0, Qt::LeftToRight}},
     // Qt changes the font of the application only where there is no sheet for all of it.
-    {"larger font", {"", {}, 0, Qt::LeftToRight}, {"", {}, FONT_STEP, Qt::LeftToRight}},
-    {"smaller font", {"", {}, FONT_STEP, Qt::LeftToRight}, {"", {}, 0, Qt::LeftToRight}},
+    {"larger application font", {"", {}, 0, Qt::LeftToRight}, {"", {}, FONT_STEP, Qt::LeftToRight}},
+    {"smaller application font", {"", {}, FONT_STEP, Qt::LeftToRight}, {"", {}, 0, Qt::LeftToRight}},
     {"light", {}, {"light", {}, 0, Qt::LeftToRight}},
     {"dark", {"light", {}, 0, Qt::LeftToRight}, {}},
 };
@@ -342,6 +342,10 @@ private:
     static void AddRows(const char* change, int number)
     {
         for (const Entry& entry : Entries()) {
+            // It holds a sample that wears a sheet, for which Qt keeps the old font of the application, and a
+            // QComboBox, which keeps the least size of that font.
+            if (QByteArray(change).endsWith("application font") && entry.className == "ZRuntimeStylesheetEditor")
+                continue;
             for (int i = 0; i < entry.states.size(); ++i)
                 QTest::addRow("%s, %s, %s", change, qPrintable(entry.className), qPrintable(entry.states[i].name))
                     << entry.className << i << number;

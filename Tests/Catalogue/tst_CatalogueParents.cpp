@@ -185,7 +185,7 @@ private Q_SLOTS:
     void initTestCase()
     {
         QString error;
-        ApplyStyleSheet(*LoadStyleSheet("dark", error));
+        sheet = *LoadStyleSheet("dark", error);
     }
 
     void worksWhereItIsMade_data() { AddRows(0); }
@@ -294,8 +294,11 @@ private:
     }
 
     // At the size that it has in a plain window.
-    static QWidget* Create(QWidget* parent)
+    QWidget* Create(QWidget* parent)
     {
+        // The style sheet editor can take the sheet from the application.
+        if (qApp->styleSheet() != sheet.text)
+            ApplyStyleSheet(sheet);
         QFETCH(QString, className);
         QFETCH(int, state);
         const Entry& entry = *FindEntry(className);
@@ -331,6 +334,7 @@ private:
         return Worker(widget, home).Work();
     }
 
+    StyleSheet sheet;
     QMap<QString, QStringList> plainAnswers;
 };
 
