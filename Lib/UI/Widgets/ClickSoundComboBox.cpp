@@ -40,7 +40,8 @@ QSize ClickSoundComboBox::sizeHint() const
 
 QSize ClickSoundComboBox::minimumSizeHint() const
 {
-    QSize size = QComboBox::minimumSizeHint();
+    // Qt keeps the least height of the old font when the font changes.
+    QSize size(QComboBox::minimumSizeHint().width(), QComboBox::sizeHint().height());
     // With a minimum length, which the application chose, the base class asks for no more.
     if (minimumContentsLength() == 0)
         size.setWidth(qMin(size.width(), WidthFor(*this, LEAST_SHOWN)));
