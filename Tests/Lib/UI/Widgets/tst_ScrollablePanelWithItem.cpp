@@ -6,7 +6,6 @@
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QToolButton>
-#include <QTranslator>
 
 using Zelkor::Vx::UI::ScrollablePanelWithItem;
 
@@ -104,22 +103,6 @@ private Q_SLOTS:
         scene.left->click();
         QVERIFY(scene.Shows(scene.items[0]));
         QVERIFY(!scene.left->isEnabled());
-    }
-
-    void accessibleNamesFollowTheLanguage()
-    {
-        struct UpperCase : QTranslator
-        {
-            bool isEmpty() const override { return false; }
-            QString translate(const char*, const char* text, const char*, int) const override
-            {
-                return QString(text).toUpper();
-            }
-        } translator;
-        Scene scene(1);
-        QCoreApplication::installTranslator(&translator);
-        QTRY_COMPARE(scene.left->accessibleName(), "PREVIOUS");
-        QCOMPARE(scene.right->accessibleName(), "NEXT");
     }
 
     void itemsComeAndGo()

@@ -42,18 +42,6 @@ private Q_SLOTS:
         dialog->close();
         QTRY_VERIFY(!dialog);
     }
-
-    void headingFollowsTheFont()
-    {
-        StyledAboutBoxDialog dialog("Product", "1.2", "", nullptr);
-        const auto* heading = dialog.findChild<QLabel*>("productLabel");
-        const qreal before = heading->font().pointSizeF();
-        QFont larger = dialog.font();
-        larger.setPointSizeF(3 * larger.pointSizeF());
-        dialog.setFont(larger);
-        QVERIFY(qAbs(heading->font().pointSizeF() / before - 3) < 0.1);
-        QVERIFY(heading->font().bold());
-    }
 };
 
 VX_TEST_MAIN(tst_StyledAboutBoxDialog)
