@@ -55,6 +55,16 @@ QVector<QPointer<QWidget>> PartsOf(QWidget* widget)
     return parts;
 }
 
+// The style sheet editor applies by a timer, and takes its text from the windows that are open.
+bool IsOfSheetEditor(const QWidget* part)
+{
+    if (part->inherits("ZRuntimeStylesheetEditor"))
+        return true;
+    while (part && !part->inherits("QPlainTextEdit"))
+        part = part->parentWidget();
+    return part;
+}
+
 /// Works a widget with mouse and keys, and lists what it answers.
 class Worker
 {
@@ -64,7 +74,7 @@ public:
         const auto parts = PartsOf(widget);
         for (const QPointer<QWidget>& part : parts) {
             // What a pop-up of the widget emits depends on where it opens.
-            if (part->window() != widget->window())
+            if (part->window() != widget->window() || IsOfSheetEditor(part))
                 continue;
             for (const QMetaMethod& signal : Support::SignalsOf(part)) {
                 // What has a title or an icon is a matter of the container.
