@@ -8,6 +8,8 @@
 #include <QVBoxLayout>
 #include <QVariant>
 
+#include <utility>
+
 using Zelkor::Vx::UI::MaskedToolTip;
 
 namespace Zelkor::Gallery {
@@ -61,10 +63,16 @@ public:
             tip->setFixedSize(BUBBLE_SIZE);
             const auto shape = [tip] { tip->SetMask(SpeechBubbleImage(BUBBLE_SIZE, tip->layoutDirection())); };
             shape();
-            AdaptToSurroundings(tip, [this, tip, shape] {
+            AdaptToSurroundings(tip, [this, tip, shape, direction = tip->layoutDirection()]() mutable {
+                if (std::exchange(direction, tip->layoutDirection()) == tip->layoutDirection())
+                    return;
                 shape();
-                if (tip == look && look->isVisible())
-                    look->Show(QPoint());
+                if (tip != look || !look->isVisible())
+                    return;
+                // Takes the new shape, and moves.
+                const QPoint place = look->pos();
+                look->Show(QPoint());
+                look->move(place);
             });
         }
     }
