@@ -90,19 +90,24 @@ void ZLabel::setClickable(bool on)
     clickable = on;
 }
 
+QString ZLabel::textThatFits() const
+{
+    const int available = width() - 2 * frameWidth();
+    if (!eliding || SurelyFits(font(), originalText(), available))
+        return storedText;
+    return QFontMetrics(font()).elidedText(storedText, Qt::ElideRight, available, 0);
+}
+
+QString ZLabel::wholeTextIfElided() const
+{
+    return displayed == storedText ? QString() : storedText;
+}
+
 void ZLabel::refreshText()
 {
-    if (!eliding) {
-        setText(storedText);
-        setToolTip(QString());
-        return;
-    }
-    const int available = width() - 2 * frameWidth();
-    QString displayedText = storedText;
-    if (!SurelyFits(font(), originalText(), available))
-        displayedText = QFontMetrics(font()).elidedText(storedText, Qt::ElideRight, available, 0);
-    setText(displayedText);
-    setToolTip(displayedText == storedText ? QString() : storedText);
+    displayed = textThatFits();
+    setText(displayed);
+    setToolTip(wholeTextIfElided());
 }
 
 // Qt's hint is for what is displayed: once elided, the label would never ask for the room that it lacks.
@@ -119,8 +124,15 @@ QSize ZLabel::sizeHint() const
 void ZLabel::changeEvent(QEvent* event)
 {
     QLabel::changeEvent(event);
-    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
-        refreshText();
+    const bool isStyle = event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange;
+    // Another font changes neither a text nor a tool tip that a style sheet has just set.
+    if (!isStyle || text() != displayed || displayed == textThatFits())
+        return;
+    const QString given = toolTip();
+    const bool isGiven = given != wholeTextIfElided();
+    refreshText();
+    if (isGiven)
+        setToolTip(given);
 }
 
 void ZLabel::mousePressEvent(QMouseEvent* event)

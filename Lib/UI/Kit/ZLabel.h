@@ -47,9 +47,12 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
+    QString textThatFits() const;
+    QString wholeTextIfElided() const;
     void refreshText();
 
     QString storedText = QStringLiteral("ZLabel"); ///< whole, with direction marks once it was set
+    QString displayed = storedText;                ///< what refreshText() showed last
     bool eliding = true;
     bool clickable = true;
 };
