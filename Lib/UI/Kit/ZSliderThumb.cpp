@@ -238,8 +238,8 @@ void ZSliderThumb::releaseButton(QMouseEvent* event)
 
 void ZSliderThumb::mousePressEvent(QMouseEvent* event)
 {
-    if (event->button() == Qt::LeftButton && draggable) {
-        armed = true;
+    if (event->button() == Qt::LeftButton) {
+        armed = draggable;
         pressPosition = event->pos();
     }
     if (!handleUnchecked(&ZSliderThumb::pressButton, event))
@@ -282,7 +282,8 @@ void ZSliderThumb::mouseReleaseEvent(QMouseEvent* event)
     }
     const QPointer<ZSliderThumb> self(this);
     const QPoint place = mapToParent(event->pos());
-    const bool wasDragging = dragging;
+    // A press that ended early, as the thumb was hidden or disabled, is no click.
+    const bool isClick = !dragging && pressPosition != NOWHERE;
     pressPosition = NOWHERE;
     const bool isAlive = handleUnchecked(&ZSliderThumb::releaseButton, event);
     // Qt asks the receiver about an event that nobody took, and a slot may delete it.
@@ -290,7 +291,7 @@ void ZSliderThumb::mouseReleaseEvent(QMouseEvent* event)
     if (!isAlive)
         return;
     finishDrag();
-    if (!self || wasDragging)
+    if (!self || !isClick)
         return;
     nextCheckState();
     if (self && !isChecked() && slider->hasOtherThumbAt(place, *this))
