@@ -79,8 +79,9 @@ void ScrollToMiddle(ScrollablePanelWithItem& panel)
 {
     panel.setFixedWidth(NARROW_WIDTH);
     auto* bar = panel.findChild<QScrollArea*>()->horizontalScrollBar();
-    QObject::connect(
-        bar, &QScrollBar::rangeChanged, bar, [bar] { bar->setValue(bar->maximum() / 2); }, Qt::QueuedConnection);
+    const auto scroll = [bar] { bar->setValue(bar->maximum() / 2); };
+    QObject::connect(bar, &QScrollBar::rangeChanged, bar, scroll, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(bar, scroll, Qt::QueuedConnection); // the range may be the same already
 }
 
 Entry ScrollablePanelEntry()
