@@ -45,3 +45,4 @@ target_include_directories(tst_CatalogueParents SYSTEM PRIVATE ${form})
 
 vx_test(Catalogue/tst_CatalogueRandomEvents.cpp SOURCES Catalogue/RandomEvents.cpp LIBRARIES VxCatalogue)
 vx_test(Catalogue/tst_CatalogueLifetime.cpp LIBRARIES VxCatalogue)
+vx_test(Catalogue/tst_HostileApplication.cpp LIBRARIES VxCatalogue)

@@ -3,15 +3,10 @@
 #include <Gallery/StyleSheet.h>
 
 #include <Support/Census.h>
-#include <Support/LinkTrap.h>
 #include <Support/LoopWatch.h>
-#include <Support/SignalTap.h>
 #include <Support/TestCase.h>
 
-#include <QAbstractSlider>
 #include <QPixmapCache>
-
-#include <deque>
 
 #if defined(__GLIBC__) && !defined(__SANITIZE_ADDRESS__)
 #include <malloc.h>
@@ -31,9 +26,6 @@ constexpr int WARM_UP = 200; ///< lives after which caches have what they want
 #endif
 constexpr double LARGEST_GROWTH = 200; ///< bytes a life
 
-constexpr Qt::Key KEYS[] = {Qt::Key_Space, Qt::Key_Right,  Qt::Key_Left, Qt::Key_Up,     Qt::Key_Down,
-                            Qt::Key_7,     Qt::Key_Return, Qt::Key_Home, Qt::Key_Delete, Qt::Key_Tab};
-
 // What is allocated; nothing where it cannot be known, and under the address sanitizer, which looks for leaks itself.
 double BytesInUse()
 {
@@ -48,64 +40,6 @@ void Settle()
 {
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     QCoreApplication::processEvents();
-}
-
-QVector<QPointer<QWidget>> PartsOf(QWidget* widget)
-{
-    QVector<QPointer<QWidget>> parts;
-    if (widget) {
-        parts.append(widget);
-        for (QWidget* part : widget->findChildren<QWidget*>())
-            parts.append(part);
-    }
-    return parts;
-}
-
-/// A signal of a widget's part that a class of ours declares.
-struct OwnSignal
-{
-    int part;
-    QMetaMethod signal;
-};
-
-// Left out are Qt's signals and those of sliders, which hand on what Qt's slider tells in the middle of its work.
-QVector<OwnSignal> OwnSignals(QWidget* widget)
-{
-    QVector<OwnSignal> found;
-    const auto parts = PartsOf(widget);
-    for (int i = 0; i < parts.size(); ++i) {
-        for (const QMetaMethod& signal : Support::SignalsOf(parts[i])) {
-            const QString declaredBy = signal.enclosingMetaObject()->className();
-            const bool isOurs = !declaredBy.startsWith('Q') || FindEntry(declaredBy);
-            if (isOurs && !qobject_cast<QAbstractSlider*>(parts[i]))
-                found.append({i, signal});
-        }
-    }
-    return found;
-}
-
-// Works each part as a person does, with keys and mouse, as long as the scene is there.
-void Work(Scene& scene)
-{
-    for (const QPointer<QWidget>& part : scene.KeyboardParts()) {
-        if (!part)
-            continue;
-        part->setFocus(Qt::TabFocusReason);
-        for (const Qt::Key key : KEYS) {
-            if (!scene.Type(key))
-                return;
-        }
-    }
-    for (const QPointer<QWidget>& part : PartsOf(scene.widget)) {
-        if (!part || !part->isVisible() || part->window() != scene.window)
-            continue;
-        const QPoint center = part->mapTo(scene.window, part->rect().center());
-        QTest::mousePress(scene.window->windowHandle(), Qt::LeftButton, Qt::NoModifier, center);
-        if (scene.window)
-            QTest::mouseMove(scene.window->windowHandle(), center + QPoint(9, 9));
-        if (scene.window)
-            QTest::mouseRelease(scene.window->windowHandle(), Qt::LeftButton, Qt::NoModifier, center + QPoint(9, 9));
-    }
 }
 
 } // namespace
@@ -173,43 +107,6 @@ private Q_SLOTS:
                 scene->Type(key);
                 Settle();
             }
-        }
-    }
-
-    void goesInItsOwnSignals_data() { AddRowsOfAllStates(); }
-
-    void goesInItsOwnSignals()
-    {
-        const Support::Census census;
-        const Support::LinkTrap links;
-        const Support::LoopWatch loops(Support::Dismiss);
-        const auto scene = SceneOfThisRow();
-        scene->Show();
-        std::deque<Support::SignalTap> taps;
-        for (const QPointer<QWidget>& part : PartsOf(scene->widget))
-            taps.emplace_back(part, [&scene] {
-                if (scene->window)
-                    scene->window->deleteLater();
-            });
-        Work(*scene);
-        Settle();
-    }
-
-    void goesAtOnceInOurSignals_data() { AddRowsOfAllStates(); }
-
-    void goesAtOnceInOurSignals()
-    {
-        const Support::Census census;
-        const Support::LinkTrap links;
-        const Support::LoopWatch loops(Support::Dismiss);
-        for (const OwnSignal& own : OwnSignals(SceneOfThisRow()->widget)) {
-            InRow(own.signal.methodSignature());
-            const auto scene = SceneOfThisRow();
-            scene->Show();
-            const Support::SignalTap tap(PartsOf(scene->widget)[own.part], {own.signal},
-                                         [&scene] { delete scene->widget; });
-            Work(*scene);
-            Settle();
         }
     }
 };

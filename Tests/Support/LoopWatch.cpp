@@ -21,9 +21,9 @@ bool LoopWatch::eventFilter(QObject* object, QEvent* event)
         return false;
     auto* window = static_cast<QWidget*>(object);
     if (window->isWindow() && (window->isModal() || qobject_cast<QMenu*>(window)))
-        QTimer::singleShot(0, window, [self = QPointer<LoopWatch>(this), window] {
-            if (self)
-                self->act(window);
+        QTimer::singleShot(0, this, [this, window = QPointer<QWidget>(window)] {
+            if (window)
+                act(window);
         });
     return false;
 }
