@@ -69,60 +69,12 @@ public:
 private:
     void mutate(QString& sheet)
     {
-        static const QStringList PIECES = {"@import \"a\";",
-                                           "@media screen {",
-                                           "@media {",
-                                           "@page",
-                                           "@charset \"a\";",
-                                           "@x",
-                                           "<!--",
-                                           "-->",
-                                           "/*",
-                                           "*/",
-                                           "url(",
-                                           "f(",
-                                           ")",
-                                           "!important",
-                                           "!",
-                                           "#",
-                                           "#ggg",
-                                           "#fff",
-                                           "\"",
-                                           "'",
-                                           "\\",
-                                           "\\7b",
-                                           "\\\n",
-                                           "{",
-                                           "}",
-                                           "[",
-                                           "]",
-                                           "~=",
-                                           "^",
-                                           "|",
-                                           ":",
-                                           "::",
-                                           ";",
-                                           ",",
-                                           ", ,",
-                                           "/",
-                                           "+",
-                                           "-",
-                                           "--",
-                                           "1px",
-                                           "5%",
-                                           ".5",
-                                           "1e3",
-                                           "\u00a0",
-                                           "\u00e9",
-                                           "\u20ac",
-                                           "\u2028",
-                                           "\t",
-                                           "\r",
-                                           "\n",
-                                           "\x01",
-                                           "\x7f",
-                                           "*",
-                                           ">"};
+        static const QStringList PIECES =
+            QString::fromUtf8(
+                "@import~\"a\";~@media screen {~@media {~@page~@charset \"a\";~@x~<!--~-->~/*~*/~url(~f(~)~"
+                "!important~!~#~#ggg~#fff~\"~'~\\~\\7b~\\\n~{~}~[~]~=~^~|~:~::~;~,~, ,~/~+~-~--~1px~5%~.5~"
+                "1e3~\u00a0~\u00e9~\u20ac~\u2028~\t~\r~\n~\x01~\x7f~*~>~ ~")
+                .split('~');
         const int at = random.bounded(sheet.size() + 1);
         const int length = random.bounded(random.bounded(2) ? 3 : 40);
         switch (random.bounded(4)) {
