@@ -39,7 +39,7 @@ QString iconFolder;    ///< of the last one
 // is therefore looked for in the resources, where it is missing as well.
 QString WithoutMissingIcons(QString text)
 {
-    static const QRegularExpression REFERENCE(SEARCH_PATH + QStringLiteral(":([^)\"'\\s]+)"));
+    static const QRegularExpression REFERENCE(SEARCH_PATH + QStringLiteral(":([^;)\"'\\s]+)"));
     for (auto match = REFERENCE.match(text); match.hasMatch(); match = REFERENCE.match(text, match.capturedEnd())) {
         if (!QFileInfo::exists(QDir(iconFolder).filePath(match.captured(1))))
             text.replace(match.capturedStart(), match.capturedLength(), ":/" + SEARCH_PATH + "/" + match.captured(1));

@@ -156,6 +156,7 @@ private Q_SLOTS:
         }
         // A mistake in the sheet would be a warning, which fails the test.
         ApplyStyleSheet(*sheet);
+        QCOMPARE(qApp->styleSheet(), sheet->text);
         QWidget().ensurePolished();
         for (const QString& url : urls) {
             const QString icon = url.section(')', 0, 0);
