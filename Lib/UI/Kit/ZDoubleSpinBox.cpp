@@ -80,7 +80,8 @@ double ZDoubleSpinBox::roundedToStep(double number) const
     const double steps = std::round((number - minimum()) / singleStep());
     if (!(std::abs(steps) < MOST_STEPS))
         return number;
-    return minimum() + std::min(steps, stepsInRange) * singleStep();
+    // As the field shows it, which has no more decimals.
+    return QString::number(minimum() + std::min(steps, stepsInRange) * singleStep(), 'f', decimals()).toDouble();
 }
 
 void ZDoubleSpinBox::finishTyping()
