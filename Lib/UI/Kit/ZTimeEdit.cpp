@@ -33,6 +33,13 @@ QString WithLatinDigits(QString text)
     return text;
 }
 
+// Two apostrophes in a row stand for one where Qt writes a time, and for nothing where it reads one. The typographic
+// one is the same for both.
+QString Readable(QString format)
+{
+    return format.replace(QLatin1String("''"), QString(QChar(0x2019)));
+}
+
 /// The text with zeros for digits in a part of it.
 QString WithZeros(QString text, int position, int length)
 {
@@ -172,8 +179,9 @@ void ZTimeEdit::updateStyle()
 void ZTimeEdit::chooseFormat()
 {
     const bool isForMaximum = hasFocus() || property(FORCE_MAXIMUM).toBool();
-    const QString format = ChooseTimeFormat(distinctFormats, isForMaximum ? maximumTime() : time());
-    if (format.isEmpty() || format == displayFormat())
+    const QString choice = ChooseTimeFormat(distinctFormats, isForMaximum ? maximumTime() : time());
+    const QString format = Readable(choice.isEmpty() ? displayFormat() : choice);
+    if (format == displayFormat())
         return;
     if (depthInQt > 0) {
         formatWaits = true;

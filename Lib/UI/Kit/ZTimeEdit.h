@@ -11,7 +11,8 @@
 /// and can be typed in the digits of any script.
 ///
 /// The display format can be chosen from a list, as the one that loses least: of the time, or of the maximum time while
-/// the field has the focus or its dynamic property "forceMaxtimeFormat" is true. Keys, buttons and wheel step the
+/// the field has the focus or its dynamic property "forceMaxtimeFormat" is true. An apostrophe in a format becomes a
+/// typographic one. Keys, buttons and wheel step the
 /// section at the cursor and stop at midnight; on AM/PM, only the keys Up and Down act. The wheel steps in focus only.
 ///
 /// It lies from left to right in every layout direction, as times are written. GUI thread only.

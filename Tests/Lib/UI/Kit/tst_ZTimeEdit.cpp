@@ -23,6 +23,7 @@ struct Field : ZTimeEdit
     explicit Field(const QString& format = "hh:mm:ss", QWidget* parent = nullptr) : ZTimeEdit(parent)
     {
         setDisplayFormat(format);
+        updateStyle();
     }
 
     void start(const QString& marked)
@@ -69,6 +70,7 @@ private Q_SLOTS:
              {"1|:30_PM < |12:30_PM", "|12:30_PM 0 |2:30_PM", "1:30_|PM| > 1:30_|PM", "1:30_|PM| am 1:30_AM|",
               "12|:30_PM ^ |1:30_PM"}},
             {"'at'hh'h'", {"at1|2h 5 at15h|"}},
+            {"mm''ss", {u8"|24\u201935 1122 11\u201922|", u8"|24\u201935| > |00\u201900"}},
             // Limited to 01:00:30 ... 22:30:30.
             {"HH:mm:ss",
              {"|12:34:56 23 22:|30:30", "1|2:34:56 < |02:34:56", "|01|:30:30 0 0|1:00:30", "|22:15:00 ^^ |22:30:30",
