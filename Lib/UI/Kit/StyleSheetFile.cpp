@@ -6,6 +6,10 @@
 #include <QSaveFile>
 #include <QTextCodec>
 
+#ifdef Q_OS_UNIX
+#include <fcntl.h>
+#endif
+
 namespace StyleSheetFile {
 
 namespace {
@@ -46,6 +50,10 @@ std::optional<Contents> Read(const QString& fileName, Error& error)
     QFile file(fileName);
     if (!file.open(QIODevice::ReadOnly))
         return fail(NOT_READ, file.errorString());
+#ifdef Q_OS_UNIX
+    // The log of a kernel is a regular file that waits for more.
+    fcntl(file.handle(), F_SETFL, O_NONBLOCK);
+#endif
     // One byte more than allowed reveals a larger file, even where the file system reports no size.
     const QByteArray bytes = file.read(LARGEST_SIZE + 1);
     if (file.error() != QFileDevice::NoError)
