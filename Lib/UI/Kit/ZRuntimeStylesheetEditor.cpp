@@ -131,6 +131,7 @@ void ZRuntimeStylesheetEditor::Impl::connectParts()
         if (!on)
             return picker->stop();
         picker->start();
+        checkAndFollow();
         say([] { return ZRuntimeStylesheetEditor::tr("Click on a widget of the application, or press Escape."); });
     });
     connect(picker, &ZWidgetPicker::pointed, &context,
@@ -206,11 +207,13 @@ void ZRuntimeStylesheetEditor::Impl::showPlace()
 void ZRuntimeStylesheetEditor::Impl::check()
 {
     pause.stop();
+    const bool isChanged = seenRevision != view.editor->document()->revision();
     seenRevision = view.editor->document()->revision();
     view.editor->check();
+    // What was said of an earlier text does not hold for this one; that the target is gone does.
     if (!mistakes().isEmpty())
         say([this] { return mistake(); }, true);
-    else if (saysMistake)
+    else if (saysMistake || (isChanged && target.exists()))
         say({});
     saysMistake = !mistakes().isEmpty();
 }
@@ -318,6 +321,8 @@ void ZRuntimeStylesheetEditor::setText(const QString& text)
 {
     impl->view.editor->replaceText(text);
     impl->check();
+    if (isApplyingWhileTyping())
+        impl->pause.start();
 }
 
 void ZRuntimeStylesheetEditor::readFromTarget()
@@ -384,6 +389,7 @@ void ZRuntimeStylesheetEditor::Impl::settle(const QString& file)
     hasByteOrderMark = hasByteOrderMark && !file.isEmpty();
     view.editor->document()->setModified(false);
     retranslate();
+    say({});
     check();
 }
 

@@ -254,6 +254,8 @@ private Q_SLOTS:
         QTRY_COMPARE(laterLabel.styleSheet(), RED);
         QCOMPARE(label.styleSheet(), QString());
         QCOMPARE(applied.size(), 1);
+        editor.setText(RED);
+        QTRY_COMPARE(label.styleSheet(), RED);
     }
 
     void picksWithTheMouse()
@@ -354,7 +356,8 @@ private Q_SLOTS:
             QVERIFY(!editor.close());
             QTest::mouseClick(ButtonOf(editor, answer), Qt::LeftButton);
             QCOMPARE(editor.isVisible(), answer == "Cancel");
-            QVERIFY(editor.load(name));
+            QVERIFY(!editor.load("none") && editor.load(name));
+            QCOMPARE(editor.message(), QString());
             QCOMPARE(editor.text(), answer == "Save" ? RED : text);
         }
         QFile file(name);
@@ -365,6 +368,8 @@ private Q_SLOTS:
             QVERIFY(!editor.load(bad) && editor.message().contains(bad));
         QVERIFY(!editor.save(folder.filePath("none/a.qss")));
         QVERIFY(editor.message().contains("none") && editor.text() == RED && editor.isModified());
+        editor.setText(text);
+        QCOMPARE(editor.message(), QString());
     }
 
     void undoEndsAtWhatWasRead()
