@@ -140,7 +140,13 @@ void ZRuntimeStylesheetEditor::Impl::connectParts()
         view.pickButton->setChecked(false);
         say({});
     });
-    connect(picker, &ZWidgetPicker::picked, window, &ZRuntimeStylesheetEditor::setTarget);
+    connect(picker, &ZWidgetPicker::picked, &context, [this](QWidget* widget) {
+        window->setTarget(widget);
+        // The click has brought the picked window to the front, and one picks in order to write.
+        window->window()->raise();
+        window->activateWindow();
+        view.editor->setFocus();
+    });
 }
 
 void ZRuntimeStylesheetEditor::Impl::connectCommands()
@@ -445,8 +451,12 @@ void ZRuntimeStylesheetEditor::changeEvent(QEvent* event)
 void ZRuntimeStylesheetEditor::showEvent(QShowEvent* event)
 {
     QWidget::showEvent(event);
-    if (!event->spontaneous())
-        impl->readUntouched();
+    if (event->spontaneous())
+        return;
+    impl->readUntouched();
+    // Qt would give the focus to the first field.
+    if (isWindow() && !focusWidget())
+        impl->view.editor->setFocus();
 }
 
 void ZRuntimeStylesheetEditor::hideEvent(QHideEvent* event)

@@ -2,7 +2,24 @@
 
 #include <QApplication>
 #include <QKeyEvent>
+#include <QMouseEvent>
 #include <QWidget>
+#include <QWindow>
+
+namespace {
+
+// A press goes to a window of the window system, which has Qt move the focus, and from there to a widget.
+QWidget* WidgetAt(QWindow* window, const QPoint& place)
+{
+    QWidget* widget = QWidget::find(window->winId());
+    // A pop-up hears of presses beside it, too.
+    if (!widget || !widget->rect().contains(place))
+        return nullptr;
+    QWidget* child = widget->childAt(place);
+    return child ? child : widget;
+}
+
+} // namespace
 
 ZWidgetPicker::ZWidgetPicker(QWidget* except, QObject* parent) : QObject(parent), except(except) {}
 
@@ -45,6 +62,7 @@ bool ZWidgetPicker::isPickable(const QWidget* widget) const
 bool ZWidgetPicker::eventFilter(QObject* watched, QEvent* event)
 {
     auto* widget = qobject_cast<QWidget*>(watched);
+    auto* window = qobject_cast<QWindow*>(watched);
     switch (event->type()) {
     case QEvent::Enter:
         if (running && isPickable(widget))
@@ -57,15 +75,18 @@ bool ZWidgetPicker::eventFilter(QObject* watched, QEvent* event)
             qApp->removeEventFilter(this);
             break;
         }
+        if (window)
+            widget = WidgetAt(window, static_cast<QMouseEvent*>(event)->pos());
         if (!isPickable(widget))
             break;
         event->accept();
         swallowsRelease = true;
+        isReleasedInWindow = window;
         stop();
         Q_EMIT picked(widget);
         return true;
     case QEvent::MouseButtonRelease:
-        if (running || !widget)
+        if (running || !(isReleasedInWindow ? watched == window : watched == widget))
             break;
         event->accept();
         qApp->removeEventFilter(this);

@@ -39,5 +39,6 @@ private:
 
     QWidget* except;
     bool running = false;
-    bool swallowsRelease = false; ///< of the button whose press chose
+    bool swallowsRelease = false;    ///< of the button whose press chose
+    bool isReleasedInWindow = false; ///< of the window system, which the press came to; else in a widget
 };

@@ -13,6 +13,7 @@
 #include <QFile>
 #include <QFileDialog>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QSignalSpy>
@@ -20,6 +21,7 @@
 #include <QTextBlock>
 #include <QToolButton>
 #include <QTranslator>
+#include <QWindow>
 
 #include <memory>
 
@@ -261,8 +263,11 @@ private Q_SLOTS:
     void picksWithTheMouse()
     {
         QWidget window;
+        auto* field = new QLineEdit(&window);
         auto* button = new QPushButton("A", &window);
+        button->move(0, 50);
         window.show();
+        field->setFocus();
         ZRuntimeStylesheetEditor editor;
         editor.show();
         QSignalSpy clicked(button, &QPushButton::clicked);
@@ -270,8 +275,11 @@ private Q_SLOTS:
         auto* picker = editor.findChild<ZWidgetPicker*>();
         QTest::mouseClick(pick, Qt::LeftButton);
         QVERIFY(picker->isRunning());
-        QTest::mouseClick(button, Qt::LeftButton);
+        window.activateWindow();
+        QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {}, button->geometry().center());
         QCOMPARE(editor.target(), button);
+        QCOMPARE(window.focusWidget(), field);
+        QTRY_COMPARE(QApplication::focusWidget(), editor.findChild<ZCodeEditor*>());
         QVERIFY(!picker->isRunning() && !pick->isChecked() && !QApplication::overrideCursor());
         QCOMPARE(clicked.size(), 0);
         QTest::mouseClick(button, Qt::LeftButton);
