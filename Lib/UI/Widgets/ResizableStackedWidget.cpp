@@ -3,6 +3,18 @@
 #include <QEvent>
 #include <QPointer>
 
+namespace {
+
+// Fixes the stack around its page. New limits replace the old ones at once, without a size in between that could be
+// seen.
+void FitAround(QStackedWidget* stack, const QWidget& page)
+{
+    const QMargins border = stack->contentsMargins();
+    stack->setFixedSize(page.size() + QSize(border.left() + border.right(), border.top() + border.bottom()));
+}
+
+} // namespace
+
 ResizableStackedWidget::ResizableStackedWidget(QWidget* parent) : QStackedWidget(parent)
 {
     connect(this, &QStackedWidget::currentChanged, this, &ResizableStackedWidget::OnCurrentChanged);
@@ -28,6 +40,10 @@ bool ResizableStackedWidget::event(QEvent* event)
         QMetaObject::invokeMethod(
             this, [this] { OnCurrentChanged(currentIndex()); }, Qt::QueuedConnection);
         break;
+    case QEvent::ContentsRectChange:
+        if (const QWidget* page = currentWidget())
+            FitAround(this, *page);
+        break;
     default:
         break;
     }
@@ -47,7 +63,5 @@ void ResizableStackedWidget::OnCurrentChanged(int index)
     if (!page || page != currentWidget())
         return;
     page->setFixedSize(page->size());
-    // New limits replace the old ones at once, without a size in between that could be seen.
-    const QMargins border = contentsMargins();
-    setFixedSize(page->size() + QSize(border.left() + border.right(), border.top() + border.bottom()));
+    FitAround(this, *page);
 }

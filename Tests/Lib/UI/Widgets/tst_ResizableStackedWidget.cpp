@@ -97,6 +97,9 @@ private Q_SLOTS:
         stack.show();
         QTRY_COMPARE(stack.size(), QSize(206, 106));
         QCOMPARE(page->geometry(), stack.contentsRect());
+        stack.setStyleSheet({});
+        stack.setContentsMargins(1, 2, 3, 4);
+        QCOMPARE(stack.size(), QSize(204, 106));
     }
 };
 
