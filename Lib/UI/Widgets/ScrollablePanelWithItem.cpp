@@ -3,6 +3,7 @@
 #include <UI/Common/AccessibleFactory.h>
 #include <UI/Common/AppendToLayout.h>
 #include <UI/Common/BoxLayouts.h>
+#include <UI/Common/CanHold.h>
 #include <UI/Common/MirroredStyle.h>
 
 #include <QCoreApplication>
@@ -14,6 +15,7 @@
 #include <QToolButton>
 #include <QWheelEvent>
 
+#include <algorithm>
 #include <utility>
 
 namespace Zelkor::Vx::UI {
@@ -33,16 +35,11 @@ int ValueToShow(const QRect& item, int value, int viewWidth)
 
 } // namespace
 
-struct ScrollablePanelWithItem::Items
-{
-    QList<QToolButton*> list; ///< in order of appending
-};
-
 /// The scroll area: moves sideways only, and takes the height of what it holds.
 class Q_DECL_HIDDEN ScrollablePanelWithItem::Strip : public QScrollArea
 {
 public:
-    Strip(QWidget* parent, Items* items) : QScrollArea(parent), items(items) {}
+    using QScrollArea::QScrollArea;
 
     QSize sizeHint() const override
     {
@@ -60,10 +57,7 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override
     {
         if (watched == widget()) {
-            // Whatever takes an item away tells the frame: its owner may delete it at any time.
-            if (event->type() == QEvent::ChildRemoved)
-                Forget(static_cast<QChildEvent*>(event)->child());
-            else if (event->type() == QEvent::LayoutRequest)
+            if (event->type() == QEvent::LayoutRequest)
                 updateGeometry();
         } else if (event->type() == QEvent::FocusIn && watched->parent() == widget()) {
             // Whoever hears of the new place may delete the panel, and the item with it.
@@ -113,18 +107,20 @@ private:
         const QRect place = QStyle::visualRect(layoutDirection(), widget()->rect(), item->geometry());
         bar->setValue(ValueToShow(place, bar->value(), viewport()->width()));
     }
+};
 
-    void Forget(QObject* child)
+struct ScrollablePanelWithItem::Items
+{
+    // Removes what is no item any more: deleted, given another parent, or about to go, which is a tool button no longer
+    // in the slots of its `destroyed`. Looked at on use, since an event filter may swallow the event of a removed
+    // child.
+    void Prune(const QWidget* frame)
     {
-        for (int i = 0; i < items->list.size(); ++i) {
-            if (static_cast<QObject*>(items->list[i]) == child) {
-                items->list.removeAt(i);
-                return;
-            }
-        }
+        const auto isGone = [=](QObject* item) { return !qobject_cast<QToolButton*>(item) || item->parent() != frame; };
+        list.erase(std::remove_if(list.begin(), list.end(), isGone), list.end());
     }
 
-    Items* items;
+    QList<QPointer<QObject>> list; ///< tool buttons, in order of appending
 };
 
 struct ScrollablePanelWithItem::Parts
@@ -151,7 +147,7 @@ ScrollablePanelWithItem::ScrollablePanelWithItem(QWidget* parent)
     parts->leftScrollButton = makeScrollButton(QStringLiteral("leftScrollButton"));
     parts->rightScrollButton = makeScrollButton(QStringLiteral("rightScrollButton"));
     Retranslate();
-    Strip* area = parts->panelScrollArea = new Strip(this, items.get());
+    Strip* area = parts->panelScrollArea = new Strip(this);
     area->setObjectName(QStringLiteral("panelScrollArea"));
     area->setFocusPolicy(Qt::NoFocus);
     area->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
@@ -185,7 +181,11 @@ ScrollablePanelWithItem::ScrollablePanelWithItem(QWidget* parent)
 
 ScrollablePanelWithItem::~ScrollablePanelWithItem()
 {
-    // While the list is there: an item that goes may take others along.
+    // While the rest is there, which slots of an item's `destroyed` may use. An item that goes may take others along.
+    items->Prune(parts->itemsFrame);
+    const auto removed = std::exchange(items->list, {});
+    for (const QPointer<QObject>& item : removed)
+        delete item;
     delete parts->panelScrollArea;
 }
 
@@ -202,22 +202,27 @@ void ScrollablePanelWithItem::SetItemsSpacing(int spacing)
 
 void ScrollablePanelWithItem::Append(QToolButton* item)
 {
-    if (!item)
+    if (!item || item == parts->leftScrollButton || item == parts->rightScrollButton ||
+        !Common::CanHold(parts->itemsFrame, item))
         return;
-    // Only what is in the frame already can be in the list.
-    if (item->parentWidget() == parts->itemsFrame)
-        items->list.removeOne(item);
+    items->Prune(parts->itemsFrame);
+    items->list.removeOne(item);
     items->list.append(item);
     Common::AppendToLayout(parts->itemsLayout, item);
+    // A layout takes a deleted widget out by an event, which a filter may swallow, and would use it afterwards.
+    disconnect(item, nullptr, parts->itemsLayout, nullptr);
+    connect(item, &QObject::destroyed, parts->itemsLayout,
+            [layout = parts->itemsLayout, item] { layout->removeWidget(item); });
     item->installEventFilter(parts->panelScrollArea);
     parts->panelScrollArea->updateGeometry();
 }
 
 void ScrollablePanelWithItem::RemoveItems()
 {
-    const QList<QToolButton*> removed = std::exchange(items->list, {});
-    for (QToolButton* item : removed) {
-        parts->itemsLayout->removeWidget(item);
+    items->Prune(parts->itemsFrame);
+    const auto removed = std::exchange(items->list, {});
+    for (QObject* item : removed) {
+        parts->itemsLayout->removeWidget(static_cast<QWidget*>(item));
         item->deleteLater();
     }
     parts->panelScrollArea->updateGeometry();
@@ -225,9 +230,10 @@ void ScrollablePanelWithItem::RemoveItems()
 
 bool ScrollablePanelWithItem::SelectItem(int index)
 {
+    items->Prune(parts->itemsFrame);
     if (index < 0 || index >= items->list.size())
         return false;
-    items->list[index]->click();
+    static_cast<QToolButton*>(items->list[index].data())->click();
     return true;
 }
 

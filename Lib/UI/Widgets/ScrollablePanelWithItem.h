@@ -34,7 +34,8 @@ public:
     int GetItemsScpacing() const;
     void SetItemsSpacing(int spacing);
 
-    /// Puts an item at the end, also one that is an item already. Null is ignored.
+    /// Puts an item at the end, also one that is an item already. Null, a scroll button and a parent of
+    /// the panel are ignored.
     void Append(QToolButton* item);
 
     /// Takes all items out and has them deleted when control returns to the event loop.

@@ -1,5 +1,6 @@
 #include <UI/Widgets/ScrollablePanelWithItem.h>
 
+#include <Support/EventSwallower.h>
 #include <Support/Input.h>
 #include <Support/TestCase.h>
 
@@ -133,6 +134,29 @@ private Q_SLOTS:
         QVERIFY(scene.panel->SelectItem(0));
         connect(hidden, &QToolButton::clicked, [&] { scene.panel.reset(); });
         QVERIFY(scene.panel->SelectItem(0) && !scene.panel);
+    }
+
+    void itemThatIsBeingDestroyedIsNoItem()
+    {
+        Scene scene(3);
+        const Support::EventSwallower swallower; // of the event about a removed child, too
+        int clicks = 0;
+        connect(scene.items[1], &QToolButton::clicked, [&] { ++clicks; });
+        connect(scene.items[0], &QObject::destroyed, [&] { scene.panel->SelectItem(0); });
+        connect(scene.items[2], &QObject::destroyed, [panel = scene.panel.get()] { panel->RemoveItems(); });
+        delete scene.items[0];
+        QCOMPARE(clicks, 1);
+        QVERIFY(!scene.panel->SelectItem(2));
+        scene.panel.reset();
+    }
+
+    void partsAndParentsOfThePanelAreNotTaken()
+    {
+        QToolButton outer;
+        auto* panel = new ScrollablePanelWithItem(&outer);
+        panel->Append(&outer);
+        panel->Append(panel->findChild<QToolButton*>("leftScrollButton"));
+        QVERIFY(!panel->SelectItem(0));
     }
 };
 
