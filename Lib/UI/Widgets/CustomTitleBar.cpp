@@ -2,6 +2,7 @@
 
 #include <UI/Common/AccessibleFactory.h>
 #include <UI/Common/BoxLayouts.h>
+#include <UI/Common/CanHold.h>
 #include <UI/Common/MirroredStyle.h>
 
 #include <Zelkor/Vx/UI/Util/WindowMouseMoveHelper.h>
@@ -13,6 +14,7 @@
 #include <QMainWindow>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QPointer>
 #include <QRegularExpression>
 #include <QStyle>
 #include <QToolButton>
@@ -149,6 +151,7 @@ struct CustomTitleBar::Impl
             MakePixmap(icon, windowIconSize, iconLabel->devicePixelRatioF(), iconLabel->window()->windowHandle()));
     }
 
+    QPointer<QWidget> window;       ///< the parent at first; the bar serves it also after it is given another parent
     ZFrame* contentFrame = nullptr; ///< the window's
     QLabel* iconLabel;
     QLabel* titleLabel;
@@ -159,8 +162,8 @@ struct CustomTitleBar::Impl
 };
 
 CustomTitleBar::Impl::Impl(CustomTitleBar* bar)
-    : iconLabel(MakePart<QLabel>("iconLabel", bar)), titleLabel(MakePart<TitleLabel>("titleLabel", bar)),
-      userWidgetsFrame(MakePart<ZFrame>("userWidgetsFrame", bar)),
+    : window(bar->parentWidget()), iconLabel(MakePart<QLabel>("iconLabel", bar)),
+      titleLabel(MakePart<TitleLabel>("titleLabel", bar)), userWidgetsFrame(MakePart<ZFrame>("userWidgetsFrame", bar)),
       minimizeButton(MakePart<QToolButton>("minimizeButton", bar)),
       closeButton(MakePart<QToolButton>("closeButton", bar))
 {
@@ -197,7 +200,8 @@ CustomTitleBar::~CustomTitleBar() = default;
 
 void CustomTitleBar::AddWidget(QWidget* widget)
 {
-    impl->userWidgetsFrame->layout()->addWidget(widget);
+    if (Common::CanHold(impl->userWidgetsFrame, widget))
+        impl->userWidgetsFrame->layout()->addWidget(widget);
 }
 
 void CustomTitleBar::AddSeparator()
@@ -215,8 +219,8 @@ void CustomTitleBar::SetWindowIconSize(int size)
     if (size == impl->windowIconSize)
         return;
     impl->windowIconSize = size;
-    if (parentWidget())
-        impl->ShowIcon(parentWidget()->windowIcon());
+    if (impl->window)
+        impl->ShowIcon(impl->window->windowIcon());
 }
 
 void CustomTitleBar::RebuildWindow(QWidget* window)
@@ -271,7 +275,7 @@ void CustomTitleBar::SetUpWindow(QWidget* window)
 
 void CustomTitleBar::ShowTitle()
 {
-    const QString title = ShownTitle(parentWidget());
+    const QString title = ShownTitle(impl->window);
     impl->titleLabel->setText(title);
     setAccessibleName(title);
 }
@@ -288,7 +292,7 @@ void CustomTitleBar::Retranslate()
 
 bool CustomTitleBar::eventFilter(QObject* watched, QEvent* event)
 {
-    if (event->type() == QEvent::ModifiedChange && watched == parentWidget())
+    if (event->type() == QEvent::ModifiedChange && watched == impl->window)
         ShowTitle();
     return ZFrame::eventFilter(watched, event);
 }
@@ -297,8 +301,8 @@ bool CustomTitleBar::event(QEvent* event)
 {
     // On another screen the icon may have another size, in another style other colours.
     const bool isOutdated = event->type() == QEvent::ScreenChangeInternal || event->type() == QEvent::StyleChange;
-    if (isOutdated && parentWidget() && !impl->iconLabel->pixmap(Qt::ReturnByValue).isNull())
-        impl->ShowIcon(parentWidget()->windowIcon());
+    if (isOutdated && impl->window && !impl->iconLabel->pixmap(Qt::ReturnByValue).isNull())
+        impl->ShowIcon(impl->window->windowIcon());
     // A label without a picture takes its size from its font, and keeps it when that changes.
     if (event->type() == QEvent::FontChange && impl->iconLabel->pixmap(Qt::ReturnByValue).isNull())
         impl->iconLabel->clear();

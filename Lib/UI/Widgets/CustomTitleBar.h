@@ -14,8 +14,9 @@ namespace Zelkor::Vx::UI {
 /// content frame, and above that lies the title bar. The left mouse button drags the window by the bar, by the free
 /// area of the content frame, and by the labels that lie directly in it. A window that could not be minimised or closed
 /// by its frame has no such button here. The window owns the title bar; one that goes before its window leaves the
-/// window frameless, with its content. Without a window it is a bar with nothing to do; so it is, hidden, in a
-/// `QMainWindow`, which cannot part with its layout. GUI thread only.
+/// window frameless, with its content, and one that is given another parent serves its window from there. Without a
+/// window it is a bar with nothing to do; so it is, hidden, in a `QMainWindow`, which cannot part with its layout. GUI
+/// thread only.
 ///
 /// Object names for style sheets: "CustomTitleBar", in it "iconLabel", "titleLabel", "userWidgetsFrame" with each
 /// "separator", "minimizeButton" and "closeButton"; beside it in the window "contentFrame".
@@ -29,7 +30,8 @@ public:
     explicit CustomTitleBar(QWidget* parent);
     ~CustomTitleBar() override;
 
-    /// Puts a widget after those that were added before, ahead of the buttons. The title bar owns it.
+    /// Puts a widget after those that were added before, ahead of the buttons. The title bar owns it. Null, the title
+    /// bar itself and its parents are ignored.
     void AddWidget(QWidget* widget);
 
     /// Adds a line between widgets. Its size and look come from the style sheet.

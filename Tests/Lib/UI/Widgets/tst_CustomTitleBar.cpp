@@ -173,6 +173,29 @@ private Q_SLOTS:
         QCOMPARE(window.DragAt(window.Part("label")), WAY);
     }
 
+    void servesItsWindowUnderAnotherParent()
+    {
+        std::unique_ptr<CustomTitleBar> bar;
+        {
+            Window window(Qt::Window);
+            bar.reset(window.bar);
+            bar->setParent(nullptr);
+            window.setWindowTitle("new[*]");
+            window.setWindowModified(true);
+            QCOMPARE(bar->findChild<QLabel*>("titleLabel")->text(), QString("new*"));
+        }
+        bar->SetWindowIconSize(16);
+    }
+
+    void widgetsThatItCannotHoldAreIgnored()
+    {
+        Window window(Qt::Window);
+        for (QWidget* widget : {static_cast<QWidget*>(nullptr), window.Part("userWidgetsFrame"),
+                                static_cast<QWidget*>(window.bar), static_cast<QWidget*>(&window)})
+            window.bar->AddWidget(widget);
+        QCOMPARE(window.bar->parentWidget(), &window);
+    }
+
     void otherParents()
     {
         CustomTitleBar(nullptr).SetWindowIconSize(16);
