@@ -20,6 +20,8 @@ boost::intrusive_ptr<ScriptedDevice> OrdinaryDevice(int rate)
 
 void ScriptedReader::CreateOutput(boost::intrusive_ptr<Acquis::ICaptureOutput>& output, const std::string& name, int)
 {
+    if (onOutput)
+        onOutput();
     outputName = name;
     output = this;
 }

@@ -56,6 +56,7 @@ public:
     boost::intrusive_ptr<Acquis::IFrameReader> GetFrameReader() override { return this; }
     void ReadLatestFrame(boost::intrusive_ptr<Proc::IDataVideo>& frame) override;
 
+    std::function<void()> onOutput; ///< what happens when an output is asked for
     std::atomic<int> reads{0};
     std::string outputName;
     boost::intrusive_ptr<Acquis::TimeShift> shift;

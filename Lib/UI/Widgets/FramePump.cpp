@@ -1,5 +1,6 @@
 #include <UI/Widgets/FramePump.h>
 
+#include <UI/Widgets/FailureOf.h>
 #include <UI/Widgets/VideoPreviewWidget.h>
 
 #include <algorithm>
@@ -58,8 +59,8 @@ void PreviewGate::Close()
 }
 
 FramePump::FramePump(std::shared_ptr<PreviewGate> gate, boost::intrusive_ptr<Acquis::IFrameReader> reader,
-                     double frameRate)
-    : gate(std::move(gate)), reader(std::move(reader)), period(FramePeriod(frameRate))
+                     double frameRate, FailureHandler onFailure)
+    : gate(std::move(gate)), reader(std::move(reader)), period(FramePeriod(frameRate)), onFailure(std::move(onFailure))
 {}
 
 FramePump::~FramePump()
@@ -89,6 +90,15 @@ void FramePump::Run()
 {
     if (!reader || !gate->IsOpen())
         return;
+    const auto failure = FailureOf([this] { ShowFrames(); });
+    gate->Reset();
+    reader = nullptr;
+    if (failure)
+        onFailure(*failure);
+}
+
+void FramePump::ShowFrames()
+{
     const auto isStopping = [this] { return stopping; };
     auto deadline = std::chrono::steady_clock::now() + period;
     std::unique_lock<std::mutex> lock(mutex);
@@ -103,9 +113,6 @@ void FramePump::Run()
         if (previewIsGone)
             break;
     }
-    lock.unlock();
-    gate->Reset();
-    reader = nullptr;
 }
 
 } // namespace Zelkor::Vx

@@ -4,9 +4,11 @@
 
 #include <atomic>
 #include <condition_variable>
+#include <functional>
 #include <memory>
 #include <mutex>
 #include <optional>
+#include <string>
 #include <thread>
 
 namespace Zelkor::Vx {
@@ -44,7 +46,11 @@ private:
 class FramePump
 {
 public:
-    FramePump(std::shared_ptr<PreviewGate> gate, boost::intrusive_ptr<Acquis::IFrameReader> reader, double frameRate);
+    /// Receives what the reader or the preview threw; called on the pump's thread, at its end.
+    using FailureHandler = std::function<void(const std::string& what)>;
+
+    FramePump(std::shared_ptr<PreviewGate> gate, boost::intrusive_ptr<Acquis::IFrameReader> reader, double frameRate,
+              FailureHandler onFailure);
     ~FramePump();
 
     /// Starts the thread of `pump`, which it keeps alive until it ends. Throws `std::system_error` when there are no
@@ -57,10 +63,12 @@ public:
 
 private:
     void Run();
+    void ShowFrames();
 
     const std::shared_ptr<PreviewGate> gate;
     boost::intrusive_ptr<Acquis::IFrameReader> reader; ///< released by the thread at its end; it may hold the device
     const std::chrono::milliseconds period;
+    const FailureHandler onFailure;
 
     std::mutex mutex;
     std::condition_variable wake;

@@ -2,6 +2,7 @@
 
 #include <UI/Common/GuiThreadCall.h>
 #include <UI/Common/LogSource.h>
+#include <UI/Widgets/FailureOf.h>
 #include <UI/Widgets/FramePump.h>
 #include <UI/Widgets/PreviewFeeder.h>
 #include <UI/Widgets/RetrySchedule.h>
@@ -68,11 +69,14 @@ private:
     void HandleStarted(const Observer* from, const boost::intrusive_ptr<Acquis::IFrameProvider>& provider);
     void HandleError(const Observer* from, int code);
     void HandleStopped(const Observer* from);
+    void HandleBrokenPump(const Observer* from, const std::string& what);
 
     bool IsCurrent(const Observer* observer) const { return session.observer.get() == observer; }
     boost::intrusive_ptr<Acquis::ICaptureSession> CreateCaptureSession() const;
     void BuildSession(unsigned forEpoch);
     void StartSession(const Session& started);
+    void StartPump(const Observer* from, Acquis::IFrameProvider& provider);
+    void RetryIfCurrent(const Observer* from);
     void EndPump(const std::shared_ptr<FramePump>& ended);
     void RequestRetry();
     void ArmRetryTimer();
@@ -118,6 +122,12 @@ public:
     {
         if (const auto impl = weakImpl.lock())
             impl->HandleStopped(this);
+    }
+
+    void HandleBrokenPump(const std::string& what)
+    {
+        if (const auto impl = weakImpl.lock())
+            impl->HandleBrokenPump(this, what);
     }
 
 private:
@@ -184,8 +194,11 @@ void WebCameraPreviewStream::Impl::Stop()
         std::swap(stopped, session);
         ended = pump;
     }
-    if (stopped.capture)
-        stopped.capture->Stop();
+    if (stopped.capture) {
+        // Destructors call this, too.
+        if (const auto failure = FailureOf([&] { stopped.capture->Stop(); }))
+            LOG_SOURCE.Error(133, "Zelkor::Vx::WebCameraPreviewStream::Impl::Stop", failure->c_str());
+    }
     EndPump(ended);
     gate->Reset();
 }
@@ -213,12 +226,9 @@ bool WebCameraPreviewStream::Impl::Retry()
     EndPump(ended);
     failed = Session();
     gate->Reset();
-    try {
-        BuildSession(forEpoch);
-    } catch (const std::exception& error) {
-        // An exception must not reach Qt's event loop, which calls this: it counts as one more failed start.
-        LOG_SOURCE.Error(150, "Zelkor::Vx::WebCameraPreviewStream::Impl::BuildSession", error.what());
-    }
+    // An exception must not reach Qt's event loop, which calls this: it counts as one more failed start.
+    if (const auto failure = FailureOf([&] { BuildSession(forEpoch); }))
+        LOG_SOURCE.Error(150, "Zelkor::Vx::WebCameraPreviewStream::Impl::BuildSession", failure->c_str());
 
     Session started;
     {
@@ -230,7 +240,10 @@ bool WebCameraPreviewStream::Impl::Retry()
         if (!started.capture)
             RequestRetry();
     }
-    StartSession(started);
+    if (const auto failure = FailureOf([&] { StartSession(started); })) {
+        LOG_SOURCE.Error(158, "Zelkor::Vx::WebCameraPreviewStream::Impl::StartSession", failure->c_str());
+        RetryIfCurrent(started.observer.get());
+    }
     return true;
 }
 
@@ -262,6 +275,7 @@ boost::intrusive_ptr<Acquis::IDeviceSettings> WebCameraPreviewStream::Impl::Sett
     return settingsHandle;
 }
 
+// A session whose frames cannot be read is as good as lost. The engine, which calls this, must not get the exception.
 void WebCameraPreviewStream::Impl::HandleStarted(const Observer* from,
                                                  const boost::intrusive_ptr<Acquis::IFrameProvider>& provider)
 {
@@ -273,9 +287,16 @@ void WebCameraPreviewStream::Impl::HandleStarted(const Observer* from,
         previous = pump;
     }
     EndPump(previous);
+    if (const auto failure = FailureOf([&] { StartPump(from, *provider); })) {
+        LOG_SOURCE.Error(196, "Zelkor::Vx::WebCameraPreviewStream::Impl::handleStarted", failure->c_str());
+        RetryIfCurrent(from);
+    }
+}
 
+void WebCameraPreviewStream::Impl::StartPump(const Observer* from, Acquis::IFrameProvider& provider)
+{
     boost::intrusive_ptr<Acquis::ICaptureOutput> output;
-    provider->CreateOutput(output, "WebCameraPreview", 0);
+    provider.CreateOutput(output, "WebCameraPreview", 0);
     if (!output)
         return;
     output->SetTimeShift(new TimeShift);
@@ -285,22 +306,23 @@ void WebCameraPreviewStream::Impl::HandleStarted(const Observer* from,
     if (!IsCurrent(from) || pump)
         return;
     // Started under the lock, so that whoever finds the pump finds its thread.
-    auto started = std::make_shared<FramePump>(gate, std::move(reader), frameRate);
-    try {
-        FramePump::Start(started);
-        pump = std::move(started);
-    } catch (const std::exception& error) {
-        LOG_SOURCE.Error(196, "Zelkor::Vx::WebCameraPreviewStream::Impl::handleStarted", error.what());
-    }
+    const auto onFailure = [observer = session.observer](const std::string& what) { observer->HandleBrokenPump(what); };
+    auto started = std::make_shared<FramePump>(gate, std::move(reader), frameRate, onFailure);
+    FramePump::Start(started);
+    pump = std::move(started);
 }
 
 void WebCameraPreviewStream::Impl::HandleError(const Observer* from, int code)
 {
     LOG_SOURCE.Error(212, "Zelkor::Vx::WebCameraPreviewStream::Impl::handleError",
                      "Cannot create preview stream. Error code: ", code);
-    const std::lock_guard<std::mutex> lock(mutex);
-    if (IsCurrent(from))
-        RequestRetry();
+    RetryIfCurrent(from);
+}
+
+void WebCameraPreviewStream::Impl::HandleBrokenPump(const Observer* from, const std::string& what)
+{
+    LOG_SOURCE.Error(219, "Zelkor::Vx::WebCameraPreviewStream::Impl::HandleBrokenPump", what.c_str());
+    RetryIfCurrent(from);
 }
 
 void WebCameraPreviewStream::Impl::HandleStopped(const Observer* from)
@@ -381,6 +403,14 @@ void WebCameraPreviewStream::Impl::EndPump(const std::shared_ptr<FramePump>& end
     const std::lock_guard<std::mutex> lock(mutex);
     if (pump == ended)
         pump = nullptr;
+}
+
+/// Schedules a retry for a session that is lost, unless another one has replaced it.
+void WebCameraPreviewStream::Impl::RetryIfCurrent(const Observer* from)
+{
+    const std::lock_guard<std::mutex> lock(mutex);
+    if (IsCurrent(from))
+        RequestRetry();
 }
 
 /// Schedules a retry. Called under the lock.

@@ -6,6 +6,11 @@
 namespace Zelkor::Acquis {
 
 /// Makes capture sessions. Any thread may call.
+///
+/// This and all that the engine gives out (sessions, outputs, readers, devices) may throw a `std::exception` from any
+/// function that is not `noexcept`. Exceptions pass through `SetDevice` and `StartStream` of a preview stream to the
+/// caller. Elsewhere the stream logs them: one from a retry, an output, a reader or a conversion means that the session
+/// is lost.
 class VX_HOST_INTERFACE ICaptureFactory : public virtual IRefCountable
 {
 public:

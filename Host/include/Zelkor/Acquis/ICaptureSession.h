@@ -13,7 +13,7 @@ class ICaptureSession;
 /// Is told what becomes of a session.
 ///
 /// The engine calls on a thread of its own, one call at a time for each start, and holds nothing meanwhile that
-/// `ICaptureSession::Stop` needs from other threads.
+/// `ICaptureSession::Stop` needs from other threads. Observers do not throw.
 class VX_HOST_INTERFACE ICaptureSessionObserver
 {
 public:

@@ -250,23 +250,61 @@ private Q_SLOTS:
         }
     }
 
-    // An exception in the event loop would end the program.
-    void incompatibleSettingsFailTheRetry()
+    // In the event loop or on a thread, an exception would end the program.
+    void exceptionOfTheEngineFailsTheStart_data()
     {
+        QTest::addColumn<int>("times");
+        QTest::addColumn<QString>("line");
+        QTest::newRow("settings") << 6 << "150 %1BuildSession: Incompatible device and settings";
+        QTest::newRow("start") << 6 << "158 %1StartSession: start";
+        QTest::newRow("output") << 7 << "196 %1handleStarted: output";
+        QTest::newRow("frame") << 7 << "219 %1HandleBrokenPump: frame";
+    }
+
+    void exceptionOfTheEngineFailsTheStart()
+    {
+        QFETCH(int, times);
+        QFETCH(QString, line);
+        const QString thrower = QTest::currentDataTag();
         LogCapture log;
         Scene scene;
         QSignalSpy failed(scene.stream, &WebCameraPreviewStream::WebCameraOpenError);
         const auto device = OrdinaryDevice();
+        const auto throwIf = [&](const char* place) {
+            if (thrower == place)
+                throw std::runtime_error(place);
+        };
+        scene.reader.reset(new ScriptedReader([&] {
+            throwIf("frame");
+            return nullptr;
+        }));
+        scene.reader->onOutput = [&] { throwIf("output"); };
         scene.engine.onStart = [&](const auto& session) {
-            device->deniesItsModes = true;
-            session->ReportError(1);
+            device->deniesItsModes = thrower == "settings";
+            if (scene.engine.starts > 1)
+                throwIf("start");
+            if (thrower == "start" || thrower == "settings")
+                session->ReportError(1);
+            else
+                session->ReportStarted(scene.reader);
         };
         scene.stream->SetDevice(device, "only", 100);
         scene.stream->StartStream();
         QTRY_COMPARE_WITH_TIMEOUT(failed.size(), 1, 20000);
-        const QString line("E Lib/UI/Widgets/WebCameraPreviewStream:150"
-                           " Zelkor::Vx::WebCameraPreviewStream::Impl::BuildSession: Incompatible device and settings");
-        QCOMPARE(log.Lines().count(line), 6);
+        const QString text =
+            "E Lib/UI/Widgets/WebCameraPreviewStream:" + line.arg("Zelkor::Vx::WebCameraPreviewStream::Impl::");
+        QCOMPARE(log.Lines().count(text), times);
+    }
+
+    void exceptionOfAStopIsLogged()
+    {
+        LogCapture log;
+        Scene scene;
+        scene.engine.onStop = [](const auto&) { throw std::runtime_error("stop"); };
+        scene.Run();
+        scene.preview.reset();
+        QCOMPARE(log.Lines(), QStringList("E Lib/UI/Widgets/WebCameraPreviewStream:133"
+                                          " Zelkor::Vx::WebCameraPreviewStream::Impl::Stop: stop"));
     }
 
     void frameIsConvertedOnceUntilThePreviewChanges()
