@@ -100,7 +100,6 @@ private Q_SLOTS:
         QTest::addColumn<QTime>("expected");
         QTest::newRow("Backspace, hours hidden") << "mm:ss" << int(Qt::Key_Backspace) << QTime(14, 20, 36, 500);
         QTest::newRow("digit, hours hidden") << "mm:ss" << int(Qt::Key_1) << QTime(14, 15, 36, 500);
-        QTest::newRow("Backspace, only minutes shown") << "mm" << int(Qt::Key_Backspace) << QTime(14, 20, 36, 500);
         QTest::newRow("hours hidden but for AM/PM") << "mm_AP" << int(Qt::Key_Backspace) << QTime(14, 20, 36, 500);
         QTest::newRow("seconds hidden") << "mm.zzz" << int(Qt::Key_Backspace) << QTime(14, 20, 36, 500);
     }

@@ -12,8 +12,7 @@
 
 #include <limits>
 
-using Values = QMap<qint64, qint64>; // of times
-using Times = QMap<qint64, qint64>;  // of values
+using Values = QMap<qint64, qint64>; // of times, or the other way
 using Numbers = QVector<qint64>;
 
 constexpr qint64 LOWEST = std::numeric_limits<qint64>::min();
@@ -28,7 +27,7 @@ private Q_SLOTS:
     void timesAndValues()
     {
         // Start, end and bounds, whether these are ignored.
-        const std::tuple<const char*, Numbers, bool, Values, Times> rows[] = {
+        const std::tuple<const char*, Numbers, bool, Values, Values> rows[] = {
             {"plain", {0, 60000, -1, -1}, false, {{-9, 0}, {30000, 500}, {99999, 1000}}, {{500, 30000}, {2000, 60000}}},
             {"later", {10000, 70000, -1, -1}, false, {{0, 167}, {30000, 500}}, {{0, 0}, {500, 30000}}},
             {"bounds", {0, 60000, 20000, 50000}, false, {{0, 0}, {35000, 500}}, {{0, 20000}, {500, 35000}}},
@@ -139,8 +138,6 @@ private Q_SLOTS:
         QAccessibleValueInterface* value = accessible->valueInterface();
         value->setCurrentValue(22000);
         QCOMPARE(accessible->text(QAccessible::Value), QString("0:22"));
-        QCOMPARE(QVariantList({value->minimumValue(), value->currentValue(), value->maximumValue()}),
-                 QVariantList({20000, 22001, 23000}));
         slider.setSingleStep(std::numeric_limits<int>::max());
         slider.setRange(1, std::numeric_limits<int>::max());
         QCOMPARE(value->minimumStepSize(), QVariant(3000)); // no further than the end
