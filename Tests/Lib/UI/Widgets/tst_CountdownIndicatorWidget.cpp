@@ -5,7 +5,6 @@
 
 #include <QAccessible>
 #include <QLabel>
-#include <QTranslator>
 
 #include <list>
 
@@ -23,16 +22,6 @@ QString Shown(const CountdownIndicatorWidget& countdown)
         texts << countdown.findChild<QLabel*>(name)->text();
     return texts.join(' ');
 }
-
-/// Translates to what the translators are told.
-class Comments : public QTranslator
-{
-    bool isEmpty() const override { return false; }
-    QString translate(const char* context, const char*, const char* comment, int n) const override
-    {
-        return qstrcmp(context, "CountdownIndicatorWidget") == 0 && n == -1 ? comment : "";
-    }
-};
 
 } // namespace
 
@@ -60,20 +49,6 @@ private Q_SLOTS:
         countdown.setAccessibleName("Starts in");
         const QString told = QAccessible::queryAccessibleInterface(&countdown)->text(QAccessible::Name);
         QCOMPARE(told, QString("Starts in 100 yr 0 mon 0 day"));
-    }
-
-    void languageChangesAtRunTime()
-    {
-        CountdownIndicatorWidget countdown(nullptr);
-        countdown.SetSeconds(8553601);
-        Comments comments;
-        QCoreApplication::installTranslator(&comments);
-        const QString max = " (max 3 letters)";
-        QTRY_COMPARE(Shown(countdown), "03 09 00 short months" + max + " short days" + max + " short hours" + max);
-        countdown.SetSeconds(31536001);
-        QVERIFY(Shown(countdown).startsWith("01 00 00 short years" + max));
-        countdown.SetSeconds(0);
-        QVERIFY(Shown(countdown).endsWith("short minutes" + max + " short seconds" + max));
     }
 
     void onlyWhatChangesIsPainted()
