@@ -122,30 +122,24 @@ private Q_SLOTS:
     void menuDoesNotGrowWithChanges()
     {
         const auto button = ThreeItems();
-        for (int i = 0; i < 100; ++i) {
-            Perform(*button, i % 2 == 0 ? "remove 0" : "remove 1");
-            Perform(*button, "append");
-        }
-        const auto actions = button->menu()->actions();
-        QCOMPARE(actions.size(), 3 + 3);
-        for (int i = 0; i < actions.size(); ++i)
-            QCOMPARE(actions[i]->isSeparator(), i % 2 == 1);
+        for (const char* operation : {"remove 0", "append", "remove 1", "append", "remove 2", "append"})
+            Perform(*button, operation);
+        QString kinds;
+        for (const QAction* action : button->menu()->actions())
+            kinds += action->isSeparator() ? '-' : '*';
+        QCOMPARE(kinds, QString("*-*-*-"));
     }
 
     void keyOpensTheMenuAtTheCurrentItem_data()
     {
-        QTest::addColumn<Qt::Key>("key");
-        QTest::addColumn<Qt::KeyboardModifiers>("modifiers");
-        QTest::newRow("Down") << Qt::Key_Down << Qt::KeyboardModifiers(Qt::NoModifier);
-        QTest::newRow("Alt+Down") << Qt::Key_Down << Qt::KeyboardModifiers(Qt::AltModifier);
-        QTest::newRow("F4") << Qt::Key_F4 << Qt::KeyboardModifiers(Qt::NoModifier);
-        QTest::newRow("Menu") << Qt::Key_Menu << Qt::KeyboardModifiers(Qt::NoModifier);
+        QTest::addColumn<QKeySequence>("keys");
+        for (const char* keys : {"Down", "Alt+Down", "F4", "Menu"})
+            QTest::newRow(keys) << QKeySequence(keys);
     }
 
     void keyOpensTheMenuAtTheCurrentItem()
     {
-        QFETCH(Qt::Key, key);
-        QFETCH(Qt::KeyboardModifiers, modifiers);
+        QFETCH(QKeySequence, keys);
         const auto button = ThreeItems();
         button->show();
         QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(button.get());
@@ -156,7 +150,7 @@ private Q_SLOTS:
             QTest::keyClick(menu, Qt::Key_Down);
             QTest::keyClick(menu, Qt::Key_Return);
         });
-        QTest::keyClick(button.get(), key, modifiers);
+        QTest::keySequence(button.get(), keys);
         QVERIFY(isOpened);
         QVERIFY(accessible->state().collapsed);
         QCOMPARE(button->CurrentIndex(), 2);
@@ -181,19 +175,14 @@ private Q_SLOTS:
         const auto button = ThreeItems();
         button->show();
         auto* actions = QAccessible::queryAccessibleInterface(button.get())->actionInterface();
-        const QStringList names = actions->actionNames();
-        QCOMPARE(names.count(QAccessibleActionInterface::showMenuAction()), 1);
         QSignalSpy clicked(button.get(), &QAbstractButton::clicked);
         actions->doAction(QAccessibleActionInterface::pressAction());
         QCOMPARE(clicked.size(), 1);
         bool isOpened = false;
-        const Support::LoopWatch loops([&](QWidget* menu) {
-            isOpened = true;
-            Support::Dismiss(menu);
-        });
+        connect(button->menu(), &QMenu::aboutToShow, [&] { isOpened = true; });
+        const Support::LoopWatch loops(Support::Dismiss);
         actions->doAction(QAccessibleActionInterface::showMenuAction());
         QTRY_VERIFY(isOpened);
-        QTRY_VERIFY(!button->menu()->isVisible());
     }
 
     void slotMayCallBack()
