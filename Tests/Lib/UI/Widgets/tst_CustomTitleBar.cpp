@@ -123,21 +123,14 @@ private Q_SLOTS:
         QTest::addColumn<QString>("text");
         QTest::addColumn<QString>("unmodified");
         QTest::addColumn<QString>("modified");
-        QTest::newRow("no place") << "a * b"
-                                  << "a * b"
-                                  << "a * b";
-        QTest::newRow("at the end") << "a.txt[*]"
-                                    << "a.txt"
-                                    << "a.txt*";
-        QTest::newRow("two places") << "[*]a[*] - B"
-                                    << "a - B"
-                                    << "*a* - B";
-        QTest::newRow("literal") << "a[*][*]"
-                                 << "a[*]"
-                                 << "a[*]";
-        QTest::newRow("literal and place") << "a[*][*][*]"
-                                           << "a[*]"
-                                           << "a[*]*";
+        const auto add = [](const char* row, const QString& text, const QString& unmodified, const QString& modified) {
+            QTest::newRow(row) << text << unmodified << modified;
+        };
+        add("no place", "a * b", "a * b", "a * b");
+        add("at the end", "a.txt[*]", "a.txt", "a.txt*");
+        add("two places", "[*]a[*] - B", "a - B", "*a* - B");
+        add("literal", "a[*][*]", "a[*]", "a[*]");
+        add("literal and place", "a[*][*][*]", "a[*]", "a[*]*");
     }
 
     void modifiedMarkStandsWhereTheTitleHasIt()

@@ -147,9 +147,8 @@ private Q_SLOTS:
     void ampersandIsShown_data()
     {
         QTest::addColumn<int>("alignment");
-        QTest::newRow("left") << int(Qt::AlignLeft);
-        QTest::newRow("centre") << int(Qt::AlignHCenter);
-        QTest::newRow("right") << int(Qt::AlignRight);
+        for (const int alignment : {int(Qt::AlignLeft), int(Qt::AlignHCenter), int(Qt::AlignRight)})
+            QTest::addRow("alignment %d", alignment) << alignment;
     }
 
     void ampersandIsShown()

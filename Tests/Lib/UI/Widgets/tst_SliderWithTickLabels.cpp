@@ -16,25 +16,6 @@ using Zelkor::Vx::SliderWithTickLabels;
 
 namespace {
 
-QSlider* SliderOf(SliderWithTickLabels& widget)
-{
-    return widget.findChild<QSlider*>("slider");
-}
-
-QList<QLabel*> LabelsOf(SliderWithTickLabels& widget)
-{
-    return widget.findChild<QFrame*>("labelsFrame")->findChildren<QLabel*>();
-}
-
-/// A property of all labels; "-" for one that has none.
-QStringList Marks(SliderWithTickLabels& widget, const char* property)
-{
-    QStringList marks;
-    for (const QLabel* label : LabelsOf(widget))
-        marks.append(label->property(property).isValid() ? label->property(property).toString() : "-");
-    return marks;
-}
-
 QRect PartOf(QSlider* slider, int value, QStyle::SubControl part)
 {
     QStyleOptionSlider option;
@@ -52,6 +33,19 @@ QRect PartOf(QSlider* slider, int value, QStyle::SubControl part)
 class tst_SliderWithTickLabels : public Support::TestCase
 {
     Q_OBJECT
+
+    using Widget = SliderWithTickLabels;
+    static QSlider* SliderOf(Widget& widget) { return widget.findChild<QSlider*>("slider"); }
+    static QList<QLabel*> LabelsOf(Widget& widget) { return widget.findChildren<QLabel*>(); }
+
+    /// A property of all labels; "-" for one that has none.
+    static QStringList Marks(Widget& widget, const char* property)
+    {
+        QStringList marks;
+        for (const QLabel* label : LabelsOf(widget))
+            marks.append(label->property(property).isValid() ? label->property(property).toString() : "-");
+        return marks;
+    }
 
 private Q_SLOTS:
     void itemsAndMarks()

@@ -130,18 +130,15 @@ private Q_SLOTS:
     void everyPixelOfTheRimIsShaded_data()
     {
         QTest::addColumn<qreal>("ratio");
-        QTest::addColumn<QPoint>("place");
-        for (const qreal ratio : {1.0, 1.1, 1.25, 1.5, 1.75, 2.0, 3.0}) {
-            QTest::addRow("pixel ratio %g", ratio) << ratio << QPoint(0, 0);
-            QTest::addRow("pixel ratio %g, moved", ratio) << ratio << QPoint(7, 9);
-        }
+        for (const qreal ratio : {1.0, 1.1, 1.25, 1.5, 1.75, 2.0, 3.0})
+            QTest::addRow("pixel ratio %g", ratio) << ratio;
     }
 
     void everyPixelOfTheRimIsShaded()
     {
         QFETCH(qreal, ratio);
-        QFETCH(QPoint, place);
         for (int side = 1; side < 40; ++side) {
+            const QPoint place(side % 8, side % 9);
             QWidget window;
             window.resize(60, 60);
             auto* widget = new QWidget(&window);
