@@ -137,18 +137,16 @@ private Q_SLOTS:
     // One that is deleted instead of being closed, and one that was opened on a transaction and not on the stack.
     void transactionsOfOddOrigin()
     {
-        {
-            ZUndoStack stack;
-            Play(&stack, "(A(B");
-            delete stack.currentTransaction();
-            Play(&stack, "C");
-            stack.currentTransaction()->startTransaction();
-            Play(&stack, "D))");
-            QVERIFY(!stack.currentTransaction());
-            events.clear();
-            Play(&stack, "<");
-            QCOMPARE(events, QStringList({"uD", "uC", "uA"}));
-        }
+        ZUndoStack stack;
+        Play(&stack, "(A(B");
+        delete stack.currentTransaction();
+        Play(&stack, "C");
+        stack.currentTransaction()->startTransaction();
+        Play(&stack, "D))");
+        QVERIFY(!stack.currentTransaction());
+        events.clear();
+        Play(&stack, "<*");
+        QCOMPARE(events.mid(0, 3), QStringList({"uD", "uC", "uA"}));
         QCOMPARE(alive, 0);
     }
 };

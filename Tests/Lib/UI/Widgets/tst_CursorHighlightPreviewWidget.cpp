@@ -68,18 +68,13 @@ private Q_SLOTS:
     void unchangedValueRepaintsNothing()
     {
         CursorHighlightPreviewWidget preview(nullptr);
-        const auto set = [&] {
-            preview.SetDiameter(81);
-            preview.SetRadius(40);
-            preview.SetColor(COLOR);
-            preview.SetBorderColor(Qt::green);
-            preview.SetBorderWidth(2);
-        };
         preview.show();
         QVERIFY(QTest::qWaitForWindowExposed(&preview));
-        set();
         Support::PaintWatch watch(&preview);
-        set();
+        preview.SetDiameter(2 * preview.GetRadius() + 1);
+        preview.SetColor(preview.GetColor());
+        preview.SetBorderColor(preview.GetBorderColor());
+        preview.SetBorderWidth(preview.GetBorderWidth());
         QVERIFY(watch.Take().isEmpty());
         preview.SetColor(Qt::red);
         QCOMPARE(watch.Take().size(), 1);
