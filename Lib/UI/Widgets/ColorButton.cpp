@@ -79,11 +79,11 @@ struct ColorButton::Impl
     {
         const QPointer<ColorButton> self(&button);
         const QPointer<QColorDialog> dialog(button.impl->dialog);
-        if (dialog)
+        if (dialog && dialog->isEnabled())
             dialog->show();
         if (!self || !dialog)
             return false;
-        if (!dialog->isVisible()) {
+        if (!dialog->isVisible() || !dialog->isEnabled()) {
             // Its window is mapped all the same, and blocks the others.
             delete dialog;
             return false;
@@ -103,7 +103,7 @@ struct ColorButton::Impl
     QColor borderNormal = Qt::darkGray;
     QColor borderDisabled = Qt::lightGray;
     QPointer<QColorDialog> dialog; ///< from the click until it is closed
-    bool isDialogShown = false;    ///< hiding the button closes it
+    bool isDialogShown = false;    ///< hiding or disabling the button closes it
 };
 
 ColorButton::ColorButton(QWidget* parent) : QPushButton(parent), impl(std::make_unique<Impl>())
@@ -252,6 +252,19 @@ void ColorButton::resizeEvent(QResizeEvent* event)
 }
 
 void ColorButton::hideEvent(QHideEvent*)
+{
+    CloseDialog();
+}
+
+// The dialog is disabled with its parent. It would block the application, and not take a key or a click to end that.
+void ColorButton::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::EnabledChange && !isEnabled())
+        CloseDialog();
+    QPushButton::changeEvent(event);
+}
+
+void ColorButton::CloseDialog()
 {
     if (impl->dialog && impl->isDialogShown)
         impl->dialog->close();

@@ -56,7 +56,8 @@ Q_SIGNALS:
     /// The colour is another one; after the dialog was accepted also when it is the same.
     void ColorChanged(const QColor& color);
 
-    /// Come before and after each colour dialog, accepted or not.
+    /// Come before and after each colour dialog, accepted or not. The dialog is cancelled when the button is hidden or
+    /// disabled.
     void ColorDialogWillBeOpened();
     void ColorDialogClosed();
 
@@ -64,9 +65,11 @@ protected:
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void hideEvent(QHideEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
 private:
     void ChooseColor();
+    void CloseDialog();
     void UpdateColorRect();
 
     struct Q_DECL_HIDDEN Impl;

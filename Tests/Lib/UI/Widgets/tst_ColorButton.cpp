@@ -123,6 +123,10 @@ private Q_SLOTS:
         row(
             "new parent", [](auto*, auto* button) { button->setParent(nullptr); }, "opens closed");
         row(
+            "disable", [](auto*, auto* button) { button->setEnabled(false); }, "opens closed");
+        row(
+            "disable the window", [](auto*, auto* button) { button->window()->setEnabled(false); }, "opens closed");
+        row(
             "click again",
             [](auto* dialog, auto* button) {
                 button->click();
@@ -214,27 +218,32 @@ private Q_SLOTS:
     // A dialog that goes while it is being opened does not leave the program waiting for it.
     void dialogThatGoesEarlyCountsAsCancelled_data()
     {
-        QTest::addColumn<bool>("isDeleted");
-        QTest::newRow("closed when shown") << false;
-        QTest::newRow("deleted before") << true;
-    }
-
-    void dialogThatGoesEarlyCountsAsCancelled()
-    {
-        QFETCH(bool, isDeleted);
-        ColorButton button;
-        button.show();
-        QStringList log;
-        LogSignals(&button, log);
-        connect(&button, &ColorButton::ColorDialogWillBeOpened, &button, [&] {
-            auto* dialog = button.findChild<QColorDialog*>();
-            if (isDeleted)
-                return delete dialog;
+        QTest::addColumn<Act>("act");
+        QTest::newRow("closed when shown") << Act([](QColorDialog* dialog, ColorButton*) {
             new Support::EventWatch(dialog, [dialog](QEvent::Type type, QEvent*) {
                 if (type == QEvent::Show)
                     dialog->close();
             });
         });
+        QTest::newRow("deleted before") << Act([](QColorDialog* dialog, ColorButton*) { delete dialog; });
+        QTest::newRow("disabled before") << Act([](QColorDialog*, ColorButton* button) { button->setEnabled(false); });
+        QTest::newRow("disabled when shown") << Act([](QColorDialog* dialog, ColorButton* button) {
+            new Support::EventWatch(dialog, [button](QEvent::Type type, QEvent*) {
+                if (type == QEvent::Show)
+                    button->setEnabled(false);
+            });
+        });
+    }
+
+    void dialogThatGoesEarlyCountsAsCancelled()
+    {
+        QFETCH(Act, act);
+        ColorButton button;
+        button.show();
+        QStringList log;
+        LogSignals(&button, log);
+        connect(&button, &ColorButton::ColorDialogWillBeOpened, &button,
+                [&] { act(button.findChild<QColorDialog*>(), &button); });
         button.click();
         QCOMPARE(log.join(' '), QString("opens closed"));
         QVERIFY(!QApplication::activeModalWidget());
