@@ -83,7 +83,9 @@ void MaskedToolTip::Show(const QPoint& globalPos)
     ensurePolished();
     SetTextOrHide(titleLabel, title);
     SetTextOrHide(textLabel, text);
-    if (!maskImage.isNull())
+    if (maskImage.isNull())
+        clearMask();
+    else
         setMask(OpaquePart(maskImage));
     if (displayTime > 0)
         QTimer::singleShot(displayTime, this, &QWidget::close);

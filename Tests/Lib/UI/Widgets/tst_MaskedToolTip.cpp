@@ -44,6 +44,9 @@ private Q_SLOTS:
             tip.Show(QPoint(50, 40));
             const QRegion whole(0, 0, 100, 60);
             QCOMPARE(tip.mask(), mask.hasAlphaChannel() ? whole - QRegion(0, 0, 20, 10) : whole);
+            tip.SetMask(QImage());
+            tip.Show(QPoint(50, 40));
+            QVERIFY(tip.mask().isEmpty());
         }
     }
 
