@@ -19,6 +19,8 @@
 #include <QtCore/qt_windows.h>
 #endif
 
+#include <utility>
+
 using namespace Zelkor::Vx::UI;
 
 namespace {
@@ -27,6 +29,7 @@ constexpr char STYLE_TAG[] = "styleTag";
 constexpr int MAXIMUM = 100;
 constexpr int STEP = 25; // levels to a page, behind the one for 0
 constexpr int VERTICAL_MARGIN = 5;
+constexpr int CLOSING_PRESS_MS = 200; // between the loss of the focus and the press that caused it, at most
 
 // One level step. It has no focus of its own, and shows that of the button.
 class LevelButton : public QToolButton
@@ -161,7 +164,17 @@ void ZSliderButton::createLevelButtons()
         levelButtons[i]->setCheckable(true);
         levelButtons[i]->setFocusPolicy(Qt::NoFocus);
         levelButtons[i]->setProperty(STYLE_TAG, QStringLiteral("ZSliderButton%1").arg(i));
-        connect(levelButtons[i], &QAbstractButton::clicked, this, &ZSliderButton::showSlider);
+        connect(levelButtons[i], &QAbstractButton::pressed, this, [this] {
+            const bool isJustHidden = sinceHidden.isValid() && !sinceHidden.hasExpired(CLOSING_PRESS_MS);
+            isClosingPress = onTop && (sliderFrame->isVisible() || isJustHidden);
+            sinceHidden.invalidate();
+        });
+        connect(levelButtons[i], &QAbstractButton::clicked, this, [this] {
+            if (std::exchange(isClosingPress, false))
+                sliderFrame->hide();
+            else
+                showSlider();
+        });
     }
     stack = new QStackedWidget(this);
     stack->setProperty(STYLE_TAG, QStringLiteral("ZSliderButtonMain"));
@@ -273,6 +286,9 @@ bool ZSliderButton::eventFilter(QObject* watched, QEvent* event)
         break;
     case QEvent::FocusOut:
         setLevelsChecked(false);
+        // A press on the button activates its window first, and would then open the slider again.
+        if (onTop && sliderFrame->isVisible() && OnScreen(this).contains(QCursor::pos()))
+            sinceHidden.start();
         sliderFrame->hide();
         break;
     case QEvent::Hide:

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QElapsedTimer>
 #include <QWidget>
 
 class QFrame;
@@ -94,4 +95,6 @@ private:
     bool onTop = false;
     bool shadow = true;
     int popUpHeight = 120;
+    QElapsedTimer sinceHidden; ///< since the slider on top lost the focus with the pointer on the button
+    bool isClosingPress = false;
 };

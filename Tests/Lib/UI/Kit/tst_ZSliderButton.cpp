@@ -139,10 +139,19 @@ private Q_SLOTS:
     }
 #endif
 
+    void aSecondClickClosesIt_data()
+    {
+        QTest::addColumn<bool>("onTop");
+        QTest::newRow("pop-up") << false;
+        QTest::newRow("on top") << true;
+    }
+
     // The press that closes the slider is not one that opens it again.
     void aSecondClickClosesIt()
     {
+        QFETCH(bool, onTop);
         Scene scene;
+        scene.button->setOnTop(onTop);
         QVERIFY(QTest::qWaitForWindowActive(&scene.window));
         for (const bool open : {true, false, true}) {
             Support::Click(OnScreen(scene.button).center());
