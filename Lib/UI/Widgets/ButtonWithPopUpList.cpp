@@ -2,6 +2,7 @@
 
 #include <UI/Common/AccessibleFactory.h>
 #include <UI/Common/MirroredStyle.h>
+#include <UI/Common/PopUpKeys.h>
 #include <UI/Common/TextMarks.h>
 
 #include <QAction>
@@ -162,6 +163,15 @@ void ButtonWithPopUpList::AppendItem(const QString& text, const QVariant& data)
     auto* action = new QAction(text, this);
     action->setCheckable(true);
     connect(action, &QAction::triggered, this, [this, action] { ActionTriggered(action); });
+    // The application reaches the actions through the menu, and may delete one.
+    connect(action, &QObject::destroyed, impl.get(), [this](QObject* deleted) {
+        const int index = impl->IndexOf([=](const Impl::Item& item) { return item.action == deleted; });
+        if (index < 0)
+            return;
+        // A slot may delete the button, which would delete its child again.
+        deleted->setParent(nullptr);
+        ForgetItem(index);
+    });
     impl->menu->addAction(action);
     impl->items.append({action, impl->AppendSeparator(), data});
     // The others stay as they are, however many they are.
@@ -176,10 +186,15 @@ void ButtonWithPopUpList::RemoveItem(int index)
     if (!impl->Has(index))
         return;
     QAction* action = impl->items[index].action;
-    impl->leftSeparators.append(impl->items[index].separator);
-    impl->items.removeAt(index);
     impl->menu->removeAction(action);
     action->deleteLater();
+    ForgetItem(index);
+}
+
+void ButtonWithPopUpList::ForgetItem(int index)
+{
+    impl->leftSeparators.append(impl->items[index].separator);
+    impl->items.removeAt(index);
     if (impl->currentIndex == index)
         impl->currentIndex = -1;
     else if (impl->currentIndex > index)
@@ -275,14 +290,9 @@ void ButtonWithPopUpList::CheckCurrentAction()
     setAccessibleDescription(impl->describedAs);
 }
 
-// The keys that open combo boxes and menu buttons.
 void ButtonWithPopUpList::keyPressEvent(QKeyEvent* event)
 {
-    const Qt::KeyboardModifiers modifiers = event->modifiers() & ~Qt::KeypadModifier;
-    const bool isPlain = modifiers == Qt::NoModifier;
-    const bool isDown = event->key() == Qt::Key_Down && (isPlain || modifiers == Qt::AltModifier);
-    const bool opens = isDown || (isPlain && (event->key() == Qt::Key_F4 || event->key() == Qt::Key_Menu));
-    if (!opens || impl->items.isEmpty())
+    if (!Common::OpensPopUp(*event) || impl->items.isEmpty())
         return QToolButton::keyPressEvent(event);
     event->accept();
     impl->isOpenedByKey = true;

@@ -26,8 +26,9 @@ public:
     /// Adds a choice at the end. The first one of an empty list becomes current.
     void AppendItem(const QString& text, const QVariant& data);
 
-    /// Removes a choice; nothing for an index or a value that no item has. When the current one goes, item 0 becomes
-    /// current; when one before it goes, the current index falls by one, without a signal.
+    /// Removes a choice, as the deletion of its action does; nothing for an index or a value that no item has. When the
+    /// current one goes, item 0 becomes current; when one before it goes, the current index falls by one, without a
+    /// signal.
     void RemoveItem(int index);
     void RemoveItem(const QVariant& data);
 
@@ -63,6 +64,7 @@ private Q_SLOTS:
     void UpdateSelectionState();
 
 private:
+    void ForgetItem(int index);
     bool Announce(int index);
     void CheckCurrentAction();
 

@@ -24,16 +24,18 @@ QList<QAction*> ChoicesOf(const ButtonWithPopUpList& button)
     return choices;
 }
 
-// "append", "set 2", "remove 0", "clear" or "trigger 1".
+// "append", "set 2", "remove 0", "clear", "trigger 1" or "delete action 1".
 void Perform(ButtonWithPopUpList& button, const QString& operation)
 {
-    const int number = operation.section(' ', 1).toInt();
+    const int number = operation.section(' ', -1).toInt();
     if (operation == "append")
         button.AppendItem("Item", QString(QChar('a' + button.Count())));
     else if (operation.startsWith("set"))
         button.SetCurrentIndex(number);
     else if (operation.startsWith("remove"))
         button.RemoveItem(number);
+    else if (operation.startsWith("delete action"))
+        delete ChoicesOf(button)[number];
     else if (operation.startsWith("trigger"))
         ChoicesOf(button)[number]->trigger();
     else
@@ -83,6 +85,8 @@ private Q_SLOTS:
             {"remove 2", {}, 1},
             {"remove 3,remove -1", {}, 1},
             {"remove 1,remove 0,remove 0", {0, 0}, -1},
+            {"delete action 0", {}, 0},
+            {"delete action 1,set 1", {0, 1}, 1},
             {"clear", {}, -1},
             {"clear,append,append", {0}, 0},
             {"clear,set -1,set 4", {-1, 4}, 4},
@@ -188,7 +192,7 @@ private Q_SLOTS:
     void slotMayCallBack()
     {
         for (const QString operation : {"append", "remove 0", "remove 1", "clear", "set 0", "delete"}) {
-            for (const QString cause : {"set 1", "trigger 1", "remove 1"}) {
+            for (const QString cause : {"set 1", "trigger 1", "remove 1", "delete action 1"}) {
                 InRow(operation + " in the slot of " + cause);
                 QPointer<ButtonWithPopUpList> button = ThreeItems().release();
                 bool isCalled = false;
