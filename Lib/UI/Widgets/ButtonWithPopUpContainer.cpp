@@ -4,12 +4,14 @@
 #include <UI/Common/BoxLayouts.h>
 #include <UI/Common/LogSource.h>
 #include <UI/Common/MirroredStyle.h>
+#include <UI/Common/PopUpKeys.h>
 #include <UI/Common/TextMarks.h>
 #include <UI/Kit/ZFrame.h>
 #include <UI/Widgets/PopUpPlacement.h>
 
 #include <QApplication>
 #include <QDesktopWidget>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPointer>
 #include <QSignalBlocker>
@@ -91,6 +93,8 @@ struct ButtonWithPopUpContainer::PopUpWindow : public ZFrame
     void setVisible(bool visible) override;
     void Open();
     void LeaveButton();
+    bool IsButtonInUse() const { return button->isVisible() && button->isEnabled(); }
+    bool Accepts(const QWidget* widget, const char* function) const;
     QPoint ComputePopupPosition() const;
     QRect ButtonRect() const { return QRect(button->mapToGlobal(QPoint(0, 0)), button->size()); }
 
@@ -101,14 +105,17 @@ struct ButtonWithPopUpContainer::PopUpWindow : public ZFrame
     Settings shown; ///< the settings of when the window was shown last
     bool showPopupOnClick = true;
     bool isMouseReleased = false; ///< while the button handles that
+    bool wasInUse = false;        ///< the button, when it was clicked last
 
 protected:
     bool event(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
     void showEvent(QShowEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
 
 private:
     void FocusFirstWidget();
+    void WatchButton(bool isWatched);
 
     int eventDepth = 0;
 };
@@ -133,6 +140,7 @@ void ButtonWithPopUpContainer::PopUpWindow::setVisible(bool visible)
     ZFrame::setVisible(visible);
     if (!button || isVisible() == wasVisible)
         return;
+    WatchButton(!wasVisible);
     QAccessible::State changed;
     changed.expanded = true;
     changed.collapsed = true;
@@ -174,10 +182,43 @@ void ButtonWithPopUpContainer::PopUpWindow::LeaveButton()
     deleteLater();
 }
 
+/// Whether the widget may become a part of the panel. Like Qt's layouts, warns of one that may not.
+bool ButtonWithPopUpContainer::PopUpWindow::Accepts(const QWidget* widget, const char* function) const
+{
+    for (const QWidget* holder = container; holder; holder = holder->parentWidget()) {
+        if (holder != widget)
+            continue;
+        qWarning("ButtonWithPopUpContainer::%s: the widget holds the panel", function);
+        return false;
+    }
+    return true;
+}
+
+// The button moves with each of its parents up to its window.
+void ButtonWithPopUpContainer::PopUpWindow::WatchButton(bool isWatched)
+{
+    for (QWidget* widget = button; widget; widget = widget->isWindow() ? nullptr : widget->parentWidget()) {
+        if (isWatched)
+            widget->installEventFilter(this);
+        else
+            widget->removeEventFilter(this);
+    }
+}
+
+bool ButtonWithPopUpContainer::PopUpWindow::eventFilter(QObject* watched, QEvent* event)
+{
+    if (button && isVisible() && (event->type() == QEvent::Move || event->type() == QEvent::Resize))
+        move(ComputePopupPosition());
+    return ZFrame::eventFilter(watched, event);
+}
+
 bool ButtonWithPopUpContainer::PopUpWindow::event(QEvent* event)
 {
     ++eventDepth;
     const bool isHandled = ZFrame::event(event);
+    // Nothing in it can be used when the button was disabled.
+    if (event->type() == QEvent::EnabledChange && !isEnabled())
+        hide();
     if (event->type() == QEvent::LayoutRequest && button && isVisible()) {
         adjustSize();
         move(ComputePopupPosition());
@@ -268,7 +309,8 @@ ButtonWithPopUpContainer::ButtonWithPopUpContainer(QWidget* parent) : QToolButto
     Common::AccessibleFactory<ButtonWithPopUpContainer, PopUpWindow::AccessibleButton>::Install();
     setCheckable(true);
     connect(this, &QAbstractButton::clicked, this, [this] {
-        if (popUp->showPopupOnClick)
+        const bool isWithdrawn = popUp->wasInUse && !popUp->IsButtonInUse();
+        if (popUp->showPopupOnClick && !isWithdrawn)
             ShowPopup();
         else
             SetChecked(this, false);
@@ -358,6 +400,8 @@ void ButtonWithPopUpContainer::AppendWidget(QWidget* widget)
         LOG_SOURCE.Error(273, "Zelkor::Vx::UI::ButtonWithPopUpContainer::AppendWidget", "widget is NULL");
         return;
     }
+    if (!popUp->Accepts(widget, "AppendWidget"))
+        return;
     widget->setParent(popUp);
     popUp->containerLayout->addWidget(widget);
 }
@@ -368,6 +412,8 @@ void ButtonWithPopUpContainer::InsertWidget(QWidget* widget, int index)
         LOG_SOURCE.Error(261, "Zelkor::Vx::UI::ButtonWithPopUpContainer::InsertWidget", "widget is NULL");
         return;
     }
+    if (!popUp->Accepts(widget, "InsertWidget"))
+        return;
     widget->setParent(popUp);
     // The layout does not check for an index past its end.
     popUp->containerLayout->insertWidget(qMin(index, WidgetsCount()), widget);
@@ -407,9 +453,30 @@ int ButtonWithPopUpContainer::WidgetsCount() const
 void ButtonWithPopUpContainer::ShowPopup()
 {
     const QPointer<ButtonWithPopUpContainer> self(this);
+    const bool wasInUse = popUp->IsButtonInUse();
     SetChecked(this, true);
-    if (self)
+    if (!self)
+        return;
+    // A slot may have hidden or disabled the button.
+    if (wasInUse && !popUp->IsButtonInUse())
+        SetChecked(this, false);
+    else
         popUp->Open();
+}
+
+void ButtonWithPopUpContainer::nextCheckState()
+{
+    popUp->wasInUse = popUp->IsButtonInUse();
+    QToolButton::nextCheckState();
+}
+
+// By these keys, which open combo boxes and menu buttons too, a click.
+void ButtonWithPopUpContainer::keyPressEvent(QKeyEvent* event)
+{
+    if (!Common::OpensPopUp(*event))
+        return QToolButton::keyPressEvent(event);
+    event->accept();
+    click();
 }
 
 void ButtonWithPopUpContainer::mouseReleaseEvent(QMouseEvent* event)

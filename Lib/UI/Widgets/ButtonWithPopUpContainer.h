@@ -8,9 +8,10 @@ namespace Zelkor::Vx::UI {
 
 /// A tool button that opens a floating panel of the application's widgets beside itself.
 ///
-/// A click opens the panel and a press outside closes it; while it is open the button is checked. The panel grows in
-/// one of six directions from one of six points of the button, its anchor, and is kept inside the button's screen.
-/// The button owns the panel and the widgets in it. GUI thread only.
+/// A click, Down, Alt+Down, F4 or the menu key opens the panel, and a press outside closes it, as does hiding or
+/// disabling the button; while it is open the button is checked, and the panel follows it. The panel grows in one of
+/// six directions from one of six points of the button, its anchor, and is kept inside the button's screen. The button
+/// owns the panel and the widgets in it. GUI thread only.
 ///
 /// Object names for style sheets: "popUpWindow", the transparent window, and "popUpContainer", the panel in it. Both
 /// are `ZFrame`s, whose margins and spacing are properties.
@@ -88,7 +89,8 @@ public:
     int GetPopupVOffset() const;
     void SetPopupVOffset(int offset);
 
-    /// Adds a widget at the end of the panel, which owns it from now on. A null widget is logged and ignored.
+    /// Adds a widget at the end of the panel, which owns it from now on. A null widget is logged and ignored; one that
+    /// holds the button or the panel is ignored with a warning.
     void AppendWidget(QWidget* widget);
 
     /// The same, before the widget at `index`; at the end for a negative index.
@@ -109,6 +111,8 @@ public:
 
 protected:
     void hideEvent(QHideEvent* event) override;
+    void nextCheckState() override;
+    void keyPressEvent(QKeyEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:

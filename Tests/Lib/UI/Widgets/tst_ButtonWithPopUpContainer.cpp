@@ -17,7 +17,9 @@
 using namespace Zelkor::Vx::UI;
 using namespace Zelkor::Vx::UI::PopUpPlacement;
 
+using Use = std::function<void(ButtonWithPopUpContainer*)>;
 Q_DECLARE_METATYPE(std::function<void(QWidget*)>)
+Q_DECLARE_METATYPE(Use)
 
 namespace {
 
@@ -35,6 +37,16 @@ int OtherSideOf(int number)
         return (anchor + 3) % 6 * 6 + (direction + 3) % 6;
     const bool isBeside = qAbs(anchor % 3 - direction % 3) == 2;
     return isBeside ? (anchor + 2 - 2 * (anchor % 3)) * 6 + direction + 2 - 2 * (direction % 3) : number;
+}
+
+void Click(ButtonWithPopUpContainer* button)
+{
+    button->click();
+}
+
+void ShowPopup(ButtonWithPopUpContainer* button)
+{
+    button->ShowPopup();
 }
 
 QPoint Position(const Scene& scene, const Placement& placement, bool canOverlap)
@@ -143,6 +155,22 @@ private Q_SLOTS:
                                            line.arg("290", "RemoveWidget: widget is NULL")}));
     }
 
+    void whatHoldsThePanelIsNoWidgetForIt()
+    {
+        QWidget window;
+        ButtonWithPopUpContainer button(&window);
+        for (QWidget* holder : {button.findChild<QWidget*>("popUpContainer"), button.findChild<QWidget*>("popUpWindow"),
+                                static_cast<QWidget*>(&button), &window}) {
+            QWidget* parent = holder->parentWidget();
+            for (const char* function : {"AppendWidget", "InsertWidget"}) {
+                ExpectWarning(QString("ButtonWithPopUpContainer::%1: the widget holds the panel").arg(function));
+                function[0] == 'A' ? button.AppendWidget(holder) : button.InsertWidget(holder, 0);
+            }
+            QCOMPARE(holder->parentWidget(), parent);
+        }
+        QCOMPARE(button.WidgetsCount(), 0);
+    }
+
     void checkedMirrorsThePopUp()
     {
         QWidget window;
@@ -214,6 +242,77 @@ private Q_SLOTS:
         QVERIFY(!button);
         QTRY_VERIFY(!content);
         QVERIFY(!QApplication::activePopupWidget());
+    }
+
+    void buttonOutOfUseHasNoPanel_data()
+    {
+        QTest::addColumn<Use>("end");
+        QTest::newRow("hidden") << Use([](QWidget* button) { button->hide(); });
+        QTest::newRow("window closed") << Use([](QWidget* button) { button->window()->close(); });
+        QTest::newRow("disabled") << Use([](QWidget* button) { button->setEnabled(false); });
+        QTest::newRow("window disabled") << Use([](QWidget* button) { button->window()->setEnabled(false); });
+    }
+
+    // Neither one that opened before, nor one that a slot of the same click would leave behind.
+    void buttonOutOfUseHasNoPanel()
+    {
+        QFETCH(Use, end);
+        for (const Use& open : {Use(Click), Use(ShowPopup)}) {
+            for (const bool isInSlot : {false, true}) {
+                QWidget window;
+                auto* button = new ButtonWithPopUpContainer(&window);
+                window.show();
+                connect(button, &QAbstractButton::toggled, button, [&](bool isChecked) {
+                    if (isInSlot && isChecked)
+                        end(button);
+                });
+                open(button);
+                if (!isInSlot)
+                    end(button);
+                QVERIFY(!button->isChecked());
+                QVERIFY(!button->findChild<QWidget*>("popUpWindow")->isVisible());
+            }
+        }
+    }
+
+    void keyOpensThePanel_data()
+    {
+        QTest::addColumn<Qt::Key>("key");
+        QTest::addColumn<Qt::KeyboardModifiers>("modifier");
+        QTest::newRow("Down") << Qt::Key_Down << Qt::KeyboardModifiers(Qt::NoModifier);
+        QTest::newRow("Alt+Down") << Qt::Key_Down << Qt::KeyboardModifiers(Qt::AltModifier);
+        QTest::newRow("F4") << Qt::Key_F4 << Qt::KeyboardModifiers(Qt::NoModifier);
+        QTest::newRow("Menu") << Qt::Key_Menu << Qt::KeyboardModifiers(Qt::NoModifier);
+    }
+
+    void keyOpensThePanel()
+    {
+        QFETCH(Qt::Key, key);
+        QFETCH(Qt::KeyboardModifiers, modifier);
+        ButtonWithPopUpContainer button;
+        button.show();
+        QSignalSpy clicked(&button, &QAbstractButton::clicked);
+        QTest::keyClick(&button, key, modifier);
+        QVERIFY(button.isChecked());
+        QCOMPARE(clicked.size(), 1);
+    }
+
+    void openPanelFollowsItsButton()
+    {
+        QWidget window;
+        window.setGeometry(300, 300, 200, 100);
+        auto* page = new QWidget(&window);
+        ButtonWithPopUpContainer button(page);
+        window.show();
+        button.ShowPopup();
+        auto* popUp = button.findChild<QWidget*>("popUpWindow");
+        const auto isBelow = [&] { return popUp->pos() == button.mapToGlobal(QPoint(0, button.height())); };
+        button.setGeometry(10, 20, 70, 30);
+        QTRY_VERIFY(isBelow());
+        page->move(30, 5);
+        QTRY_VERIFY(isBelow());
+        window.move(350, 280);
+        QTRY_VERIFY(isBelow());
     }
 
     void openPanelFollowsItsContents()
