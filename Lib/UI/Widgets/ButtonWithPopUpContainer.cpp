@@ -2,6 +2,7 @@
 
 #include <UI/Common/AccessibleFactory.h>
 #include <UI/Common/BoxLayouts.h>
+#include <UI/Common/CanHold.h>
 #include <UI/Common/LogSource.h>
 #include <UI/Common/MirroredStyle.h>
 #include <UI/Common/PopUpKeys.h>
@@ -185,13 +186,10 @@ void ButtonWithPopUpContainer::PopUpWindow::LeaveButton()
 /// Whether the widget may become a part of the panel. Like Qt's layouts, warns of one that may not.
 bool ButtonWithPopUpContainer::PopUpWindow::Accepts(const QWidget* widget, const char* function) const
 {
-    for (const QWidget* holder = container; holder; holder = holder->parentWidget()) {
-        if (holder != widget)
-            continue;
+    const bool isAccepted = Common::CanHold(container, widget);
+    if (!isAccepted)
         qWarning("ButtonWithPopUpContainer::%s: the widget holds the panel", function);
-        return false;
-    }
-    return true;
+    return isAccepted;
 }
 
 // The button moves with each of its parents up to its window.
@@ -425,6 +423,8 @@ void ButtonWithPopUpContainer::RemoveWidget(QWidget* widget)
         LOG_SOURCE.Error(290, "Zelkor::Vx::UI::ButtonWithPopUpContainer::RemoveWidget", "widget is NULL");
         return;
     }
+    if (!popUp->Accepts(widget, "RemoveWidget"))
+        return;
     popUp->containerLayout->removeWidget(widget);
     widget->setParent(nullptr);
     widget->deleteLater();

@@ -90,7 +90,7 @@ public:
     void SetPopupVOffset(int offset);
 
     /// Adds a widget at the end of the panel, which owns it from now on. A null widget is logged and ignored; one that
-    /// holds the button or the panel is ignored with a warning.
+    /// holds the button or the panel is ignored with a warning, here and in the next two.
     void AppendWidget(QWidget* widget);
 
     /// The same, before the widget at `index`; at the end for a negative index.

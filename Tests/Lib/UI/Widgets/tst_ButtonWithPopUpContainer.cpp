@@ -155,19 +155,30 @@ private Q_SLOTS:
                                            line.arg("290", "RemoveWidget: widget is NULL")}));
     }
 
-    void whatHoldsThePanelIsNoWidgetForIt()
+    void panelDoesNotTakeWhatItLiesIn_data()
     {
+        QTest::addColumn<QString>("name");
+        for (const char* name : {"popUpContainer", "popUpWindow", "button", "window"})
+            QTest::newRow(name) << name;
+    }
+
+    void panelDoesNotTakeWhatItLiesIn()
+    {
+        QFETCH(QString, name);
         QWidget window;
+        window.setObjectName("window");
         ButtonWithPopUpContainer button(&window);
-        for (QWidget* holder : {button.findChild<QWidget*>("popUpContainer"), button.findChild<QWidget*>("popUpWindow"),
-                                static_cast<QWidget*>(&button), &window}) {
-            QWidget* parent = holder->parentWidget();
-            for (const char* function : {"AppendWidget", "InsertWidget"}) {
-                ExpectWarning(QString("ButtonWithPopUpContainer::%1: the widget holds the panel").arg(function));
-                function[0] == 'A' ? button.AppendWidget(holder) : button.InsertWidget(holder, 0);
-            }
-            QCOMPARE(holder->parentWidget(), parent);
-        }
+        button.setObjectName("button");
+        QPointer<QWidget> widget = name == "window" ? &window : window.findChild<QWidget*>(name);
+        const QWidget* parent = widget->parentWidget();
+        for (const char* function : {"Remove", "Append", "Insert"})
+            ExpectWarning(QString("ButtonWithPopUpContainer::%1Widget: the widget holds the panel").arg(function));
+        button.RemoveWidget(widget);
+        button.AppendWidget(widget);
+        button.InsertWidget(widget, 0);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QVERIFY(widget);
+        QCOMPARE(widget->parentWidget(), parent);
         QCOMPARE(button.WidgetsCount(), 0);
     }
 
