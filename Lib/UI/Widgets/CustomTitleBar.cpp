@@ -200,8 +200,21 @@ CustomTitleBar::~CustomTitleBar() = default;
 
 void CustomTitleBar::AddWidget(QWidget* widget)
 {
-    if (Common::CanHold(impl->userWidgetsFrame, widget))
-        impl->userWidgetsFrame->layout()->addWidget(widget);
+    if (!Common::CanHold(impl->userWidgetsFrame, widget))
+        return;
+    impl->userWidgetsFrame->layout()->addWidget(widget);
+    // Tab visits the bar as it stands: what takes the keyboard in the widget, then the buttons.
+    QWidget* last = nullptr;
+    QWidget* part = widget;
+    do {
+        if (part->focusPolicy() != Qt::NoFocus)
+            last = part;
+        part = part->nextInFocusChain();
+    } while (part != widget && widget->isAncestorOf(part));
+    if (last) {
+        setTabOrder(last, impl->closeButton);
+        setTabOrder(last, impl->minimizeButton);
+    }
 }
 
 void CustomTitleBar::AddSeparator()

@@ -189,6 +189,26 @@ private Q_SLOTS:
         QCOMPARE(window.bar->parentWidget(), &window);
     }
 
+    void tabVisitsTheBarAsItStands()
+    {
+        Window window(Qt::Window);
+        auto* first = new QToolButton;
+        auto* group = new QFrame;
+        auto* second = new QToolButton(group);
+        new QLabel(group);
+        window.bar->AddWidget(first);
+        window.bar->AddWidget(group);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        window.Part("label")->setFocusPolicy(Qt::TabFocus);
+        window.Part("label")->setFocus();
+        for (QWidget* next : {static_cast<QWidget*>(first), static_cast<QWidget*>(second),
+                              window.Part("minimizeButton"), window.Part("closeButton")}) {
+            QTest::keyClick(&window, Qt::Key_Tab);
+            QCOMPARE(window.focusWidget(), next);
+        }
+    }
+
     void otherParents()
     {
         CustomTitleBar(nullptr).SetWindowIconSize(16);
