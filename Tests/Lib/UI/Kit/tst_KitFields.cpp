@@ -129,12 +129,12 @@ private Q_SLOTS:
             const char* typed;
             double expected;
         };
-        // Down, up, from the minimum, below zero, last step, the end, below the range, no number, no step, too far, more decimals than
-        // the field shows.
-        for (const Row& row : {Row{0, 0.25, "1.3", 1.25}, Row{0, 0.25, "1.4", 1.5}, Row{0.1, 0.5, "2.2", 2.1},
-                               Row{-3.1, 1, "-2", -2.1}, Row{0, 3, "10", 9}, Row{0, 0.1, "9.99", 10}, Row{5, 2, "4", 5},
-                               Row{-5, 3, "-", 1.2}, Row{0, 0, "1.3", 1.3}, Row{-1e300, 3, "1.3", 1.3},
-                               Row{0, 0.125, "0.12", 0.13}}) {
+        // Down, up, from the minimum, below zero, last step, the end, below the range, no number, no step, too far,
+        // more decimals than are shown.
+        for (const Row& row :
+             {Row{0, 0.25, "1.3", 1.25}, Row{0, 0.25, "1.4", 1.5}, Row{0.1, 0.5, "2.2", 2.1}, Row{-3.1, 1, "-2", -2.1},
+              Row{0, 3, "10", 9}, Row{0, 0.1, "9.99", 10}, Row{5, 2, "4", 5}, Row{-5, 3, "-", 1.2},
+              Row{0, 0, "1.3", 1.3}, Row{-1e300, 3, "1.3", 1.3}, Row{0, 0.125, "0.12", 0.13}}) {
             for (const bool tracking : {true, false}) {
                 InRow(row.typed);
                 ZDoubleSpinBox field;
