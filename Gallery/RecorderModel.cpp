@@ -25,11 +25,17 @@ QString IdOf(const Device& device)
     return QString::fromStdString(device->GetId());
 }
 
-// Devices have the name that they come with. The test picture is ours, and is called what its settings dialog calls it.
+// Cameras have the name that they come with. The test picture is ours, and is called what its settings dialog calls it.
 QString NameOf(const Device& device)
 {
-    return device->GetKind() == Kind::TestPicture ? QCoreApplication::translate("TestPicture", "Test picture")
-                                                  : QString::fromStdString(device->GetName());
+    switch (device->GetKind()) {
+    case Kind::TestPicture:
+        return QCoreApplication::translate("TestPicture", "Test picture");
+    case Kind::Screen:
+        return RecorderModel::tr("Screen");
+    default:
+        return QString::fromStdString(device->GetName());
+    }
 }
 
 QVector<double> RatesOf(const StandIn::VideoMode& mode)

@@ -1446,6 +1446,13 @@ Vorgabe: %3</translation>
     </message>
 </context>
 <context>
+    <name>Zelkor::Gallery::RecorderModel</name>
+    <message>
+        <source>Screen</source>
+        <translation>Bildschirm</translation>
+    </message>
+</context>
+<context>
     <name>Zelkor::Gallery::RecorderView</name>
     <message>
         <source>Record</source>

@@ -1446,6 +1446,13 @@ Default: %3</source>
     </message>
 </context>
 <context>
+    <name>Zelkor::Gallery::RecorderModel</name>
+    <message>
+        <source>Screen</source>
+        <translation>画面</translation>
+    </message>
+</context>
+<context>
     <name>Zelkor::Gallery::RecorderView</name>
     <message>
         <source>Record</source>

@@ -53,6 +53,7 @@ private Q_SLOTS:
 
         model.SetDevices({SCREEN, TEST});
         QCOMPARE(model.CurrentDeviceId(), QString("test"));
+        QCOMPARE(model.Devices().first().name, QString("Screen"));
         const RecorderModel::Device broken = new Device(Kind::Camera, "broken", {MakeMode("VGA", 640, 480, {{30, 0}})});
         // A camera without a usable mode fails at once: nobody else would tell.
         model.SetDevices({broken, SCREEN, TEST});
