@@ -85,9 +85,10 @@ SettingsDialog::SettingsDialog(Preferences* preferences, QWidget* parent)
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(SPACING, SPACING, SPACING, SPACING);
     layout->setSpacing(0);
+    // Before what is below it, also for Tab.
+    new CustomTitleBar(this);
     layout->addWidget(tabs);
     layout->addWidget(pages);
-    new CustomTitleBar(this);
     // The dialog follows its page.
     this->layout()->setSizeConstraint(QLayout::SetFixedSize);
 

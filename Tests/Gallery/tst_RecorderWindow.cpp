@@ -138,6 +138,8 @@ private Q_SLOTS:
         dialog.show();
         auto* tabs = dialog.findChild<Vx::HorizontalTabBar*>();
         const auto* pages = dialog.findChild<ResizableStackedWidget*>();
+        QTest::keyClick(tabs, Qt::Key_Tab);
+        QCOMPARE(dialog.focusWidget(), dialog.findChild<QComboBox*>("languageCombo"));
         for (int i = 0; i < tabs->count(); ++i) {
             tabs->setCurrentIndex(i);
             QTRY_COMPARE(dialog.height(), dialog.minimumSizeHint().height());
