@@ -3,6 +3,7 @@
 #include <UI/Common/MirroredStyle.h>
 
 #include <QAbstractItemView>
+#include <QScreen>
 #include <QStylePainter>
 
 namespace Zelkor::Vx::UI {
@@ -46,6 +47,23 @@ QSize ClickSoundComboBox::minimumSizeHint() const
     if (minimumContentsLength() == 0)
         size.setWidth(qMin(size.width(), WidthFor(*this, LEAST_SHOWN)));
     return size;
+}
+
+// In styles whose list is no menu, Qt makes it as wide as the box.
+void ClickSoundComboBox::showPopup()
+{
+    QComboBox::showPopup();
+    QWidget* list = view()->parentWidget();
+    const int surroundings = list->width() - view()->viewport()->width();
+    const int whole = view()->sizeHintForColumn(modelColumn()) + surroundings;
+    const QRect available = screen()->availableGeometry();
+    QRect place = list->geometry();
+    const int wider = qMin(qMin(whole, WidthFor(*this, MOST_PREFERRED)), available.width()) - place.width();
+    if (!list->isVisible() || wider <= 0)
+        return;
+    isRightToLeft() ? place.setLeft(place.left() - wider) : place.setRight(place.right() + wider);
+    place.moveLeft(qBound(available.left(), place.left(), available.right() + 1 - place.width()));
+    list->setGeometry(place);
 }
 
 void ClickSoundComboBox::paintEvent(QPaintEvent*)

@@ -24,6 +24,9 @@ public:
     /// The width for the longest item, up to about 5 characters; for `minimumContentsLength` when that is set.
     QSize minimumSizeHint() const override;
 
+    /// Opens the list as wide as the box or, up to about 40 characters, its longest item.
+    void showPopup() override;
+
 protected:
     void paintEvent(QPaintEvent* event) override;
 };

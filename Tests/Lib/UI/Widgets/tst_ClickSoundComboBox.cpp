@@ -47,6 +47,29 @@ private Q_SLOTS:
         QVERIFY(box.sizeHint().width() <= 400 + least * 2);
     }
 
+    void listOfNarrowBoxShowsWholeTexts_data()
+    {
+        QTest::addColumn<Qt::LayoutDirection>("direction");
+        QTest::newRow("left to right") << Qt::LeftToRight;
+        QTest::newRow("right to left") << Qt::RightToLeft;
+    }
+
+    void listOfNarrowBoxShowsWholeTexts()
+    {
+        QFETCH(Qt::LayoutDirection, direction);
+        ClickSoundComboBox box;
+        box.addItem("Mechanical keyboard");
+        box.setStyleSheet("combobox-popup: 0");
+        box.setLayoutDirection(direction);
+        box.setGeometry(300, 300, 60, 30);
+        box.show();
+        box.showPopup();
+        QVERIFY(box.view()->viewport()->width() >= box.view()->sizeHintForColumn(0));
+        const QRect list = box.view()->window()->geometry();
+        QCOMPARE(direction == Qt::LeftToRight ? list.left() : list.right(),
+                 direction == Qt::LeftToRight ? box.geometry().left() : box.geometry().right());
+    }
+
     void longTextStaysOffTheArrow()
     {
         // 20 is narrower than the arrow.
