@@ -28,6 +28,7 @@ using Sound = RecorderModel::ClickSound;
 constexpr int SPACING = 8;
 constexpr int SOUND_CHARACTERS = 6; ///< that can be read of a click sound at least
 constexpr int LARGEST_SOUND_WIDTH = 140;
+constexpr int SOUND_STRETCH = 1000; ///< it grows before the free room beside it
 
 constexpr int BEFORE_CHOICES = 1; ///< the place in the row between presets and choices
 
@@ -142,7 +143,7 @@ void CaptureBar::AddChoices()
     sound->setMaximumWidth(LARGEST_SOUND_WIDTH);
     row->addWidget(modes);
     row->addWidget(color);
-    row->addWidget(sound, 1);
+    row->addWidget(sound, SOUND_STRETCH);
 }
 
 void CaptureBar::Connect()
