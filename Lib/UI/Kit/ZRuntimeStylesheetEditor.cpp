@@ -394,6 +394,8 @@ void ZRuntimeStylesheetEditor::Impl::settle(const QString& file)
     fileName = file;
     hasByteOrderMark = hasByteOrderMark && !file.isEmpty();
     view.editor->document()->setModified(false);
+    // Loading an empty text, Qt says that it is modified, and not that it is not.
+    window->setWindowModified(false);
     retranslate();
     say({});
     check();

@@ -372,6 +372,9 @@ private Q_SLOTS:
         ZRuntimeStylesheetEditor editor;
         editor.findChild<ZCodeEditor*>()->undo();
         QCOMPARE(editor.text(), RED);
+        QLabel label;
+        editor.setTarget(&label);
+        QVERIFY(!editor.isWindowModified());
         qApp->setStyleSheet(QString());
     }
 
