@@ -123,6 +123,10 @@ private Q_SLOTS:
         slider.setRange(0, 100);
         QCOMPARE(QVector<int>({slider.value(), thumb->value(), other->value()}), QVector<int>({100, 100, 100}));
         QCOMPARE(otherMoved.size(), 0);
+        other->setAccessibleName("Mine");
+        other->setName("new");
+        QCOMPARE(QAccessible::queryAccessibleInterface(other)->text(QAccessible::Name), QString("Mine"));
+        QCOMPARE(slider.thumb("other"), other);
     }
 
     void sliderIsOnePaneOfItsSplitter()

@@ -138,6 +138,8 @@ private Q_SLOTS:
         QAccessibleValueInterface* value = accessible->valueInterface();
         value->setCurrentValue(22000);
         QCOMPARE(accessible->text(QAccessible::Value), QString("0:22"));
+        QCOMPARE(QVariantList({value->minimumValue(), value->currentValue(), value->maximumValue()}),
+                 QVariantList({20000, 22001, 23000}));
         slider.setSingleStep(std::numeric_limits<int>::max());
         slider.setRange(1, std::numeric_limits<int>::max());
         QCOMPARE(value->minimumStepSize(), QVariant(3000)); // no further than the end

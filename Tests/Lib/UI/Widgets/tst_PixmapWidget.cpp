@@ -105,6 +105,10 @@ private Q_SLOTS:
         QCOMPARE(at(2, 2), QColor(1, 2, 3));
         QCOMPARE(at(97, 97), QColor(1, 2, 3));
         QVERIFY(isNear(at(50, 50), 128, 128) && isNear(at(50, 1), 128, 3));
+        widget.resize(0, 100);
+        window.grab();
+        widget.resize(100, 50);
+        QVERIFY(isNear(at(50, 25), 128, 128));
     }
 };
 
