@@ -354,9 +354,7 @@ private Q_SLOTS:
             QCOMPARE(editor.message(), QString());
             QCOMPARE(editor.text(), answer == "Save" ? RED : text);
         }
-        QFile file(name);
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write("A { b: \xff }") > 0);
-        file.close();
+        WriteFile(name, "A { b: \xff }");
         editor.setText(RED);
         for (const QString& bad : {name, folder.path(), folder.filePath("none.qss")})
             QVERIFY(!editor.load(bad) && editor.message().contains(bad));

@@ -45,21 +45,10 @@ private Q_SLOTS:
         QApplication::setLayoutDirection(Qt::LeftToRight);
     }
 
-    void rulesFollowTheDirection_data()
+    void rulesOfAWindowFollowTheDirection()
     {
-        QTest::addColumn<bool>("sheetOfWindow");
-        QTest::newRow("sheet of the application") << false;
-        QTest::newRow("sheet of a window") << true;
-    }
-
-    void rulesFollowTheDirection()
-    {
-        QFETCH(bool, sheetOfWindow);
         Scene scene;
-        if (sheetOfWindow)
-            scene.window.setStyleSheet(SHEET);
-        else
-            qApp->setStyleSheet(SHEET);
+        scene.window.setStyleSheet(SHEET);
         for (const auto direction : {Qt::RightToLeft, Qt::LeftToRight}) {
             QApplication::setLayoutDirection(direction);
             const bool mirrored = direction == Qt::RightToLeft;
