@@ -1,6 +1,6 @@
 #include <UI/Widgets/FramePump.h>
 
-#include <UI/Widgets/FailureOf.h>
+#include <UI/Common/FailureOf.h>
 #include <UI/Widgets/VideoPreviewWidget.h>
 
 #include <algorithm>

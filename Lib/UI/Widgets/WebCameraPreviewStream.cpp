@@ -2,7 +2,7 @@
 
 #include <UI/Common/GuiThreadCall.h>
 #include <UI/Common/LogSource.h>
-#include <UI/Widgets/FailureOf.h>
+#include <UI/Common/FailureOf.h>
 #include <UI/Widgets/FramePump.h>
 #include <UI/Widgets/PreviewFeeder.h>
 #include <UI/Widgets/RetrySchedule.h>
