@@ -147,12 +147,15 @@ private Q_SLOTS:
         Recorder recorder;
         recorder.model.Stop();
         const auto* preview = recorder.Preview();
-        for (const QSize& size : {QSize(400, 700), QSize(1600, 500), QSize(900, 640)}) {
+        // Of odd sides the shadow would leave out the middle.
+        for (const QSize& size : {QSize(400, 700), QSize(401, 701), QSize(1600, 500), QSize(1600, 501),
+                                  QSize(1600, 503), QSize(900, 640)}) {
             recorder.view.resize(size);
+            QCOMPARE(preview->width() % 2, 0);
+            QCOMPARE(preview->height() % 2, 0);
             QVERIFY(qAbs(preview->width() * 9 - preview->height() * 16) <= 16 * 9);
             const QRect stage = preview->parentWidget()->contentsRect();
             QVERIFY(stage.contains(preview->geometry()));
-            // Its sides are even.
             QVERIFY(stage.width() - preview->width() < 2 || stage.height() - preview->height() < 2);
             // What says that there is no picture is in the middle of the place as it is now.
             QCOMPARE(preview->GetDefaultImage().size(), preview->size());

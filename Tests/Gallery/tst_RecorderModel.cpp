@@ -108,25 +108,6 @@ private Q_SLOTS:
         QCOMPARE(model.GetStatus(), Status::Running);
     }
 
-    void recordingTakesWhatThereIs()
-    {
-        using Mode = RecorderModel::RecordingMode;
-        RecorderModel model;
-        QSignalSpy changed(&model, &RecorderModel::RecordingChanged);
-        model.ChooseRecordingMode(Mode::Region);
-        model.ChooseRecordingMode(Mode::Region);
-        model.ChooseRecordingMode(Mode(-1));
-        model.ChooseRecordingMode(Mode(99));
-        model.ChooseClickSound(RecorderModel::ClickSound(99));
-        model.ChooseDrawingColor(QColor());
-        QCOMPARE(model.CurrentRecordingMode(), Mode::Region);
-        QCOMPARE(changed.size(), 1);
-        model.ChooseDrawingColor(Qt::blue);
-        QVERIFY(qAbs(model.CurrentDrawingColor().alphaF() - RecorderModel::MAXIMUM_DRAWING_ALPHA) < 0.001);
-        model.ChooseDrawingColor(Qt::blue);
-        QCOMPARE(changed.size(), 2);
-    }
-
     void unpluggedDeviceStaysChosenAndComesBack()
     {
         RecorderModel model;

@@ -1,13 +1,11 @@
 #include <Gallery/AudioPanel.h>
 #include <Gallery/FirstHint.h>
-#include <Gallery/PreviewStage.h>
 #include <Gallery/Snapshot.h>
 #include <Gallery/StyleSheet.h>
 
 #include <Support/TestCase.h>
 
 #include <UI/Widgets/MaskedToolTip.h>
-#include <UI/Widgets/VideoPreviewWidget.h>
 #include <UI/Widgets/VolumeSlider.h>
 
 #include <Zelkor/StandIn/CaptureEngine.h>
@@ -67,19 +65,6 @@ private Q_SLOTS:
         source.resize(200, 150);
         QVERIFY(source.geometry().contains(snapshot.geometry()));
         QVERIFY(snapshot.geometry().left() > source.geometry().center().x());
-    }
-
-    // Of odd sides the shadow would leave out the middle.
-    void previewHasEvenSides()
-    {
-        PreviewStage stage(nullptr);
-        stage.show();
-        const auto* preview = stage.findChild<Vx::UI::VideoPreviewWidget*>();
-        for (int height = 200; height < 220; ++height) {
-            stage.resize(900, height);
-            QCOMPARE(preview->width() % 2, 0);
-            QCOMPARE(preview->height() % 2, 0);
-        }
     }
 
     void hintGoesWithTheButtonOrItsWindow()

@@ -1,6 +1,7 @@
 #include <Gallery/StyleSheet.h>
 #include <Gallery/TrimPage.h>
 
+#include <Support/Input.h>
 #include <Support/Mouse.h>
 #include <Support/TestCase.h>
 
@@ -46,15 +47,6 @@ struct Trimmer
     ZTimelineSlider* timeline = page.findChild<ZTimelineSlider*>("timeline");
     ZSliderThumb* start = timeline->thumb("left");
 };
-
-/// The mouse over a widget, without the pointer of the window system.
-void SendMouse(QWidget* widget, QEvent::Type type, const QPoint& position)
-{
-    const Qt::MouseButton button = type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;
-    const Qt::MouseButtons buttons = type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton;
-    QMouseEvent event(type, position, widget->mapToGlobal(position), button, buttons, Qt::NoModifier);
-    QCoreApplication::sendEvent(widget, &event);
-}
 
 } // namespace
 
@@ -116,14 +108,14 @@ private Q_SLOTS:
     {
         Trimmer trimmer;
         const QPoint grip = trimmer.start->rect().center();
-        SendMouse(trimmer.start, QEvent::MouseButtonPress, grip);
+        QTest::mousePress(trimmer.start, Qt::LeftButton, {}, grip);
         for (int i = 0; i < 10; ++i)
-            SendMouse(trimmer.start, QEvent::MouseMove, grip + QPoint(10, 0));
+            Support::MoveMouse(trimmer.start, grip + QPoint(10, 0));
         QVERIFY(trimmer.start->value() > 0);
         QTest::keyClick(&trimmer.page, Qt::Key_Escape);
         QCOMPARE(trimmer.Shown(), QString("00:00.000 05:00.000"));
-        SendMouse(trimmer.start, QEvent::MouseMove, grip + QPoint(10, 0));
-        SendMouse(trimmer.start, QEvent::MouseButtonRelease, grip);
+        Support::MoveMouse(trimmer.start, grip + QPoint(10, 0));
+        QTest::mouseRelease(trimmer.start, Qt::LeftButton, {}, grip);
         QCOMPARE(trimmer.Shown(), QString("00:00.000 05:00.000"));
         QCOMPARE(trimmer.start->value(), 0);
         QTest::keySequence(&trimmer.page, QKeySequence::Undo);
