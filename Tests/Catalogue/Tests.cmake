@@ -34,7 +34,7 @@ set(form ${CMAKE_CURRENT_BINARY_DIR}/FormOfAll)
 add_custom_command(
   OUTPUT ${form}/ui_FormOfAll.h
   COMMAND ${CMAKE_COMMAND} -E make_directory ${form}
-  COMMAND ${CMAKE_COMMAND} -E env QT_QPA_PLATFORM=offscreen ${CMAKE_CROSSCOMPILING_EMULATOR}
+  COMMAND ${CMAKE_COMMAND} -E env QT_QPA_PLATFORM=offscreen ${VX_TEST_ENVIRONMENT} ${CMAKE_CROSSCOMPILING_EMULATOR}
           $<TARGET_FILE:VxFormWriter> ${form}/FormOfAll.ui
   COMMAND Qt5::uic -o ${form}/ui_FormOfAll.h ${form}/FormOfAll.ui
   DEPENDS VxFormWriter VERBATIM)
