@@ -1,8 +1,8 @@
 #include <UI/Widgets/WebCameraPreviewStream.h>
 
+#include <UI/Common/FailureOf.h>
 #include <UI/Common/GuiThreadCall.h>
 #include <UI/Common/LogSource.h>
-#include <UI/Common/FailureOf.h>
 #include <UI/Widgets/FramePump.h>
 #include <UI/Widgets/PreviewFeeder.h>
 #include <UI/Widgets/RetrySchedule.h>
