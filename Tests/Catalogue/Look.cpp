@@ -1,4 +1,5 @@
 #include <Catalogue/Look.h>
+#include <Catalogue/Scene.h>
 
 #include <Gallery/Artwork.h>
 #include <Gallery/SignalLog.h>
@@ -82,6 +83,8 @@ QString DifferenceNow(Stage& changed, Stage& made, qreal pixelRatio)
         return QStringLiteral("another place or size");
     const QImage seen = Picture(changed, pixelRatio);
     const QImage wanted = Picture(made, pixelRatio);
+    if (seen == wanted)
+        return {};
     QRect area;
     for (int y = 0; y < seen.height(); ++y) {
         for (int x = 0; x < seen.width() && seen.size() == wanted.size(); ++x) {
@@ -89,8 +92,6 @@ QString DifferenceNow(Stage& changed, Stage& made, qreal pixelRatio)
                 area |= QRect(x, y, 1, 1);
         }
     }
-    if (seen == wanted)
-        return {};
     return QStringLiteral("another picture at %1,%2 %3x%4, by up to %5")
         .arg(area.x())
         .arg(area.y())
@@ -129,14 +130,6 @@ void Stage::Show()
 QObject* Stage::Subject(const Entry& entry) const
 {
     return FindObject(widget, entry.className);
-}
-
-void Settle()
-{
-    for (int i = 0; i < 2; ++i) {
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        QCoreApplication::processEvents();
-    }
 }
 
 QStringList AccessibleTree(QWidget* widget)

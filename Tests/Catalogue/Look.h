@@ -26,9 +26,6 @@ public:
     QObject* Subject(const Zelkor::Gallery::Entry& entry) const;
 };
 
-/// Processes events and deferred deletes until nothing is left to do at once.
-void Settle();
-
 /// The accessible tree of a widget, one line for each visible interface: role, name, description, value, state and
 /// rectangle relative to the widget.
 QStringList AccessibleTree(QWidget* widget);

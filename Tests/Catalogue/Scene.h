@@ -9,6 +9,19 @@
 #include <QtTest>
 
 #include <memory>
+#include <numeric>
+
+/// The widget and all its parts; nothing for a widget that is gone.
+inline QVector<QPointer<QWidget>> PartsOf(QWidget* widget)
+{
+    QVector<QPointer<QWidget>> parts;
+    if (widget) {
+        parts.append(widget);
+        for (QWidget* part : widget->findChildren<QWidget*>())
+            parts.append(part);
+    }
+    return parts;
+}
 
 /// A window that holds one widget of the catalogue between two buttons.
 class Scene
@@ -31,16 +44,16 @@ public:
     {
         window->show();
         QApplication::setActiveWindow(window);
-        QVERIFY(QTest::qWaitForWindowActive(window));
+        // Waiting the usual way would sleep for most of the test.
+        QCoreApplication::processEvents();
+        QVERIFY(window->isActiveWindow());
     }
 
     /// The visible parts of the widget that take the keyboard, itself included; without those that only pass it on.
     QVector<QPointer<QWidget>> KeyboardParts() const
     {
         QVector<QPointer<QWidget>> parts;
-        if (!widget)
-            return parts;
-        for (QWidget* part : QList<QWidget*>{widget} + widget->findChildren<QWidget*>()) {
+        for (const QPointer<QWidget>& part : PartsOf(widget)) {
             if (part->window() == window && part->isVisible() && part->isEnabled() && !part->focusProxy() &&
                 (part->focusPolicy() & Qt::TabFocus))
                 parts.append(part);
@@ -64,16 +77,48 @@ public:
     QPushButton* after;
 };
 
-/// Rows for every widget in every state: "className" and "state", the place of the state.
-inline void AddRowsOfAllStates()
+/// Processes events and deferred deletes until nothing is left to do at once.
+inline void Settle()
+{
+    for (int i = 0; i < 2; ++i) {
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QCoreApplication::processEvents();
+    }
+}
+
+inline QVector<int> AllStates(const Zelkor::Gallery::Entry& entry)
+{
+    QVector<int> places(entry.states.size());
+    std::iota(places.begin(), places.end(), 0);
+    return places;
+}
+
+/// The states that the slow tests go through: all of them; under the address sanitizer, which makes such a test many
+/// times slower, the pictured one.
+inline QVector<int> TestedStates(const Zelkor::Gallery::Entry& entry)
+{
+#if defined(__SANITIZE_ADDRESS__)
+    return {entry.pictured};
+#else
+    return AllStates(entry);
+#endif
+}
+
+/// Rows for every widget in some of its states: "className" and "state", the place of the state.
+inline void AddRowsOfStates(QVector<int> (*places)(const Zelkor::Gallery::Entry&))
 {
     QTest::addColumn<QString>("className");
     QTest::addColumn<int>("state");
     for (const Zelkor::Gallery::Entry& entry : Zelkor::Gallery::Entries()) {
-        for (int i = 0; i < entry.states.size(); ++i)
-            QTest::addRow("%s, %s", qPrintable(entry.className), qPrintable(entry.states[i].name))
-                << entry.className << i;
+        for (const int place : places(entry))
+            QTest::addRow("%s, %s", qPrintable(entry.className), qPrintable(entry.states[place].name))
+                << entry.className << place;
     }
+}
+
+inline void AddRowsOfAllStates()
+{
+    AddRowsOfStates(AllStates);
 }
 
 inline std::unique_ptr<Scene> SceneOfThisRow()

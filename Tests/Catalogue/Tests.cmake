@@ -38,7 +38,7 @@ add_custom_command(
           $<TARGET_FILE:VxFormWriter> ${form}/FormOfAll.ui
   COMMAND Qt5::uic -o ${form}/ui_FormOfAll.h ${form}/FormOfAll.ui
   DEPENDS VxFormWriter VERBATIM)
-vx_test(Catalogue/tst_CatalogueParents.cpp SOURCES Catalogue/Homes.cpp Catalogue/Look.cpp ${form}/ui_FormOfAll.h
+vx_test(Catalogue/tst_CatalogueParents.cpp SOURCES Catalogue/Homes.cpp ${form}/ui_FormOfAll.h
         LIBRARIES VxGalleryWindows)
 set_source_files_properties(${form}/ui_FormOfAll.h PROPERTIES SKIP_AUTOGEN ON)
 target_include_directories(tst_CatalogueParents SYSTEM PRIVATE ${form})

@@ -122,7 +122,8 @@ int CountChanges(const QImage& before, const QImage& after)
     int count = 0;
     for (int y = 0; y < after.height(); ++y) {
         for (int x = 0; x < after.width(); ++x)
-            count += Contrast(before.pixelColor(x, y), after.pixelColor(x, y)) >= PLAIN_CONTRAST;
+            count += before.pixel(x, y) != after.pixel(x, y) &&
+                     Contrast(before.pixelColor(x, y), after.pixelColor(x, y)) >= PLAIN_CONTRAST;
     }
     return count;
 }
@@ -149,6 +150,7 @@ private Q_SLOTS:
     {
         if (!TurnAccessibilityOn())
             QSKIP("Qt's private headers are not installed");
+        QApplication::setCursorFlashTime(0);
         QString error;
         ApplyStyleSheet(*LoadStyleSheet("dark", error));
     }
@@ -246,34 +248,43 @@ private Q_SLOTS:
         }
     }
 
-    void showsFocus_data() { AddRowsOfAllStates(); }
+    void showsFocus_data()
+    {
+        QTest::addColumn<QString>("className");
+        QTest::addColumn<int>("state");
+        QTest::addColumn<QString>("style");
+        for (const QString style : {"light", "dark"}) {
+            for (const Entry& entry : Entries()) {
+                for (const int state : AllStates(entry))
+                    QTest::addRow("%s, %s, %s", qPrintable(style), qPrintable(entry.className),
+                                  qPrintable(entry.states[state].name))
+                        << entry.className << state << style;
+            }
+        }
+    }
 
     // What has the keyboard looks plainly different from what it was, in both styles.
     void showsFocus()
     {
-        const int flashTime = QApplication::cursorFlashTime();
-        QApplication::setCursorFlashTime(0);
-        for (const QString style : {"light", "dark"}) {
-            InRow(style);
-            QString error;
-            ApplyStyleSheet(*LoadStyleSheet(style, error));
-            const auto scene = SceneOfThisRow();
-            scene->Show();
-            const auto look = [&scene](QWidget* focused) {
-                focused->setFocus(Qt::TabFocusReason);
-                QCoreApplication::processEvents();
-                return scene->window->grab(scene->widget->geometry()).toImage();
-            };
-            for (const QPointer<QWidget>& part : scene->KeyboardParts()) {
-                const QImage before = look(scene->before);
-                const int changes = CountChanges(before, look(part));
-                QVERIFY2(changes >= SMALLEST_MARK,
-                         qPrintable(QStringLiteral("%1 %2: %3 pixels")
-                                        .arg(part->metaObject()->className(), part->objectName())
-                                        .arg(changes)));
-            }
+        QFETCH(QString, style);
+        QString error;
+        const StyleSheet sheet = *LoadStyleSheet(style, error);
+        if (qApp->styleSheet() != sheet.text)
+            ApplyStyleSheet(sheet);
+        const auto scene = SceneOfThisRow();
+        scene->Show();
+        const auto look = [&scene](QWidget* focused) {
+            focused->setFocus(Qt::TabFocusReason);
+            QCoreApplication::processEvents();
+            return scene->window->grab(scene->widget->geometry()).toImage();
+        };
+        for (const QPointer<QWidget>& part : scene->KeyboardParts()) {
+            const QImage before = look(scene->before);
+            const int changes = CountChanges(before, look(part));
+            QVERIFY2(changes >= SMALLEST_MARK, qPrintable(QStringLiteral("%1 %2: %3 pixels")
+                                                              .arg(part->metaObject()->className(), part->objectName())
+                                                              .arg(changes)));
         }
-        QApplication::setCursorFlashTime(flashTime);
     }
 
     void keysAreAnswered_data() { AddRowsOfAllStates(); }
@@ -303,10 +314,7 @@ private Q_SLOTS:
     {
         const auto scene = SceneOfThisRow();
         scene->Show();
-        QVector<QPointer<QWidget>> parts{scene->widget};
-        for (QWidget* part : scene->widget->findChildren<QWidget*>())
-            parts.append(part);
-        for (const QPointer<QWidget>& part : parts) {
+        for (const QPointer<QWidget>& part : PartsOf(scene->widget)) {
             if (!part || !part->isVisible() || part->window() != scene->window)
                 continue;
             HearChanges(*scene, "click", [&] { QTest::mouseClick(part, Qt::LeftButton); });

@@ -255,7 +255,7 @@ private Q_SLOTS:
         QTest::addColumn<QString>("className");
         QTest::addColumn<int>("state");
         for (const Entry& entry : Entries()) {
-            for (int i = 0; i < entry.states.size(); ++i) {
+            for (const int i : TestedStates(entry)) {
                 if (!entry.states[i].create)
                     QTest::addRow("%s, %s", qPrintable(entry.className), qPrintable(entry.states[i].name))
                         << entry.className << i;
@@ -346,7 +346,7 @@ private:
             // QComboBox, which keeps the least size of that font.
             if (QByteArray(change).endsWith("application font") && entry.className == "ZRuntimeStylesheetEditor")
                 continue;
-            for (int i = 0; i < entry.states.size(); ++i)
+            for (const int i : TestedStates(entry))
                 QTest::addRow("%s, %s, %s", change, qPrintable(entry.className), qPrintable(entry.states[i].name))
                     << entry.className << i << number;
         }

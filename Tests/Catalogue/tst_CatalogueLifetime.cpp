@@ -36,12 +36,6 @@ double BytesInUse()
 #endif
 }
 
-void Settle()
-{
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    QCoreApplication::processEvents();
-}
-
 } // namespace
 
 class tst_CatalogueLifetime : public Support::TestCase

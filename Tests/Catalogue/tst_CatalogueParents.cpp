@@ -1,5 +1,5 @@
 #include <Catalogue/Homes.h>
-#include <Catalogue/Look.h>
+#include <Catalogue/Scene.h>
 
 #include <Gallery/StyleSheet.h>
 
@@ -45,14 +45,6 @@ Place PlaceOf(const QWidget* widget, const QPoint& point)
         there = view->viewport()->mapTo(window, view->mapFromScene(proxy->mapToScene(there)));
     }
     return {window->windowHandle(), there};
-}
-
-QVector<QPointer<QWidget>> PartsOf(QWidget* widget)
-{
-    QVector<QPointer<QWidget>> parts{widget};
-    for (QWidget* part : widget->findChildren<QWidget*>())
-        parts.append(part);
-    return parts;
 }
 
 // The style sheet editor applies by a timer, and takes its text from the windows that are open.
@@ -294,7 +286,7 @@ private:
         QTest::addColumn<int>("state");
         QTest::addColumn<int>("home");
         for (const Entry& entry : Entries()) {
-            for (int i = 0; i < entry.states.size(); ++i) {
+            for (const int i : TestedStates(entry)) {
                 for (size_t home = 1 + (size_t(i) + turn) % 2; home < HomeKinds().size(); home += 2)
                     QTest::addRow("%s, %s, %s", qPrintable(entry.className), qPrintable(entry.states[i].name),
                                   HomeKinds()[home].name)
