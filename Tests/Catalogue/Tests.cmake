@@ -46,3 +46,7 @@ target_include_directories(tst_CatalogueParents SYSTEM PRIVATE ${form})
 vx_test(Catalogue/tst_CatalogueRandomEvents.cpp SOURCES Catalogue/RandomEvents.cpp LIBRARIES VxCatalogue)
 vx_test(Catalogue/tst_CatalogueLifetime.cpp LIBRARIES VxCatalogue)
 vx_test(Catalogue/tst_HostileApplication.cpp LIBRARIES VxCatalogue)
+
+# They take minutes where the machine is busy, or with a sanitizer.
+set_tests_properties(tst_CatalogueChanges tst_CatalogueParents tst_CatalogueAccessibility tst_CatalogueLifetime
+                     tst_HostileApplication PROPERTIES TIMEOUT 900)

@@ -69,8 +69,8 @@ public:
             if (part->window() != widget->window() || IsOfSheetEditor(part))
                 continue;
             for (const QMetaMethod& signal : Support::SignalsOf(part)) {
-                // What has a title or an icon is a matter of the container.
-                if (signal.enclosingMetaObject() != &QWidget::staticMetaObject)
+                // What has a title or an icon is a matter of the container; what is selected, of what was typed before.
+                if (signal.enclosingMetaObject() != &QWidget::staticMetaObject && signal.name() != "selectionChanged")
                     taps.emplace_back(part, QVector<QMetaMethod>{signal}, [this, text = Text(part, signal)] {
                         if (isListening)
                             answers.append(text);
