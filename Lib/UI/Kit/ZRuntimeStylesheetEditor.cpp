@@ -131,7 +131,6 @@ void ZRuntimeStylesheetEditor::Impl::connectParts()
         if (!on)
             return picker->stop();
         picker->start();
-        checkAndFollow();
         say([] { return ZRuntimeStylesheetEditor::tr("Click on a widget of the application, or press Escape."); });
     });
     connect(picker, &ZWidgetPicker::pointed, &context,
@@ -216,10 +215,10 @@ void ZRuntimeStylesheetEditor::Impl::check()
     const bool isChanged = seenRevision != view.editor->document()->revision();
     seenRevision = view.editor->document()->revision();
     view.editor->check();
-    // What was said of an earlier text does not hold for this one; that the target is gone does.
+    // What was said of an earlier text does not hold for this one; that the target is gone or sought does.
     if (!mistakes().isEmpty())
         say([this] { return mistake(); }, true);
-    else if (saysMistake || (isChanged && target.exists()))
+    else if (saysMistake || (isChanged && target.exists() && !picker->isRunning()))
         say({});
     saysMistake = !mistakes().isEmpty();
 }
