@@ -124,11 +124,9 @@ private Q_SLOTS:
         window.show();
         QVERIFY(QTest::qWaitForWindowActive(&window));
         const QStringList forwards = Support::NamesOnTheWay(window, Qt::Key_Tab);
-        QCOMPARE(
-            forwards.join(", "),
-            QString(
-                "About, All widgets, Audio, Close, Drawing colour, Edit the style sheet (F12), "
-                "Full screen, Minimise, Pointer, Record, Settings, Settings of the device, Soft click, Source, Stop"));
+        QCOMPARE(forwards.join(", "),
+                 QString("About, All widgets, Audio, Click sound, Close, Drawing colour, Edit the style sheet (F12), "
+                         "Full screen, Minimise, Pointer, Record, Settings, Settings of the device, Source, Stop"));
         QCOMPARE(forwards, Support::NamesOnTheWay(window, Qt::Key_Backtab));
     }
 

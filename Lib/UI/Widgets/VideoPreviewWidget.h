@@ -59,7 +59,7 @@ protected:
 private:
     friend class Vx::PreviewGate;
 
-    Q_DECL_HIDDEN unsigned GetRevision() const;
+    unsigned GetRevision() const;
 
     struct Q_DECL_HIDDEN Impl;
     std::unique_ptr<Impl> impl;
