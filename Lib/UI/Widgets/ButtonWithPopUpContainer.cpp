@@ -205,9 +205,18 @@ void ButtonWithPopUpContainer::PopUpWindow::WatchButton(bool isWatched)
 
 bool ButtonWithPopUpContainer::PopUpWindow::eventFilter(QObject* watched, QEvent* event)
 {
-    if (button && isVisible() && (event->type() == QEvent::Move || event->type() == QEvent::Resize))
+    if (!button || !isVisible())
+        return ZFrame::eventFilter(watched, event);
+    if (event->type() == QEvent::Move || event->type() == QEvent::Resize)
         move(ComputePopupPosition());
-    return ZFrame::eventFilter(watched, event);
+    // A parent hears of its end before Qt walks over its children, which a slot that deletes the button would disturb.
+    if (event->type() != QEvent::Hide || watched == button)
+        return ZFrame::eventFilter(watched, event);
+    const QPointer<QObject> receiver(watched);
+    ++eventDepth;
+    hide();
+    --eventDepth;
+    return !receiver;
 }
 
 bool ButtonWithPopUpContainer::PopUpWindow::event(QEvent* event)
@@ -486,6 +495,16 @@ void ButtonWithPopUpContainer::mouseReleaseEvent(QMouseEvent* event)
     QToolButton::mouseReleaseEvent(event);
     if (self)
         popUp->isMouseReleased = false;
+}
+
+// The panel closes first: while Qt hides the button, a slot of toggled() could not delete it.
+void ButtonWithPopUpContainer::setVisible(bool visible)
+{
+    const QPointer<ButtonWithPopUpContainer> self(this);
+    if (!visible)
+        popUp->hide();
+    if (self)
+        QToolButton::setVisible(visible);
 }
 
 void ButtonWithPopUpContainer::hideEvent(QHideEvent* event)

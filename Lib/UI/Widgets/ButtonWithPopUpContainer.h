@@ -109,6 +109,8 @@ public:
     /// Opens the panel, also when `showPopupOnClick` is off.
     void ShowPopup();
 
+    void setVisible(bool visible) override;
+
 protected:
     void hideEvent(QHideEvent* event) override;
     void nextCheckState() override;

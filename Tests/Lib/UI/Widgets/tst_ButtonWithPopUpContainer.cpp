@@ -234,6 +234,8 @@ private Q_SLOTS:
         QTest::newRow("it opens") << Close();
         QTest::newRow("Escape") << Close(
             [](QWidget* popUp) { QTest::keyPress(popUp->windowHandle(), Qt::Key_Escape); });
+        QTest::newRow("hide the button") << Close([](QWidget* popUp) { popUp->parentWidget()->hide(); });
+        QTest::newRow("close the window") << Close([](QWidget* popUp) { popUp->parentWidget()->window()->close(); });
     }
 
     void slotMayDeleteTheButton()
