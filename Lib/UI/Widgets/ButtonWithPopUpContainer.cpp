@@ -221,6 +221,8 @@ bool ButtonWithPopUpContainer::PopUpWindow::eventFilter(QObject* watched, QEvent
 
 bool ButtonWithPopUpContainer::PopUpWindow::event(QEvent* event)
 {
+    if (event->type() == QEvent::DeferredDelete)
+        return ZFrame::event(event); // deletes the window
     ++eventDepth;
     const bool isHandled = ZFrame::event(event);
     // Nothing in it can be used when the button was disabled.

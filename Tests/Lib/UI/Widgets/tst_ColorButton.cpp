@@ -46,6 +46,11 @@ void LogSignals(const ColorButton* button, QStringList& log)
     QObject::connect(button, &ColorButton::ColorDialogClosed, [&log] { log += "closed"; });
 }
 
+void WatchAsLongAsItLives(QObject* object, std::function<void(QEvent::Type, QEvent*)> see)
+{
+    (new Support::EventWatch(object, std::move(see)))->setParent(object);
+}
+
 } // namespace
 
 class tst_ColorButton : public Support::TestCase
@@ -183,7 +188,7 @@ private Q_SLOTS:
             button->setParent(window);
             connect(button, &ColorButton::ColorDialogWillBeOpened, button, [button] {
                 auto* dialog = button->findChild<QColorDialog*>();
-                new Support::EventWatch(dialog, [button](QEvent::Type type, QEvent*) {
+                WatchAsLongAsItLives(dialog, [button](QEvent::Type type, QEvent*) {
                     button->setHidden(button->isHidden() || type == QEvent::Show);
                 });
             });
@@ -220,7 +225,7 @@ private Q_SLOTS:
     {
         QTest::addColumn<Act>("act");
         QTest::newRow("closed when shown") << Act([](QColorDialog* dialog, ColorButton*) {
-            new Support::EventWatch(dialog, [dialog](QEvent::Type type, QEvent*) {
+            WatchAsLongAsItLives(dialog, [dialog](QEvent::Type type, QEvent*) {
                 if (type == QEvent::Show)
                     dialog->close();
             });
@@ -228,7 +233,7 @@ private Q_SLOTS:
         QTest::newRow("deleted before") << Act([](QColorDialog* dialog, ColorButton*) { delete dialog; });
         QTest::newRow("disabled before") << Act([](QColorDialog*, ColorButton* button) { button->setEnabled(false); });
         QTest::newRow("disabled when shown") << Act([](QColorDialog* dialog, ColorButton* button) {
-            new Support::EventWatch(dialog, [button](QEvent::Type type, QEvent*) {
+            WatchAsLongAsItLives(dialog, [button](QEvent::Type type, QEvent*) {
                 if (type == QEvent::Show)
                     button->setEnabled(false);
             });
