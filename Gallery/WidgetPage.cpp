@@ -72,6 +72,12 @@ WidgetPage::WidgetPage(const Entry& entry, QWidget* parent)
     Arrange();
 }
 
+WidgetPage::~WidgetPage()
+{
+    // The focus moves once more while the parts are destroyed, after the page.
+    disconnect(qApp, nullptr, this, nullptr);
+}
+
 QWidget* WidgetPage::CreateContent(const Entry& entry)
 {
     auto* content = new QWidget;

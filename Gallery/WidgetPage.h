@@ -20,6 +20,7 @@ class WidgetPage : public QWidget
 
 public:
     explicit WidgetPage(const Entry& entry, QWidget* parent = nullptr);
+    ~WidgetPage() override;
 
     /// Chooses a state by its index; the first one is chosen from the start. An index that is none is ignored.
     void SelectState(int index);
