@@ -232,7 +232,7 @@ private Q_SLOTS:
         QTest::keyClicks(code, "0 }");
         QTRY_COMPARE(ColorOf(label), QColor("#00ff00"));
         QVERIFY(code->marks().isEmpty() && applied.size() == 1);
-        // Reverted, it does not come back by itself; what another one sets later would come after it.
+        // Reverted, it does not come back; what another editor sets later would come after it.
         QTest::keyClick(code, Qt::Key_Space);
         editor.revert();
         ZRuntimeStylesheetEditor later;
