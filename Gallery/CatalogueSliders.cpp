@@ -13,17 +13,19 @@ constexpr int LENGTH = 320;
 constexpr int STEP = 5;
 constexpr int STEP_UNITS = 120;
 
-// What a step is, is the owner's to say.
-void Step(ZSliderThumb* thumb)
+// The owner decides what a step is. The values of an upright slider grow downwards, so its thumb moves up with fewer.
+void Step(ZSlider& slider, ZSliderThumb* thumb)
 {
-    QObject::connect(thumb, &ZSliderThumb::stepped, thumb,
-                     [thumb](int factor) { thumb->setValue(thumb->value() + STEP * factor / STEP_UNITS); });
+    QObject::connect(thumb, &ZSliderThumb::stepped, thumb, [&slider, thumb](int factor) {
+        const int step = slider.orientation() == Qt::Vertical ? -STEP : STEP;
+        thumb->setValue(thumb->value() + step * factor / STEP_UNITS);
+    });
 }
 
 ZSliderThumb* AddThumb(ZSlider& slider, const QString& name, int value)
 {
     ZSliderThumb* thumb = slider.addThumb(name);
-    Step(thumb);
+    Step(slider, thumb);
     thumb->setValue(value);
     return thumb;
 }
@@ -34,7 +36,7 @@ ZSlider* CreateSlider(Qt::Orientation orientation, QWidget* parent)
     slider->setOrientation(orientation);
     slider->setAccessibleName(Catalogue::tr("Position"));
     slider->defaultThumb()->setName(Catalogue::tr("Position"));
-    Step(slider->defaultThumb());
+    Step(*slider, slider->defaultThumb());
     if (orientation == Qt::Horizontal)
         slider->setMinimumWidth(LENGTH);
     slider->setValue(40);

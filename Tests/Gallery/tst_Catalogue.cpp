@@ -3,6 +3,11 @@
 
 #include <Support/TestCase.h>
 
+#include <QToolButton>
+
+#include <algorithm>
+#include <memory>
+
 using namespace Zelkor::Gallery;
 
 class tst_Catalogue : public Support::TestCase
@@ -44,6 +49,19 @@ private Q_SLOTS:
                 QCOMPARE(CreateInState(entry, state, &parent)->parentWidget(), &parent);
             }
         }
+    }
+
+    void upKeyMovesTheThumbOfAnUprightSliderUp()
+    {
+        const Entry& entry = *FindEntry("ZSlider");
+        const auto upright = std::find_if(entry.states.begin(), entry.states.end(),
+                                          [](const State& state) { return state.name == "Upright"; });
+        const std::unique_ptr<QWidget> slider(CreateInState(entry, *upright, nullptr));
+        slider->show();
+        auto* thumb = slider->findChild<QToolButton*>();
+        const int before = thumb->y();
+        QTest::keyClick(thumb, Qt::Key_Up);
+        QVERIFY(thumb->y() < before);
     }
 };
 

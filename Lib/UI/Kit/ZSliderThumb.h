@@ -94,7 +94,8 @@ Q_SIGNALS:
     /// The drag is over; also when the thumb was hidden or disabled meanwhile.
     void dragFinished();
 
-    /// A person asks for steps of 120 units each, upwards when positive. The thumb stays where it is.
+    /// Asks for steps of 120 units each; positive for Up, Right and the wheel turned away. The thumb does not move. The
+    /// values of an upright slider grow downwards: its owner subtracts the steps, so that Up moves the thumb up.
     void stepped(int factor);
 
 protected:
