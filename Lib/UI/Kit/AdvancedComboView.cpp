@@ -127,7 +127,8 @@ int AdvancedComboView::measureItems() const
 
 bool AdvancedComboView::eventFilter(QObject* watched, QEvent* event)
 {
-    if (wide && watched == parent() && event->type() == QEvent::Resize)
+    // A pop-up that has its width from the last time only moves.
+    if (wide && watched == parent() && (event->type() == QEvent::Resize || event->type() == QEvent::Move))
         keepPopUpOnScreen();
     return QListView::eventFilter(watched, event);
 }

@@ -124,7 +124,7 @@ private Q_SLOTS:
         prepare(combo);
         for (const auto direction : {Qt::LeftToRight, Qt::RightToLeft}) {
             for (const int x : {screen.left(), screen.center().x(), screen.right() - 119}) {
-                for (const int length : {1, 20}) {
+                for (const int length : {1, 1, 20}) { // opened again, and wider than the screen
                     combo.setLayoutDirection(direction);
                     combo.setItemText(1, LONG_TEXT.repeated(length));
                     combo.move(x, 100);
