@@ -40,7 +40,9 @@ QWidget* CreateCombo(QWidget* parent)
 // What is chosen stands in check boxes, and the combo box says how much it is.
 void OpenCheckBoxes(ZComboBox& combo)
 {
-    auto* window = new ZFrame(&combo, Qt::Popup);
+    // Not a child of the combo box: style sheets would take the frame for its list.
+    auto* window = new ZFrame(combo.parentWidget(), Qt::Popup);
+    QObject::connect(&combo, &QObject::destroyed, window, [window] { delete window; });
     auto* layout = new QVBoxLayout(window);
     window->setProperty("role", QStringLiteral("card"));
     combo.setAccessibleName(Catalogue::tr("Sound sources"));

@@ -45,7 +45,8 @@ public:
     /// A window that is shown in place of the list: above the combo box where the screen has room for it, else below.
     /// Null, the default, for the list. The window stays the caller's: the combo box shows, moves and hides it, and
     /// forgets one that is destroyed. It must be a window, of the kind `Qt::Popup` for instance, to stand where it
-    /// shall: a child widget would be moved within its parent. Setting it closes an open list.
+    /// shall: a child widget would be moved within its parent. Style sheets take a frame whose parent is a combo box
+    /// for its list and do not style it, so it needs another parent. Setting it closes an open list.
     QWidget* popupWidget() const { return popUp; }
     void setPopupWidget(QWidget* window);
 
