@@ -87,6 +87,11 @@ void MaskedToolTip::Show(const QPoint& globalPos)
         clearMask();
     else
         setMask(OpaquePart(maskImage));
+    // Labels that are visible only make the window larger. A size that the application set stays.
+    if (!testAttribute(Qt::WA_Resized)) {
+        adjustSize();
+        setAttribute(Qt::WA_Resized, false);
+    }
     if (displayTime > 0)
         QTimer::singleShot(displayTime, this, &QWidget::close);
     move(mapFromGlobal(globalPos + QPoint(Common::WithinReach(offsetX), Common::WithinReach(offsetY))));

@@ -81,6 +81,16 @@ private Q_SLOTS:
         QCOMPARE(tip.pos(), QPoint(0, 0));
     }
 
+    void shorterTextMakesTheWindowNarrower()
+    {
+        MaskedToolTip tip(nullptr);
+        tip.SetText("A text that needs more room than the next");
+        tip.Show(QPoint(50, 40));
+        tip.SetText("Hint");
+        tip.Show(QPoint(50, 40));
+        QCOMPARE(tip.size(), tip.sizeHint());
+    }
+
     void closesByPressTimeAndAnotherWindow()
     {
         QWidget window;
