@@ -36,7 +36,8 @@ struct ButtonWithPopUpList::Impl : public QObject
     }
     ~Impl() override
     {
-        menu->removeEventFilter(this);
+        if (menu)
+            menu->removeEventFilter(this);
         delete menu;
     }
 
@@ -56,11 +57,13 @@ struct ButtonWithPopUpList::Impl : public QObject
             const QPointer<QAction> separator = leftSeparators.takeLast();
             if (!separator)
                 continue;
-            menu->removeAction(separator);
-            menu->addAction(separator);
+            if (menu) {
+                menu->removeAction(separator);
+                menu->addAction(separator);
+            }
             return separator;
         }
-        return menu->addSeparator();
+        return menu ? menu->addSeparator() : nullptr;
     }
 
     bool eventFilter(QObject* watched, QEvent* event) override
@@ -81,7 +84,7 @@ struct ButtonWithPopUpList::Impl : public QObject
     ButtonWithPopUpList* button;
     QVector<Item> items;
     QVector<QPointer<QAction>> leftSeparators;
-    QMenu* menu;
+    QPointer<QMenu> menu; ///< which the application can delete
     int currentIndex = -1;
     bool isOpenedByKey = false;
     QString describedAs; ///< the description that was set last; the application may have set another one
@@ -172,7 +175,8 @@ void ButtonWithPopUpList::AppendItem(const QString& text, const QVariant& data)
         deleted->setParent(nullptr);
         ForgetItem(index);
     });
-    impl->menu->addAction(action);
+    if (impl->menu)
+        impl->menu->addAction(action);
     impl->items.append({action, impl->AppendSeparator(), data});
     // The others stay as they are, however many they are.
     if (impl->currentIndex < 0)
@@ -186,7 +190,8 @@ void ButtonWithPopUpList::RemoveItem(int index)
     if (!impl->Has(index))
         return;
     QAction* action = impl->items[index].action;
-    impl->menu->removeAction(action);
+    if (impl->menu)
+        impl->menu->removeAction(action);
     action->deleteLater();
     ForgetItem(index);
 }
@@ -199,7 +204,10 @@ void ButtonWithPopUpList::ForgetItem(int index)
         impl->currentIndex = -1;
     else if (impl->currentIndex > index)
         --impl->currentIndex;
+    const bool isLast = impl->items.isEmpty();
     UpdateSelectionState();
+    if (isLast && impl->menu)
+        impl->menu->close();
 }
 
 void ButtonWithPopUpList::RemoveItem(const QVariant& data)
@@ -209,12 +217,17 @@ void ButtonWithPopUpList::RemoveItem(const QVariant& data)
 
 void ButtonWithPopUpList::Clear()
 {
-    impl->menu->clear();
+    if (impl->menu)
+        impl->menu->clear();
     for (const Impl::Item& item : qAsConst(impl->items))
         item.action->deleteLater();
     impl->items.clear();
     impl->leftSeparators.clear();
     impl->currentIndex = -1;
+    CheckCurrentAction();
+    // Last, as a slot of the menu may delete the button.
+    if (impl->menu)
+        impl->menu->close();
 }
 
 int ButtonWithPopUpList::Count() const

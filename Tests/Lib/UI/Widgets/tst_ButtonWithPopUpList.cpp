@@ -134,6 +134,33 @@ private Q_SLOTS:
         QCOMPARE(kinds, QString("*-*-*-"));
     }
 
+    void menuClosesWithItsLastItem_data()
+    {
+        QTest::addColumn<QString>("operations");
+        for (const char* operations : {"clear", "remove 0,remove 0,remove 0"})
+            QTest::newRow(operations) << operations;
+    }
+
+    void menuClosesWithItsLastItem()
+    {
+        QFETCH(QString, operations);
+        const auto button = ThreeItems();
+        button->menu()->popup(QPoint(50, 50));
+        for (const QString& operation : operations.split(','))
+            Perform(*button, operation);
+        QVERIFY(!button->menu()->isVisible());
+        QCOMPARE(button->accessibleDescription(), QString());
+    }
+
+    void applicationMayDeleteTheMenu()
+    {
+        const auto button = ThreeItems();
+        delete button->menu();
+        for (const char* operation : {"remove 0", "append", "clear", "append"})
+            Perform(*button, operation);
+        QCOMPARE(button->Count(), 1);
+    }
+
     void keyOpensTheMenuAtTheCurrentItem_data()
     {
         QTest::addColumn<QKeySequence>("keys");
