@@ -61,19 +61,19 @@ public:
 
     QVariant currentValue() const override { return thumb->value(); }
     void setCurrentValue(const QVariant& value) override { thumb->setValue(value.toInt()); }
-    QVariant minimumValue() const override { return qMax(slider().minimum(), thumb->lowerLimit()); }
-    QVariant maximumValue() const override { return qMin(slider().maximum(), thumb->upperLimit()); }
-    QVariant minimumStepSize() const override { return slider().singleStep(); }
+    QVariant minimumValue() const override { return slider() ? qMax(slider()->minimum(), thumb->lowerLimit()) : 0; }
+    QVariant maximumValue() const override { return slider() ? qMin(slider()->maximum(), thumb->upperLimit()) : 0; }
+    QVariant minimumStepSize() const override { return slider() ? slider()->singleStep() : 0; }
 
 private:
-    const QSlider& slider() const { return *static_cast<QSlider*>(thumb->parentWidget()); }
+    const QSlider* slider() const { return qobject_cast<QSlider*>(thumb->parentWidget()); }
 
     ZSliderThumb* thumb;
 };
 
 } // namespace
 
-ZSliderThumb::ZSliderThumb(ZSlider* slider) : QToolButton(slider), slider(slider), currentValue(slider->minimum())
+ZSliderThumb::ZSliderThumb(ZSlider* slider) : QToolButton(slider), slider(slider), currentValue(slider ? slider->minimum() : 0)
 {
     Zelkor::Vx::UI::Common::AccessibleFactory<ZSliderThumb, AccessibleThumb>::Install();
     setCheckable(true);
@@ -84,7 +84,8 @@ ZSliderThumb::ZSliderThumb(ZSlider* slider) : QToolButton(slider), slider(slider
 
 ZSliderThumb::~ZSliderThumb()
 {
-    slider->forget(this);
+    if (slider)
+        slider->forget(this);
 }
 
 void ZSliderThumb::setName(const QString& name)
@@ -116,17 +117,20 @@ void ZSliderThumb::setParentMargin(int margin)
 {
     currentParentMargin = margin;
     setValue(currentValue);
-    slider->updateGeometry();
+    if (slider)
+        slider->updateGeometry();
 }
 
 void ZSliderThumb::setZOrder(int order)
 {
-    slider->setZOrder(*this, order);
+    if (slider)
+        slider->setZOrder(*this, order);
 }
 
 int ZSliderThumb::bounded(int value) const
 {
-    return qMin(upperBound, qMax(lowerBound, qBound(slider->minimum(), value, slider->maximum())));
+    const int inRange = slider ? qBound(slider->minimum(), value, slider->maximum()) : value;
+    return qMin(upperBound, qMax(lowerBound, inRange));
 }
 
 void ZSliderThumb::setValue(int value)
@@ -156,12 +160,20 @@ void ZSliderThumb::setUpperLimit(int limit)
 
 void ZSliderThumb::place()
 {
+    if (!slider)
+        return;
     const int position = slider->track().pixelOfThumb(currentValue) - WithinReach(currentPointOffset);
     const int margin = WithinReach(currentParentMargin);
     if (slider->orientation() == Qt::Horizontal)
         move(position, margin);
     else
         move(margin, position);
+}
+
+// Without a slider it only lives: no input and no painting.
+bool ZSliderThumb::event(QEvent* event)
+{
+    return slider ? QToolButton::event(event) : QObject::event(event);
 }
 
 QSize ZSliderThumb::sizeHint() const

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QPointer>
 #include <QToolButton>
 
 #include <limits>
@@ -28,7 +29,7 @@ class ZSliderThumb : public QToolButton
     Q_PROPERTY(int zOrder READ zOrder WRITE setZOrder)
 
 public:
-    /// At the slider's minimum. The slider, which may not be null, owns the thumb.
+    /// At the slider's minimum. The slider owns the thumb; without one, the thumb shows nothing and takes no input.
     explicit ZSliderThumb(ZSlider* slider);
     ~ZSliderThumb() override;
 
@@ -99,6 +100,7 @@ Q_SIGNALS:
     void stepped(int factor);
 
 protected:
+    bool event(QEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
@@ -122,7 +124,7 @@ private:
     void finishDrag();
     void check(bool on);
 
-    ZSlider* slider;
+    QPointer<ZSlider> slider;
     QPoint pressPosition{-1, -1};
     QString key; ///< under which the slider knows it
     QString currentName;

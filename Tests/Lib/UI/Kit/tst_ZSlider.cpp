@@ -335,6 +335,20 @@ private Q_SLOTS:
         }
     }
 
+    void thumbWithoutASliderDoesNothing()
+    {
+        Thumb thumb(nullptr);
+        thumb.setZOrder(1);
+        thumb.setParentMargin(2);
+        thumb.setValue(5);
+        thumb.show();
+        Click(&thumb);
+        QTest::keyClick(&thumb, Qt::Key_Up);
+        thumb.grab();
+        QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(&thumb);
+        QCOMPARE(accessible->valueInterface()->maximumValue(), 0);
+    }
+
     void keysLeadWhereTheyPoint_data()
     {
         QTest::addColumn<int>("orientation");
