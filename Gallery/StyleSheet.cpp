@@ -8,8 +8,8 @@
 #include <QIconEngine>
 #include <QPainter>
 #include <QPixmap>
-#include <QRegularExpression>
 #include <QStyleFactory>
+#include <QUuid>
 
 // A resource in a static library has to be registered by hand, from outside of any namespace.
 static void RegisterStyles()
@@ -35,16 +35,16 @@ QString FileOf(const QString& nameOrFile)
 int appliedSheets = 0; ///< how many there were; icons of an earlier one are out of date
 QString iconFolder;    ///< of the last one
 
-// Qt looks for a file that a search path lacks in the current folder, where anything may lie. An icon that is missing
-// is therefore looked for in the resources, where it is missing as well.
-QString WithoutMissingIcons(QString text)
+// Qt looks for a file that a search path lacks, an icon for a dense screen for instance, in the current folder. Where
+// that holds a file of such a name, the sheet goes by a search path of a name that no file has.
+QString WithoutFilesOfCurrentFolder(const QString& text)
 {
-    static const QRegularExpression REFERENCE(SEARCH_PATH + QStringLiteral(":([^;)\"'\\s]+)"));
-    for (auto match = REFERENCE.match(text); match.hasMatch(); match = REFERENCE.match(text, match.capturedEnd())) {
-        if (!QFileInfo::exists(QDir(iconFolder).filePath(match.captured(1))))
-            text.replace(match.capturedStart(), match.capturedLength(), ":/" + SEARCH_PATH + "/" + match.captured(1));
-    }
-    return text;
+    const QString prefix = SEARCH_PATH + ":";
+    if (QDir::current().entryList({prefix + "*"}).isEmpty())
+        return text;
+    const QString path = SEARCH_PATH + QUuid::createUuid().toString(QUuid::Id128);
+    QDir::setSearchPaths(path, {iconFolder});
+    return QString(text).replace(prefix, path + ":");
 }
 
 /// `stem` is the file of the plain icon without its ending.
@@ -116,7 +116,7 @@ void ApplyStyleSheet(const StyleSheet& sheet)
     QDir::setSearchPaths(SEARCH_PATH, {iconFolder});
     ++appliedSheets;
     QApplication::setStyle(QStyleFactory::create("Fusion"));
-    qApp->setStyleSheet(WithoutMissingIcons(sheet.text));
+    qApp->setStyleSheet(WithoutFilesOfCurrentFolder(sheet.text));
 }
 
 QIcon BuiltInIcon(const QString& sheet, const QString& name)
