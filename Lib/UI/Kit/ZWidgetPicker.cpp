@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QPointer>
 #include <QWidget>
 #include <QWindow>
 
@@ -61,13 +62,15 @@ bool ZWidgetPicker::isPickable(const QWidget* widget) const
 
 bool ZWidgetPicker::eventFilter(QObject* watched, QEvent* event)
 {
-    auto* widget = qobject_cast<QWidget*>(watched);
+    QPointer<QWidget> widget = qobject_cast<QWidget*>(watched);
     auto* window = qobject_cast<QWindow*>(watched);
+    const QPointer<ZWidgetPicker> self(this);
     switch (event->type()) {
     case QEvent::Enter:
-        if (running && isPickable(widget))
-            Q_EMIT pointed(widget);
-        break;
+        if (!running || !isPickable(widget))
+            break;
+        Q_EMIT pointed(widget);
+        return !widget; // a slot may have deleted it
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:
         if (!running && widget) {
@@ -83,7 +86,8 @@ bool ZWidgetPicker::eventFilter(QObject* watched, QEvent* event)
         swallowsRelease = true;
         isReleasedInWindow = window;
         stop();
-        Q_EMIT picked(widget);
+        if (self && widget)
+            Q_EMIT picked(widget);
         return true;
     case QEvent::MouseButtonRelease:
         if (running || !(isReleasedInWindow ? watched == window : watched == widget))

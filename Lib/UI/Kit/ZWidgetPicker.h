@@ -25,7 +25,7 @@ Q_SIGNALS:
     /// The pointer came upon this widget, which a click would choose.
     void pointed(QWidget* widget);
 
-    /// Comes after the picker stopped.
+    /// Comes after stopped(), unless a slot of that deleted the widget.
     void picked(QWidget* widget);
 
     /// The picker stopped, by whatever.

@@ -280,6 +280,18 @@ private Q_SLOTS:
         QVERIFY(!picker->isRunning() && !pick->isChecked());
     }
 
+    void pickedWidgetStillLives()
+    {
+        ZWidgetPicker picker(nullptr);
+        QSignalSpy picked(&picker, &ZWidgetPicker::picked);
+        QPointer<QWidget> widget = new QWidget;
+        connect(&picker, &ZWidgetPicker::stopped, widget, [widget] { delete widget; });
+        picker.start();
+        QTest::mousePress(widget, Qt::LeftButton);
+        QVERIFY(!widget);
+        QVERIFY(picked.isEmpty());
+    }
+
     void findsAndReplaces()
     {
         ZCodeEditor editor;
