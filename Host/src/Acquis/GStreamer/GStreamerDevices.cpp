@@ -55,11 +55,10 @@ GstElement* Parse(const std::string& description)
     return bin;
 }
 
-boost::intrusive_ptr<VideoMode> ScreenMode(const char* label, int width, int height)
+boost::intrusive_ptr<VideoMode> ScreenMode(int width, int height)
 {
     const FrameFormat format{Proc::PixFmt::BGRX, width, height};
-    const std::string size = std::to_string(width) + "×" + std::to_string(height);
-    return new VideoMode(std::string(label) + ", " + size, format, ScreenRates());
+    return new VideoMode(std::to_string(width) + "×" + std::to_string(height), format, ScreenRates());
 }
 
 /// The size of the X11 screen; false when there is none to capture.
@@ -100,10 +99,10 @@ boost::intrusive_ptr<CaptureDevice> CreateScreen()
     int height = 0;
     if (!FindScreenSize(width, height))
         return nullptr;
-    CaptureDevice::Modes modes{ScreenMode("Full size", width, height)};
+    CaptureDevice::Modes modes{ScreenMode(width, height)};
     // Halves are even, as encoders want them.
     if (width >= 4 && height >= 4)
-        modes.push_back(ScreenMode("Half size", width / 4 * 2, height / 4 * 2));
+        modes.push_back(ScreenMode(width / 4 * 2, height / 4 * 2));
     return new Device(CaptureDevice::Kind::Screen, SCREEN_ID, SCREEN_NAME, std::move(modes),
                       [] { return Parse(SCREEN_DESCRIPTION); });
 }
