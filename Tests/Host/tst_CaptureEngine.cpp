@@ -101,6 +101,7 @@ private Q_SLOTS:
         row("cannot open", {"error 1"}, [](auto&) { return CaptureError::CannotOpen; });
         row("ends without a picture", {"error 1"}, [](auto&) { return CaptureError::None; });
         row("throws", {"error 3"}, [](auto&) -> CaptureError { throw std::runtime_error("broken"); });
+        row("throws no exception class", {"error 3"}, [](auto&) -> CaptureError { throw "broken"; });
         row("ends by itself", {"started", "stopped"}, [](auto& channel) { return Deliver(channel, 1); });
         row("fails while running", {"started", "error 2"},
             [](auto& channel) { return Deliver(channel, 1, CaptureError::Lost); });

@@ -21,8 +21,10 @@ CaptureError RunGuarded(StandIn::CaptureSource& source, StandIn::SourceChannel& 
         return source.Run(channel);
     } catch (const std::exception& error) {
         LOG(ERROR) << "A capture source broke down: " << error.what();
-        return CaptureError::Failed;
+    } catch (...) {
+        LOG(ERROR) << "A capture source broke down";
     }
+    return CaptureError::Failed;
 }
 
 } // namespace

@@ -16,8 +16,10 @@ std::unique_ptr<StandIn::CaptureSource> CreateSource(const StandIn::CaptureDevic
         return device.CreateSource(mode);
     } catch (const std::exception& error) {
         LOG(ERROR) << "No source for " << device.GetName() << ": " << error.what();
-        return nullptr;
+    } catch (...) {
+        LOG(ERROR) << "No source for " << device.GetName();
     }
+    return nullptr;
 }
 
 } // namespace

@@ -66,6 +66,8 @@ void EngineThreads::Run(std::function<void()> body, Abandons::iterator entry)
         body();
     } catch (const std::exception& error) {
         LOG(ERROR) << "A thread of the capture engine broke down: " << error.what();
+    } catch (...) {
+        LOG(ERROR) << "A thread of the capture engine broke down";
     }
     // What the thread worked on goes before the thread counts as gone.
     body = nullptr;
