@@ -2,9 +2,9 @@
 #include <Support/LogCapture.h>
 #include <Support/TestCase.h>
 
-#include <Acquis/GStreamer/CameraModes.h>
-#include <Acquis/GStreamer/GStreamerFrames.h>
-#include <Acquis/GStreamer/MicrophoneLevel.h>
+#include <StandIn/GStreamer/CameraModes.h>
+#include <StandIn/GStreamer/GStreamerFrames.h>
+#include <StandIn/GStreamer/MicrophoneLevel.h>
 
 #include <Zelkor/StandIn/CaptureEngine.h>
 #include <Zelkor/StandIn/GStreamerDevice.h>

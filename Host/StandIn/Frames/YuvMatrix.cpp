@@ -1,0 +1,40 @@
+#include <StandIn/Frames/YuvMatrix.h>
+
+#include <libyuv/row.h>
+
+#include <algorithm>
+#include <iterator>
+
+namespace Zelkor::Proc {
+
+namespace {
+
+using StandIn::ColorMatrix;
+using StandIn::ColorRange;
+
+// The library caps the share of U in blue at 128 / 64 = 2, although the limited ranges need 2.017 and 2.112: saturated
+// blue of BT.709 comes out up to 15 levels wrong. Its Intel code computes with the true coefficient just as well, so a
+// capped one is replaced; where the constants are laid out differently or not capped, they stay as they are.
+libyuv::YuvConstants WithUncappedBlue(libyuv::YuvConstants constants, [[maybe_unused]] std::uint8_t blue)
+{
+#if defined(__x86_64__) || defined(__i386__) || defined(_M_X64) || defined(_M_IX86)
+    constexpr std::uint8_t CAPPED = 128;
+    std::replace(std::begin(constants.kUVToB), std::end(constants.kUVToB), CAPPED, blue);
+#endif
+    return constants;
+}
+
+} // namespace
+
+const libyuv::YuvConstants& YuvMatrix(ColorMatrix matrix, ColorRange range)
+{
+    // Blue is the coefficient times 64, rounded: 2.017 for BT.601, 2.112 for BT.709. The library's vector code loads
+    // the constants by aligned instructions.
+    alignas(32) static const libyuv::YuvConstants LIMITED_601 = WithUncappedBlue(libyuv::kYuvI601Constants, 129);
+    alignas(32) static const libyuv::YuvConstants LIMITED_709 = WithUncappedBlue(libyuv::kYuvH709Constants, 135);
+    if (range == ColorRange::Full)
+        return matrix == ColorMatrix::BT709 ? libyuv::kYuvF709Constants : libyuv::kYuvJPEGConstants;
+    return matrix == ColorMatrix::BT709 ? LIMITED_709 : LIMITED_601;
+}
+
+} // namespace Zelkor::Proc
