@@ -45,7 +45,7 @@ void AudioLevelRun::Start()
 {
     const auto self = shared_from_this();
     try {
-        Acquis::EngineThreads::OfSessions().Spawn([self] { self->Run(); }, [self] { self->End(); });
+        EngineThreads::OfSessions().Spawn([self] { self->Run(); }, [self] { self->End(); });
     } catch (const std::system_error& error) {
         LOG(ERROR) << "No thread to measure levels: " << error.what();
     }

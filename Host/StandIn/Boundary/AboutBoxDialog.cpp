@@ -10,7 +10,7 @@
 #include <QUrl>
 #include <QVBoxLayout>
 
-namespace Zelkor::App {
+namespace Zelkor::StandIn {
 
 namespace {
 
@@ -80,6 +80,10 @@ void SetLink(QLabel* label, const QString& link, const QString& text)
 
 } // namespace
 
+} // namespace Zelkor::StandIn
+
+namespace Zelkor::App {
+
 struct AboutBoxDialog::Parts
 {
     QString product;
@@ -95,15 +99,15 @@ AboutBoxDialog::AboutBoxDialog(const QString& product, const QString& version, c
 {
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
 
-    QLabel* legalLabel = MakeLabel("legalLabel", legal);
+    QLabel* legalLabel = StandIn::MakeLabel("legalLabel", legal);
     legalLabel->setWordWrap(true);
 
     parts->product = product;
-    parts->heading = MakeLabel("productLabel", product);
-    parts->heading->setFont(HeadingFont(font()));
-    parts->homePage = MakeLinkLabel("homePageLabel");
-    parts->mailTo = MakeLinkLabel("mailToLabel");
-    parts->custom = MakeLinkLabel("customURL");
+    parts->heading = StandIn::MakeLabel("productLabel", product);
+    parts->heading->setFont(StandIn::HeadingFont(font()));
+    parts->homePage = StandIn::MakeLinkLabel("homePageLabel");
+    parts->mailTo = StandIn::MakeLinkLabel("mailToLabel");
+    parts->custom = StandIn::MakeLinkLabel("customURL");
     parts->custom->hide();
     // A button of our own: the box translates its standard buttons itself, by whatever translation Qt has.
     auto* buttons = new QDialogButtonBox;
@@ -114,7 +118,7 @@ AboutBoxDialog::AboutBoxDialog(const QString& product, const QString& version, c
     auto* layout = new QVBoxLayout(this);
     const int space = layout->spacing() < 0 ? fontMetrics().height() / 2 : layout->spacing();
     layout->addWidget(parts->heading);
-    layout->addWidget(MakeLabel("versionLabel", version));
+    layout->addWidget(StandIn::MakeLabel("versionLabel", version));
     layout->addSpacing(space);
     layout->addWidget(parts->homePage);
     layout->addWidget(parts->mailTo);
@@ -133,7 +137,7 @@ AboutBoxDialog::~AboutBoxDialog() = default;
 void AboutBoxDialog::SetCustomUrl(const QUrl& url)
 {
     if (!url.isEmpty())
-        SetLink(parts->custom, url.toString(QUrl::FullyEncoded), url.toDisplayString());
+        StandIn::SetLink(parts->custom, url.toString(QUrl::FullyEncoded), url.toDisplayString());
     parts->custom->setVisible(!url.isEmpty());
 }
 
@@ -142,7 +146,7 @@ void AboutBoxDialog::changeEvent(QEvent* event)
     if (event->type() == QEvent::LanguageChange)
         Retranslate();
     if (event->type() == QEvent::FontChange)
-        parts->heading->setFont(HeadingFont(font()));
+        parts->heading->setFont(StandIn::HeadingFont(font()));
     QDialog::changeEvent(event);
 }
 
@@ -162,8 +166,8 @@ void AboutBoxDialog::mousePressEvent(QMouseEvent* event)
 void AboutBoxDialog::Retranslate()
 {
     setWindowTitle(tr("About %1").arg(parts->product));
-    SetLink(parts->homePage, HOME_PAGE, tr("Visit the home page"));
-    SetLink(parts->mailTo, MAIL_TO, tr("Write to support"));
+    StandIn::SetLink(parts->homePage, StandIn::HOME_PAGE, tr("Visit the home page"));
+    StandIn::SetLink(parts->mailTo, StandIn::MAIL_TO, tr("Write to support"));
     parts->ok->setText(tr("OK"));
 }
 

@@ -6,7 +6,7 @@
 
 #include <glog/logging.h>
 
-namespace Zelkor::Core {
+namespace Zelkor::StandIn {
 
 namespace {
 
@@ -18,7 +18,7 @@ public:
     {
         const bool known = classId == Proc::SettingsColorspaceConverter::CLASS_ID;
         if (known && (implName.empty() || implName == Proc::ImplNames::DEFAULT)) {
-            effect = new Proc::ColorspaceConverter(owner);
+            effect = new ColorspaceConverter(owner);
             return;
         }
         LOG(ERROR) << "Zelkor::Core::EffectFactory::CreateEffect: no effect \"" << classId << "\" by \"" << implName
@@ -29,7 +29,11 @@ public:
 
 } // namespace
 
-CoreManager::CoreManager() : effectFactory(new EffectFactory) {}
+} // namespace Zelkor::StandIn
+
+namespace Zelkor::Core {
+
+CoreManager::CoreManager() : effectFactory(new StandIn::EffectFactory) {}
 
 CoreManager::~CoreManager() = default;
 

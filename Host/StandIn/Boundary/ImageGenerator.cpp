@@ -4,7 +4,7 @@
 #include <array>
 #include <cmath>
 
-namespace Zelkor::Util {
+namespace Zelkor::StandIn {
 
 namespace {
 
@@ -15,6 +15,10 @@ double Opacity(double r)
 }
 
 } // namespace
+
+} // namespace Zelkor::StandIn
+
+namespace Zelkor::Util {
 
 QImage ImageGenerator::CreateCircleWithAlphaGradientCubic(const QSize& size, const QColor& color)
 {
@@ -34,7 +38,7 @@ QImage ImageGenerator::CreateCircleWithAlphaGradientCubic(const QSize& size, con
         const double dy = y + 0.5 - height / 2.0;
         for (int x = 0; x < (width + 1) / 2; ++x) {
             const double dx = x + 0.5 - width / 2.0;
-            row[x] = shades[int(steps * Opacity(std::sqrt(dx * dx + dy * dy) / radius) + 0.5)];
+            row[x] = shades[int(steps * StandIn::Opacity(std::sqrt(dx * dx + dy * dy) / radius) + 0.5)];
         }
         std::reverse_copy(row, row + width / 2, row + (width + 1) / 2);
         std::copy(row, row + width, reinterpret_cast<QRgb*>(image.scanLine(height - 1 - y)));

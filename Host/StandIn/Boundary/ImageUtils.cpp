@@ -7,13 +7,9 @@
 #include <cstdint>
 #include <cstring>
 
-namespace Zelkor::Util {
+namespace Zelkor::StandIn {
 
 namespace {
-
-using StandIn::FrameFormat;
-using StandIn::Plane;
-using StandIn::VideoFrame;
 
 constexpr QImage::Format FORMAT = QImage::Format_RGB32;
 
@@ -42,6 +38,10 @@ QImage Copy(const Plane& plane, const FrameFormat& format)
 
 } // namespace
 
+} // namespace Zelkor::StandIn
+
+namespace Zelkor::Util {
+
 ImageUtils::ImageUtils() = default;
 ImageUtils::~ImageUtils() = default;
 
@@ -49,7 +49,7 @@ QImage ImageUtils::FrameToImage(const boost::intrusive_ptr<Proc::IDataVideo>& fr
 {
     if (!frame)
         return QImage();
-    boost::intrusive_ptr<VideoFrame> source(dynamic_cast<VideoFrame*>(frame.get()));
+    boost::intrusive_ptr<StandIn::VideoFrame> source(dynamic_cast<StandIn::VideoFrame*>(frame.get()));
     const bool readable = source && source->GetPixelFormat() == Proc::PixFmt::BGRA && source->IsReadable();
     const bool refusedBefore = refusing.exchange(!readable);
     if (!readable) {
@@ -58,11 +58,11 @@ QImage ImageUtils::FrameToImage(const boost::intrusive_ptr<Proc::IDataVideo>& fr
         return QImage();
     }
 
-    const Plane& plane = source->GetPlanes()[0];
-    const FrameFormat& format = source->GetFormat();
-    if (!IsImageMemory(plane))
-        return Copy(plane, format);
-    QImage image(plane.data, format.width, format.height, plane.stride, FORMAT, LetGo, source.get());
+    const StandIn::Plane& plane = source->GetPlanes()[0];
+    const StandIn::FrameFormat& format = source->GetFormat();
+    if (!StandIn::IsImageMemory(plane))
+        return StandIn::Copy(plane, format);
+    QImage image(plane.data, format.width, format.height, plane.stride, StandIn::FORMAT, StandIn::LetGo, source.get());
     if (!image.isNull())
         source.detach();
     return image;

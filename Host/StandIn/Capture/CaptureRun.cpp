@@ -9,13 +9,11 @@
 #include <system_error>
 #include <utility>
 
-namespace Zelkor::Acquis {
-
-using StandIn::CaptureError;
+namespace Zelkor::StandIn {
 
 namespace {
 
-CaptureError RunGuarded(StandIn::CaptureSource& source, StandIn::SourceChannel& channel)
+CaptureError RunGuarded(CaptureSource& source, SourceChannel& channel)
 {
     try {
         return source.Run(channel);
@@ -29,9 +27,8 @@ CaptureError RunGuarded(StandIn::CaptureSource& source, StandIn::SourceChannel& 
 
 } // namespace
 
-CaptureRun::CaptureRun(std::unique_ptr<StandIn::CaptureSource> source,
-                       std::shared_ptr<const Time::IChronometer> chronometer,
-                       std::shared_ptr<ICaptureSessionObserver> observer, std::shared_ptr<ObserverCalls> calls)
+CaptureRun::CaptureRun(std::unique_ptr<CaptureSource> source, std::shared_ptr<const Time::IChronometer> chronometer,
+                       std::shared_ptr<Acquis::ICaptureSessionObserver> observer, std::shared_ptr<ObserverCalls> calls)
     : source(std::move(source)), chronometer(std::move(chronometer)), calls(std::move(calls)),
       turn(this->calls->TakePlace()), observer(std::move(observer))
 {}
@@ -64,7 +61,7 @@ void CaptureRun::Stop()
     Finish(End::Stopped, CaptureError::None);
 }
 
-void CaptureRun::Deliver(const boost::intrusive_ptr<StandIn::VideoFrame>& frame)
+void CaptureRun::Deliver(const boost::intrusive_ptr<VideoFrame>& frame)
 {
     if (!frame)
         return;
@@ -184,4 +181,4 @@ void CaptureRun::Abandon()
     changed.notify_all();
 }
 
-} // namespace Zelkor::Acquis
+} // namespace Zelkor::StandIn

@@ -5,12 +5,11 @@
 #include <exception>
 #include <utility>
 
-namespace Zelkor::Acquis {
+namespace Zelkor::StandIn {
 
 namespace {
 
-std::unique_ptr<StandIn::CaptureSource> CreateSource(const StandIn::CaptureDevice& device,
-                                                     const StandIn::VideoMode& mode)
+std::unique_ptr<CaptureSource> CreateSource(const CaptureDevice& device, const VideoMode& mode)
 {
     try {
         return device.CreateSource(mode);
@@ -24,8 +23,8 @@ std::unique_ptr<StandIn::CaptureSource> CreateSource(const StandIn::CaptureDevic
 
 } // namespace
 
-CaptureSession::CaptureSession(const boost::intrusive_ptr<const StandIn::CaptureDevice>& device,
-                               const boost::intrusive_ptr<const StandIn::VideoMode>& mode,
+CaptureSession::CaptureSession(const boost::intrusive_ptr<const CaptureDevice>& device,
+                               const boost::intrusive_ptr<const VideoMode>& mode,
                                const std::shared_ptr<const Time::IChronometer>& chronometer)
     : device(device), mode(mode), chronometer(chronometer), calls(std::make_shared<ObserverCalls>(*this))
 {}
@@ -36,7 +35,7 @@ CaptureSession::~CaptureSession()
     Stop();
 }
 
-void CaptureSession::Start(const std::shared_ptr<ICaptureSessionObserver>& observer)
+void CaptureSession::Start(const std::shared_ptr<Acquis::ICaptureSessionObserver>& observer)
 {
     if (!observer) {
         LOG(ERROR) << "A capture session needs an observer";
@@ -64,7 +63,7 @@ void CaptureSession::Stop()
     calls->WaitForSilence();
 }
 
-void CaptureSession::GetDeviceSettings(std::vector<boost::intrusive_ptr<IDeviceSettings>>& handles) const
+void CaptureSession::GetDeviceSettings(std::vector<boost::intrusive_ptr<Acquis::IDeviceSettings>>& handles) const
 {
     handles.clear();
     if (auto settings = device->GetDeviceSettings())
@@ -97,4 +96,4 @@ boost::intrusive_ptr<CaptureSession> CaptureSession::TryReference()
     return nullptr;
 }
 
-} // namespace Zelkor::Acquis
+} // namespace Zelkor::StandIn

@@ -1,12 +1,14 @@
 #include <StandIn/Capture/EngineThreads.h>
 
+#include <Zelkor/StandIn/CaptureEngine.h>
+
 #include <glog/logging.h>
 
 #include <exception>
 #include <thread>
 #include <utility>
 
-namespace Zelkor::Acquis {
+namespace Zelkor::StandIn {
 
 namespace {
 
@@ -100,4 +102,9 @@ void EngineThreads::Abandon()
     WaitForIdle(EXIT_PATIENCE);
 }
 
-} // namespace Zelkor::Acquis
+bool WaitForEngineIdle(std::chrono::milliseconds timeout)
+{
+    return EngineThreads::OfSessions().WaitForIdle(timeout);
+}
+
+} // namespace Zelkor::StandIn

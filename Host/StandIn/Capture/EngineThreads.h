@@ -6,7 +6,7 @@
 #include <list>
 #include <mutex>
 
-namespace Zelkor::Acquis {
+namespace Zelkor::StandIn {
 
 /// The engine's threads. Nobody joins them, because a device may take any time to close; they are counted instead, so
 /// that one can wait for them.
@@ -40,4 +40,4 @@ private:
     Abandons abandons; ///< one for each thread that runs
 };
 
-} // namespace Zelkor::Acquis
+} // namespace Zelkor::StandIn

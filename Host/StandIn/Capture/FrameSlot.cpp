@@ -4,17 +4,17 @@
 
 #include <utility>
 
-namespace Zelkor::Acquis {
+namespace Zelkor::StandIn {
 
 namespace {
 
 /// An output and its reader in one object, so that either keeps the other alive.
-class Output : public RefCounted<ICaptureOutput, IFrameReader>
+class Output : public RefCounted<Acquis::ICaptureOutput, Acquis::IFrameReader>
 {
 public:
     explicit Output(std::shared_ptr<const FrameSlot> slot) : slot(std::move(slot)) {}
 
-    void SetTimeShift(const boost::intrusive_ptr<TimeShift>& newShift) override
+    void SetTimeShift(const boost::intrusive_ptr<Acquis::TimeShift>& newShift) override
     {
         // The former one is destroyed after the lock.
         auto former = newShift;
@@ -24,12 +24,12 @@ public:
         shifted = nullptr;
     }
 
-    boost::intrusive_ptr<IFrameReader> GetFrameReader() override { return this; }
+    boost::intrusive_ptr<Acquis::IFrameReader> GetFrameReader() override { return this; }
 
     void ReadLatestFrame(boost::intrusive_ptr<Proc::IDataVideo>& frame) override
     {
         const auto newest = slot->Get();
-        boost::intrusive_ptr<TimeShift> current;
+        boost::intrusive_ptr<Acquis::TimeShift> current;
         {
             const std::lock_guard<std::mutex> lock(mutex);
             current = newest ? shift : nullptr;
@@ -43,7 +43,7 @@ public:
 
 private:
     /// The frame under the time that `current` gives it. It is kept, so that the same frame comes again as the same.
-    FrameSlot::Frame Shifted(const FrameSlot::Frame& newest, const boost::intrusive_ptr<TimeShift>& current)
+    FrameSlot::Frame Shifted(const FrameSlot::Frame& newest, const boost::intrusive_ptr<Acquis::TimeShift>& current)
     {
         const std::int64_t time = current->MapTime(newest->GetTime());
         auto result = time == newest->GetTime() ? newest : newest->WithTime(time);
@@ -57,17 +57,17 @@ private:
 
     const std::shared_ptr<const FrameSlot> slot;
     std::mutex mutex; ///< guards all that follows
-    boost::intrusive_ptr<TimeShift> shift;
+    boost::intrusive_ptr<Acquis::TimeShift> shift;
     FrameSlot::Frame source; ///< the frame that was shifted last
     FrameSlot::Frame shifted;
 };
 
-class Provider : public RefCounted<IFrameProvider>
+class Provider : public RefCounted<Acquis::IFrameProvider>
 {
 public:
     explicit Provider(std::shared_ptr<const FrameSlot> slot) : slot(std::move(slot)) {}
 
-    void CreateOutput(boost::intrusive_ptr<ICaptureOutput>& output, const std::string& name, int index) override
+    void CreateOutput(boost::intrusive_ptr<Acquis::ICaptureOutput>& output, const std::string& name, int index) override
     {
         output = nullptr;
         if (index != 0) {
@@ -105,9 +105,9 @@ void FrameSlot::Close()
     last.swap(newest);
 }
 
-boost::intrusive_ptr<IFrameProvider> CreateFrameProvider(const std::shared_ptr<const FrameSlot>& slot)
+boost::intrusive_ptr<Acquis::IFrameProvider> CreateFrameProvider(const std::shared_ptr<const FrameSlot>& slot)
 {
     return new Provider(slot);
 }
 
-} // namespace Zelkor::Acquis
+} // namespace Zelkor::StandIn

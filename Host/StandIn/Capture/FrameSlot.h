@@ -6,13 +6,13 @@
 #include <memory>
 #include <mutex>
 
-namespace Zelkor::Acquis {
+namespace Zelkor::StandIn {
 
 /// The newest frame of one run, for any number of readers. Any thread.
 class FrameSlot
 {
 public:
-    using Frame = boost::intrusive_ptr<StandIn::VideoFrame>;
+    using Frame = boost::intrusive_ptr<VideoFrame>;
 
     void Put(Frame frame);
     /// The newest frame; null before the first one and after `Close`.
@@ -27,6 +27,6 @@ private:
 };
 
 /// A provider of the slot's frames. It keeps the slot, but neither the session nor the device.
-boost::intrusive_ptr<IFrameProvider> CreateFrameProvider(const std::shared_ptr<const FrameSlot>& slot);
+boost::intrusive_ptr<Acquis::IFrameProvider> CreateFrameProvider(const std::shared_ptr<const FrameSlot>& slot);
 
-} // namespace Zelkor::Acquis
+} // namespace Zelkor::StandIn

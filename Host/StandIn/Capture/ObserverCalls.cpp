@@ -2,7 +2,7 @@
 
 #include <StandIn/Capture/CaptureSession.h>
 
-namespace Zelkor::Acquis {
+namespace Zelkor::StandIn {
 
 ObserverCalls::Turn ObserverCalls::TakePlace()
 {
@@ -51,4 +51,4 @@ void ObserverCalls::ForgetSession()
     session = nullptr;
 }
 
-} // namespace Zelkor::Acquis
+} // namespace Zelkor::StandIn

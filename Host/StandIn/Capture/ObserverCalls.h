@@ -8,7 +8,7 @@
 #include <set>
 #include <thread>
 
-namespace Zelkor::Acquis {
+namespace Zelkor::StandIn {
 
 class CaptureSession;
 
@@ -45,4 +45,4 @@ private:
     CaptureSession* session;
 };
 
-} // namespace Zelkor::Acquis
+} // namespace Zelkor::StandIn

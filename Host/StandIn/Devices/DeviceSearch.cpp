@@ -18,7 +18,7 @@ void DeviceSearch::Start()
 {
     const auto self = shared_from_this();
     try {
-        Acquis::EngineThreads::OfSearches().Spawn([self] { self->Run(); }, [self] { self->End(); });
+        EngineThreads::OfSearches().Spawn([self] { self->Run(); }, [self] { self->End(); });
     } catch (const std::system_error& error) {
         LOG(ERROR) << "No thread to look for devices: " << error.what();
         report(Found());

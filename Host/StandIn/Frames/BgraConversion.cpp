@@ -10,15 +10,11 @@
 
 // The library names layouts by the 32-bit word on a little-endian machine: its ARGB is our BGRA, its RAW our RGB24.
 
-namespace Zelkor::Proc {
+namespace Zelkor::StandIn {
 
 namespace {
 
-using StandIn::ColorMatrix;
-using StandIn::ColorRange;
-using StandIn::FrameFormat;
-using StandIn::Plane;
-using StandIn::VideoFrame;
+using Proc::PixFmt;
 
 struct Target
 {
@@ -111,7 +107,7 @@ constexpr int UNKNOWN_FORMAT = -1;
 
 int Convert(const VideoFrame& frame, const Target& target, std::vector<std::uint8_t>& scratch)
 {
-    const StandIn::Planes& planes = frame.GetPlanes();
+    const Planes& planes = frame.GetPlanes();
     switch (frame.GetPixelFormat()) {
     case PixFmt::I420:
         return ConvertPlanar(frame, planes[1], planes[2], target);
@@ -154,4 +150,4 @@ bool ConvertToBgra(const VideoFrame& frame, std::uint8_t* target, int targetStri
     return Convert(frame, {target, targetStride}, scratch) == 0;
 }
 
-} // namespace Zelkor::Proc
+} // namespace Zelkor::StandIn

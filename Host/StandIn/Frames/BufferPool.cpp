@@ -2,7 +2,7 @@
 
 #include <new>
 
-namespace Zelkor::Proc {
+namespace Zelkor::StandIn {
 
 namespace {
 
@@ -68,4 +68,4 @@ void BufferPool::FreeIdle() noexcept
         Free(idle[--idleCount]);
 }
 
-} // namespace Zelkor::Proc
+} // namespace Zelkor::StandIn

@@ -6,7 +6,7 @@
 #include <memory>
 #include <mutex>
 
-namespace Zelkor::Proc {
+namespace Zelkor::StandIn {
 
 /// Memory for pictures of one size at a time, which is used again when its last reader lets go.
 ///
@@ -39,4 +39,4 @@ private:
     std::size_t bufferSize = 0; ///< of the idle buffers; 0 in a closed pool, to which no buffer belongs
 };
 
-} // namespace Zelkor::Proc
+} // namespace Zelkor::StandIn

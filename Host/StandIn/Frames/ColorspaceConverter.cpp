@@ -10,13 +10,11 @@
 #include <new>
 #include <utility>
 
-namespace Zelkor::Proc {
+namespace Zelkor::StandIn {
 
 namespace {
 
-using StandIn::VideoFrame;
-
-constexpr PixFmt ONLY_TARGET = PixFmt::BGRA;
+constexpr Proc::PixFmt ONLY_TARGET = Proc::PixFmt::BGRA;
 constexpr int BYTES_PER_PIXEL = 4;
 
 // The conversion and whoever paints the picture count its bytes by int.
@@ -33,7 +31,7 @@ ColorspaceConverter::~ColorspaceConverter()
     pool->Close();
 }
 
-void ColorspaceConverter::Process(boost::intrusive_ptr<IDataVideo>& frame)
+void ColorspaceConverter::Process(boost::intrusive_ptr<Proc::IDataVideo>& frame)
 {
     const auto* source = dynamic_cast<const VideoFrame*>(frame.get());
     if (source && source->IsReadable()) {
@@ -41,7 +39,7 @@ void ColorspaceConverter::Process(boost::intrusive_ptr<IDataVideo>& frame)
             refusing = false;
             return;
         }
-        if (const boost::intrusive_ptr<IDataVideo> converted = Convert(*source)) {
+        if (const boost::intrusive_ptr<Proc::IDataVideo> converted = Convert(*source)) {
             refusing = false;
             frame = converted;
             return;
@@ -49,15 +47,15 @@ void ColorspaceConverter::Process(boost::intrusive_ptr<IDataVideo>& frame)
     }
     if (!refusing) {
         LOG(ERROR) << "Zelkor::Proc::ColorspaceConverter::Process: cannot read a frame of pixel format "
-                   << static_cast<int>(frame ? frame->GetPixelFormat() : PixFmt::None);
+                   << static_cast<int>(frame ? frame->GetPixelFormat() : Proc::PixFmt::None);
     }
     refusing = true;
     frame = nullptr;
 }
 
-void ColorspaceConverter::ApplySettings(const IEffectSettings& newSettings)
+void ColorspaceConverter::ApplySettings(const Proc::IEffectSettings& newSettings)
 {
-    const auto* own = dynamic_cast<const SettingsColorspaceConverter*>(&newSettings);
+    const auto* own = dynamic_cast<const Proc::SettingsColorspaceConverter*>(&newSettings);
     if (!own) {
         LOG(ERROR) << "Zelkor::Proc::ColorspaceConverter::ApplySettings: settings of another effect";
         return;
@@ -71,9 +69,9 @@ void ColorspaceConverter::ApplySettings(const IEffectSettings& newSettings)
 }
 
 // Null when there is no conversion or no memory for the picture.
-boost::intrusive_ptr<IDataVideo> ColorspaceConverter::Convert(const VideoFrame& source)
+boost::intrusive_ptr<Proc::IDataVideo> ColorspaceConverter::Convert(const VideoFrame& source)
 {
-    StandIn::FrameFormat format = source.GetFormat();
+    FrameFormat format = source.GetFormat();
     const std::int64_t stride = std::int64_t{format.width} * BYTES_PER_PIXEL;
     if (stride > MAX_BYTES / format.height)
         return nullptr;
@@ -84,11 +82,11 @@ boost::intrusive_ptr<IDataVideo> ColorspaceConverter::Convert(const VideoFrame& 
         std::shared_ptr<std::uint8_t> buffer = pool->Take(size);
         if (!ConvertToBgra(source, buffer.get(), static_cast<int>(stride), scratch))
             return nullptr;
-        const StandIn::Planes planes{{{buffer.get(), static_cast<int>(stride), size}}};
+        const Planes planes{{{buffer.get(), static_cast<int>(stride), size}}};
         return VideoFrame::Reference(format, planes, std::move(buffer), source.GetTime());
     } catch (const std::bad_alloc&) {
         return nullptr;
     }
 }
 
-} // namespace Zelkor::Proc
+} // namespace Zelkor::StandIn

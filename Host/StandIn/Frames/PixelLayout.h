@@ -5,7 +5,7 @@
 #include <array>
 #include <cstdint>
 
-namespace Zelkor::Proc {
+namespace Zelkor::StandIn {
 
 /// How one plane is sampled: a row is a sequence of equal steps, each of which covers 2^widthShift columns of the
 /// picture and takes `bytesPerStep` bytes; the plane has one row for 2^heightShift rows of the picture.
@@ -34,35 +34,35 @@ struct PixelLayout
 };
 
 /// Without planes for a format that is not known.
-constexpr PixelLayout LayoutOf(PixFmt format)
+constexpr PixelLayout LayoutOf(Proc::PixFmt format)
 {
     constexpr PlaneLayout FULL{1, 0, 0};
     constexpr PlaneLayout HALF{1, 1, 1};
     switch (format) {
-    case PixFmt::I420:
-    case PixFmt::YV12:
+    case Proc::PixFmt::I420:
+    case Proc::PixFmt::YV12:
         return {3, {FULL, HALF, HALF}};
-    case PixFmt::NV12:
-    case PixFmt::NV21:
+    case Proc::PixFmt::NV12:
+    case Proc::PixFmt::NV21:
         return {2, {FULL, PlaneLayout{2, 1, 1}}};
-    case PixFmt::YUY2:
-    case PixFmt::UYVY:
+    case Proc::PixFmt::YUY2:
+    case Proc::PixFmt::UYVY:
         return {1, {PlaneLayout{4, 1, 0}}};
-    case PixFmt::RGB24:
-    case PixFmt::BGR24:
+    case Proc::PixFmt::RGB24:
+    case Proc::PixFmt::BGR24:
         return {1, {PlaneLayout{3, 0, 0}}};
-    case PixFmt::ARGB:
-    case PixFmt::RGBA:
-    case PixFmt::ABGR:
-    case PixFmt::BGRA:
-    case PixFmt::BGRX:
+    case Proc::PixFmt::ARGB:
+    case Proc::PixFmt::RGBA:
+    case Proc::PixFmt::ABGR:
+    case Proc::PixFmt::BGRA:
+    case Proc::PixFmt::BGRX:
         return {1, {PlaneLayout{4, 0, 0}}};
-    case PixFmt::GRAY8:
+    case Proc::PixFmt::GRAY8:
         return {1, {FULL}};
-    case PixFmt::None:
+    case Proc::PixFmt::None:
         break;
     }
     return {};
 }
 
-} // namespace Zelkor::Proc
+} // namespace Zelkor::StandIn

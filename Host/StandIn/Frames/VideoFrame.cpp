@@ -14,7 +14,7 @@ namespace {
 // Rows that begin on a cache line let vector code load and store whole lines.
 constexpr std::int64_t ROW_ALIGNMENT = 64;
 
-bool Holds(const Plane& plane, const Proc::PlaneLayout& layout, int width, int height)
+bool Holds(const Plane& plane, const PlaneLayout& layout, int width, int height)
 {
     const std::int64_t rowBytes = layout.RowBytes(width);
     const std::int64_t distance = std::abs(std::int64_t{plane.stride});
@@ -48,7 +48,7 @@ boost::intrusive_ptr<VideoFrame> VideoFrame::Reference(const FrameFormat& format
 
 boost::intrusive_ptr<VideoFrame> VideoFrame::Create(const FrameFormat& format, const Fill& fill, std::int64_t time)
 {
-    const Proc::PixelLayout layout = Proc::LayoutOf(format.pixFmt);
+    const PixelLayout layout = LayoutOf(format.pixFmt);
     if (layout.planeCount == 0 || format.width <= 0 || format.height <= 0)
         return nullptr;
 
@@ -88,7 +88,7 @@ boost::intrusive_ptr<VideoFrame> VideoFrame::WithTime(std::int64_t newTime) cons
 
 bool VideoFrame::IsReadable() const
 {
-    const Proc::PixelLayout layout = Proc::LayoutOf(format.pixFmt);
+    const PixelLayout layout = LayoutOf(format.pixFmt);
     if (layout.planeCount == 0 || format.width <= 0 || format.height <= 0)
         return false;
     for (int i = 0; i < layout.planeCount; ++i) {

@@ -5,12 +5,9 @@
 #include <algorithm>
 #include <iterator>
 
-namespace Zelkor::Proc {
+namespace Zelkor::StandIn {
 
 namespace {
-
-using StandIn::ColorMatrix;
-using StandIn::ColorRange;
 
 // The library caps the share of U in blue at 128 / 64 = 2, although the limited ranges need 2.017 and 2.112: saturated
 // blue of BT.709 comes out up to 15 levels wrong. Its Intel code computes with the true coefficient just as well, so a
@@ -37,4 +34,4 @@ const libyuv::YuvConstants& YuvMatrix(ColorMatrix matrix, ColorRange range)
     return matrix == ColorMatrix::BT709 ? LIMITED_709 : LIMITED_601;
 }
 
-} // namespace Zelkor::Proc
+} // namespace Zelkor::StandIn

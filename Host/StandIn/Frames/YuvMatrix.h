@@ -4,9 +4,9 @@
 
 #include <libyuv/convert_argb.h>
 
-namespace Zelkor::Proc {
+namespace Zelkor::StandIn {
 
 /// The coefficients that turn YUV samples of this matrix and range into RGB.
-const libyuv::YuvConstants& YuvMatrix(StandIn::ColorMatrix matrix, StandIn::ColorRange range);
+const libyuv::YuvConstants& YuvMatrix(ColorMatrix matrix, ColorRange range);
 
-} // namespace Zelkor::Proc
+} // namespace Zelkor::StandIn
