@@ -11,12 +11,6 @@ function(vx_target name)
                                            $<$<CXX_COMPILER_ID:GNU>:-Wshadow=local>
                                            $<$<BOOL:${VX_WARNINGS_AS_ERRORS}>:-Werror>)
   endif()
-  # Without this, moc overlooks a class that is added to a build folder that is there already.
-  get_target_property(sources ${name} SOURCES)
-  if(NOT "${sources}" STREQUAL "${VX_SOURCES_OF_${name}}")
-    file(REMOVE ${CMAKE_CURRENT_BINARY_DIR}/${name}_autogen/timestamp)
-    set(VX_SOURCES_OF_${name} "${sources}" CACHE INTERNAL "")
-  endif()
   if(VX_SANITIZE MATCHES "thread")
     # GCC does not model atomic fences under this sanitizer; ours do not use any, Boost's headers mention them.
     target_compile_options(${name} PRIVATE -Wno-tsan)
