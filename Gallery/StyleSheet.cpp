@@ -1,6 +1,6 @@
 #include "StyleSheet.h"
 
-#include <UI/Kit/StyleSheetFile.h>
+#include <UI/Kit/StyleSheetEditor/StyleSheetFile.h>
 
 #include <QApplication>
 #include <QDir>

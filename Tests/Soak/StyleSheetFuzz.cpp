@@ -1,7 +1,7 @@
 // Mutates style sheets at random and compares what the style sheet editor says of them with what Qt does.
 // Usage: StyleSheetFuzz RUNS [SEED]
 
-#include <UI/Kit/StyleSheetEdit.h>
+#include <UI/Kit/StyleSheetEditor/StyleSheetTextEdit.h>
 
 #include <Support/TestCase.h>
 

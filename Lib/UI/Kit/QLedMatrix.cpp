@@ -1,7 +1,7 @@
 #include <UI/Kit/QLedMatrix.h>
 
 #include <UI/Common/AccessibleFactory.h>
-#include <UI/Kit/LedStamps.h>
+#include <UI/Kit/Internal/LedPixmapCache.h>
 
 #include <QAccessibleWidget>
 #include <QPaintEngine>

@@ -1,6 +1,6 @@
 #include <UI/Kit/ZFrame.h>
 
-#include <UI/Common/WithinReach.h>
+#include <UI/Common/ClampToWidgetSize.h>
 
 #include <QFormLayout>
 #include <QGridLayout>

@@ -1,7 +1,7 @@
 #include <UI/Kit/ZSlider.h>
 
-#include <UI/Common/WithinReach.h>
-#include <UI/Kit/SliderTrack.h>
+#include <UI/Common/ClampToWidgetSize.h>
+#include <UI/Kit/Internal/SliderTrack.h>
 #include <UI/Kit/ZSliderThumb.h>
 
 #include <QMouseEvent>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <UI/Kit/SliderGroove.h>
+#include <UI/Kit/Internal/SliderGroove.h>
 
 #include <QMap>
 #include <QSlider>

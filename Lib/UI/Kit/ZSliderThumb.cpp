@@ -1,8 +1,8 @@
 #include <UI/Kit/ZSliderThumb.h>
 
 #include <UI/Common/AccessibleFactory.h>
-#include <UI/Common/WithinReach.h>
-#include <UI/Kit/SliderTrack.h>
+#include <UI/Common/ClampToWidgetSize.h>
+#include <UI/Kit/Internal/SliderTrack.h>
 #include <UI/Kit/ZSlider.h>
 
 #include <QAccessibleWidget>

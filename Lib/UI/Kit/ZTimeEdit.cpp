@@ -1,6 +1,6 @@
 #include <UI/Kit/ZTimeEdit.h>
 
-#include <UI/Kit/TimeFormat.h>
+#include <UI/Kit/Internal/TimeFormat.h>
 
 #include <QCoreApplication>
 #include <QKeyEvent>

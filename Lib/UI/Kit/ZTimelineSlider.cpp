@@ -1,8 +1,8 @@
 #include <UI/Kit/ZTimelineSlider.h>
 
 #include <UI/Common/AccessibleFactory.h>
-#include <UI/Common/WithinReach.h>
-#include <UI/Kit/TimeFormat.h>
+#include <UI/Common/ClampToWidgetSize.h>
+#include <UI/Kit/Internal/TimeFormat.h>
 #include <UI/Kit/ZSliderThumb.h>
 
 #include <QAccessibleWidget>

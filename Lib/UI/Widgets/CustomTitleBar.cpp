@@ -2,7 +2,7 @@
 
 #include <UI/Common/AccessibleFactory.h>
 #include <UI/Common/BoxLayouts.h>
-#include <UI/Common/CanHold.h>
+#include <UI/Common/CanBeParentOf.h>
 #include <UI/Common/MirroredStyle.h>
 
 #include <Zelkor/Vx/UI/Util/WindowMouseMoveHelper.h>

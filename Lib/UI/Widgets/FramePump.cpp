@@ -1,6 +1,6 @@
 #include <UI/Widgets/FramePump.h>
 
-#include <UI/Common/FailureOf.h>
+#include <UI/Common/CatchException.h>
 #include <UI/Widgets/VideoPreviewWidget.h>
 
 #include <algorithm>

@@ -1,6 +1,6 @@
 #include <UI/Widgets/HorizontalTabBar.h>
 
-#include <UI/Common/WithinReach.h>
+#include <UI/Common/ClampToWidgetSize.h>
 
 #include <QChildEvent>
 #include <QFileInfo>

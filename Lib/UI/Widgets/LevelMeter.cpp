@@ -1,6 +1,6 @@
 #include <UI/Widgets/LevelMeter.h>
 
-#include <UI/Common/WithinReach.h>
+#include <UI/Common/ClampToWidgetSize.h>
 
 #include <cmath>
 

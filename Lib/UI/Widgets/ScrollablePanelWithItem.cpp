@@ -1,9 +1,9 @@
 #include <UI/Widgets/ScrollablePanelWithItem.h>
 
 #include <UI/Common/AccessibleFactory.h>
-#include <UI/Common/AppendToLayout.h>
+#include <UI/Common/AddWithoutDeferredShow.h>
 #include <UI/Common/BoxLayouts.h>
-#include <UI/Common/CanHold.h>
+#include <UI/Common/CanBeParentOf.h>
 #include <UI/Common/MirroredStyle.h>
 
 #include <QCoreApplication>

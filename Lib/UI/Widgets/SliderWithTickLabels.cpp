@@ -1,7 +1,7 @@
 #include <UI/Widgets/SliderWithTickLabels.h>
 
 #include <UI/Common/AccessibleFactory.h>
-#include <UI/Common/AppendToLayout.h>
+#include <UI/Common/AddWithoutDeferredShow.h>
 #include <UI/Common/BoxLayouts.h>
 #include <UI/Common/MirroredStyle.h>
 #include <UI/Kit/ZLabel.h>

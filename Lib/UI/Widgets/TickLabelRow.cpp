@@ -1,7 +1,7 @@
 #include <UI/Widgets/TickLabelRow.h>
 
+#include <UI/Common/ClampToWidgetSize.h>
 #include <UI/Common/TextMarks.h>
-#include <UI/Common/WithinReach.h>
 #include <UI/Kit/ZLabel.h>
 #include <UI/Widgets/TickSlider.h>
 

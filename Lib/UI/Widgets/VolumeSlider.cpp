@@ -1,7 +1,7 @@
 #include <UI/Widgets/VolumeSlider.h>
 
+#include <UI/Common/ClampToWidgetSize.h>
 #include <UI/Common/LogSource.h>
-#include <UI/Common/WithinReach.h>
 #include <UI/Widgets/LevelMeter.h>
 
 #include <QLinearGradient>

@@ -1,6 +1,6 @@
 #include <UI/Widgets/WebCameraPreviewStream.h>
 
-#include <UI/Common/FailureOf.h>
+#include <UI/Common/CatchException.h>
 #include <UI/Common/GuiThreadCall.h>
 #include <UI/Common/LogSource.h>
 #include <UI/Widgets/FramePump.h>

@@ -1,4 +1,4 @@
-#include <UI/Kit/SliderTrack.h>
+#include <UI/Kit/Internal/SliderTrack.h>
 #include <UI/Kit/ZSlider.h>
 #include <UI/Kit/ZSliderThumb.h>
 #include <UI/Kit/ZTimelineSlider.h>

@@ -1,4 +1,4 @@
-#include <UI/Kit/TimeFormat.h>
+#include <UI/Kit/Internal/TimeFormat.h>
 #include <UI/Kit/ZTimeEdit.h>
 
 #include <Support/Input.h>

@@ -1,4 +1,4 @@
-#include <UI/Kit/TimeFormat.h>
+#include <UI/Kit/Internal/TimeFormat.h>
 #include <UI/Kit/ZSliderThumb.h>
 #include <UI/Kit/ZTimelineSlider.h>
 

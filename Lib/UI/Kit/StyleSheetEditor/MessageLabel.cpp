@@ -1,4 +1,4 @@
-#include <UI/Kit/ZMessageLabel.h>
+#include <UI/Kit/StyleSheetEditor/MessageLabel.h>
 
 #include <QHelpEvent>
 #include <QPainter>

@@ -1,6 +1,6 @@
-#include <UI/Kit/StyleSheetHighlighter.h>
+#include <UI/Kit/StyleSheetEditor/StyleSheetHighlighter.h>
 
-#include <UI/Kit/StyleSheetTokens.h>
+#include <UI/Kit/StyleSheetEditor/StyleSheetTokenizer.h>
 
 #include <QColor>
 #include <QStringView>

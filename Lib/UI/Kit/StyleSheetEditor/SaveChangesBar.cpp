@@ -1,7 +1,7 @@
-#include <UI/Kit/ZQuestionBar.h>
+#include <UI/Kit/StyleSheetEditor/SaveChangesBar.h>
 
 #include <UI/Common/AccessibleFactory.h>
-#include <UI/Kit/ZMessageLabel.h>
+#include <UI/Kit/StyleSheetEditor/MessageLabel.h>
 
 #include <QKeyEvent>
 #include <QPushButton>

@@ -1,15 +1,15 @@
-#include <UI/Kit/ZRuntimeStylesheetEditor.h>
+#include <UI/Kit/StyleSheetEditor/ZRuntimeStylesheetEditor.h>
 
 #include <UI/Common/AccessibleFactory.h>
-#include <UI/Kit/StyleSheetEdit.h>
-#include <UI/Kit/StyleSheetEditorView.h>
-#include <UI/Kit/StyleSheetFile.h>
-#include <UI/Kit/StyleSheetTarget.h>
-#include <UI/Kit/StyleSheetTargetBox.h>
-#include <UI/Kit/ZMessageLabel.h>
-#include <UI/Kit/ZQuestionBar.h>
-#include <UI/Kit/ZSearchBar.h>
-#include <UI/Kit/ZWidgetPicker.h>
+#include <UI/Kit/StyleSheetEditor/MessageLabel.h>
+#include <UI/Kit/StyleSheetEditor/SaveChangesBar.h>
+#include <UI/Kit/StyleSheetEditor/SearchBar.h>
+#include <UI/Kit/StyleSheetEditor/StyleSheetEditorUi.h>
+#include <UI/Kit/StyleSheetEditor/StyleSheetFile.h>
+#include <UI/Kit/StyleSheetEditor/StyleSheetTarget.h>
+#include <UI/Kit/StyleSheetEditor/StyleSheetTargetComboBox.h>
+#include <UI/Kit/StyleSheetEditor/StyleSheetTextEdit.h>
+#include <UI/Kit/StyleSheetEditor/WidgetPicker.h>
 
 #include <QAction>
 #include <QCheckBox>

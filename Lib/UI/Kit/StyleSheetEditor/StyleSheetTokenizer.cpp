@@ -1,4 +1,4 @@
-#include <UI/Kit/StyleSheetTokens.h>
+#include <UI/Kit/StyleSheetEditor/StyleSheetTokenizer.h>
 
 #include <QStringView>
 

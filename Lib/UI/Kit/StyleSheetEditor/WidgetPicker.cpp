@@ -1,4 +1,4 @@
-#include <UI/Kit/ZWidgetPicker.h>
+#include <UI/Kit/StyleSheetEditor/WidgetPicker.h>
 
 #include <QApplication>
 #include <QKeyEvent>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <UI/Kit/StyleSheetSyntax.h>
+#include <UI/Kit/StyleSheetEditor/StyleSheetChecker.h>
 #include <UI/Kit/ZCodeEditor.h>
 
 class StyleSheetCompleter;

@@ -1,4 +1,4 @@
-#include <UI/Kit/StyleSheetFile.h>
+#include <UI/Kit/StyleSheetEditor/StyleSheetFile.h>
 
 #include <QCoreApplication>
 #include <QFile>

@@ -1,7 +1,7 @@
-#include <UI/Kit/StyleSheetSyntax.h>
+#include <UI/Kit/StyleSheetEditor/StyleSheetChecker.h>
 
-#include <UI/Kit/StyleSheetTokens.h>
-#include <UI/Kit/StyleSheetVerdict.h>
+#include <UI/Kit/StyleSheetEditor/QtStyleSheetParser.h>
+#include <UI/Kit/StyleSheetEditor/StyleSheetTokenizer.h>
 
 #include <QColor>
 #include <QCoreApplication>

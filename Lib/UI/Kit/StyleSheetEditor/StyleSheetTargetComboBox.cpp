@@ -1,4 +1,4 @@
-#include <UI/Kit/StyleSheetTargetBox.h>
+#include <UI/Kit/StyleSheetEditor/StyleSheetTargetComboBox.h>
 
 #include <UI/Common/WheelPolicy.h>
 

@@ -1,4 +1,4 @@
-#include <UI/Kit/LedStamps.h>
+#include <UI/Kit/Internal/LedPixmapCache.h>
 
 #include <QPainter>
 

@@ -1,4 +1,4 @@
-#include <UI/Kit/LineEnds.h>
+#include <UI/Kit/StyleSheetEditor/LineEndings.h>
 
 #include <QHash>
 #include <QVector>

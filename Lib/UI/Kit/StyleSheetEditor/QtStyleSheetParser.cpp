@@ -1,6 +1,6 @@
-#include <UI/Kit/StyleSheetVerdict.h>
+#include <UI/Kit/StyleSheetEditor/QtStyleSheetParser.h>
 
-#include <UI/Kit/StyleSheetTokens.h>
+#include <UI/Kit/StyleSheetEditor/StyleSheetTokenizer.h>
 
 #include <QLoggingCategory>
 #include <QStyle>

@@ -1,4 +1,4 @@
-#include <UI/Kit/StyleSheetTarget.h>
+#include <UI/Kit/StyleSheetEditor/StyleSheetTarget.h>
 
 #include <QApplication>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <UI/Kit/StyleSheetSyntax.h>
+#include <UI/Kit/StyleSheetEditor/StyleSheetChecker.h>
 
 /// What Qt itself says of a style sheet.
 namespace StyleSheetVerdict {

@@ -1,6 +1,6 @@
-#include <UI/Kit/SliderGroove.h>
+#include <UI/Kit/Internal/SliderGroove.h>
 
-#include <UI/Common/WithinReach.h>
+#include <UI/Common/ClampToWidgetSize.h>
 
 #include <QSlider>
 #include <QtMath>

@@ -1,10 +1,10 @@
-#include <UI/Kit/StyleSheetCompleter.h>
-#include <UI/Kit/StyleSheetHighlighter.h>
-#include <UI/Kit/StyleSheetSyntax.h>
+#include <UI/Kit/StyleSheetEditor/SearchBar.h>
+#include <UI/Kit/StyleSheetEditor/StyleSheetChecker.h>
+#include <UI/Kit/StyleSheetEditor/StyleSheetCompleter.h>
+#include <UI/Kit/StyleSheetEditor/StyleSheetHighlighter.h>
+#include <UI/Kit/StyleSheetEditor/WidgetPicker.h>
 #include <UI/Kit/ZCodeEditor.h>
 #include <UI/Kit/ZRuntimeStylesheetEditor.h>
-#include <UI/Kit/ZSearchBar.h>
-#include <UI/Kit/ZWidgetPicker.h>
 
 #include <Support/TestCase.h>
 

@@ -1,11 +1,11 @@
-#include <UI/Kit/StyleSheetEditorView.h>
+#include <UI/Kit/StyleSheetEditor/StyleSheetEditorUi.h>
 
-#include <UI/Kit/StyleSheetEdit.h>
-#include <UI/Kit/StyleSheetTargetBox.h>
-#include <UI/Kit/ZMessageLabel.h>
-#include <UI/Kit/ZQuestionBar.h>
-#include <UI/Kit/ZRuntimeStylesheetEditor.h>
-#include <UI/Kit/ZSearchBar.h>
+#include <UI/Kit/StyleSheetEditor/MessageLabel.h>
+#include <UI/Kit/StyleSheetEditor/SaveChangesBar.h>
+#include <UI/Kit/StyleSheetEditor/SearchBar.h>
+#include <UI/Kit/StyleSheetEditor/StyleSheetTargetComboBox.h>
+#include <UI/Kit/StyleSheetEditor/StyleSheetTextEdit.h>
+#include <UI/Kit/StyleSheetEditor/ZRuntimeStylesheetEditor.h>
 
 #include <QAction>
 #include <QCheckBox>

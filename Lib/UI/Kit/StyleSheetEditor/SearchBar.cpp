@@ -1,7 +1,7 @@
-#include <UI/Kit/ZSearchBar.h>
+#include <UI/Kit/StyleSheetEditor/SearchBar.h>
 
 #include <UI/Common/AccessibleFactory.h>
-#include <UI/Kit/ZMessageLabel.h>
+#include <UI/Kit/StyleSheetEditor/MessageLabel.h>
 
 #include <QCheckBox>
 #include <QGridLayout>

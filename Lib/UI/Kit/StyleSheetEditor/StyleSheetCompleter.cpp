@@ -1,7 +1,7 @@
-#include <UI/Kit/StyleSheetCompleter.h>
+#include <UI/Kit/StyleSheetEditor/StyleSheetCompleter.h>
 
-#include <UI/Kit/StyleSheetNames.h>
-#include <UI/Kit/StyleSheetTokens.h>
+#include <UI/Kit/StyleSheetEditor/StyleSheetTokenizer.h>
+#include <UI/Kit/StyleSheetEditor/StyleSheetVocabulary.h>
 
 #include <QAbstractItemView>
 #include <QCompleter>

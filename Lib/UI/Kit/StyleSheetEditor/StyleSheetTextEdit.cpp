@@ -1,9 +1,9 @@
-#include <UI/Kit/StyleSheetEdit.h>
+#include <UI/Kit/StyleSheetEditor/StyleSheetTextEdit.h>
 
-#include <UI/Kit/LineEnds.h>
-#include <UI/Kit/StyleSheetCompleter.h>
-#include <UI/Kit/StyleSheetHighlighter.h>
-#include <UI/Kit/StyleSheetVerdict.h>
+#include <UI/Kit/StyleSheetEditor/LineEndings.h>
+#include <UI/Kit/StyleSheetEditor/QtStyleSheetParser.h>
+#include <UI/Kit/StyleSheetEditor/StyleSheetCompleter.h>
+#include <UI/Kit/StyleSheetEditor/StyleSheetHighlighter.h>
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
-#include <UI/Kit/SliderTrack.h>
+#include <UI/Kit/Internal/SliderTrack.h>
 
-#include <UI/Common/WithinReach.h>
+#include <UI/Common/ClampToWidgetSize.h>
 
 #include <QtGlobal>
 

@@ -1,6 +1,6 @@
-#include <UI/Kit/StyleSheetNames.h>
+#include <UI/Kit/StyleSheetEditor/StyleSheetVocabulary.h>
 
-#include <UI/Kit/StyleSheetTokens.h>
+#include <UI/Kit/StyleSheetEditor/StyleSheetTokenizer.h>
 
 #include <QApplication>
 #include <QColor>
