@@ -101,6 +101,7 @@ std::optional<StyleSheet> LoadStyleSheet(const QString& nameOrFile, QString& err
 {
     RegisterStyles();
     const QFileInfo info(FileOf(nameOrFile));
+    namespace StyleSheetFile = Vx::UI::Kit::StyleSheetFile;
     StyleSheetFile::Error why;
     const auto contents = StyleSheetFile::Read(info.filePath(), why);
     if (!contents) {

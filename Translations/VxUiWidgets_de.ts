@@ -49,30 +49,7 @@
     </message>
 </context>
 <context>
-    <name>StyleSheetFile</name>
-    <message>
-        <source>%1 cannot be read: %2.</source>
-        <translation>%1 kann nicht gelesen werden: %2.</translation>
-    </message>
-    <message>
-        <source>%1 is too large for a style sheet.</source>
-        <translation>%1 ist zu groß für ein Stylesheet.</translation>
-    </message>
-    <message>
-        <source>%1 is not a text in UTF-8.</source>
-        <translation>%1 ist kein Text in UTF-8.</translation>
-    </message>
-    <message>
-        <source>%1 cannot be written: %2.</source>
-        <translation>%1 kann nicht geschrieben werden: %2.</translation>
-    </message>
-    <message>
-        <source>%1 is not a regular file.</source>
-        <translation>%1 ist keine gewöhnliche Datei.</translation>
-    </message>
-</context>
-<context>
-    <name>StyleSheetSyntax</name>
+    <name>StyleSheetChecker</name>
     <message>
         <source>The comment has no end.</source>
         <translation>Der Kommentar hat kein Ende.</translation>
@@ -139,33 +116,26 @@
     </message>
 </context>
 <context>
-    <name>StyleSheetTargetBox</name>
+    <name>StyleSheetFile</name>
     <message>
-        <source>Application</source>
-        <translation>Anwendung</translation>
+        <source>%1 cannot be read: %2.</source>
+        <translation>%1 kann nicht gelesen werden: %2.</translation>
     </message>
     <message>
-        <source>Choose a widget</source>
-        <translation>Widget auswählen</translation>
-    </message>
-</context>
-<context>
-    <name>ZQuestionBar</name>
-    <message>
-        <source>There are changes that were not saved.</source>
-        <translation>Es gibt Änderungen, die nicht gespeichert wurden.</translation>
+        <source>%1 is too large for a style sheet.</source>
+        <translation>%1 ist zu groß für ein Stylesheet.</translation>
     </message>
     <message>
-        <source>&amp;Save</source>
-        <translation>S&amp;peichern</translation>
+        <source>%1 is not a text in UTF-8.</source>
+        <translation>%1 ist kein Text in UTF-8.</translation>
     </message>
     <message>
-        <source>&amp;Discard</source>
-        <translation>&amp;Verwerfen</translation>
+        <source>%1 cannot be written: %2.</source>
+        <translation>%1 kann nicht geschrieben werden: %2.</translation>
     </message>
     <message>
-        <source>&amp;Cancel</source>
-        <translation>Abb&amp;rechen</translation>
+        <source>%1 is not a regular file.</source>
+        <translation>%1 ist keine gewöhnliche Datei.</translation>
     </message>
 </context>
 <context>
@@ -327,7 +297,44 @@
     </message>
 </context>
 <context>
-    <name>ZSearchBar</name>
+    <name>ZSliderButton</name>
+    <message>
+        <source>Level</source>
+        <translation>Pegel</translation>
+    </message>
+</context>
+<context>
+    <name>Zelkor::Vx::UI::CustomTitleBar</name>
+    <message>
+        <source>Minimise</source>
+        <translation>Minimieren</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+</context>
+<context>
+    <name>Zelkor::Vx::UI::Kit::SaveChangesBar</name>
+    <message>
+        <source>There are changes that were not saved.</source>
+        <translation>Es gibt Änderungen, die nicht gespeichert wurden.</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>S&amp;peichern</translation>
+    </message>
+    <message>
+        <source>&amp;Discard</source>
+        <translation>&amp;Verwerfen</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>Abb&amp;rechen</translation>
+    </message>
+</context>
+<context>
+    <name>Zelkor::Vx::UI::Kit::SearchBar</name>
     <message>
         <source>Find</source>
         <translation>Suchen</translation>
@@ -385,21 +392,14 @@
     </message>
 </context>
 <context>
-    <name>ZSliderButton</name>
+    <name>Zelkor::Vx::UI::Kit::StyleSheetTargetComboBox</name>
     <message>
-        <source>Level</source>
-        <translation>Pegel</translation>
-    </message>
-</context>
-<context>
-    <name>Zelkor::Vx::UI::CustomTitleBar</name>
-    <message>
-        <source>Minimise</source>
-        <translation>Minimieren</translation>
+        <source>Application</source>
+        <translation>Anwendung</translation>
     </message>
     <message>
-        <source>Close</source>
-        <translation>Schließen</translation>
+        <source>Choose a widget</source>
+        <translation>Widget auswählen</translation>
     </message>
 </context>
 <context>

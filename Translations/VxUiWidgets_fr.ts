@@ -49,30 +49,7 @@
     </message>
 </context>
 <context>
-    <name>StyleSheetFile</name>
-    <message>
-        <source>%1 cannot be read: %2.</source>
-        <translation>Impossible de lire %1&#xa0;: %2.</translation>
-    </message>
-    <message>
-        <source>%1 is too large for a style sheet.</source>
-        <translation>%1 est trop volumineux pour une feuille de style.</translation>
-    </message>
-    <message>
-        <source>%1 is not a text in UTF-8.</source>
-        <translation>%1 n’est pas un texte en UTF-8.</translation>
-    </message>
-    <message>
-        <source>%1 cannot be written: %2.</source>
-        <translation>Impossible d’écrire %1&#xa0;: %2.</translation>
-    </message>
-    <message>
-        <source>%1 is not a regular file.</source>
-        <translation>%1 n’est pas un fichier ordinaire.</translation>
-    </message>
-</context>
-<context>
-    <name>StyleSheetSyntax</name>
+    <name>StyleSheetChecker</name>
     <message>
         <source>The comment has no end.</source>
         <translation>Le commentaire n’a pas de fin.</translation>
@@ -139,33 +116,26 @@
     </message>
 </context>
 <context>
-    <name>StyleSheetTargetBox</name>
+    <name>StyleSheetFile</name>
     <message>
-        <source>Application</source>
-        <translation>Application</translation>
+        <source>%1 cannot be read: %2.</source>
+        <translation>Impossible de lire %1&#xa0;: %2.</translation>
     </message>
     <message>
-        <source>Choose a widget</source>
-        <translation>Choisir un widget</translation>
-    </message>
-</context>
-<context>
-    <name>ZQuestionBar</name>
-    <message>
-        <source>There are changes that were not saved.</source>
-        <translation>Des modifications n’ont pas été enregistrées.</translation>
+        <source>%1 is too large for a style sheet.</source>
+        <translation>%1 est trop volumineux pour une feuille de style.</translation>
     </message>
     <message>
-        <source>&amp;Save</source>
-        <translation>Enre&amp;gistrer</translation>
+        <source>%1 is not a text in UTF-8.</source>
+        <translation>%1 n’est pas un texte en UTF-8.</translation>
     </message>
     <message>
-        <source>&amp;Discard</source>
-        <translation>A&amp;bandonner</translation>
+        <source>%1 cannot be written: %2.</source>
+        <translation>Impossible d’écrire %1&#xa0;: %2.</translation>
     </message>
     <message>
-        <source>&amp;Cancel</source>
-        <translation>Ann&amp;uler</translation>
+        <source>%1 is not a regular file.</source>
+        <translation>%1 n’est pas un fichier ordinaire.</translation>
     </message>
 </context>
 <context>
@@ -327,7 +297,44 @@
     </message>
 </context>
 <context>
-    <name>ZSearchBar</name>
+    <name>ZSliderButton</name>
+    <message>
+        <source>Level</source>
+        <translation>Niveau</translation>
+    </message>
+</context>
+<context>
+    <name>Zelkor::Vx::UI::CustomTitleBar</name>
+    <message>
+        <source>Minimise</source>
+        <translation>Réduire</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+</context>
+<context>
+    <name>Zelkor::Vx::UI::Kit::SaveChangesBar</name>
+    <message>
+        <source>There are changes that were not saved.</source>
+        <translation>Des modifications n’ont pas été enregistrées.</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>Enre&amp;gistrer</translation>
+    </message>
+    <message>
+        <source>&amp;Discard</source>
+        <translation>A&amp;bandonner</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>Ann&amp;uler</translation>
+    </message>
+</context>
+<context>
+    <name>Zelkor::Vx::UI::Kit::SearchBar</name>
     <message>
         <source>Find</source>
         <translation>Rechercher</translation>
@@ -385,21 +392,14 @@
     </message>
 </context>
 <context>
-    <name>ZSliderButton</name>
+    <name>Zelkor::Vx::UI::Kit::StyleSheetTargetComboBox</name>
     <message>
-        <source>Level</source>
-        <translation>Niveau</translation>
-    </message>
-</context>
-<context>
-    <name>Zelkor::Vx::UI::CustomTitleBar</name>
-    <message>
-        <source>Minimise</source>
-        <translation>Réduire</translation>
+        <source>Application</source>
+        <translation>Application</translation>
     </message>
     <message>
-        <source>Close</source>
-        <translation>Fermer</translation>
+        <source>Choose a widget</source>
+        <translation>Choisir un widget</translation>
     </message>
 </context>
 <context>

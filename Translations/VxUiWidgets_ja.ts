@@ -49,30 +49,7 @@
     </message>
 </context>
 <context>
-    <name>StyleSheetFile</name>
-    <message>
-        <source>%1 cannot be read: %2.</source>
-        <translation>%1 を読み込めません: %2。</translation>
-    </message>
-    <message>
-        <source>%1 is too large for a style sheet.</source>
-        <translation>%1 はスタイルシートとしては大きすぎます。</translation>
-    </message>
-    <message>
-        <source>%1 is not a text in UTF-8.</source>
-        <translation>%1 は UTF-8 のテキストではありません。</translation>
-    </message>
-    <message>
-        <source>%1 cannot be written: %2.</source>
-        <translation>%1 に書き込めません: %2。</translation>
-    </message>
-    <message>
-        <source>%1 is not a regular file.</source>
-        <translation>%1 は通常のファイルではありません。</translation>
-    </message>
-</context>
-<context>
-    <name>StyleSheetSyntax</name>
+    <name>StyleSheetChecker</name>
     <message>
         <source>The comment has no end.</source>
         <translation>コメントが閉じられていません。</translation>
@@ -139,33 +116,26 @@
     </message>
 </context>
 <context>
-    <name>StyleSheetTargetBox</name>
+    <name>StyleSheetFile</name>
     <message>
-        <source>Application</source>
-        <translation>アプリケーション</translation>
+        <source>%1 cannot be read: %2.</source>
+        <translation>%1 を読み込めません: %2。</translation>
     </message>
     <message>
-        <source>Choose a widget</source>
-        <translation>ウィジェットを選択</translation>
-    </message>
-</context>
-<context>
-    <name>ZQuestionBar</name>
-    <message>
-        <source>There are changes that were not saved.</source>
-        <translation>保存されていない変更があります。</translation>
+        <source>%1 is too large for a style sheet.</source>
+        <translation>%1 はスタイルシートとしては大きすぎます。</translation>
     </message>
     <message>
-        <source>&amp;Save</source>
-        <translation>保存(&amp;S)</translation>
+        <source>%1 is not a text in UTF-8.</source>
+        <translation>%1 は UTF-8 のテキストではありません。</translation>
     </message>
     <message>
-        <source>&amp;Discard</source>
-        <translation>破棄(&amp;D)</translation>
+        <source>%1 cannot be written: %2.</source>
+        <translation>%1 に書き込めません: %2。</translation>
     </message>
     <message>
-        <source>&amp;Cancel</source>
-        <translation>キャンセル(&amp;N)</translation>
+        <source>%1 is not a regular file.</source>
+        <translation>%1 は通常のファイルではありません。</translation>
     </message>
 </context>
 <context>
@@ -326,7 +296,44 @@
     </message>
 </context>
 <context>
-    <name>ZSearchBar</name>
+    <name>ZSliderButton</name>
+    <message>
+        <source>Level</source>
+        <translation>レベル</translation>
+    </message>
+</context>
+<context>
+    <name>Zelkor::Vx::UI::CustomTitleBar</name>
+    <message>
+        <source>Minimise</source>
+        <translation>最小化</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
+</context>
+<context>
+    <name>Zelkor::Vx::UI::Kit::SaveChangesBar</name>
+    <message>
+        <source>There are changes that were not saved.</source>
+        <translation>保存されていない変更があります。</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>保存(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Discard</source>
+        <translation>破棄(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>キャンセル(&amp;N)</translation>
+    </message>
+</context>
+<context>
+    <name>Zelkor::Vx::UI::Kit::SearchBar</name>
     <message>
         <source>Find</source>
         <translation>検索</translation>
@@ -383,21 +390,14 @@
     </message>
 </context>
 <context>
-    <name>ZSliderButton</name>
+    <name>Zelkor::Vx::UI::Kit::StyleSheetTargetComboBox</name>
     <message>
-        <source>Level</source>
-        <translation>レベル</translation>
-    </message>
-</context>
-<context>
-    <name>Zelkor::Vx::UI::CustomTitleBar</name>
-    <message>
-        <source>Minimise</source>
-        <translation>最小化</translation>
+        <source>Application</source>
+        <translation>アプリケーション</translation>
     </message>
     <message>
-        <source>Close</source>
-        <translation>閉じる</translation>
+        <source>Choose a widget</source>
+        <translation>ウィジェットを選択</translation>
     </message>
 </context>
 <context>

@@ -10,5 +10,5 @@ update() {
     shift
     "$lupdate" -silent -no-obsolete -locations none "$@" -ts "$folder/$name"_*.ts
 }
-update VxUiWidgets Lib
+update VxUiWidgets -I Lib Lib
 update VxGallery Gallery Host

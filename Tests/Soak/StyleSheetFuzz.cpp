@@ -13,7 +13,8 @@
 #include <cstdio>
 #include <cstdlib>
 
-using StyleSheetSyntax::Scope;
+using namespace Zelkor::Vx::UI::Kit;
+using StyleSheetChecker::Scope;
 
 namespace {
 
@@ -103,7 +104,7 @@ int main(int argc, char* argv[])
     const int runs = argc > 1 ? std::atoi(argv[1]) : 1000;
     const quint32 seed = argc > 2 ? std::strtoul(argv[2], nullptr, 10) : 1;
     Mutator mutator(RulesOf(VX_STYLE_SHEET), seed);
-    StyleSheetEdit editor(nullptr);
+    StyleSheetTextEdit editor(nullptr);
     int refused = 0;
     for (int i = 0; i < runs; ++i) {
         const Scope scope = i % 2 ? Scope::WIDGET : Scope::APPLICATION;

@@ -6,7 +6,7 @@ set -euo pipefail
 cd "$1"
 folders=(Gallery Designer Tests/Consumer)
 
-classes=$(sed -nE 's/^class ([A-Za-z]+)( final)? : .*/\1/p' Lib/UI/Kit/*.h | sort -u | paste -sd'|')
+classes=$(sed -nE 's/^class ([A-Za-z]+)( final)? : .*/\1/p' Lib/UI/Kit/*.h Lib/UI/Kit/*/*.h | sort -u | paste -sd'|')
 [ -n "$classes" ] || { echo "no classes in Lib/UI/Kit"; exit 1; }
 for folder in "${folders[@]}"; do
     [ -d "$folder" ] || { echo "no folder $folder"; exit 1; }

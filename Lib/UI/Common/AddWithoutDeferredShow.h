@@ -9,7 +9,7 @@ namespace Zelkor::Vx::UI::Common {
 ///
 /// Left to itself, a visible layout shows its new widgets later, one by one, and each of them has everything laid out
 /// again: many widgets then take time with their square. Shown before they are in, they are laid out together.
-inline void AppendToLayout(QBoxLayout* layout, QWidget* widget)
+inline void AddWithoutDeferredShow(QBoxLayout* layout, QWidget* widget)
 {
     const bool isMeantToBeHidden = widget->isHidden() && widget->testAttribute(Qt::WA_WState_ExplicitShowHide);
     if (widget->parentWidget() != layout->parentWidget())

@@ -5,12 +5,12 @@
 #include <string>
 #include <utility>
 
-namespace Zelkor::Vx {
+namespace Zelkor::Vx::UI::Common {
 
 /// Makes a call into the host where an exception has no caller to go to: on a thread, in the event loop, in a
 /// destructor. Returns what was thrown, nothing after a call that succeeded. Internal.
 template<class Call>
-std::optional<std::string> FailureOf(Call&& call)
+std::optional<std::string> CatchException(Call&& call)
 {
     try {
         std::forward<Call>(call)();
@@ -22,4 +22,4 @@ std::optional<std::string> FailureOf(Call&& call)
     return std::nullopt;
 }
 
-} // namespace Zelkor::Vx
+} // namespace Zelkor::Vx::UI::Common

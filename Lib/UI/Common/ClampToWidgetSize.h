@@ -6,7 +6,7 @@ namespace Zelkor::Vx::UI::Common {
 
 /// A distance in pixels, cut to what a widget can be wide. Properties keep what they were told; sums of distances that
 /// went through this do not overflow, and look no different.
-constexpr int WithinReach(int pixels)
+constexpr int ClampToWidgetSize(int pixels)
 {
     return pixels < -QWIDGETSIZE_MAX ? -QWIDGETSIZE_MAX : pixels > QWIDGETSIZE_MAX ? QWIDGETSIZE_MAX : pixels;
 }

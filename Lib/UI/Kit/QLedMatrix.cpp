@@ -13,12 +13,13 @@
 #include <cmath>
 
 using namespace Zelkor::Vx::UI;
+using Kit::LedPixmapCache;
 
 namespace {
 
 // In units of the grid. An LED is a circle in its cell, with an even border around it.
 constexpr int CELL = 10;
-constexpr double LED = LedStamps::DIAMETER;
+constexpr double LED = LedPixmapCache::DIAMETER;
 constexpr double BORDER = 1;
 
 constexpr int MAXIMUM_COUNT = QWIDGETSIZE_MAX / CELL;
@@ -54,7 +55,7 @@ bool TakesStamps(const QPainter& painter, const QRectF& exposed)
     const bool isUpright = transform.type() <= QTransform::TxScale && transform.m11() > 0 &&
                            qFuzzyCompare(transform.m11(), transform.m22());
     return painter.paintEngine()->type() == QPaintEngine::Raster && isUpright &&
-           transform.m11() <= LedStamps::LARGEST_SCALE && exposed.width() <= LARGEST_LINE;
+           transform.m11() <= LedPixmapCache::LARGEST_SCALE && exposed.width() <= LARGEST_LINE;
 }
 
 class AccessibleMatrix : public QAccessibleWidget
@@ -95,7 +96,7 @@ struct QLedMatrix::Impl
     double aspect = 0;
 
     QRect stale; ///< LEDs that have changed and were not updated, as columns and rows
-    LedStamps stamps;
+    LedPixmapCache stamps;
 };
 
 // New LEDs are off.
@@ -157,14 +158,14 @@ void QLedMatrix::Impl::PaintStamps(QPainter& painter, Range rowRange, Range colu
     const QTransform transform = painter.deviceTransform();
     painter.setWorldTransform(transform.inverted(), true);
     stamps.setScale(transform.m11());
-    QVector<LedStamps::Place> places;
+    QVector<LedPixmapCache::SubpixelPosition> places;
     for (int column = columnRange.first; column <= columnRange.last; ++column)
-        places.append(LedStamps::Place(transform.dx() + double(column) * CELL * transform.m11()));
+        places.append(LedPixmapCache::SubpixelPosition(transform.dx() + double(column) * CELL * transform.m11()));
     const int left = places.first().pixel;
     const bool areApart = stamps.areApart(CELL * transform.m11());
     QImage line = stamps.lineBetween(left, places.last().pixel);
     for (int row = rowRange.first; row <= rowRange.last; ++row) {
-        const LedStamps::Place y(transform.dy() + double(row) * CELL * transform.m22());
+        const LedPixmapCache::SubpixelPosition y(transform.dy() + double(row) * CELL * transform.m22());
         line.fill(Qt::transparent);
         for (int i = 0; i < places.size(); ++i) {
             const QRgb color = leds.at(columnRange.first + i).at(row);

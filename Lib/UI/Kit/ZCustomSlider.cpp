@@ -45,7 +45,7 @@ void ZCustomSlider::setEditableInFocus(bool on)
 
 void ZCustomSlider::wheelEvent(QWheelEvent* event)
 {
-    if (Common::TakesWheel(*this, *event, editableInFocus))
+    if (Common::AcceptWheelEvent(*this, *event, editableInFocus))
         QSlider::wheelEvent(event);
 }
 

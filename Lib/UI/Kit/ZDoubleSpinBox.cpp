@@ -43,7 +43,7 @@ void ZDoubleSpinBox::setEditableInFocus(bool on)
     if (editableInFocus == on)
         return;
     editableInFocus = on;
-    Common::LetWheelGiveFocus(*this, !on);
+    Common::SetWheelFocusEnabled(*this, !on);
 }
 
 void ZDoubleSpinBox::fixup(QString& text) const
@@ -70,7 +70,7 @@ void ZDoubleSpinBox::stepBy(int steps)
 
 void ZDoubleSpinBox::wheelEvent(QWheelEvent* event)
 {
-    if (Common::TakesWheel(*this, *event, editableInFocus))
+    if (Common::AcceptWheelEvent(*this, *event, editableInFocus))
         QDoubleSpinBox::wheelEvent(event);
 }
 

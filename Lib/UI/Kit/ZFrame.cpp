@@ -10,7 +10,7 @@
 namespace {
 
 // Layouts add up margins and spacings without looking for an overflow.
-using Zelkor::Vx::UI::Common::WithinReach;
+using Zelkor::Vx::UI::Common::ClampToWidgetSize;
 
 constexpr int NOTHING = -1;
 
@@ -27,7 +27,7 @@ void SetSide(QLayout* layout, SideSetter side, int margin)
     if (!layout)
         return;
     QMargins margins = layout->contentsMargins();
-    (margins.*side)(WithinReach(margin));
+    (margins.*side)(ClampToWidgetSize(margin));
     layout->setContentsMargins(margins);
 }
 
@@ -58,7 +58,7 @@ int ZFrame::layoutMargin() const
 
 void ZFrame::setLayoutMargin(int margin)
 {
-    margin = WithinReach(margin);
+    margin = ClampToWidgetSize(margin);
     if (layout())
         layout()->setContentsMargins(margin, margin, margin, margin);
 }
@@ -111,7 +111,7 @@ int ZFrame::layoutSpacing() const
 void ZFrame::setLayoutSpacing(int spacing)
 {
     if (layout())
-        layout()->setSpacing(WithinReach(spacing));
+        layout()->setSpacing(ClampToWidgetSize(spacing));
 }
 
 int ZFrame::layoutHSpacing() const
@@ -126,8 +126,8 @@ int ZFrame::layoutHSpacing() const
 void ZFrame::setLayoutHSpacing(int spacing)
 {
     VisitAxis<QHBoxLayout>(
-        layout(), [=](auto* table) { table->setHorizontalSpacing(WithinReach(spacing)); },
-        [=](auto* box) { box->setSpacing(WithinReach(spacing)); });
+        layout(), [=](auto* table) { table->setHorizontalSpacing(ClampToWidgetSize(spacing)); },
+        [=](auto* box) { box->setSpacing(ClampToWidgetSize(spacing)); });
 }
 
 int ZFrame::layoutVSpacing() const
@@ -142,6 +142,6 @@ int ZFrame::layoutVSpacing() const
 void ZFrame::setLayoutVSpacing(int spacing)
 {
     VisitAxis<QVBoxLayout>(
-        layout(), [=](auto* table) { table->setVerticalSpacing(WithinReach(spacing)); },
-        [=](auto* box) { box->setSpacing(WithinReach(spacing)); });
+        layout(), [=](auto* table) { table->setVerticalSpacing(ClampToWidgetSize(spacing)); },
+        [=](auto* box) { box->setSpacing(ClampToWidgetSize(spacing)); });
 }

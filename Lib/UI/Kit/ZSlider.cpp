@@ -167,7 +167,7 @@ void ZSlider::clearSegments()
     setSegments({});
 }
 
-SliderTrack ZSlider::track() const
+ZSlider::SliderTrack ZSlider::track() const
 {
     return {orientation() == Qt::Horizontal ? width() : height(), groove.offset(), minimum(), maximum()};
 }
@@ -198,7 +198,7 @@ QSize ZSlider::withThumbs(const QSize& size) const
     for (ZSliderThumb* thumb : thumbs) {
         thumb->ensurePolished();
         const bool isHorizontal = orientation() == Qt::Horizontal;
-        const int thickness = Zelkor::Vx::UI::Common::WithinReach(thumb->parentMargin()) +
+        const int thickness = Zelkor::Vx::UI::Common::ClampToWidgetSize(thumb->parentMargin()) +
                               (isHorizontal ? thumb->height() : thumb->width());
         whole = whole.expandedTo(isHorizontal ? QSize(0, thickness) : QSize(thickness, 0));
     }

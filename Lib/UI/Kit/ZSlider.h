@@ -8,7 +8,10 @@
 #include <QVector>
 
 class ZSliderThumb;
+
+namespace Zelkor::Vx::UI::Kit {
 struct SliderTrack;
+}
 
 /// A slider with any number of named thumbs, each with a value of its own; for trimming and timelines.
 ///
@@ -34,6 +37,9 @@ class ZSlider : public QSlider
     Q_PROPERTY(QString grooveBorderStyle READ grooveBorderStyle WRITE setGrooveBorderStyle)
     Q_PROPERTY(QString addPageStyle READ addPageStyle WRITE setAddPageStyle)
     Q_PROPERTY(QString subPageStyle READ subPageStyle WRITE setSubPageStyle)
+
+    using SliderGroove = Zelkor::Vx::UI::Kit::SliderGroove;
+    using SliderTrack = Zelkor::Vx::UI::Kit::SliderTrack;
 
 public:
     /// A highlighted stretch of the groove, in values of the slider.

@@ -344,7 +344,7 @@ void ZSliderButton::keyPressEvent(QKeyEvent* event)
 
 void ZSliderButton::wheelEvent(QWheelEvent* event)
 {
-    if (!Common::TakesWheel(*this, *event, true))
+    if (!Common::AcceptWheelEvent(*this, *event, true))
         return;
     static_cast<QObject*>(slider)->event(event);
     // At the end of the range as well: the panel around shall not scroll suddenly.

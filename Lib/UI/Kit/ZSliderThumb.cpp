@@ -17,7 +17,7 @@
 
 namespace {
 
-using Zelkor::Vx::UI::Common::WithinReach;
+using Zelkor::Vx::UI::Common::ClampToWidgetSize;
 
 constexpr QSize SIZE(14, 14);
 constexpr QPoint NOWHERE(-1, -1);
@@ -162,8 +162,8 @@ void ZSliderThumb::place()
 {
     if (!slider)
         return;
-    const int position = slider->track().pixelOfThumb(currentValue) - WithinReach(currentPointOffset);
-    const int margin = WithinReach(currentParentMargin);
+    const int position = slider->track().pixelOfThumb(currentValue) - ClampToWidgetSize(currentPointOffset);
+    const int margin = ClampToWidgetSize(currentParentMargin);
     if (slider->orientation() == Qt::Horizontal)
         move(position, margin);
     else
@@ -275,7 +275,7 @@ void ZSliderThumb::mouseMoveEvent(QMouseEvent* event)
         if (!self || !dragging)
             return;
     }
-    const int offset = WithinReach(currentPointOffset);
+    const int offset = ClampToWidgetSize(currentPointOffset);
     const QPoint pointer = mapToParent(event->pos());
     const int value = slider->valueAt(pointer + QPoint(offset, offset) - pressPosition);
     setValue(slider->snapped(*this, value));

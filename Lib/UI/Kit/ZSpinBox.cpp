@@ -11,11 +11,11 @@ void ZSpinBox::setEditableInFocus(bool on)
     if (editableInFocus == on)
         return;
     editableInFocus = on;
-    Common::LetWheelGiveFocus(*this, !on);
+    Common::SetWheelFocusEnabled(*this, !on);
 }
 
 void ZSpinBox::wheelEvent(QWheelEvent* event)
 {
-    if (Common::TakesWheel(*this, *event, editableInFocus))
+    if (Common::AcceptWheelEvent(*this, *event, editableInFocus))
         QSpinBox::wheelEvent(event);
 }

@@ -11,6 +11,8 @@
 #include <algorithm>
 #include <utility>
 
+using namespace Zelkor::Vx::UI::Kit;
+
 namespace {
 
 const QString SHRINK_WIDTH = QStringLiteral("shrinkWidth");

@@ -22,7 +22,8 @@
 
 namespace {
 
-using Zelkor::Vx::UI::Common::WithinReach;
+using namespace Zelkor::Vx::UI::Kit;
+using Zelkor::Vx::UI::Common::ClampToWidgetSize;
 
 constexpr int STEPS = 1000;
 constexpr qint64 NO_BOUND = -1;
@@ -250,7 +251,7 @@ void ZTimelineSlider::updateTime(int value)
 
 void ZTimelineSlider::pointerMoved(const QPoint& point)
 {
-    const int start = WithinReach(grooveOffset());
+    const int start = ClampToWidgetSize(grooveOffset());
     const int end = width() - start;
     double ratio = point.x() <= start ? 0 : 1;
     if (start < point.x() && point.x() < end)

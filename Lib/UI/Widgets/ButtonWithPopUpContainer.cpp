@@ -186,7 +186,7 @@ void ButtonWithPopUpContainer::PopUpWindow::LeaveButton()
 /// Whether the widget may become a part of the panel. Like Qt's layouts, warns of one that may not.
 bool ButtonWithPopUpContainer::PopUpWindow::Accepts(const QWidget* widget, const char* function) const
 {
-    const bool isAccepted = Common::CanHold(container, widget);
+    const bool isAccepted = Common::CanBeParentOf(container, widget);
     if (!isAccepted)
         qWarning("ButtonWithPopUpContainer::%s: the widget holds the panel", function);
     return isAccepted;

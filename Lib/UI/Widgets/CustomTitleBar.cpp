@@ -200,7 +200,7 @@ CustomTitleBar::~CustomTitleBar() = default;
 
 void CustomTitleBar::AddWidget(QWidget* widget)
 {
-    if (!Common::CanHold(impl->userWidgetsFrame, widget))
+    if (!Common::CanBeParentOf(impl->userWidgetsFrame, widget))
         return;
     impl->userWidgetsFrame->layout()->addWidget(widget);
     // Tab visits the bar as it stands: what takes the keyboard in the widget, then the buttons.

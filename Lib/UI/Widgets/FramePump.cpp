@@ -90,7 +90,7 @@ void FramePump::Run()
 {
     if (!reader || !gate->IsOpen())
         return;
-    const auto failure = FailureOf([this] { ShowFrames(); });
+    const auto failure = UI::Common::CatchException([this] { ShowFrames(); });
     gate->Reset();
     reader = nullptr;
     if (failure)

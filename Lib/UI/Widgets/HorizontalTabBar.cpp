@@ -13,7 +13,7 @@ namespace Zelkor::Vx {
 
 namespace {
 
-using UI::Common::WithinReach;
+using UI::Common::ClampToWidgetSize;
 
 const QLatin1Char PATH_SEPARATOR(';');
 
@@ -209,8 +209,8 @@ bool HorizontalTabBar::AreTextsTurned() const
 {
     for (int i = 0; IsVertical() && i < count(); ++i) {
         const QSize tab = tabRect(i).size();
-        const int text =
-            fontMetrics().size(0, tabText(i)).width() + WithinReach(paddingLeft) + WithinReach(paddingRight);
+        const int text = fontMetrics().size(0, tabText(i)).width() + ClampToWidgetSize(paddingLeft) +
+                         ClampToWidgetSize(paddingRight);
         if (text > tab.width() && tab.height() > tab.width())
             return true;
     }
@@ -225,8 +225,8 @@ bool HorizontalTabBar::IsDragged(const QStyleOptionTab& option) const
 QRect HorizontalTabBar::TextRect(int index, const QRect& face, const QTransform& toBar,
                                  const QStyleOptionTab& option) const
 {
-    QRect text = face.adjusted(WithinReach(paddingLeft), WithinReach(paddingTop), -WithinReach(paddingRight),
-                               -WithinReach(paddingBottom));
+    QRect text = face.adjusted(ClampToWidgetSize(paddingLeft), ClampToWidgetSize(paddingTop),
+                               -ClampToWidgetSize(paddingRight), -ClampToWidgetSize(paddingBottom));
     text = QStyle::visualRect(layoutDirection(), face, text);
     text = WithRoomForMarks(text, tabText(index), fontMetrics(), QStyle::visualAlignment(layoutDirection(), alignText),
                             face);
@@ -274,7 +274,7 @@ void HorizontalTabBar::PaintTab(QPainter& painter, int index, QStyleOptionTab& o
         painter.drawText(textRect, int(QStyle::visualAlignment(layoutDirection(), alignText)), text);
         painter.restore();
     }
-    const QRect iconRect(QPoint(WithinReach(xPosTabIcon), WithinReach(yPosTabIcon)), iconSize());
+    const QRect iconRect(QPoint(ClampToWidgetSize(xPosTabIcon), ClampToWidgetSize(yPosTabIcon)), iconSize());
     tabIcon(index).paint(&painter, toBar.mapRect(QStyle::visualRect(layoutDirection(), face, iconRect)),
                          Qt::AlignTop | Qt::AlignHCenter);
 }

@@ -8,7 +8,7 @@ namespace Zelkor::Vx::LevelMeter {
 
 namespace {
 
-using UI::Common::WithinReach;
+using UI::Common::ClampToWidgetSize;
 
 // The outline and its antialiasing reach so far beyond a bar.
 constexpr int OUTLINE = 2;
@@ -18,7 +18,7 @@ constexpr int OUTLINE = 2;
 QRect BarOf(const QRect& background, float share, const Input& input)
 {
     const double wanted = double(float(background.bottom() - background.top()) * share) + 1.5;
-    const double highest = double(input.size.height() - WithinReach(input.offsetY));
+    const double highest = double(input.size.height() - ClampToWidgetSize(input.offsetY));
     // What is not a number shows as silence without its row.
     const double rows = std::isnan(wanted) ? 0.0 : std::fmax(std::fmin(wanted, highest), 0.0);
     QRect bar = background;
@@ -30,7 +30,7 @@ QRect ChangedRowsOf(const QRect& before, const QRect& after, int radius)
 {
     if (before == after)
         return QRect();
-    const int corners = WithinReach(qMax(0, radius)) + OUTLINE;
+    const int corners = ClampToWidgetSize(qMax(0, radius)) + OUTLINE;
     // The corners of a low bar are squeezed, all of them.
     if (qMin(before.height(), after.height()) <= 2 * corners)
         return (before | after).adjusted(-OUTLINE, -OUTLINE, OUTLINE, OUTLINE);
@@ -45,8 +45,8 @@ QRect ChangedRowsOf(const QRect& before, const QRect& after, int radius)
 Bars BarsOf(const Input& input)
 {
     Bars bars;
-    const int x = WithinReach(input.offsetX);
-    const int y = WithinReach(input.offsetY);
+    const int x = ClampToWidgetSize(input.offsetX);
+    const int y = ClampToWidgetSize(input.offsetY);
     bars.background = QRect(x, y, input.size.width() - 2 * x, input.size.height() - 2 * y);
     bars.level = BarOf(bars.background, input.level, input);
     bars.volume = BarOf(bars.background, input.volume * input.level, input);

@@ -94,7 +94,7 @@ void MaskedToolTip::Show(const QPoint& globalPos)
     }
     if (displayTime > 0)
         QTimer::singleShot(displayTime, this, &QWidget::close);
-    move(mapFromGlobal(globalPos + QPoint(Common::WithinReach(offsetX), Common::WithinReach(offsetY))));
+    move(mapFromGlobal(globalPos + QPoint(Common::ClampToWidgetSize(offsetX), Common::ClampToWidgetSize(offsetY))));
     show();
 }
 

@@ -203,12 +203,12 @@ void ScrollablePanelWithItem::SetItemsSpacing(int spacing)
 void ScrollablePanelWithItem::Append(QToolButton* item)
 {
     if (!item || item == parts->leftScrollButton || item == parts->rightScrollButton ||
-        !Common::CanHold(parts->itemsFrame, item))
+        !Common::CanBeParentOf(parts->itemsFrame, item))
         return;
     items->Prune(parts->itemsFrame);
     items->list.removeOne(item);
     items->list.append(item);
-    Common::AppendToLayout(parts->itemsLayout, item);
+    Common::AddWithoutDeferredShow(parts->itemsLayout, item);
     // A layout takes a deleted widget out by an event, which a filter may swallow, and would use it afterwards.
     disconnect(item, nullptr, parts->itemsLayout, nullptr);
     connect(item, &QObject::destroyed, parts->itemsLayout,

@@ -83,7 +83,7 @@ void SliderWithTickLabels::AddItem(const QString& text)
     impl->labels.append(label);
     if (index > 0)
         impl->labelsLayout->addStretch(0);
-    UI::Common::AppendToLayout(impl->labelsLayout, label);
+    UI::Common::AddWithoutDeferredShow(impl->labelsLayout, label);
     impl->slider->setMaximum(index);
     MarkPositions();
     if (index == CurrentIndex())

@@ -13,7 +13,7 @@ namespace Zelkor::Vx {
 
 namespace {
 
-using UI::Common::WithinReach;
+using UI::Common::ClampToWidgetSize;
 
 // Between two texts, so that they do not read as one.
 constexpr int GAP = 8;
@@ -22,8 +22,8 @@ constexpr int GAP = 8;
 int WantedWidth(const ZLabel* label)
 {
     const QMargins margins = label->contentsMargins();
-    const int around = WithinReach(margins.left() + margins.right()) + 2 * WithinReach(label->margin()) +
-                       qMax(0, WithinReach(label->indent()));
+    const int around = ClampToWidgetSize(margins.left() + margins.right()) + 2 * ClampToWidgetSize(label->margin()) +
+                       qMax(0, ClampToWidgetSize(label->indent()));
     const QString text = UI::Common::Embed(label->originalText());
     return qCeil(QFontMetricsF(label->font()).horizontalAdvance(text)) + around;
 }

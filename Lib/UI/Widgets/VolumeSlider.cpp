@@ -69,7 +69,8 @@ void VolumeSlider::ShowValue(int value)
 {
     if (!isVisible())
         return;
-    const QPoint anchor = mapToGlobal(QPoint(width() / 2 - UI::Common::WithinReach(tooltipOffsetX), height() / 2));
+    const QPoint anchor =
+        mapToGlobal(QPoint(width() / 2 - UI::Common::ClampToWidgetSize(tooltipOffsetX), height() / 2));
     QToolTip::showText(anchor, QString::number(value) + tr(" %"), nullptr);
     QTimer::singleShot(TOOL_TIP_TIME_MS, this, &VolumeSlider::HideToolTip);
 }

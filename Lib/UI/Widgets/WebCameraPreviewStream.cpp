@@ -196,7 +196,7 @@ void WebCameraPreviewStream::Impl::Stop()
     }
     if (stopped.capture) {
         // Destructors call this, too.
-        if (const auto failure = FailureOf([&] { stopped.capture->Stop(); }))
+        if (const auto failure = UI::Common::CatchException([&] { stopped.capture->Stop(); }))
             LOG_SOURCE.Error(133, "Zelkor::Vx::WebCameraPreviewStream::Impl::Stop", failure->c_str());
     }
     EndPump(ended);
@@ -227,7 +227,7 @@ bool WebCameraPreviewStream::Impl::Retry()
     failed = Session();
     gate->Reset();
     // An exception must not reach Qt's event loop, which calls this: it counts as one more failed start.
-    if (const auto failure = FailureOf([&] { BuildSession(forEpoch); }))
+    if (const auto failure = UI::Common::CatchException([&] { BuildSession(forEpoch); }))
         LOG_SOURCE.Error(150, "Zelkor::Vx::WebCameraPreviewStream::Impl::BuildSession", failure->c_str());
 
     Session started;
@@ -240,7 +240,7 @@ bool WebCameraPreviewStream::Impl::Retry()
         if (!started.capture)
             RequestRetry();
     }
-    if (const auto failure = FailureOf([&] { StartSession(started); })) {
+    if (const auto failure = UI::Common::CatchException([&] { StartSession(started); })) {
         LOG_SOURCE.Error(158, "Zelkor::Vx::WebCameraPreviewStream::Impl::StartSession", failure->c_str());
         RetryIfCurrent(started.observer.get());
     }
@@ -287,7 +287,7 @@ void WebCameraPreviewStream::Impl::HandleStarted(const Observer* from,
         previous = pump;
     }
     EndPump(previous);
-    if (const auto failure = FailureOf([&] { StartPump(from, *provider); })) {
+    if (const auto failure = UI::Common::CatchException([&] { StartPump(from, *provider); })) {
         LOG_SOURCE.Error(196, "Zelkor::Vx::WebCameraPreviewStream::Impl::handleStarted", failure->c_str());
         RetryIfCurrent(from);
     }

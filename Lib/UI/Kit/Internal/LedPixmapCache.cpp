@@ -5,6 +5,8 @@
 #include <cmath>
 #include <cstring>
 
+namespace Zelkor::Vx::UI::Kit {
+
 namespace {
 
 constexpr int PHASES = 32;
@@ -39,14 +41,14 @@ QRgb Times(QRgb pixel, uint factor)
 
 } // namespace
 
-LedStamps::Place::Place(double coordinate)
+LedPixmapCache::SubpixelPosition::SubpixelPosition(double coordinate)
 {
     const double begin = std::round(coordinate * PHASES);
     pixel = int(std::floor(begin / PHASES));
     phase = int(begin - double(pixel) * PHASES);
 }
 
-void LedStamps::setScale(double newScale)
+void LedPixmapCache::setScale(double newScale)
 {
     if (scale == newScale)
         return;
@@ -57,12 +59,12 @@ void LedStamps::setScale(double newScale)
     stamps = QVector<Stamp>(SLOTS, {NOTHING, {}});
 }
 
-QImage LedStamps::lineBetween(int firstPixel, int lastPixel) const
+QImage LedPixmapCache::lineBetween(int firstPixel, int lastPixel) const
 {
     return QImage(lastPixel + stride - firstPixel, side, QImage::Format_ARGB32_Premultiplied);
 }
 
-void LedStamps::draw(QImage& line, int pixel, int phaseX, int phaseY, QRgb color, bool apart)
+void LedPixmapCache::draw(QImage& line, int pixel, int phaseX, int phaseY, QRgb color, bool apart)
 {
     const QRgb* stamp = stampOf(phaseY * PHASES + phaseX, color);
     auto* out = reinterpret_cast<QRgb*>(line.bits()) + pixel;
@@ -78,7 +80,7 @@ void LedStamps::draw(QImage& line, int pixel, int phaseX, int phaseY, QRgb color
     }
 }
 
-const QImage& LedStamps::coverageAt(int phase)
+const QImage& LedPixmapCache::coverageAt(int phase)
 {
     QImage& image = coverage[phase];
     if (image.isNull()) {
@@ -96,7 +98,7 @@ const QImage& LedStamps::coverageAt(int phase)
     return image;
 }
 
-const QRgb* LedStamps::stampOf(int phase, QRgb color)
+const QRgb* LedPixmapCache::stampOf(int phase, QRgb color)
 {
     const quint64 key = quint64(color) << PHASE_BITS | quint64(phase);
     Stamp& stamp = stamps[SlotOf(key)];
@@ -114,3 +116,5 @@ const QRgb* LedStamps::stampOf(int phase, QRgb color)
     }
     return stamp.pixels.constData();
 }
+
+} // namespace Zelkor::Vx::UI::Kit

@@ -3,12 +3,14 @@
 #include <QImage>
 #include <QVector>
 
+namespace Zelkor::Vx::UI::Kit {
+
 /// Draws many filled circles of one diameter, much faster than one by one.
 ///
 /// Qt places what it fills on a grid of 64ths of a pixel. A stamp is placed on one of 32nds, which bounds the number of
 /// stamps whatever their places are, and makes a pixel at the edge differ by a few of 255 steps at most. All lengths
 /// are pixels of the device.
-class LedStamps
+class LedPixmapCache
 {
 public:
     /// Of the circles, in units of the grid that they are on.
@@ -18,9 +20,9 @@ public:
     static constexpr double LARGEST_SCALE = 8;
 
     /// A coordinate on the grid of stamps.
-    struct Place
+    struct SubpixelPosition
     {
-        explicit Place(double coordinate = 0);
+        explicit SubpixelPosition(double coordinate = 0);
 
         int pixel; ///< where the stamp begins
         int phase; ///< which part of that pixel the circle begins at
@@ -56,3 +58,5 @@ private:
     };
     QVector<Stamp> stamps;
 };
+
+} // namespace Zelkor::Vx::UI::Kit

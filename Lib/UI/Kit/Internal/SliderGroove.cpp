@@ -5,6 +5,8 @@
 #include <QSlider>
 #include <QtMath>
 
+namespace Zelkor::Vx::UI::Kit {
+
 namespace {
 
 // In pixels of the device. A picture with a longer side cannot be painted on; a larger one is larger than any screen.
@@ -200,9 +202,10 @@ void SliderGroove::render(QSlider& slider, int value, QPixmap& pixmap) const
 QString SliderGroove::sheet(Part look) const
 {
     const bool isHorizontal = owner.orientation() == Qt::Horizontal;
-    const int length =
-        (isHorizontal ? scene.size.width() : scene.size.height()) - 2 * Zelkor::Vx::UI::Common::WithinReach(inset);
+    const int length = (isHorizontal ? scene.size.width() : scene.size.height()) - 2 * Common::ClampToWidgetSize(inset);
     // All at once: a fragment may have a per cent sign in it.
     return (isHorizontal ? HORIZONTAL_SHEET : VERTICAL_SHEET)
         .arg(QString::number(length), usableStyles[look], usableStyles[ADD_PAGE], usableStyles[SUB_PAGE]);
 }
+
+} // namespace Zelkor::Vx::UI::Kit

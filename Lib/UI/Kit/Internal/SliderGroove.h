@@ -8,6 +8,8 @@
 
 class QSlider;
 
+namespace Zelkor::Vx::UI::Kit {
+
 /// The groove of a ZSlider, rendered from plain sliders that are never shown, through style sheets that are filled with
 /// fragments.
 ///
@@ -83,3 +85,5 @@ private:
     int shownValue = 0;
     std::array<Canvas, LOOKS> canvases;
 };
+
+} // namespace Zelkor::Vx::UI::Kit

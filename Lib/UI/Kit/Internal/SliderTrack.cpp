@@ -4,9 +4,11 @@
 
 #include <QtGlobal>
 
+namespace Zelkor::Vx::UI::Kit {
+
 namespace {
 
-using Zelkor::Vx::UI::Common::WithinReach;
+using Common::ClampToWidgetSize;
 
 // No widget lies further out. What would is cut before it becomes an integer.
 constexpr double FARTHEST = 1 << 24;
@@ -27,13 +29,13 @@ double GrooveLength(const SliderTrack& track)
 int SliderTrack::pixelOfThumb(int value) const
 {
     const double position = GrooveLength(*this) * value / Span(*this) + 0.5;
-    return int(qBound(-FARTHEST, position, FARTHEST)) + WithinReach(inset);
+    return int(qBound(-FARTHEST, position, FARTHEST)) + ClampToWidgetSize(inset);
 }
 
 int SliderTrack::pixelOfSegment(int value) const
 {
     const double position = (double(value) - minimum) * GrooveLength(*this) / Span(*this);
-    return int(qBound(-FARTHEST, position, FARTHEST)) + WithinReach(inset);
+    return int(qBound(-FARTHEST, position, FARTHEST)) + ClampToWidgetSize(inset);
 }
 
 int SliderTrack::valueAt(int pixel) const
@@ -42,3 +44,5 @@ int SliderTrack::valueAt(int pixel) const
     const double offset = qBound(0.0, double(pixel) - inset, length);
     return int(minimum + (double(maximum) - minimum) * offset / length);
 }
+
+} // namespace Zelkor::Vx::UI::Kit

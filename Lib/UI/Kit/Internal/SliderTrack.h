@@ -1,5 +1,7 @@
 #pragma once
 
+namespace Zelkor::Vx::UI::Kit {
+
 /// Where the values of a slider with thumbs lie along its length. Values grow from the left and from the top, in every
 /// layout direction.
 struct SliderTrack
@@ -18,3 +20,5 @@ struct SliderTrack
     /// The value under a pixel; the nearer end for one beside the groove.
     int valueAt(int pixel) const;
 };
+
+} // namespace Zelkor::Vx::UI::Kit

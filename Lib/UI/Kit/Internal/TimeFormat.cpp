@@ -6,6 +6,8 @@
 
 #include <cstdlib>
 
+namespace Zelkor::Vx::UI::Kit {
+
 namespace {
 
 const QString DEFAULT_FORMAT = QStringLiteral("hh:mm:ss");
@@ -82,3 +84,5 @@ QString TimeText(const QTime& time, const QStringList& formats, const QLocale& l
     const QString format = ChooseTimeFormat(formats, time);
     return locale.toString(time, format.isEmpty() ? DEFAULT_FORMAT : format);
 }
+
+} // namespace Zelkor::Vx::UI::Kit

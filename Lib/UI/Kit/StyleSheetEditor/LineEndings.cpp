@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <utility>
 
-namespace LineEnds {
+namespace Zelkor::Vx::UI::Kit::LineEndings {
 
 namespace {
 
@@ -79,4 +79,4 @@ QString Restore(const QString& original, const QString& raw)
     return text;
 }
 
-} // namespace LineEnds
+} // namespace Zelkor::Vx::UI::Kit::LineEndings

@@ -7,35 +7,37 @@
 
 #include <utility>
 
-ZMessageLabel::ZMessageLabel(QWidget* parent) : QLabel(parent)
+namespace Zelkor::Vx::UI::Kit {
+
+MessageLabel::MessageLabel(QWidget* parent) : QLabel(parent)
 {
     setTextFormat(Qt::PlainText);
 }
 
-void ZMessageLabel::say(std::function<QString()> newMessage)
+void MessageLabel::say(std::function<QString()> newMessage)
 {
     message = std::move(newMessage);
     setText(message ? message() : QString());
 }
 
-void ZMessageLabel::changeEvent(QEvent* event)
+void MessageLabel::changeEvent(QEvent* event)
 {
     QLabel::changeEvent(event);
     if (event->type() == QEvent::LanguageChange && message)
         setText(message());
 }
 
-QSize ZMessageLabel::minimumSizeHint() const
+QSize MessageLabel::minimumSizeHint() const
 {
     return QSize(0, QLabel::minimumSizeHint().height());
 }
 
-QString ZMessageLabel::shownText() const
+QString MessageLabel::shownText() const
 {
     return fontMetrics().elidedText(text(), Qt::ElideRight, contentsRect().width());
 }
 
-bool ZMessageLabel::event(QEvent* event)
+bool MessageLabel::event(QEvent* event)
 {
     if (event->type() != QEvent::ToolTip)
         return QLabel::event(event);
@@ -44,7 +46,7 @@ bool ZMessageLabel::event(QEvent* event)
     return true;
 }
 
-void ZMessageLabel::paintEvent(QPaintEvent*)
+void MessageLabel::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
     // The full stop goes with the language of the text, not with the window.
@@ -53,3 +55,5 @@ void ZMessageLabel::paintEvent(QPaintEvent*)
     style()->drawItemText(&painter, contentsRect(), static_cast<int>(place | Qt::AlignAbsolute), palette(), isEnabled(),
                           shownText(), foregroundRole());
 }
+
+} // namespace Zelkor::Vx::UI::Kit

@@ -4,15 +4,17 @@
 
 #include <functional>
 
+namespace Zelkor::Vx::UI::Kit {
+
 /// One line that says something, in the language of the application also after that changes. It takes whatever width is
 /// left, elides what does not fit, and shows it whole as the tool tip. It begins at the side where the window's rows
 /// begin, whatever letters it has.
-class ZMessageLabel : public QLabel
+class MessageLabel : public QLabel
 {
     Q_OBJECT
 
 public:
-    explicit ZMessageLabel(QWidget* parent = nullptr);
+    explicit MessageLabel(QWidget* parent = nullptr);
 
     /// Shows what `message` returns, and calls it again when the language changes. Without one, shows nothing.
     void say(std::function<QString()> message);
@@ -29,3 +31,5 @@ private:
 
     std::function<QString()> message;
 };
+
+} // namespace Zelkor::Vx::UI::Kit

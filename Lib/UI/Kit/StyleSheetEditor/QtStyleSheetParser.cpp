@@ -11,13 +11,13 @@
 #include <algorithm>
 #include <atomic>
 
-namespace StyleSheetVerdict {
+namespace Zelkor::Vx::UI::Kit::QtStyleSheetParser {
 
 namespace {
 
-using StyleSheetSyntax::Scope;
-using StyleSheetTokens::Kind;
-using StyleSheetTokens::Token;
+using StyleSheetChecker::Scope;
+using StyleSheetTokenizer::Kind;
+using StyleSheetTokenizer::Token;
 
 std::atomic<QtMessageHandler> nextHandler{nullptr};
 thread_local bool* refused = nullptr; ///< of the verdict that this thread asks for
@@ -82,7 +82,7 @@ QVector<Cut> Cuts(const QString& sheet)
 {
     QVector<Cut> cuts;
     int depth = 0;
-    for (const Token& token : StyleSheetTokens::Tokenize(sheet)) {
+    for (const Token& token : StyleSheetTokenizer::Tokenize(sheet)) {
         const QChar symbol = token.kind == Kind::SYMBOL ? sheet[token.start] : QChar();
         if (symbol == QLatin1Char('{'))
             ++depth;
@@ -120,4 +120,4 @@ int FindRefused(const QString& sheet, Scope scope)
     return position;
 }
 
-} // namespace StyleSheetVerdict
+} // namespace Zelkor::Vx::UI::Kit::QtStyleSheetParser

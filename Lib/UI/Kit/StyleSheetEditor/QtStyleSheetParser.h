@@ -3,17 +3,17 @@
 #include <UI/Kit/StyleSheetEditor/StyleSheetChecker.h>
 
 /// What Qt itself says of a style sheet.
-namespace StyleSheetVerdict {
+namespace Zelkor::Vx::UI::Kit::QtStyleSheetParser {
 
 /// Whether Qt accepts the sheet when it is set on the application or on a widget. A declaration that Qt drops silently
 /// from a sheet that it accepts does not count.
 ///
 /// Lets Qt parse the sheet for a hidden widget, without polishing it: no property is set and no image is loaded.
 /// Warnings of Qt about the sheet are not passed on. GUI thread.
-bool IsAccepted(const QString& sheet, StyleSheetSyntax::Scope scope);
+bool IsAccepted(const QString& sheet, StyleSheetChecker::Scope scope);
 
 /// The position of a part that Qt refuses, for a sheet that is not accepted: of the selector or the declaration, which
 /// are the steps in which Qt accepts more of a sheet or less.
-int FindRefused(const QString& sheet, StyleSheetSyntax::Scope scope);
+int FindRefused(const QString& sheet, StyleSheetChecker::Scope scope);
 
-} // namespace StyleSheetVerdict
+} // namespace Zelkor::Vx::UI::Kit::QtStyleSheetParser

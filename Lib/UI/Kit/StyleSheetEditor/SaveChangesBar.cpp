@@ -9,13 +9,13 @@
 
 #include <utility>
 
-using namespace Zelkor::Vx::UI;
+namespace Zelkor::Vx::UI::Kit {
 
-ZQuestionBar::ZQuestionBar(QWidget* parent)
-    : QWidget(parent), question(new ZMessageLabel), saveButton(new QPushButton), discardButton(new QPushButton),
+SaveChangesBar::SaveChangesBar(QWidget* parent)
+    : QWidget(parent), question(new MessageLabel), saveButton(new QPushButton), discardButton(new QPushButton),
       cancelButton(new QPushButton)
 {
-    Common::AccessibleFactory<ZQuestionBar, Common::AccessibleAs<QAccessible::AlertMessage>>::Install();
+    Common::AccessibleFactory<SaveChangesBar, Common::AccessibleAs<QAccessible::AlertMessage>>::Install();
     auto* buttons = new QHBoxLayout;
     buttons->addStretch();
     buttons->addWidget(saveButton);
@@ -25,14 +25,14 @@ ZQuestionBar::ZQuestionBar(QWidget* parent)
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(question);
     layout->addLayout(buttons);
-    connect(saveButton, &QPushButton::clicked, this, &ZQuestionBar::saveWanted);
-    connect(discardButton, &QPushButton::clicked, this, &ZQuestionBar::proceed);
-    connect(cancelButton, &QPushButton::clicked, this, &ZQuestionBar::dismiss);
+    connect(saveButton, &QPushButton::clicked, this, &SaveChangesBar::saveWanted);
+    connect(discardButton, &QPushButton::clicked, this, &SaveChangesBar::proceed);
+    connect(cancelButton, &QPushButton::clicked, this, &SaveChangesBar::dismiss);
     retranslate();
     hide();
 }
 
-void ZQuestionBar::ask(std::function<void()> then)
+void SaveChangesBar::ask(std::function<void()> then)
 {
     next = std::move(then);
     show();
@@ -40,7 +40,7 @@ void ZQuestionBar::ask(std::function<void()> then)
 }
 
 // The question is gone before the next thing begins, which may ask again or delete the bar.
-void ZQuestionBar::proceed()
+void SaveChangesBar::proceed()
 {
     const auto action = std::exchange(next, nullptr);
     hide();
@@ -48,13 +48,13 @@ void ZQuestionBar::proceed()
         action();
 }
 
-void ZQuestionBar::dismiss()
+void SaveChangesBar::dismiss()
 {
     next = nullptr;
     hide();
 }
 
-void ZQuestionBar::retranslate()
+void SaveChangesBar::retranslate()
 {
     question->setText(tr("There are changes that were not saved."));
     setAccessibleName(question->text());
@@ -63,17 +63,19 @@ void ZQuestionBar::retranslate()
     cancelButton->setText(tr("&Cancel"));
 }
 
-void ZQuestionBar::changeEvent(QEvent* event)
+void SaveChangesBar::changeEvent(QEvent* event)
 {
     QWidget::changeEvent(event);
     if (event->type() == QEvent::LanguageChange)
         retranslate();
 }
 
-void ZQuestionBar::keyPressEvent(QKeyEvent* event)
+void SaveChangesBar::keyPressEvent(QKeyEvent* event)
 {
     if (event->key() == Qt::Key_Escape)
         dismiss();
     else
         QWidget::keyPressEvent(event);
 }
+
+} // namespace Zelkor::Vx::UI::Kit

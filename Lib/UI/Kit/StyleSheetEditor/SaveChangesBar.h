@@ -5,15 +5,18 @@
 #include <functional>
 
 class QPushButton;
-class ZMessageLabel;
+
+namespace Zelkor::Vx::UI::Kit {
+
+class MessageLabel;
 
 /// Asks within a window whether to save unsaved changes, without blocking the program.
-class ZQuestionBar : public QWidget
+class SaveChangesBar : public QWidget
 {
     Q_OBJECT
 
 public:
-    explicit ZQuestionBar(QWidget* parent = nullptr);
+    explicit SaveChangesBar(QWidget* parent = nullptr);
 
     /// Shows the question; `then` runs once the text is saved or its changes are discarded. Replaces a question that is
     /// shown.
@@ -37,8 +40,10 @@ private:
     void retranslate();
 
     std::function<void()> next;
-    ZMessageLabel* question;
+    MessageLabel* question;
     QPushButton* saveButton;
     QPushButton* discardButton;
     QPushButton* cancelButton;
 };
+
+} // namespace Zelkor::Vx::UI::Kit

@@ -11,7 +11,7 @@
 #include <QPushButton>
 #include <QToolButton>
 
-using namespace Zelkor::Vx::UI;
+namespace Zelkor::Vx::UI::Kit {
 
 namespace {
 
@@ -19,22 +19,22 @@ constexpr int SPACING = 4;
 
 } // namespace
 
-ZSearchBar::ZSearchBar(QPlainTextEdit* editor, QWidget* parent)
+SearchBar::SearchBar(QPlainTextEdit* editor, QWidget* parent)
     : QWidget(parent), editor(editor), searched(new QLineEdit), replacement(new QLineEdit),
       previousButton(new QToolButton), nextButton(new QToolButton), replaceButton(new QPushButton),
       replaceAllButton(new QPushButton), closeButton(new QPushButton), caseBox(new QCheckBox), wordsBox(new QCheckBox),
-      messageLabel(new ZMessageLabel)
+      messageLabel(new MessageLabel)
 {
-    Common::AccessibleFactory<ZSearchBar, Common::AccessibleAs<QAccessible::Grouping>>::Install();
+    Common::AccessibleFactory<SearchBar, Common::AccessibleAs<QAccessible::Grouping>>::Install();
     previousButton->setText(QStringLiteral("\u2191"));
     nextButton->setText(QStringLiteral("\u2193"));
     messageLabel->setObjectName(QStringLiteral("searchMessage"));
     layOut();
-    connect(previousButton, &QToolButton::clicked, this, &ZSearchBar::findPrevious);
-    connect(nextButton, &QToolButton::clicked, this, &ZSearchBar::findNext);
-    connect(replaceButton, &QPushButton::clicked, this, &ZSearchBar::replace);
-    connect(replaceAllButton, &QPushButton::clicked, this, &ZSearchBar::replaceAll);
-    connect(closeButton, &QPushButton::clicked, this, &ZSearchBar::shut);
+    connect(previousButton, &QToolButton::clicked, this, &SearchBar::findPrevious);
+    connect(nextButton, &QToolButton::clicked, this, &SearchBar::findNext);
+    connect(replaceButton, &QPushButton::clicked, this, &SearchBar::replace);
+    connect(replaceAllButton, &QPushButton::clicked, this, &SearchBar::replaceAll);
+    connect(closeButton, &QPushButton::clicked, this, &SearchBar::shut);
     // While the text is typed, the place that is selected may grow with it.
     connect(searched, &QLineEdit::textEdited, this, [this] {
         QTextCursor from = this->editor->textCursor();
@@ -44,7 +44,7 @@ ZSearchBar::ZSearchBar(QPlainTextEdit* editor, QWidget* parent)
     retranslate();
 }
 
-void ZSearchBar::layOut()
+void SearchBar::layOut()
 {
     auto* grid = new QGridLayout(this);
     grid->setContentsMargins(0, 0, 0, 0);
@@ -67,7 +67,7 @@ void ZSearchBar::layOut()
     setTabOrder(replacement, previousButton);
 }
 
-void ZSearchBar::retranslate()
+void SearchBar::retranslate()
 {
     const auto name = [](QWidget* widget, const QString& text) {
         widget->setAccessibleName(text);
@@ -87,14 +87,14 @@ void ZSearchBar::retranslate()
     wordsBox->setText(tr("&Whole words"));
 }
 
-void ZSearchBar::changeEvent(QEvent* event)
+void SearchBar::changeEvent(QEvent* event)
 {
     QWidget::changeEvent(event);
     if (event->type() == QEvent::LanguageChange)
         retranslate();
 }
 
-void ZSearchBar::open()
+void SearchBar::open()
 {
     const QString selection = editor->textCursor().selectedText();
     if (!selection.isEmpty() && !selection.contains(QChar::ParagraphSeparator))
@@ -105,38 +105,38 @@ void ZSearchBar::open()
     searched->selectAll();
 }
 
-void ZSearchBar::shut()
+void SearchBar::shut()
 {
     hide();
     editor->setFocus();
 }
 
-void ZSearchBar::setSearchedText(const QString& text)
+void SearchBar::setSearchedText(const QString& text)
 {
     searched->setText(text);
 }
 
-void ZSearchBar::setReplacement(const QString& text)
+void SearchBar::setReplacement(const QString& text)
 {
     replacement->setText(text);
 }
 
-void ZSearchBar::setCaseSensitive(bool on)
+void SearchBar::setCaseSensitive(bool on)
 {
     caseBox->setChecked(on);
 }
 
-void ZSearchBar::setWholeWords(bool on)
+void SearchBar::setWholeWords(bool on)
 {
     wordsBox->setChecked(on);
 }
 
-QString ZSearchBar::message() const
+QString SearchBar::message() const
 {
     return messageLabel->text();
 }
 
-QTextDocument::FindFlags ZSearchBar::flags() const
+QTextDocument::FindFlags SearchBar::flags() const
 {
     QTextDocument::FindFlags flags;
     flags.setFlag(QTextDocument::FindCaseSensitively, caseBox->isChecked());
@@ -144,17 +144,17 @@ QTextDocument::FindFlags ZSearchBar::flags() const
     return flags;
 }
 
-bool ZSearchBar::findNext()
+bool SearchBar::findNext()
 {
     return find(editor->textCursor(), {});
 }
 
-bool ZSearchBar::findPrevious()
+bool SearchBar::findPrevious()
 {
     return find(editor->textCursor(), QTextDocument::FindBackward);
 }
 
-bool ZSearchBar::find(const QTextCursor& from, QTextDocument::FindFlags direction)
+bool SearchBar::find(const QTextCursor& from, QTextDocument::FindFlags direction)
 {
     messageLabel->say({});
     const QString text = searched->text();
@@ -179,7 +179,7 @@ bool ZSearchBar::find(const QTextCursor& from, QTextDocument::FindFlags directio
     return true;
 }
 
-bool ZSearchBar::selectsPlace() const
+bool SearchBar::selectsPlace() const
 {
     const QTextCursor selection = editor->textCursor();
     QTextCursor from = selection;
@@ -189,14 +189,14 @@ bool ZSearchBar::selectsPlace() const
            place.selectionEnd() == selection.selectionEnd();
 }
 
-void ZSearchBar::replace()
+void SearchBar::replace()
 {
     if (!searched->text().isEmpty() && selectsPlace())
         editor->textCursor().insertText(replacement->text());
     findNext();
 }
 
-int ZSearchBar::replaceAll()
+int SearchBar::replaceAll()
 {
     int count = 0;
     QTextDocument* document = editor->document();
@@ -214,7 +214,7 @@ int ZSearchBar::replaceAll()
     return count;
 }
 
-void ZSearchBar::keyPressEvent(QKeyEvent* event)
+void SearchBar::keyPressEvent(QKeyEvent* event)
 {
     if (event->key() == Qt::Key_Escape)
         shut();
@@ -225,3 +225,5 @@ void ZSearchBar::keyPressEvent(QKeyEvent* event)
     else
         findNext();
 }
+
+} // namespace Zelkor::Vx::UI::Kit

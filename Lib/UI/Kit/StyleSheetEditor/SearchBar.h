@@ -8,19 +8,22 @@ class QLineEdit;
 class QPlainTextEdit;
 class QPushButton;
 class QToolButton;
-class ZMessageLabel;
+
+namespace Zelkor::Vx::UI::Kit {
+
+class MessageLabel;
 
 /// Finds and replaces in a text editor; lies below or above it. What is found is selected. A search goes on at the
 /// other end of the text when it came to one, and says so, as it says when there is nothing.
 ///
 /// Return finds the next place, Shift+Return the one before, Escape closes the bar and goes back to the editor.
-class ZSearchBar : public QWidget
+class SearchBar : public QWidget
 {
     Q_OBJECT
 
 public:
     /// The editor has to outlive the bar.
-    explicit ZSearchBar(QPlainTextEdit* editor, QWidget* parent = nullptr);
+    explicit SearchBar(QPlainTextEdit* editor, QWidget* parent = nullptr);
 
     /// Shows the bar and gives it the keyboard. A selection within one line becomes what is searched.
     void open();
@@ -66,5 +69,7 @@ private:
     QPushButton* closeButton;
     QCheckBox* caseBox;
     QCheckBox* wordsBox;
-    ZMessageLabel* messageLabel;
+    MessageLabel* messageLabel;
 };
+
+} // namespace Zelkor::Vx::UI::Kit

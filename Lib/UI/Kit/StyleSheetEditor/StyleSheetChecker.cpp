@@ -8,16 +8,16 @@
 
 #include <algorithm>
 
-namespace StyleSheetSyntax {
+namespace Zelkor::Vx::UI::Kit::StyleSheetChecker {
 
 namespace {
 
-using StyleSheetTokens::Kind;
-using StyleSheetTokens::Token;
+using StyleSheetTokenizer::Kind;
+using StyleSheetTokenizer::Token;
 
 struct Texts
 {
-    Q_DECLARE_TR_FUNCTIONS(StyleSheetSyntax)
+    Q_DECLARE_TR_FUNCTIONS(StyleSheetChecker)
 };
 
 constexpr QStringView NOT_IN_FUNCTION = u"$%&<?[]^`\\";
@@ -32,7 +32,7 @@ public:
     Checker(const QString& sheet, Scope scope) : sheet(sheet)
     {
         bool hasBraces = false;
-        for (const Token& token : StyleSheetTokens::Tokenize(sheet)) {
+        for (const Token& token : StyleSheetTokenizer::Tokenize(sheet)) {
             if (!token.isClosed)
                 report(token.kind == Kind::COMMENT ? Problem::OPEN_COMMENT : Problem::OPEN_STRING, token.start);
             if (token.kind == Kind::SPACE || token.kind == Kind::COMMENT)
@@ -44,8 +44,8 @@ public:
             declarations(NO_BRACE);
         else
             rules(false);
-        if (found.isEmpty() && !StyleSheetVerdict::IsAccepted(sheet, scope))
-            report(Problem::REFUSED, StyleSheetVerdict::FindRefused(sheet, scope));
+        if (found.isEmpty() && !QtStyleSheetParser::IsAccepted(sheet, scope))
+            report(Problem::REFUSED, QtStyleSheetParser::FindRefused(sheet, scope));
     }
 
     QVector<Mistake> mistakes()
@@ -402,4 +402,4 @@ QString Describe(Problem problem)
     return {};
 }
 
-} // namespace StyleSheetSyntax
+} // namespace Zelkor::Vx::UI::Kit::StyleSheetChecker

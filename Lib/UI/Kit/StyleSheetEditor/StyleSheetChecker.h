@@ -5,7 +5,7 @@
 
 /// Finds the mistakes in a style sheet. Qt only says that it could not parse a sheet, and drops it whole, or drops a
 /// declaration silently; a person who writes one wants to know where.
-namespace StyleSheetSyntax {
+namespace Zelkor::Vx::UI::Kit::StyleSheetChecker {
 
 enum class Problem {
     OPEN_COMMENT,     ///< a comment without end
@@ -45,4 +45,4 @@ QVector<Mistake> Check(const QString& sheet, Scope scope = Scope::APPLICATION);
 /// What is wrong and what to do, in the language of the application.
 QString Describe(Problem problem);
 
-} // namespace StyleSheetSyntax
+} // namespace Zelkor::Vx::UI::Kit::StyleSheetChecker

@@ -13,6 +13,8 @@
 
 #include <utility>
 
+namespace Zelkor::Vx::UI::Kit {
+
 namespace {
 
 constexpr int LETTERS = 2;       ///< after so many letters of a name, names are offered unasked
@@ -27,7 +29,7 @@ StyleSheetCompleter::StyleSheetCompleter(QPlainTextEdit* editor, const QWidget* 
     connect(editor->document(), &QTextDocument::contentsChange, this, [this](int position, int removed, int added) {
         const QTextDocument* document = this->editor->document();
         typing = removed == 0 && added == 1 && this->editor->hasFocus() && !document->isRedoAvailable() &&
-                 StyleSheetTokens::IsNameLetter(document->characterAt(position));
+                 StyleSheetTokenizer::IsNameLetter(document->characterAt(position));
     });
     connect(editor, &QPlainTextEdit::textChanged, this, &StyleSheetCompleter::follow);
 }
@@ -75,7 +77,7 @@ void StyleSheetCompleter::follow()
     }
     const QTextCursor cursor = editor->textCursor();
     const QString line = cursor.block().text().left(cursor.positionInBlock());
-    const QString prefix = line.right(StyleSheetNames::PrefixLength(line));
+    const QString prefix = line.right(StyleSheetVocabulary::PrefixLength(line));
     completer->setCompletionPrefix(prefix);
     if (prefix.isEmpty() || completer->completionCount() == 0)
         completer->popup()->hide();
@@ -86,7 +88,7 @@ void StyleSheetCompleter::follow()
 void StyleSheetCompleter::show(int fewestLetters)
 {
     const QString before = context();
-    const QString prefix = before.right(StyleSheetNames::PrefixLength(before));
+    const QString prefix = before.right(StyleSheetVocabulary::PrefixLength(before));
     if (prefix.size() < fewestLetters || editor->isReadOnly())
         return;
     if (!completer) {
@@ -100,7 +102,8 @@ void StyleSheetCompleter::show(int fewestLetters)
         // Installed after the completer's own filter, so it comes before that.
         completer->popup()->installEventFilter(this);
     }
-    names->setStringList(StyleSheetNames::Candidates(before, StyleSheetNames::Collect(except), declarationsAlone));
+    names->setStringList(
+        StyleSheetVocabulary::Candidates(before, StyleSheetVocabulary::Collect(except), declarationsAlone));
     completer->setCompletionPrefix(prefix);
     const bool isWhole = completer->completionCount() == 1 && completer->currentCompletion() == prefix;
     if (completer->completionCount() == 0 || (isWhole && fewestLetters > 0))
@@ -117,7 +120,7 @@ void StyleSheetCompleter::insert(const QString& name)
 {
     QTextCursor cursor = editor->textCursor();
     const QString line = cursor.block().text().left(cursor.positionInBlock());
-    cursor.movePosition(QTextCursor::Left, QTextCursor::KeepAnchor, StyleSheetNames::PrefixLength(line));
+    cursor.movePosition(QTextCursor::Left, QTextCursor::KeepAnchor, StyleSheetVocabulary::PrefixLength(line));
     cursor.insertText(name);
     editor->setTextCursor(cursor);
 }
@@ -138,3 +141,5 @@ bool StyleSheetCompleter::eventFilter(QObject* watched, QEvent* event)
     }
     return QObject::eventFilter(watched, event);
 }
+
+} // namespace Zelkor::Vx::UI::Kit

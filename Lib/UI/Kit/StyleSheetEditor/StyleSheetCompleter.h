@@ -7,6 +7,8 @@ class QPlainTextEdit;
 class QStringListModel;
 class QWidget;
 
+namespace Zelkor::Vx::UI::Kit {
+
 /// Offers names while a person types a style sheet: after two letters of a name, or when asked to. Return or Tab takes
 /// the chosen one, Escape none.
 class StyleSheetCompleter : public QObject
@@ -46,3 +48,5 @@ private:
     bool declarationsAlone = false;
     bool typing = false; ///< a letter came, and the cursor has not moved behind it yet
 };
+
+} // namespace Zelkor::Vx::UI::Kit

@@ -20,6 +20,8 @@
 
 #include <utility>
 
+namespace Zelkor::Vx::UI::Kit {
+
 namespace {
 
 constexpr QSize SMALLEST_EDITOR(200, 80);
@@ -46,10 +48,10 @@ QHBoxLayout* MakeRow()
 
 } // namespace
 
-StyleSheetEditorView::StyleSheetEditorView(QWidget* window)
-    : editor(new StyleSheetEdit(window)), search(new ZSearchBar(editor)), question(new ZQuestionBar),
-      targetBox(new StyleSheetTargetBox), pickButton(new QToolButton), typingBox(new QCheckBox),
-      revertButton(new QPushButton), applyButton(new QPushButton), messageLabel(new ZMessageLabel),
+StyleSheetEditorUi::StyleSheetEditorUi(QWidget* window)
+    : editor(new StyleSheetTextEdit(window)), search(new SearchBar(editor)), question(new SaveChangesBar),
+      targetBox(new StyleSheetTargetComboBox), pickButton(new QToolButton), typingBox(new QCheckBox),
+      revertButton(new QPushButton), applyButton(new QPushButton), messageLabel(new MessageLabel),
       placeLabel(new QLabel), targetLabel(new QLabel)
 {
     messageLabel->setObjectName(QStringLiteral("messageText"));
@@ -64,7 +66,7 @@ StyleSheetEditorView::StyleSheetEditorView(QWidget* window)
     layOut(window, bar);
 }
 
-void StyleSheetEditorView::makeCommands(QWidget* window, QMenuBar* bar)
+void StyleSheetEditorUi::makeCommands(QWidget* window, QMenuBar* bar)
 {
     fileMenu = bar->addMenu(QString());
     open = MakeAction(window, fileMenu, {QKeySequence::Open});
@@ -83,7 +85,7 @@ void StyleSheetEditorView::makeCommands(QWidget* window, QMenuBar* bar)
     pick = MakeAction(window, sheetMenu, {Qt::Key_F6});
 }
 
-void StyleSheetEditorView::layOut(QWidget* window, QMenuBar* bar)
+void StyleSheetEditorUi::layOut(QWidget* window, QMenuBar* bar)
 {
     QHBoxLayout* targetRow = MakeRow();
     targetRow->addWidget(targetLabel);
@@ -113,7 +115,7 @@ void StyleSheetEditorView::layOut(QWidget* window, QMenuBar* bar)
     layout->addLayout(rows);
 }
 
-void StyleSheetEditorView::retranslate()
+void StyleSheetEditorUi::retranslate()
 {
     fileMenu->setTitle(ZRuntimeStylesheetEditor::tr("&File"));
     open->setText(ZRuntimeStylesheetEditor::tr("&Open..."));
@@ -141,7 +143,7 @@ void StyleSheetEditorView::retranslate()
 }
 
 // A style sheet tells the two apart by the property "problem".
-void StyleSheetEditorView::say(std::function<QString()> message, bool isProblem)
+void StyleSheetEditorUi::say(std::function<QString()> message, bool isProblem)
 {
     messageLabel->say(std::move(message));
     if (messageLabel->property("problem").toBool() == isProblem)
@@ -150,3 +152,5 @@ void StyleSheetEditorView::say(std::function<QString()> message, bool isProblem)
     messageLabel->style()->unpolish(messageLabel);
     messageLabel->style()->polish(messageLabel);
 }
+
+} // namespace Zelkor::Vx::UI::Kit

@@ -12,18 +12,21 @@ class QMenuBar;
 class QPushButton;
 class QToolButton;
 class QWidget;
-class StyleSheetEdit;
-class StyleSheetTargetBox;
-class ZMessageLabel;
-class ZQuestionBar;
-class ZSearchBar;
+
+namespace Zelkor::Vx::UI::Kit {
+
+class StyleSheetTextEdit;
+class StyleSheetTargetComboBox;
+class MessageLabel;
+class SaveChangesBar;
+class SearchBar;
 
 /// The parts of the style sheet editor's window, and where they lie. They do nothing by themselves.
-class StyleSheetEditorView
+class StyleSheetEditorUi
 {
 public:
     /// The parts belong to the window.
-    explicit StyleSheetEditorView(QWidget* window);
+    explicit StyleSheetEditorUi(QWidget* window);
 
     /// Gives every part its text in the language of the application.
     void retranslate();
@@ -31,15 +34,15 @@ public:
     /// What the window says; marked when it is about something that is wrong.
     void say(std::function<QString()> message, bool isProblem);
 
-    StyleSheetEdit* editor;
-    ZSearchBar* search;
-    ZQuestionBar* question;
-    StyleSheetTargetBox* targetBox;
+    StyleSheetTextEdit* editor;
+    SearchBar* search;
+    SaveChangesBar* question;
+    StyleSheetTargetComboBox* targetBox;
     QToolButton* pickButton;
     QCheckBox* typingBox;
     QPushButton* revertButton;
     QPushButton* applyButton;
-    ZMessageLabel* messageLabel;
+    MessageLabel* messageLabel;
     QLabel* placeLabel;
 
     QAction* open;
@@ -64,3 +67,5 @@ private:
     QMenu* editMenu;
     QMenu* sheetMenu;
 };
+
+} // namespace Zelkor::Vx::UI::Kit

@@ -10,7 +10,7 @@
 #include <fcntl.h>
 #endif
 
-namespace StyleSheetFile {
+namespace Zelkor::Vx::UI::Kit::StyleSheetFile {
 
 namespace {
 
@@ -86,4 +86,4 @@ bool Write(const QString& fileName, const Contents& contents, Error& error)
     return false;
 }
 
-} // namespace StyleSheetFile
+} // namespace Zelkor::Vx::UI::Kit::StyleSheetFile

@@ -5,7 +5,7 @@
 #include <optional>
 
 /// Style sheets in files, as UTF-8.
-namespace StyleSheetFile {
+namespace Zelkor::Vx::UI::Kit::StyleSheetFile {
 
 struct Contents
 {
@@ -31,4 +31,4 @@ std::optional<Contents> Read(const QString& fileName, Error& error);
 /// Replaces a file as a whole, or leaves it as it was and returns false.
 bool Write(const QString& fileName, const Contents& contents, Error& error);
 
-} // namespace StyleSheetFile
+} // namespace Zelkor::Vx::UI::Kit::StyleSheetFile

@@ -5,12 +5,14 @@
 #include <QColor>
 #include <QStringView>
 
+namespace Zelkor::Vx::UI::Kit {
+
 namespace {
 
-using StyleSheetTokens::Kind;
-using StyleSheetTokens::Place;
-using StyleSheetTokens::Position;
-using StyleSheetTokens::Token;
+using StyleSheetTokenizer::Kind;
+using StyleSheetTokenizer::Place;
+using StyleSheetTokenizer::Position;
+using StyleSheetTokenizer::Token;
 
 /// What a word is, for the eye.
 enum class Look {
@@ -114,7 +116,7 @@ void StyleSheetHighlighter::highlightBlock(const QString& text)
         at = Position::unpack(previousBlockState());
     else if (declarationsAlone)
         at.place = Place::PROPERTY;
-    const QVector<Token> tokens = StyleSheetTokens::Tokenize(text, at.inComment);
+    const QVector<Token> tokens = StyleSheetTokenizer::Tokenize(text, at.inComment);
     for (int i = 0; i < tokens.size(); ++i) {
         const Token& token = tokens[i];
         const Look look = LookOf(text, token, at, i > 0 ? &tokens[i - 1] : nullptr);
@@ -129,3 +131,5 @@ void StyleSheetHighlighter::highlightBlock(const QString& text)
     }
     setCurrentBlockState(at.pack());
 }
+
+} // namespace Zelkor::Vx::UI::Kit

@@ -2,6 +2,8 @@
 
 #include <QSyntaxHighlighter>
 
+namespace Zelkor::Vx::UI::Kit {
+
 /// Colours the words of a style sheet. Each colour is readable on a dark or on a light ground, whichever is told.
 class StyleSheetHighlighter : public QSyntaxHighlighter
 {
@@ -24,3 +26,5 @@ private:
     bool onDark = false;
     bool declarationsAlone = false;
 };
+
+} // namespace Zelkor::Vx::UI::Kit

@@ -4,6 +4,8 @@
 
 #include <algorithm>
 
+namespace Zelkor::Vx::UI::Kit {
+
 void StyleSheetTarget::set(QWidget* widget)
 {
     chosen = widget;
@@ -51,3 +53,5 @@ QVector<StyleSheetTarget::Original>::iterator StyleSheetTarget::findOriginal()
         return original.ofApplication == application && original.widget == chosen;
     });
 }
+
+} // namespace Zelkor::Vx::UI::Kit

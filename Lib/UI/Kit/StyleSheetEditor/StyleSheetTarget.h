@@ -5,6 +5,8 @@
 #include <QVector>
 #include <QWidget>
 
+namespace Zelkor::Vx::UI::Kit {
+
 /// Who wears the style sheet that is edited: the application or one widget, which may go at any time. Remembers the
 /// sheet that was there before. GUI thread.
 class StyleSheetTarget
@@ -45,3 +47,5 @@ private:
     bool application = true;
     QVector<Original> originals;
 };
+
+} // namespace Zelkor::Vx::UI::Kit

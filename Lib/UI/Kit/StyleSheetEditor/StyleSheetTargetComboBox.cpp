@@ -6,13 +6,15 @@
 #include <QApplication>
 #include <QKeyEvent>
 
+namespace Zelkor::Vx::UI::Kit {
+
 namespace {
 
 constexpr int FEWEST_LETTERS = 8; ///< that the box has room for, in a narrow window
 
 } // namespace
 
-StyleSheetTargetBox::StyleSheetTargetBox(QWidget* parent) : QComboBox(parent), widgets{nullptr}
+StyleSheetTargetComboBox::StyleSheetTargetComboBox(QWidget* parent) : QComboBox(parent), widgets{nullptr}
 {
     setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     setMinimumContentsLength(FEWEST_LETTERS);
@@ -36,18 +38,18 @@ StyleSheetTargetBox::StyleSheetTargetBox(QWidget* parent) : QComboBox(parent), w
 }
 
 // The target may be a part of the box, which goes with it.
-StyleSheetTargetBox::~StyleSheetTargetBox()
+StyleSheetTargetComboBox::~StyleSheetTargetComboBox()
 {
     disconnect(watching);
 }
 
-void StyleSheetTargetBox::setTarget(QWidget* widget)
+void StyleSheetTargetComboBox::setTarget(QWidget* widget)
 {
     watch(widget);
     refill();
 }
 
-QString StyleSheetTargetBox::nameOf(const QWidget* widget)
+QString StyleSheetTargetComboBox::nameOf(const QWidget* widget)
 {
     const QString className = QString::fromLatin1(widget->metaObject()->className());
     if (!widget->objectName().isEmpty())
@@ -55,7 +57,7 @@ QString StyleSheetTargetBox::nameOf(const QWidget* widget)
     return widget->windowTitle().isEmpty() ? className : className + QStringLiteral(" - ") + widget->windowTitle();
 }
 
-void StyleSheetTargetBox::watch(QWidget* widget)
+void StyleSheetTargetComboBox::watch(QWidget* widget)
 {
     disconnect(watching);
     current = widget;
@@ -70,7 +72,7 @@ void StyleSheetTargetBox::watch(QWidget* widget)
 }
 
 // The windows of the application but our own, and the widget that is chosen.
-void StyleSheetTargetBox::refill()
+void StyleSheetTargetComboBox::refill()
 {
     clear();
     widgets = {nullptr};
@@ -89,27 +91,27 @@ void StyleSheetTargetBox::refill()
     setCurrentIndex(hasChoice ? widgets.indexOf(current) : -1);
 }
 
-void StyleSheetTargetBox::showPopup()
+void StyleSheetTargetComboBox::showPopup()
 {
     refill();
     QComboBox::showPopup();
 }
 
 // Arrow keys go through what is there now, too.
-void StyleSheetTargetBox::keyPressEvent(QKeyEvent* event)
+void StyleSheetTargetComboBox::keyPressEvent(QKeyEvent* event)
 {
     if (!view()->isVisible())
         refill();
     QComboBox::keyPressEvent(event);
 }
 
-void StyleSheetTargetBox::wheelEvent(QWheelEvent* event)
+void StyleSheetTargetComboBox::wheelEvent(QWheelEvent* event)
 {
-    if (Zelkor::Vx::UI::Common::TakesWheel(*this, *event, true))
+    if (Common::AcceptWheelEvent(*this, *event, true))
         QComboBox::wheelEvent(event);
 }
 
-void StyleSheetTargetBox::changeEvent(QEvent* event)
+void StyleSheetTargetComboBox::changeEvent(QEvent* event)
 {
     QComboBox::changeEvent(event);
     if (event->type() == QEvent::LanguageChange) {
@@ -117,3 +119,5 @@ void StyleSheetTargetBox::changeEvent(QEvent* event)
         setPlaceholderText(tr("Choose a widget"));
     }
 }
+
+} // namespace Zelkor::Vx::UI::Kit

@@ -4,15 +4,17 @@
 #include <QPointer>
 #include <QVector>
 
+namespace Zelkor::Vx::UI::Kit {
+
 /// A choice of the application and its windows; opened, it has those that are there then. A widget that is no window
 /// joins them when it is set. One that goes leaves the box without a choice.
-class StyleSheetTargetBox : public QComboBox
+class StyleSheetTargetComboBox : public QComboBox
 {
     Q_OBJECT
 
 public:
-    explicit StyleSheetTargetBox(QWidget* parent = nullptr);
-    ~StyleSheetTargetBox() override;
+    explicit StyleSheetTargetComboBox(QWidget* parent = nullptr);
+    ~StyleSheetTargetComboBox() override;
 
     /// Null is the application. Does not emit.
     void setTarget(QWidget* widget);
@@ -43,3 +45,5 @@ private:
     bool hasChoice = true;
     QMetaObject::Connection watching;
 };
+
+} // namespace Zelkor::Vx::UI::Kit

@@ -7,8 +7,10 @@
 
 #include <algorithm>
 
-using StyleSheetSyntax::Mistake;
-using StyleSheetSyntax::Scope;
+namespace Zelkor::Vx::UI::Kit {
+
+using StyleSheetChecker::Mistake;
+using StyleSheetChecker::Scope;
 
 namespace {
 
@@ -17,26 +19,26 @@ constexpr int LIGHT_TEXT = 128; ///< of 255; a text that is lighter lies on a da
 
 } // namespace
 
-StyleSheetEdit::StyleSheetEdit(const QWidget* except, QWidget* parent)
+StyleSheetTextEdit::StyleSheetTextEdit(const QWidget* except, QWidget* parent)
     : ZCodeEditor(parent), highlighter(new StyleSheetHighlighter(document())),
       completer(new StyleSheetCompleter(this, except))
 {
     followColors();
 }
 
-void StyleSheetEdit::setScope(Scope newScope)
+void StyleSheetTextEdit::setScope(Scope newScope)
 {
     scope = newScope;
     check();
 }
 
-void StyleSheetEdit::check()
+void StyleSheetTextEdit::check()
 {
     const QString text = document()->toRawText().replace(QChar::ParagraphSeparator, QLatin1Char('\n'));
-    found = StyleSheetSyntax::Check(text, scope);
+    found = StyleSheetChecker::Check(text, scope);
     // Where warnings are fatal, that of Qt would end the program.
     const bool mayAsk = found.isEmpty() || !qEnvironmentVariableIsSet("QT_FATAL_WARNINGS");
-    accepted = mayAsk && StyleSheetVerdict::IsAccepted(source(), scope);
+    accepted = mayAsk && QtStyleSheetParser::IsAccepted(source(), scope);
     markMistakes();
     // Before the first declaration ends, it could as well be a selector.
     const bool declarationsAlone =
@@ -45,15 +47,15 @@ void StyleSheetEdit::check()
     completer->setDeclarationsAlone(declarationsAlone);
 }
 
-void StyleSheetEdit::markMistakes()
+void StyleSheetTextEdit::markMistakes()
 {
     QVector<Mark> marks;
     for (int i = 0; i < std::min(found.size(), MOST_MARKS); ++i)
-        marks.append({found[i].position, StyleSheetSyntax::Describe(found[i].problem)});
+        marks.append({found[i].position, StyleSheetChecker::Describe(found[i].problem)});
     setMarks(marks);
 }
 
-void StyleSheetEdit::goToNextMistake()
+void StyleSheetTextEdit::goToNextMistake()
 {
     if (found.isEmpty())
         return;
@@ -64,13 +66,13 @@ void StyleSheetEdit::goToNextMistake()
     setFocus();
 }
 
-void StyleSheetEdit::loadText(const QString& text)
+void StyleSheetTextEdit::loadText(const QString& text)
 {
     original = text;
     setPlainText(text);
 }
 
-void StyleSheetEdit::replaceText(const QString& text)
+void StyleSheetTextEdit::replaceText(const QString& text)
 {
     original = text;
     const int here = textCursor().position();
@@ -81,31 +83,33 @@ void StyleSheetEdit::replaceText(const QString& text)
     setTextCursor(cursor);
 }
 
-QString StyleSheetEdit::source() const
+QString StyleSheetTextEdit::source() const
 {
-    return LineEnds::Restore(original, document()->toRawText());
+    return LineEndings::Restore(original, document()->toRawText());
 }
 
-void StyleSheetEdit::complete()
+void StyleSheetTextEdit::complete()
 {
     completer->open();
 }
 
 // By the text when it is enabled: it is readable then, whatever the ground is made of.
-void StyleSheetEdit::followColors()
+void StyleSheetTextEdit::followColors()
 {
     highlighter->setOnDark(palette().color(QPalette::Active, QPalette::Text).lightness() > LIGHT_TEXT);
 }
 
-void StyleSheetEdit::changeEvent(QEvent* event)
+void StyleSheetTextEdit::changeEvent(QEvent* event)
 {
     ZCodeEditor::changeEvent(event);
     if (event->type() == QEvent::PaletteChange || event->type() == QEvent::StyleChange)
         followColors();
 }
 
-void StyleSheetEdit::showEvent(QShowEvent* event)
+void StyleSheetTextEdit::showEvent(QShowEvent* event)
 {
     ZCodeEditor::showEvent(event);
     followColors();
 }
+
+} // namespace Zelkor::Vx::UI::Kit

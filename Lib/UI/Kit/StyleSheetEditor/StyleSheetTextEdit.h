@@ -3,20 +3,22 @@
 #include <UI/Kit/StyleSheetEditor/StyleSheetChecker.h>
 #include <UI/Kit/ZCodeEditor.h>
 
+namespace Zelkor::Vx::UI::Kit {
+
 class StyleSheetCompleter;
 class StyleSheetHighlighter;
 
 /// A code editor that knows style sheets: it colours them, offers names, and marks mistakes when it is told to look.
-class StyleSheetEdit : public ZCodeEditor
+class StyleSheetTextEdit : public ZCodeEditor
 {
     Q_OBJECT
 
 public:
     /// Widgets within `except` are not looked at for names.
-    explicit StyleSheetEdit(const QWidget* except, QWidget* parent = nullptr);
+    explicit StyleSheetTextEdit(const QWidget* except, QWidget* parent = nullptr);
 
     /// For whom the sheet is; for the application at first.
-    void setScope(StyleSheetSyntax::Scope scope);
+    void setScope(StyleSheetChecker::Scope scope);
 
     /// Looks for mistakes in the text as it is, and marks them.
     void check();
@@ -25,7 +27,7 @@ public:
     void markMistakes();
 
     /// Those that the last look found.
-    const QVector<StyleSheetSyntax::Mistake>& mistakes() const { return found; }
+    const QVector<StyleSheetChecker::Mistake>& mistakes() const { return found; }
 
     /// Whether Qt accepts the text that was looked at last, with or without mistakes.
     bool isAccepted() const { return accepted; }
@@ -56,7 +58,9 @@ private:
     StyleSheetHighlighter* highlighter;
     StyleSheetCompleter* completer;
     QString original; ///< the text that was set last
-    StyleSheetSyntax::Scope scope = StyleSheetSyntax::Scope::APPLICATION;
-    QVector<StyleSheetSyntax::Mistake> found;
+    StyleSheetChecker::Scope scope = StyleSheetChecker::Scope::APPLICATION;
+    QVector<StyleSheetChecker::Mistake> found;
     bool accepted = true;
 };
+
+} // namespace Zelkor::Vx::UI::Kit

@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-namespace StyleSheetTokens {
+namespace Zelkor::Vx::UI::Kit::StyleSheetTokenizer {
 
 namespace {
 
@@ -217,4 +217,4 @@ Position Position::unpack(int packed)
     return position;
 }
 
-} // namespace StyleSheetTokens
+} // namespace Zelkor::Vx::UI::Kit::StyleSheetTokenizer

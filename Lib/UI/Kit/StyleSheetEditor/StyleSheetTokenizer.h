@@ -5,7 +5,7 @@
 
 /// The words of a style sheet, and where in it they stand. Pure functions on text; the checker, the colours and the
 /// completion of the style sheet editor share them.
-namespace StyleSheetTokens {
+namespace Zelkor::Vx::UI::Kit::StyleSheetTokenizer {
 
 enum class Kind {
     SPACE,
@@ -58,4 +58,4 @@ struct Position
     static Position unpack(int packed);
 };
 
-} // namespace StyleSheetTokens
+} // namespace Zelkor::Vx::UI::Kit::StyleSheetTokenizer

@@ -9,14 +9,14 @@
 
 #include <algorithm>
 
-namespace StyleSheetNames {
+namespace Zelkor::Vx::UI::Kit::StyleSheetVocabulary {
 
 namespace {
 
-using StyleSheetTokens::Kind;
-using StyleSheetTokens::Place;
-using StyleSheetTokens::Position;
-using StyleSheetTokens::Token;
+using StyleSheetTokenizer::Kind;
+using StyleSheetTokenizer::Place;
+using StyleSheetTokenizer::Position;
+using StyleSheetTokenizer::Token;
 
 const QString PREFIX = QStringLiteral("qproperty-");
 
@@ -137,7 +137,7 @@ Names Collect(const QWidget* except)
 int PrefixLength(const QString& before)
 {
     int length = 0;
-    while (length < before.size() && StyleSheetTokens::IsNameLetter(before[before.size() - 1 - length]))
+    while (length < before.size() && StyleSheetTokenizer::IsNameLetter(before[before.size() - 1 - length]))
         ++length;
     return length;
 }
@@ -145,7 +145,7 @@ int PrefixLength(const QString& before)
 QStringList Candidates(const QString& before, const Names& names, bool declarationsAlone)
 {
     const QString text = before.left(before.size() - PrefixLength(before));
-    const QVector<Token> tokens = StyleSheetTokens::Tokenize(text);
+    const QVector<Token> tokens = StyleSheetTokenizer::Tokenize(text);
     if (!tokens.isEmpty() && !tokens.last().isClosed)
         return {};
     Position at;
@@ -173,4 +173,4 @@ QStringList Candidates(const QString& before, const Names& names, bool declarati
     return {};
 }
 
-} // namespace StyleSheetNames
+} // namespace Zelkor::Vx::UI::Kit::StyleSheetVocabulary

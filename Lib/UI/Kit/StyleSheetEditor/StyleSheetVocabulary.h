@@ -6,7 +6,7 @@
 class QWidget;
 
 /// The names that a style sheet of the running application can have.
-namespace StyleSheetNames {
+namespace Zelkor::Vx::UI::Kit::StyleSheetVocabulary {
 
 /// What there is at one time. Sorted, each name once.
 struct Names
@@ -28,4 +28,4 @@ int PrefixLength(const QString& before);
 /// With `declarationsAlone`, the sheet has no selector.
 QStringList Candidates(const QString& before, const Names& names, bool declarationsAlone = false);
 
-} // namespace StyleSheetNames
+} // namespace Zelkor::Vx::UI::Kit::StyleSheetVocabulary

@@ -7,6 +7,8 @@
 #include <QWidget>
 #include <QWindow>
 
+namespace Zelkor::Vx::UI::Kit {
+
 namespace {
 
 // A press goes to a window of the window system, which has Qt move the focus, and from there to a widget.
@@ -22,15 +24,15 @@ QWidget* WidgetAt(QWindow* window, const QPoint& place)
 
 } // namespace
 
-ZWidgetPicker::ZWidgetPicker(QWidget* except, QObject* parent) : QObject(parent), except(except) {}
+WidgetPicker::WidgetPicker(QWidget* except, QObject* parent) : QObject(parent), except(except) {}
 
-ZWidgetPicker::~ZWidgetPicker()
+WidgetPicker::~WidgetPicker()
 {
     if (running)
         QApplication::restoreOverrideCursor();
 }
 
-void ZWidgetPicker::start()
+void WidgetPicker::start()
 {
     if (running)
         return;
@@ -40,7 +42,7 @@ void ZWidgetPicker::start()
     QApplication::setOverrideCursor(Qt::CrossCursor);
 }
 
-void ZWidgetPicker::stop()
+void WidgetPicker::stop()
 {
     if (!running)
         return;
@@ -51,7 +53,7 @@ void ZWidgetPicker::stop()
     Q_EMIT stopped();
 }
 
-bool ZWidgetPicker::isPickable(const QWidget* widget) const
+bool WidgetPicker::isPickable(const QWidget* widget) const
 {
     // Pop-ups and dialogs are windows of their own, in which Qt sees no descendants.
     const QObject* part = widget;
@@ -60,7 +62,7 @@ bool ZWidgetPicker::isPickable(const QWidget* widget) const
     return widget && !part;
 }
 
-bool ZWidgetPicker::eventFilter(QObject* watched, QEvent* event)
+bool WidgetPicker::eventFilter(QObject* watched, QEvent* event)
 {
     QPointer<QWidget> widget = qobject_cast<QWidget*>(watched);
     auto* window = qobject_cast<QWindow*>(watched);
@@ -108,3 +110,5 @@ bool ZWidgetPicker::eventFilter(QObject* watched, QEvent* event)
     }
     return QObject::eventFilter(watched, event);
 }
+
+} // namespace Zelkor::Vx::UI::Kit

@@ -4,16 +4,18 @@
 
 class QWidget;
 
+namespace Zelkor::Vx::UI::Kit {
+
 /// Lets a person choose a widget of the application with the mouse. While it runs, a click chooses the widget under the
 /// pointer and does nothing else; Escape gives up.
-class ZWidgetPicker : public QObject
+class WidgetPicker : public QObject
 {
     Q_OBJECT
 
 public:
     /// Clicks on `except` and within it are left alone.
-    explicit ZWidgetPicker(QWidget* except, QObject* parent = nullptr);
-    ~ZWidgetPicker() override;
+    explicit WidgetPicker(QWidget* except, QObject* parent = nullptr);
+    ~WidgetPicker() override;
 
     bool isRunning() const { return running; }
 
@@ -42,3 +44,5 @@ private:
     bool swallowsRelease = false;    ///< of the button whose press chose
     bool isReleasedInWindow = false; ///< of the window system, which the press came to; else in a widget
 };
+
+} // namespace Zelkor::Vx::UI::Kit

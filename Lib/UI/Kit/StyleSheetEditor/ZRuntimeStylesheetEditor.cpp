@@ -24,8 +24,10 @@
 #include <functional>
 #include <utility>
 
-using StyleSheetSyntax::Mistake;
-using StyleSheetSyntax::Scope;
+using namespace Zelkor::Vx::UI;
+using namespace Zelkor::Vx::UI::Kit;
+using StyleSheetChecker::Mistake;
+using StyleSheetChecker::Scope;
 
 namespace {
 
@@ -77,8 +79,8 @@ struct ZRuntimeStylesheetEditor::Impl
     void saveAgain();
 
     ZRuntimeStylesheetEditor* const window;
-    StyleSheetEditorView view;
-    ZWidgetPicker* const picker;
+    StyleSheetEditorUi view;
+    WidgetPicker* const picker;
     StyleSheetTarget target;
     QString fileName;
     bool hasByteOrderMark = false; ///< in the file
@@ -89,7 +91,7 @@ struct ZRuntimeStylesheetEditor::Impl
 };
 
 ZRuntimeStylesheetEditor::Impl::Impl(ZRuntimeStylesheetEditor* window)
-    : window(window), view(window), picker(new ZWidgetPicker(window, window))
+    : window(window), view(window), picker(new WidgetPicker(window, window))
 {
     pause.setSingleShot(true);
     pause.setInterval(PAUSE);
@@ -100,7 +102,7 @@ ZRuntimeStylesheetEditor::Impl::Impl(ZRuntimeStylesheetEditor* window)
 ZRuntimeStylesheetEditor::ZRuntimeStylesheetEditor(QWidget* parent)
     : QWidget(parent), impl(std::make_unique<Impl>(this))
 {
-    Zelkor::Vx::UI::Common::AccessibleFactory<ZRuntimeStylesheetEditor, AccessibleEditor>::Install();
+    Common::AccessibleFactory<ZRuntimeStylesheetEditor, AccessibleEditor>::Install();
     resize(WINDOW_SIZE);
     impl->retranslate();
     impl->readUntouched();
@@ -122,9 +124,10 @@ void ZRuntimeStylesheetEditor::Impl::connectParts()
     // Whoever hears of it may delete the window, which the box would not survive before it is done.
     connect(view.typingBox, &QCheckBox::toggled, window, &ZRuntimeStylesheetEditor::applyingWhileTypingChanged,
             Qt::QueuedConnection);
-    connect(view.question, &ZQuestionBar::saveWanted, &context, [this] { saveAgain(); });
-    connect(view.targetBox, &StyleSheetTargetBox::chosen, &context, [this](QWidget* widget) { chooseTarget(widget); });
-    connect(view.targetBox, &StyleSheetTargetBox::gone, &context, [this] {
+    connect(view.question, &SaveChangesBar::saveWanted, &context, [this] { saveAgain(); });
+    connect(view.targetBox, &StyleSheetTargetComboBox::chosen, &context,
+            [this](QWidget* widget) { chooseTarget(widget); });
+    connect(view.targetBox, &StyleSheetTargetComboBox::gone, &context, [this] {
         say([] { return ZRuntimeStylesheetEditor::tr("The widget is gone. Choose another one."); }, true);
     });
     connect(view.pickButton, &QToolButton::toggled, &context, [this](bool on) {
@@ -133,13 +136,13 @@ void ZRuntimeStylesheetEditor::Impl::connectParts()
         picker->start();
         say([] { return ZRuntimeStylesheetEditor::tr("Click on a widget of the application, or press Escape."); });
     });
-    connect(picker, &ZWidgetPicker::pointed, &context,
-            [this](QWidget* widget) { say([name = StyleSheetTargetBox::nameOf(widget)] { return name; }); });
-    connect(picker, &ZWidgetPicker::stopped, &context, [this] {
+    connect(picker, &WidgetPicker::pointed, &context,
+            [this](QWidget* widget) { say([name = StyleSheetTargetComboBox::nameOf(widget)] { return name; }); });
+    connect(picker, &WidgetPicker::stopped, &context, [this] {
         view.pickButton->setChecked(false);
         say({});
     });
-    connect(picker, &ZWidgetPicker::picked, &context, [this](QWidget* widget) {
+    connect(picker, &WidgetPicker::picked, &context, [this](QWidget* widget) {
         window->setTarget(widget);
         // The click has brought the picked window to the front, and one picks in order to write.
         window->window()->raise();
@@ -192,7 +195,7 @@ QString ZRuntimeStylesheetEditor::Impl::mistake() const
         return {};
     const Mistake& first = mistakes().first();
     const QString text = ZRuntimeStylesheetEditor::tr("%1: %2").arg(Place(first.line, first.column),
-                                                                    StyleSheetSyntax::Describe(first.problem));
+                                                                    StyleSheetChecker::Describe(first.problem));
     if (mistakes().size() == 1)
         return text;
     return text + QLatin1Char(' ') + ZRuntimeStylesheetEditor::tr("(and %n more)", nullptr, mistakes().size() - 1);
@@ -293,7 +296,7 @@ bool ZRuntimeStylesheetEditor::apply()
 void ZRuntimeStylesheetEditor::Impl::applyText()
 {
     target.apply(window->text());
-    const QString name = target.widget() ? StyleSheetTargetBox::nameOf(target.widget()) : QString();
+    const QString name = target.widget() ? StyleSheetTargetComboBox::nameOf(target.widget()) : QString();
     const auto message = [this, name] {
         const QString done = name.isEmpty() ? ZRuntimeStylesheetEditor::tr("Applied to the application.")
                                             : ZRuntimeStylesheetEditor::tr("Applied to %1.").arg(name);

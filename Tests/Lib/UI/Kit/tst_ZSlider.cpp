@@ -13,6 +13,8 @@
 
 #include <functional>
 
+using namespace Zelkor::Vx::UI::Kit;
+
 using Thumb = ZSliderThumb;
 
 namespace {

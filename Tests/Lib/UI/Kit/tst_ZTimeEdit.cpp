@@ -9,6 +9,8 @@
 #include <QLineEdit>
 #include <QSignalSpy>
 
+using namespace Zelkor::Vx::UI::Kit;
+
 namespace {
 
 // A format and what a person does to times in it: the text before, the keys and the text after. In a text, a bar is the

@@ -12,6 +12,8 @@
 
 #include <limits>
 
+using namespace Zelkor::Vx::UI::Kit;
+
 using Values = QMap<qint64, qint64>; // of times, or the other way
 using Numbers = QVector<qint64>;
 

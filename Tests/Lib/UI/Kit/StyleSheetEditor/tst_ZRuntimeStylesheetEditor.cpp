@@ -29,8 +29,9 @@
 #include <unistd.h>
 #endif
 
-using StyleSheetSyntax::Problem;
-using StyleSheetSyntax::Scope;
+using namespace Zelkor::Vx::UI::Kit;
+using StyleSheetChecker::Problem;
+using StyleSheetChecker::Scope;
 
 namespace {
 
@@ -106,15 +107,15 @@ private Q_SLOTS:
         };
         for (const Row& row : rows) {
             InRow(row.sheet);
-            const auto found = StyleSheetSyntax::Check(row.sheet);
+            const auto found = StyleSheetChecker::Check(row.sheet);
             QCOMPARE(found.size(), row.line > 0 ? 1 : 0);
             for (const auto& mistake : found) {
                 QCOMPARE(QPoint(mistake.column, mistake.line), QPoint(row.column, row.line));
-                QVERIFY(mistake.problem == row.problem && !StyleSheetSyntax::Describe(mistake.problem).isEmpty());
+                QVERIFY(mistake.problem == row.problem && !StyleSheetChecker::Describe(mistake.problem).isEmpty());
             }
         }
-        QCOMPARE(StyleSheetSyntax::Check("A { b c; d }").size(), 2);
-        QVERIFY(StyleSheetSyntax::Check("a: b; c: d", Scope::WIDGET).isEmpty());
+        QCOMPARE(StyleSheetChecker::Check("A { b c; d }").size(), 2);
+        QVERIFY(StyleSheetChecker::Check("a: b; c: d", Scope::WIDGET).isEmpty());
     }
 
     void refusesWhatQtRefuses_data()
@@ -141,10 +142,10 @@ private Q_SLOTS:
 
     void refusedPartIsFound()
     {
-        const auto inRule = StyleSheetSyntax::Check("A { b: c }\nB { c: d;\n  d: e,,f; }\nC { }");
+        const auto inRule = StyleSheetChecker::Check("A { b: c }\nB { c: d;\n  d: e,,f; }\nC { }");
         QCOMPARE(inRule.size(), 1);
         QCOMPARE(QPoint(inRule[0].column, inRule[0].line), QPoint(3, 3));
-        const auto atRule = StyleSheetSyntax::Check("A { }\n@media 5 { B { } }\nC { }");
+        const auto atRule = StyleSheetChecker::Check("A { }\n@media 5 { B { } }\nC { }");
         QCOMPARE(atRule.size(), 1);
         QCOMPARE(QPoint(atRule[0].column, atRule[0].line), QPoint(1, 2));
     }
@@ -163,8 +164,8 @@ private Q_SLOTS:
     {
         // Qt warns of images that it cannot load and of properties that it cannot set.
         const QString sheet = "* { qproperty-no: 1; image: url(:/no) } *::close-button { background-image: url(:/no) }";
-        QVERIFY(StyleSheetSyntax::Check(sheet, Scope::WIDGET).isEmpty());
-        QVERIFY(!StyleSheetSyntax::Check("A {{ }", Scope::WIDGET).isEmpty());
+        QVERIFY(StyleSheetChecker::Check(sheet, Scope::WIDGET).isEmpty());
+        QVERIFY(!StyleSheetChecker::Check("A {{ }", Scope::WIDGET).isEmpty());
         ExpectWarning("heard again");
         qWarning("heard again");
     }
@@ -258,7 +259,7 @@ private Q_SLOTS:
         editor.show();
         QSignalSpy clicked(button, &QPushButton::clicked);
         auto* pick = editor.findChild<QToolButton*>();
-        auto* picker = editor.findChild<ZWidgetPicker*>();
+        auto* picker = editor.findChild<WidgetPicker*>();
         QTest::mouseClick(pick, Qt::LeftButton);
         QVERIFY(picker->isRunning());
         window.activateWindow();
@@ -295,7 +296,7 @@ private Q_SLOTS:
     void findsAndReplaces()
     {
         ZCodeEditor editor;
-        ZSearchBar bar(&editor);
+        SearchBar bar(&editor);
         editor.setPlainText("red Red\nredder red");
         bar.setSearchedText("red");
         QVector<int> places;
