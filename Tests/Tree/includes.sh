@@ -43,23 +43,23 @@ done
 
 # No widget includes another, but for these pairs; what is no class of its own (a placement, a pump) belongs to one.
 allowed='WebCameraPreviewStream:VideoPreviewWidget
-FramePump:VideoPreviewWidget
+FrameReaderThread:VideoPreviewWidget
 VideoPreviewWidget:PreviewFeeder
 WebCameraPreviewStream:PreviewFeeder
-WebCameraPreviewStream:FramePump
+WebCameraPreviewStream:FrameReaderThread
 WebCameraPreviewStream:RetrySchedule
 WebCameraPreviewStream:VideoModeChoice
 PopUpPlacement:ButtonWithPopUpContainer
 ButtonWithPopUpContainer:PopUpPlacement
-VolumeSlider:LevelMeter
-PixmapCut:PixmapWidget
-PixmapWidget:PixmapCut
-ZGraphicsShadowEffect:ShadowRim
+VolumeSlider:LevelMeterGeometry
+PixmapCrop:PixmapWidget
+PixmapWidget:PixmapCrop
+ZGraphicsShadowEffect:InnerShadow
 FastPresetButton:ButtonWithLabels
 CustomTabWidget:HorizontalTabBar
-SliderWithTickLabels:TickLabelRow
+SliderWithTickLabels:TickLabelLayout
 SliderWithTickLabels:TickSlider
-TickLabelRow:TickSlider'
+TickLabelLayout:TickSlider'
 while IFS=: read -r file _ include; do
     from=$(basename "${file%.*}")
     to=$(sed -E 's|.*UI/Widgets/([A-Za-z]+)\.h.*|\1|' <<<"$include")

@@ -1,7 +1,7 @@
 #include <UI/Widgets/PixmapWidget.h>
 
 #include <UI/Common/AccessibleFactory.h>
-#include <UI/Widgets/PixmapCut.h>
+#include <UI/Widgets/PixmapCrop.h>
 
 #include <QPainter>
 
@@ -89,9 +89,9 @@ void PixmapWidget::paintEvent(QPaintEvent* event)
     if (impl->scaled.size() != target) {
         const bool masked = impl->maskMode != MASK_NONE;
         const QRect cut =
-            masked ? PixmapCut::CutRect(impl->picture.size(), size(), impl->maskAnchor) : impl->picture.rect();
+            masked ? PixmapCrop::CutRect(impl->picture.size(), size(), impl->maskAnchor) : impl->picture.rect();
         impl->scaled =
-            QPixmap::fromImage(PixmapCut::Render(impl->picture, cut, target, impl->maskMode == MASK_ELLIPSE));
+            QPixmap::fromImage(PixmapCrop::Render(impl->picture, cut, target, impl->maskMode == MASK_ELLIPSE));
     }
     if (impl->scaled.isNull())
         return;

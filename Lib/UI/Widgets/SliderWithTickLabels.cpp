@@ -5,7 +5,7 @@
 #include <UI/Common/BoxLayouts.h>
 #include <UI/Common/MirroredStyle.h>
 #include <UI/Kit/ZLabel.h>
-#include <UI/Widgets/TickLabelRow.h>
+#include <UI/Widgets/TickLabelLayout.h>
 #include <UI/Widgets/TickSlider.h>
 
 #include <Zelkor/Util/WidgetStyle.h>
@@ -55,7 +55,7 @@ SliderWithTickLabels::SliderWithTickLabels(QWidget* parent) : ZFrame(parent), im
     impl->slider->setObjectName(QStringLiteral("slider"));
     impl->labelsFrame = new ZFrame(this);
     impl->labelsFrame->setObjectName(QStringLiteral("labelsFrame"));
-    impl->labelsLayout = new TickLabelRow(impl->labelsFrame, impl->slider);
+    impl->labelsLayout = new TickLabelLayout(impl->labelsFrame, impl->slider);
 
     impl->slider->setRange(0, 0);
     impl->slider->setTickInterval(1);

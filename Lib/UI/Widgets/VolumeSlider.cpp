@@ -2,7 +2,7 @@
 
 #include <UI/Common/ClampToWidgetSize.h>
 #include <UI/Common/LogSource.h>
-#include <UI/Widgets/LevelMeter.h>
+#include <UI/Widgets/LevelMeterGeometry.h>
 
 #include <QLinearGradient>
 #include <QPainter>
@@ -44,9 +44,9 @@ void VolumeSlider::SetVolumes(float newVolume, float newLevel)
         newVolume = 0;
     }
     const auto barsOf = [this](float ofVolume, float ofLevel) {
-        return LevelMeter::BarsOf({size(), peakValueRectOffsetX, peakValueRectOffsetY, ofVolume, ofLevel});
+        return LevelMeterGeometry::BarsOf({size(), peakValueRectOffsetX, peakValueRectOffsetY, ofVolume, ofLevel});
     };
-    const LevelMeter::Bars before = barsOf(volume, level);
+    const LevelMeterGeometry::Bars before = barsOf(volume, level);
     volume = newVolume;
     level = newLevel;
     if (std::isfinite(volume)) {
@@ -55,7 +55,7 @@ void VolumeSlider::SetVolumes(float newVolume, float newLevel)
         if (qAbs(value() - wanted) > IGNORED_STEP)
             setValue(wanted);
     }
-    const QRect changed = LevelMeter::ChangedRows(before, barsOf(volume, level), borderRadius);
+    const QRect changed = LevelMeterGeometry::ChangedRows(before, barsOf(volume, level), borderRadius);
     if (!changed.isEmpty())
         update(changed);
 }
@@ -77,8 +77,8 @@ void VolumeSlider::ShowValue(int value)
 
 void VolumeSlider::paintEvent(QPaintEvent* event)
 {
-    const LevelMeter::Bars bars =
-        LevelMeter::BarsOf({size(), peakValueRectOffsetX, peakValueRectOffsetY, volume, level});
+    const LevelMeterGeometry::Bars bars =
+        LevelMeterGeometry::BarsOf({size(), peakValueRectOffsetX, peakValueRectOffsetY, volume, level});
     const auto pick = [this](const QColor& enabled, const QColor& disabled) {
         return isEnabled() ? enabled : disabled;
     };

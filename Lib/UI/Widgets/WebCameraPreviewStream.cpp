@@ -3,7 +3,7 @@
 #include <UI/Common/CatchException.h>
 #include <UI/Common/GuiThreadCall.h>
 #include <UI/Common/LogSource.h>
-#include <UI/Widgets/FramePump.h>
+#include <UI/Widgets/FrameReaderThread.h>
 #include <UI/Widgets/PreviewFeeder.h>
 #include <UI/Widgets/RetrySchedule.h>
 #include <UI/Widgets/VideoModeChoice.h>
@@ -77,7 +77,7 @@ private:
     void StartSession(const Session& started);
     void StartPump(const Observer* from, Acquis::IFrameProvider& provider);
     void RetryIfCurrent(const Observer* from);
-    void EndPump(const std::shared_ptr<FramePump>& ended);
+    void EndPump(const std::shared_ptr<FrameReaderThread>& ended);
     void RequestRetry();
     void ArmRetryTimer();
     void RunRetryTimer();
@@ -94,7 +94,7 @@ private:
     double frameRate = 1.0;
     boost::intrusive_ptr<Acquis::IDeviceSettings> settingsHandle;
     Session session;
-    std::shared_ptr<FramePump> pump;
+    std::shared_ptr<FrameReaderThread> pump;
     unsigned epoch = 0;
     RetrySchedule retries;
 };
@@ -186,7 +186,7 @@ void WebCameraPreviewStream::Impl::Start()
 void WebCameraPreviewStream::Impl::Stop()
 {
     Session stopped;
-    std::shared_ptr<FramePump> ended;
+    std::shared_ptr<FrameReaderThread> ended;
     {
         const std::lock_guard<std::mutex> lock(mutex);
         ++epoch;
@@ -208,7 +208,7 @@ void WebCameraPreviewStream::Impl::Stop()
 bool WebCameraPreviewStream::Impl::Retry()
 {
     Session failed;
-    std::shared_ptr<FramePump> ended;
+    std::shared_ptr<FrameReaderThread> ended;
     unsigned forEpoch;
     {
         const std::lock_guard<std::mutex> lock(mutex);
@@ -279,7 +279,7 @@ boost::intrusive_ptr<Acquis::IDeviceSettings> WebCameraPreviewStream::Impl::Sett
 void WebCameraPreviewStream::Impl::HandleStarted(const Observer* from,
                                                  const boost::intrusive_ptr<Acquis::IFrameProvider>& provider)
 {
-    std::shared_ptr<FramePump> previous;
+    std::shared_ptr<FrameReaderThread> previous;
     {
         const std::lock_guard<std::mutex> lock(mutex);
         if (!IsCurrent(from) || !provider)
@@ -307,8 +307,8 @@ void WebCameraPreviewStream::Impl::StartPump(const Observer* from, Acquis::IFram
         return;
     // Started under the lock, so that whoever finds the pump finds its thread.
     const auto onFailure = [observer = session.observer](const std::string& what) { observer->HandleBrokenPump(what); };
-    auto started = std::make_shared<FramePump>(gate, std::move(reader), frameRate, onFailure);
-    FramePump::Start(started);
+    auto started = std::make_shared<FrameReaderThread>(gate, std::move(reader), frameRate, onFailure);
+    FrameReaderThread::Start(started);
     pump = std::move(started);
 }
 
@@ -327,7 +327,7 @@ void WebCameraPreviewStream::Impl::HandleBrokenPump(const Observer* from, const 
 
 void WebCameraPreviewStream::Impl::HandleStopped(const Observer* from)
 {
-    std::shared_ptr<FramePump> ended;
+    std::shared_ptr<FrameReaderThread> ended;
     {
         const std::lock_guard<std::mutex> lock(mutex);
         if (!IsCurrent(from))
@@ -395,7 +395,7 @@ void WebCameraPreviewStream::Impl::StartSession(const Session& started)
 }
 
 /// Stops a pump and takes it out of the state, unless another one is there already.
-void WebCameraPreviewStream::Impl::EndPump(const std::shared_ptr<FramePump>& ended)
+void WebCameraPreviewStream::Impl::EndPump(const std::shared_ptr<FrameReaderThread>& ended)
 {
     if (!ended)
         return;

@@ -1,6 +1,6 @@
 #include <UI/Widgets/ZGraphicsShadowEffect.h>
 
-#include <UI/Widgets/ShadowRim.h>
+#include <UI/Widgets/InnerShadow.h>
 
 #include <QPainter>
 
@@ -96,13 +96,13 @@ void ZGraphicsShadowEffect::draw(QPainter* painter)
     const QPixmap source = sourcePixmap(Qt::LogicalCoordinates, nullptr, QGraphicsEffect::PadToEffectiveBoundingRect);
     const qreal ratio = source.devicePixelRatio();
     const QSize size(qRound(source.width() / ratio), qRound(source.height() / ratio));
-    const ShadowRim::Input rim{size, impl->offset, impl->brightnessLevel, impl->color.rgb()};
+    const InnerShadow::Input rim{size, impl->offset, impl->brightnessLevel, impl->color.rgb()};
     painter->drawPixmap(QPointF(0, 0), source);
     // Where logical pixels share device pixels, bands drawn one by one would show seams.
     if (ratio == std::floor(ratio))
-        ShadowRim::DrawBands(*painter, rim);
+        InnerShadow::DrawBands(*painter, rim);
     else // over the source to its last pixel, where that was rounded to whole ones
-        painter->drawImage(QRectF(QPointF(0, 0), QSizeF(source.size()) / ratio), ShadowRim::WholeImage(rim));
+        painter->drawImage(QRectF(QPointF(0, 0), QSizeF(source.size()) / ratio), InnerShadow::WholeImage(rim));
 }
 
 } // namespace Zelkor

@@ -1,4 +1,4 @@
-#include <UI/Widgets/PixmapCut.h>
+#include <UI/Widgets/PixmapCrop.h>
 #include <UI/Widgets/PixmapWidget.h>
 
 #include <Support/Picture.h>
@@ -7,7 +7,7 @@
 #include <QPainter>
 
 using Zelkor::Vx::PixmapWidget;
-namespace PixmapCut = Zelkor::Vx::PixmapCut;
+namespace PixmapCrop = Zelkor::Vx::PixmapCrop;
 
 namespace {
 
@@ -57,9 +57,9 @@ private Q_SLOTS:
         for (const auto& [name, picture, area, corners, size] : rows) {
             InRow(name);
             for (int anchor = 0; anchor < 5; ++anchor)
-                QCOMPARE(PixmapCut::CutRect(picture, area, PixmapWidget::MaskAnchor(anchor)),
+                QCOMPARE(PixmapCrop::CutRect(picture, area, PixmapWidget::MaskAnchor(anchor)),
                          QRect(corners[anchor], size));
-            QCOMPARE(PixmapCut::CutRect(picture, area, PixmapWidget::MaskAnchor(9)), QRect(QPoint(), size));
+            QCOMPARE(PixmapCrop::CutRect(picture, area, PixmapWidget::MaskAnchor(9)), QRect(QPoint(), size));
         }
     }
 
@@ -70,7 +70,7 @@ private Q_SLOTS:
         for (const int side : {300, 150, 97, 40, 700}) {
             InRow(QString::number(side));
             const QSize size(side, side);
-            const QImage rendered = PixmapCut::Render(picture, cut, size, true);
+            const QImage rendered = PixmapCrop::Render(picture, cut, size, true);
             const QImage expected = Straightforward(picture, cut, size);
             QCOMPARE(rendered.size(), size);
             // An edge is opaque in other steps in a large picture than in a small one; inside there is rounding alone.

@@ -1,4 +1,4 @@
-#include <UI/Widgets/LevelMeter.h>
+#include <UI/Widgets/LevelMeterGeometry.h>
 #include <UI/Widgets/VolumeSlider.h>
 
 #include <Support/LogCapture.h>
@@ -13,7 +13,7 @@
 #include <cmath>
 
 using Zelkor::Vx::VolumeSlider;
-namespace LevelMeter = Zelkor::Vx::LevelMeter;
+namespace LevelMeterGeometry = Zelkor::Vx::LevelMeterGeometry;
 
 class tst_VolumeSlider : public Support::TestCase
 {
@@ -41,7 +41,7 @@ private Q_SLOTS:
         };
         for (const auto& [name, size, offset, volume, level, levelBar, volumeBar] : rows) {
             InRow(name);
-            const auto bars = LevelMeter::BarsOf({size, offset.x(), offset.y(), volume, level});
+            const auto bars = LevelMeterGeometry::BarsOf({size, offset.x(), offset.y(), volume, level});
             QCOMPARE(bars.level, levelBar);
             QCOMPARE(bars.volume, volumeBar);
 

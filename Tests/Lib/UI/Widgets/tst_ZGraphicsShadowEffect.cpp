@@ -1,4 +1,4 @@
-#include <UI/Widgets/ShadowRim.h>
+#include <UI/Widgets/InnerShadow.h>
 #include <UI/Widgets/ZGraphicsShadowEffect.h>
 
 #include <Support/Picture.h>
@@ -10,7 +10,7 @@
 #include <cmath>
 
 using Zelkor::ZGraphicsShadowEffect;
-namespace ShadowRim = Zelkor::ShadowRim;
+namespace InnerShadow = Zelkor::InnerShadow;
 
 namespace {
 
@@ -40,13 +40,13 @@ QImage Literal(const QSize& size, const QPointF& offset, double level, const QCo
     return image;
 }
 
-QImage Bands(const ShadowRim::Input& input, int ratio)
+QImage Bands(const InnerShadow::Input& input, int ratio)
 {
     QImage image(input.size * ratio, QImage::Format_ARGB32_Premultiplied);
     image.setDevicePixelRatio(ratio);
     image.fill(Qt::transparent);
     QPainter painter(&image);
-    ShadowRim::DrawBands(painter, input);
+    InnerShadow::DrawBands(painter, input);
     return image;
 }
 
@@ -66,10 +66,10 @@ private Q_SLOTS:
                  {QSize(40, 30), QSize(9, 9), QSize(31, 8), QSize(1, 1), QSize(2, 40), QSize(0, 0)}) {
                 for (const double level : {0.1, 1.0, 1e300}) {
                     InRow(QString("offset %1 by %2, level %3").arg(offset.x()).arg(offset.y()).arg(level));
-                    const ShadowRim::Input input{size, offset, level, color.rgb()};
+                    const InnerShadow::Input input{size, offset, level, color.rgb()};
                     const QPointF bounded(qMin(offset.x(), 1e6), qMin(offset.y(), 1e6));
                     const QImage expected = Literal(size, bounded, level, color);
-                    QCOMPARE(ShadowRim::WholeImage(input), expected);
+                    QCOMPARE(InnerShadow::WholeImage(input), expected);
                     if (size.isEmpty())
                         continue;
                     QCOMPARE(Bands(input, 1), expected);
@@ -87,10 +87,10 @@ private Q_SLOTS:
         for (const double x : {0.0, 0.5, -0.5, -3.0, -1e300, NOT_A_NUMBER, double(INFINITY)}) {
             for (const double y : {0.0, 0.5, -7.0, 2.0, NOT_A_NUMBER, double(INFINITY)}) {
                 for (const double level : {1.0, NOT_A_NUMBER, double(INFINITY)}) {
-                    const ShadowRim::Input input{QSize(20, 16), QPointF(x, y), level, 0};
-                    QCOMPARE(Bands(input, 1), ShadowRim::WholeImage(input));
+                    const InnerShadow::Input input{QSize(20, 16), QPointF(x, y), level, 0};
+                    QCOMPARE(Bands(input, 1), InnerShadow::WholeImage(input));
                     const bool hasRim = (x > 0 || y > 0) && !std::isnan(x + y) && level > 0;
-                    QCOMPARE(qAlpha(ShadowRim::WholeImage(input).pixel(0, 0)) > 0, hasRim);
+                    QCOMPARE(qAlpha(InnerShadow::WholeImage(input).pixel(0, 0)) > 0, hasRim);
                 }
             }
         }

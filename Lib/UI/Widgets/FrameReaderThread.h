@@ -43,19 +43,19 @@ private:
 ///
 /// It is made for one run: started once, stopped for good. The schedule is absolute, so that the time spent on a frame
 /// does not add up; a late tick is not skipped but follows at once.
-class FramePump
+class FrameReaderThread
 {
 public:
     /// Receives what the reader or the preview threw; called on the pump's thread, at its end.
     using FailureHandler = std::function<void(const std::string& what)>;
 
-    FramePump(std::shared_ptr<PreviewGate> gate, boost::intrusive_ptr<Acquis::IFrameReader> reader, double frameRate,
-              FailureHandler onFailure);
-    ~FramePump();
+    FrameReaderThread(std::shared_ptr<PreviewGate> gate, boost::intrusive_ptr<Acquis::IFrameReader> reader,
+                      double frameRate, FailureHandler onFailure);
+    ~FrameReaderThread();
 
     /// Starts the thread of `pump`, which it keeps alive until it ends. Throws `std::system_error` when there are no
     /// threads left.
-    static void Start(const std::shared_ptr<FramePump>& pump);
+    static void Start(const std::shared_ptr<FrameReaderThread>& pump);
 
     /// Ends the thread. Whoever calls waits until it has ended, except the thread itself. Any thread, any number of
     /// times, once `Start` has returned.

@@ -3,7 +3,7 @@
 #include <QRect>
 
 /// The geometry of the volume slider's meter, on plain values. Internal.
-namespace Zelkor::Vx::LevelMeter {
+namespace Zelkor::Vx::LevelMeterGeometry {
 
 /// What the meter is drawn from, in pixels and shares of 1.
 struct Input
@@ -28,4 +28,4 @@ Bars BarsOf(const Input& input);
 /// when none does.
 QRect ChangedRows(const Bars& before, const Bars& after, int radius);
 
-} // namespace Zelkor::Vx::LevelMeter
+} // namespace Zelkor::Vx::LevelMeterGeometry

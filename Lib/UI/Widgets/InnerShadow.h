@@ -6,7 +6,7 @@
 class QPainter;
 
 /// The rim of the shadow effect. Internal.
-namespace Zelkor::ShadowRim {
+namespace Zelkor::InnerShadow {
 
 struct Input
 {
@@ -27,4 +27,4 @@ QImage WholeImage(const Input& input);
 /// whole image at the origin, where a logical pixel is a whole number of device pixels.
 void DrawBands(QPainter& painter, const Input& input);
 
-} // namespace Zelkor::ShadowRim
+} // namespace Zelkor::InnerShadow

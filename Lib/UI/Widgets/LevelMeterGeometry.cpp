@@ -1,10 +1,10 @@
-#include <UI/Widgets/LevelMeter.h>
+#include <UI/Widgets/LevelMeterGeometry.h>
 
 #include <UI/Common/ClampToWidgetSize.h>
 
 #include <cmath>
 
-namespace Zelkor::Vx::LevelMeter {
+namespace Zelkor::Vx::LevelMeterGeometry {
 
 namespace {
 
@@ -58,4 +58,4 @@ QRect ChangedRows(const Bars& before, const Bars& after, int radius)
     return ChangedRowsOf(before.level, after.level, radius) | ChangedRowsOf(before.volume, after.volume, radius);
 }
 
-} // namespace Zelkor::Vx::LevelMeter
+} // namespace Zelkor::Vx::LevelMeterGeometry

@@ -1,4 +1,4 @@
-#include <UI/Widgets/FramePump.h>
+#include <UI/Widgets/FrameReaderThread.h>
 
 #include <UI/Common/CatchException.h>
 #include <UI/Widgets/VideoPreviewWidget.h>
@@ -58,24 +58,25 @@ void PreviewGate::Close()
     shown = nullptr;
 }
 
-FramePump::FramePump(std::shared_ptr<PreviewGate> gate, boost::intrusive_ptr<Acquis::IFrameReader> reader,
-                     double frameRate, FailureHandler onFailure)
+FrameReaderThread::FrameReaderThread(std::shared_ptr<PreviewGate> gate,
+                                     boost::intrusive_ptr<Acquis::IFrameReader> reader, double frameRate,
+                                     FailureHandler onFailure)
     : gate(std::move(gate)), reader(std::move(reader)), period(FramePeriod(frameRate)), onFailure(std::move(onFailure))
 {}
 
-FramePump::~FramePump()
+FrameReaderThread::~FrameReaderThread()
 {
     // Nobody joined, so the last reference was the thread's own and this is its end.
     if (thread.joinable())
         thread.detach();
 }
 
-void FramePump::Start(const std::shared_ptr<FramePump>& pump)
+void FrameReaderThread::Start(const std::shared_ptr<FrameReaderThread>& pump)
 {
     pump->thread = std::thread([pump] { pump->Run(); });
 }
 
-void FramePump::Stop()
+void FrameReaderThread::Stop()
 {
     {
         const std::lock_guard<std::mutex> lock(mutex);
@@ -86,7 +87,7 @@ void FramePump::Stop()
         std::call_once(joined, [this] { thread.join(); });
 }
 
-void FramePump::Run()
+void FrameReaderThread::Run()
 {
     if (!reader || !gate->IsOpen())
         return;
@@ -97,7 +98,7 @@ void FramePump::Run()
         onFailure(*failure);
 }
 
-void FramePump::ShowFrames()
+void FrameReaderThread::ShowFrames()
 {
     const auto isStopping = [this] { return stopping; };
     auto deadline = std::chrono::steady_clock::now() + period;

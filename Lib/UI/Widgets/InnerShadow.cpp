@@ -1,4 +1,4 @@
-#include <UI/Widgets/ShadowRim.h>
+#include <UI/Widgets/InnerShadow.h>
 
 #include <QPainter>
 
@@ -6,7 +6,7 @@
 #include <cmath>
 #include <vector>
 
-namespace Zelkor::ShadowRim {
+namespace Zelkor::InnerShadow {
 
 namespace {
 
@@ -110,4 +110,4 @@ void DrawBands(QPainter& painter, const Input& input)
     }
 }
 
-} // namespace Zelkor::ShadowRim
+} // namespace Zelkor::InnerShadow

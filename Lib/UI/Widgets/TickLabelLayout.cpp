@@ -1,4 +1,4 @@
-#include <UI/Widgets/TickLabelRow.h>
+#include <UI/Widgets/TickLabelLayout.h>
 
 #include <UI/Common/ClampToWidgetSize.h>
 #include <UI/Common/TextMarks.h>
@@ -39,7 +39,8 @@ QVector<int> WantedWidths(const QVector<ZLabel*>& labels)
 
 } // namespace
 
-QVector<TickLabelRow::Extent> TickLabelRow::Place(const QVector<int>& wanted, int rowWidth, int firstTick, int lastTick)
+QVector<TickLabelLayout::Extent> TickLabelLayout::Place(const QVector<int>& wanted, int rowWidth, int firstTick,
+                                                        int lastTick)
 {
     const int last = wanted.size() - 1;
     if (last == 0) {
@@ -75,7 +76,7 @@ QVector<TickLabelRow::Extent> TickLabelRow::Place(const QVector<int>& wanted, in
     return places;
 }
 
-int TickLabelRow::RoomyWidth(const QVector<int>& wanted, int inset)
+int TickLabelLayout::RoomyWidth(const QVector<int>& wanted, int inset)
 {
     const int last = wanted.size() - 1;
     if (last <= 0)
@@ -88,13 +89,13 @@ int TickLabelRow::RoomyWidth(const QVector<int>& wanted, int inset)
     return int(qMin(qint64(distance) * last + 2 * inset, qint64(QWIDGETSIZE_MAX)));
 }
 
-TickLabelRow::TickLabelRow(QWidget* frame, const TickSlider* slider) : QHBoxLayout(frame), slider(slider)
+TickLabelLayout::TickLabelLayout(QWidget* frame, const TickSlider* slider) : QHBoxLayout(frame), slider(slider)
 {
     setContentsMargins(0, 0, 0, 0);
     setSpacing(0);
 }
 
-QSize TickLabelRow::sizeHint() const
+QSize TickLabelLayout::sizeHint() const
 {
     const QMargins margins = contentsMargins();
     const int width = RoomyWidth(WantedWidths(Labels()), slider->HandleX(0, slider->width()));
@@ -102,12 +103,12 @@ QSize TickLabelRow::sizeHint() const
 }
 
 // Labels can be elided, so the slider decides how narrow the row may be.
-QSize TickLabelRow::minimumSize() const
+QSize TickLabelLayout::minimumSize() const
 {
     return {0, QHBoxLayout::minimumSize().height()};
 }
 
-void TickLabelRow::setGeometry(const QRect& rect)
+void TickLabelLayout::setGeometry(const QRect& rect)
 {
     // Not that of the box: a label that takes two widths in turn would elide its text, and ask for a layout, each time.
     QLayout::setGeometry(rect);
@@ -122,7 +123,7 @@ void TickLabelRow::setGeometry(const QRect& rect)
     }
 }
 
-QVector<ZLabel*> TickLabelRow::Labels() const
+QVector<ZLabel*> TickLabelLayout::Labels() const
 {
     QVector<ZLabel*> labels;
     for (int i = 0; i < count(); ++i) {

@@ -1,8 +1,8 @@
-#include <UI/Widgets/PixmapCut.h>
+#include <UI/Widgets/PixmapCrop.h>
 
 #include <QPainter>
 
-namespace Zelkor::Vx::PixmapCut {
+namespace Zelkor::Vx::PixmapCrop {
 
 namespace {
 
@@ -82,4 +82,4 @@ QImage Render(const QImage& picture, const QRect& cut, const QSize& size, bool e
     return grows ? scale(Ellipse(part)) : Ellipse(scale(part));
 }
 
-} // namespace Zelkor::Vx::PixmapCut
+} // namespace Zelkor::Vx::PixmapCrop

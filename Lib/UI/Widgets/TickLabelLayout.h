@@ -14,7 +14,7 @@ class TickSlider;
 /// Stretches would leave even gaps, and so put labels of different widths beside their ticks. So this layout places
 /// the labels itself: the first one begins at the edge, the last one ends there, and the others have their middle over
 /// the tick. Where two texts do not fit beside each other, the longer one gives way first.
-class TickLabelRow : public QHBoxLayout
+class TickLabelLayout : public QHBoxLayout
 {
 public:
     struct Extent
@@ -30,7 +30,7 @@ public:
     static int RoomyWidth(const QVector<int>& wanted, int inset);
 
     /// On `frame`, which stands over the slider and is as wide.
-    TickLabelRow(QWidget* frame, const TickSlider* slider);
+    TickLabelLayout(QWidget* frame, const TickSlider* slider);
 
     QSize sizeHint() const override;
     QSize minimumSize() const override;
