@@ -6,25 +6,16 @@ namespace Zelkor::Vx::PixmapCrop {
 
 namespace {
 
-// The sides on which the whole and the part have a corner in common.
-QPoint OffsetOf(const QRect& whole, const QRect& part, PixmapWidget::MaskAnchor anchor)
+// Returns the offset of `part` in `whole`. QStyle::alignedRect() rounds the centre differently.
+QPoint OffsetOf(const QRect& whole, const QRect& part, Qt::Alignment anchor)
 {
-    switch (anchor) {
-    case PixmapWidget::ANCHOR_CENTER:
+    if (anchor == Qt::AlignCenter)
         return whole.center() - part.center();
-    case PixmapWidget::ANCHOR_TOP_RIGHT:
-        return whole.topRight() - part.topRight();
-    case PixmapWidget::ANCHOR_BOTTOM_LEFT:
-        return whole.bottomLeft() - part.bottomLeft();
-    case PixmapWidget::ANCHOR_BOTTOM_RIGHT:
-        return whole.bottomRight() - part.bottomRight();
-    case PixmapWidget::ANCHOR_TOP_LEFT:
-    default:
-        return QPoint(0, 0);
-    }
+    return QPoint(anchor & Qt::AlignRight ? whole.right() - part.right() : 0,
+                  anchor & Qt::AlignBottom ? whole.bottom() - part.bottom() : 0);
 }
 
-// A part of an image, over the image's own memory where whole bytes make a pixel.
+// Returns a part of an image. Shares the image's memory where a pixel is a whole number of bytes.
 QImage PartOf(const QImage& image, const QRect& part)
 {
     if (part == image.rect())
@@ -37,7 +28,7 @@ QImage PartOf(const QImage& image, const QRect& part)
     return QImage(corner, part.width(), part.height(), image.bytesPerLine(), image.format());
 }
 
-// The image inside the ellipse that touches its sides, on transparent ground.
+// Returns the image with transparent pixels outside the inscribed ellipse.
 QImage Ellipse(const QImage& image)
 {
     QImage masked(image.size(), QImage::Format_ARGB32_Premultiplied);
@@ -52,33 +43,33 @@ QImage Ellipse(const QImage& image)
 
 } // namespace
 
-QRect CutRect(const QSize& picture, const QSize& area, PixmapWidget::MaskAnchor anchor)
+QRect CropRect(const QSize& picture, const QSize& area, Qt::Alignment anchor)
 {
     if (area.isEmpty() || picture.isEmpty())
         return QRect();
     const double shape = double(area.width()) / area.height();
-    QSizeF cut(picture.width(), picture.width() / shape);
-    if (cut.height() > picture.height())
-        cut = QSizeF(shape * picture.height(), picture.height());
-    const QRect part(QPoint(0, 0), cut.toSize());
+    QSizeF crop(picture.width(), picture.width() / shape);
+    if (crop.height() > picture.height())
+        crop = QSizeF(shape * picture.height(), picture.height());
+    const QRect part(QPoint(0, 0), crop.toSize());
     return part.translated(OffsetOf(QRect(QPoint(0, 0), picture), part, anchor));
 }
 
-QImage Render(const QImage& picture, const QRect& cut, const QSize& size, bool ellipse)
+QImage Render(const QImage& picture, const QRect& crop, const QSize& size, bool ellipse)
 {
-    if (cut.isEmpty() || size.isEmpty())
+    if (crop.isEmpty() || size.isEmpty())
         return QImage();
     const auto scale = [&](const QImage& image) {
-        // At its own size it would be returned as it is, over memory that is not its own.
+        // scaled() returns an image of the same size unchanged, which would share memory that it does not own.
         return image.size() == size ? image.copy()
                                     : image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     };
-    const QImage part = PartOf(picture, cut);
+    const QImage part = PartOf(picture, crop);
     if (!ellipse)
         return scale(part);
-    // The ellipse is drawn over the smaller of the two pictures. For one that grows the order shows: the edge is the
-    // source's and grows with it. For one that shrinks it does not.
-    const bool grows = size.width() > cut.width() || size.height() > cut.height();
+    // Masks the smaller of the two pictures. When enlarging, the order is visible: the edge of the source grows with
+    // it. When shrinking, it is not.
+    const bool grows = size.width() > crop.width() || size.height() > crop.height();
     return grows ? scale(Ellipse(part)) : Ellipse(scale(part));
 }
 

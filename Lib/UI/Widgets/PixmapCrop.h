@@ -1,17 +1,16 @@
 #pragma once
 
-#include <UI/Widgets/PixmapWidget.h>
-
 #include <QImage>
 
-/// Which part of a picture a pixmap widget shows, and how it is drawn. Internal.
+/// Computes which part of a picture a pixmap widget shows, and renders it. Internal.
 namespace Zelkor::Vx::PixmapCrop {
 
-/// The largest part of a picture that has the shape of `area`, at the anchor. Empty for an empty area.
-QRect CutRect(const QSize& picture, const QSize& area, PixmapWidget::MaskAnchor anchor);
+/// Returns the largest part of a picture that has the aspect ratio of `area`, at the given corner or in the centre.
+/// Empty for an empty area.
+QRect CropRect(const QSize& picture, const QSize& area, Qt::Alignment anchor);
 
-/// The part `cut` of the picture at exactly `size`, smoothly scaled, and with `ellipse` transparent outside the
-/// inscribed ellipse.
-QImage Render(const QImage& picture, const QRect& cut, const QSize& size, bool ellipse);
+/// Returns the part `crop` of the picture, smoothly scaled to `size`. With `ellipse`, pixels outside the inscribed
+/// ellipse are transparent.
+QImage Render(const QImage& picture, const QRect& crop, const QSize& size, bool ellipse);
 
 } // namespace Zelkor::Vx::PixmapCrop

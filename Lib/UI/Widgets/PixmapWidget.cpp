@@ -12,6 +12,23 @@ namespace {
 // In pixels of the device. A widget larger than that is never seen whole, and shall not cost gigabytes.
 constexpr QSize LARGEST_PICTURE(8192, 8192);
 
+Qt::Alignment AlignmentOf(PixmapWidget::MaskAnchor anchor)
+{
+    switch (anchor) {
+    case PixmapWidget::ANCHOR_CENTER:
+        return Qt::AlignCenter;
+    case PixmapWidget::ANCHOR_TOP_RIGHT:
+        return Qt::AlignTop | Qt::AlignRight;
+    case PixmapWidget::ANCHOR_BOTTOM_LEFT:
+        return Qt::AlignBottom | Qt::AlignLeft;
+    case PixmapWidget::ANCHOR_BOTTOM_RIGHT:
+        return Qt::AlignBottom | Qt::AlignRight;
+    case PixmapWidget::ANCHOR_TOP_LEFT:
+    default:
+        return Qt::AlignTop | Qt::AlignLeft;
+    }
+}
+
 } // namespace
 
 struct PixmapWidget::Impl
@@ -87,11 +104,11 @@ void PixmapWidget::paintEvent(QPaintEvent* event)
     // Of what is painted on: the window's own, or a picture of the widget without a window.
     const QSize target = (QSizeF(size()) * painter.device()->devicePixelRatioF()).toSize().boundedTo(LARGEST_PICTURE);
     if (impl->scaled.size() != target) {
-        const bool masked = impl->maskMode != MASK_NONE;
-        const QRect cut =
-            masked ? PixmapCrop::CutRect(impl->picture.size(), size(), impl->maskAnchor) : impl->picture.rect();
+        const bool isMasked = impl->maskMode != MASK_NONE;
+        const QRect crop = isMasked ? PixmapCrop::CropRect(impl->picture.size(), size(), AlignmentOf(impl->maskAnchor))
+                                    : impl->picture.rect();
         impl->scaled =
-            QPixmap::fromImage(PixmapCrop::Render(impl->picture, cut, target, impl->maskMode == MASK_ELLIPSE));
+            QPixmap::fromImage(PixmapCrop::Render(impl->picture, crop, target, impl->maskMode == MASK_ELLIPSE));
     }
     if (impl->scaled.isNull())
         return;

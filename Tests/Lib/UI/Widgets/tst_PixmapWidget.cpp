@@ -56,10 +56,11 @@ private Q_SLOTS:
         };
         for (const auto& [name, picture, area, corners, size] : rows) {
             InRow(name);
-            for (int anchor = 0; anchor < 5; ++anchor)
-                QCOMPARE(PixmapCrop::CutRect(picture, area, PixmapWidget::MaskAnchor(anchor)),
-                         QRect(corners[anchor], size));
-            QCOMPARE(PixmapCrop::CutRect(picture, area, PixmapWidget::MaskAnchor(9)), QRect(QPoint(), size));
+            const Qt::Alignment anchors[] = {Qt::AlignCenter, Qt::AlignTop | Qt::AlignLeft,
+                                             Qt::AlignTop | Qt::AlignRight, Qt::AlignBottom | Qt::AlignLeft,
+                                             Qt::AlignBottom | Qt::AlignRight};
+            for (int i = 0; i < 5; ++i)
+                QCOMPARE(PixmapCrop::CropRect(picture, area, anchors[i]), QRect(corners[i], size));
         }
     }
 
