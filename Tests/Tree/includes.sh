@@ -42,24 +42,29 @@ for file in Host/StandIn/Boundary/*; do
 done
 
 # No widget includes another, but for these pairs; what is no class of its own (a placement, a pump) belongs to one.
-allowed='WebCameraPreviewStream:VideoPreviewWidget
-FrameReaderThread:VideoPreviewWidget
-VideoPreviewWidget:PreviewFeeder
-WebCameraPreviewStream:PreviewFeeder
-WebCameraPreviewStream:FrameReaderThread
-WebCameraPreviewStream:RetrySchedule
-WebCameraPreviewStream:VideoModeChoice
-PopUpPlacement:ButtonWithPopUpContainer
-ButtonWithPopUpContainer:PopUpPlacement
-VolumeSlider:LevelMeterGeometry
-PixmapCrop:PixmapWidget
-PixmapWidget:PixmapCrop
-ZGraphicsShadowEffect:InnerShadow
-FastPresetButton:ButtonWithLabels
+allowed='ButtonWithPopUpContainer:AccessiblePopUpButton
+ButtonWithPopUpContainer:PopUpWindow
+ButtonWithPopUpList:AccessiblePopUpButton
 CustomTabWidget:HorizontalTabBar
+FastPresetButton:ButtonWithLabels
+FrameReaderThread:PreviewGate
+FrameReaderThread:VideoPreviewWidget
+PixmapWidget:PixmapCrop
+PopUpWindow:PopUpPlacement
+PreviewGate:VideoPreviewWidget
 SliderWithTickLabels:TickLabelLayout
 SliderWithTickLabels:TickSlider
-TickLabelLayout:TickSlider'
+TickLabelLayout:TickSlider
+VideoPreviewWidget:PreviewFeeder
+VolumeSlider:LevelMeterGeometry
+WebCameraPreviewStream:FrameReaderThread
+WebCameraPreviewStream:PreviewCapture
+WebCameraPreviewStream:PreviewFeeder
+WebCameraPreviewStream:PreviewGate
+WebCameraPreviewStream:RetrySchedule
+WebCameraPreviewStream:VideoModeChoice
+WebCameraPreviewStream:VideoPreviewWidget
+ZGraphicsShadowEffect:InnerShadow'
 while IFS=: read -r file _ include; do
     from=$(basename "${file%.*}")
     to=$(sed -E 's|.*UI/Widgets/([A-Za-z]+)\.h.*|\1|' <<<"$include")

@@ -6,6 +6,8 @@
 
 namespace Zelkor::Vx::UI {
 
+class PopUpWindow;
+
 /// A tool button that opens a floating panel of the application's widgets beside itself.
 ///
 /// A click, Down, Alt+Down, F4 or the menu key opens the panel, and a press outside closes it, as does hiding or
@@ -118,7 +120,8 @@ protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:
-    struct Q_DECL_HIDDEN PopUpWindow;
+    class Q_DECL_HIDDEN AccessibleButton;
+
     PopUpWindow* popUp;
 };
 

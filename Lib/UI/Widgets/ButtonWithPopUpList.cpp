@@ -4,6 +4,7 @@
 #include <UI/Common/MirroredStyle.h>
 #include <UI/Common/PopUpKeys.h>
 #include <UI/Common/TextMarks.h>
+#include <UI/Widgets/AccessiblePopUpButton.h>
 
 #include <QAction>
 #include <QKeyEvent>
@@ -90,34 +91,10 @@ struct ButtonWithPopUpList::Impl : public QObject
     QString describedAs; ///< the description that was set last; the application may have set another one
 };
 
-/// Qt's own interface of a tool button has one of its actions twice, the marks of mnemonics in its name, and does not
-/// say whether the menu is open.
-class ButtonWithPopUpList::Impl::AccessibleButton : public QAccessibleWidget
+class ButtonWithPopUpList::Impl::AccessibleButton : public UI::AccessiblePopUpButton
 {
 public:
-    explicit AccessibleButton(ButtonWithPopUpList* button)
-        : QAccessibleWidget(button, QAccessible::ButtonMenu), button(button)
-    {}
-
-    QString text(QAccessible::Text kind) const override
-    {
-        const QString own = QAccessibleWidget::text(kind);
-        return kind == QAccessible::Name && own.isEmpty() ? Common::WithoutMnemonic(button->text()) : own;
-    }
-
-    QAccessible::State state() const override
-    {
-        QAccessible::State state = QAccessibleWidget::state();
-        const QMenu* menu = button->menu();
-        state.hasPopup = true;
-        state.expandable = true;
-        state.expanded = menu && menu->isVisible();
-        state.collapsed = !state.expanded;
-        state.pressed = button->isDown();
-        state.checkable = button->isCheckable();
-        state.checked = button->isChecked();
-        return state;
-    }
+    explicit AccessibleButton(ButtonWithPopUpList* button) : AccessiblePopUpButton(button), button(button) {}
 
     QStringList actionNames() const override
     {
@@ -127,25 +104,21 @@ public:
 
     void doAction(const QString& name) override
     {
-        QMenu* menu = button->menu();
         if (!button->isEnabled())
             return;
         if (name == pressAction())
             button->click();
         else if (name != showMenuAction())
             QAccessibleWidget::doAction(name);
-        else if (menu && menu->isVisible())
-            menu->close();
+        else if (IsPopUpVisible())
+            button->menu()->close();
         else
             // The menu runs an event loop, and the caller would wait for its end.
             QMetaObject::invokeMethod(button, &QToolButton::showMenu, Qt::QueuedConnection);
     }
 
-    QStringList keyBindingsForAction(const QString& name) const override
-    {
-        const QKeySequence keys = button->shortcut();
-        return name == pressAction() && !keys.isEmpty() ? QStringList(keys.toString()) : QStringList();
-    }
+protected:
+    bool IsPopUpVisible() const override { return button->menu() && button->menu()->isVisible(); }
 
 private:
     ButtonWithPopUpList* button;

@@ -1,116 +1,119 @@
 #pragma once
 
-#include <UI/Widgets/ButtonWithPopUpContainer.h>
-
 #include <QRect>
 
 #include <map>
 #include <set>
 #include <utility>
 
-/// The arithmetic of where a pop-up opens, on plain values in global screen coordinates. Internal.
+/// Computes where a pop-up opens, from plain values in global screen coordinates. Internal.
 namespace Zelkor::Vx::UI::PopUpPlacement {
 
-using Anchor = ButtonWithPopUpContainer::PreferredPopupAnchor;
-using Direction = ButtonWithPopUpContainer::PreferredPopupDirection;
+/// The point of the button that the pop-up is attached to.
+enum class Anchor : int { TopLeft, TopCenter, TopRight, BottomLeft, BottomCenter, BottomRight };
+
+/// The direction in which the pop-up grows from its anchor.
+enum class Direction : int { DownRight, DownCenter, DownLeft, UpRight, UpCenter, UpLeft };
+
 using Placement = std::pair<Anchor, Direction>;
 
-/// What is to be placed beside what.
-struct Scene
+struct Geometry
 {
-    QRect button;
+    QRect button; ///< in global coordinates
     QSize popUp;
-    int hOffset = 0;
-    int vOffset = 0;
+    int hOffset = 0; ///< pixels
+    int vOffset = 0; ///< pixels
 };
 
-/// Where a pop-up goes that would cover the button: to the other side of it. Nine pairs flip between below and above
-/// and keep the horizontal alignment, two flip between right and left. Placements on the button itself have no other
-/// side.
+/// Maps each placement that grows away from the button to the one on its opposite side. Nine pairs flip between below
+/// and above and keep the horizontal alignment, two flip between right and left. Placements that overlap the button by
+/// design have no entry.
 inline const std::map<Placement, Placement>& MirroredPlacements()
 {
-    using B = ButtonWithPopUpContainer;
+    using A = Anchor;
+    using D = Direction;
     static const std::map<Placement, Placement> placements{
-        {{B::ANCHOR_TOP_RIGHT, B::DIRECTION_DOWN_RIGHT}, {B::ANCHOR_TOP_LEFT, B::DIRECTION_DOWN_LEFT}},
-        {{B::ANCHOR_BOTTOM_LEFT, B::DIRECTION_DOWN_RIGHT}, {B::ANCHOR_TOP_LEFT, B::DIRECTION_UP_RIGHT}},
-        {{B::ANCHOR_BOTTOM_CENTER, B::DIRECTION_DOWN_RIGHT}, {B::ANCHOR_TOP_CENTER, B::DIRECTION_UP_RIGHT}},
-        {{B::ANCHOR_BOTTOM_RIGHT, B::DIRECTION_DOWN_RIGHT}, {B::ANCHOR_TOP_RIGHT, B::DIRECTION_UP_RIGHT}},
-        {{B::ANCHOR_BOTTOM_LEFT, B::DIRECTION_DOWN_CENTER}, {B::ANCHOR_TOP_LEFT, B::DIRECTION_UP_CENTER}},
-        {{B::ANCHOR_BOTTOM_CENTER, B::DIRECTION_DOWN_CENTER}, {B::ANCHOR_TOP_CENTER, B::DIRECTION_UP_CENTER}},
-        {{B::ANCHOR_BOTTOM_RIGHT, B::DIRECTION_DOWN_CENTER}, {B::ANCHOR_TOP_RIGHT, B::DIRECTION_UP_CENTER}},
-        {{B::ANCHOR_TOP_LEFT, B::DIRECTION_DOWN_LEFT}, {B::ANCHOR_TOP_RIGHT, B::DIRECTION_DOWN_RIGHT}},
-        {{B::ANCHOR_BOTTOM_LEFT, B::DIRECTION_DOWN_LEFT}, {B::ANCHOR_TOP_LEFT, B::DIRECTION_UP_LEFT}},
-        {{B::ANCHOR_BOTTOM_CENTER, B::DIRECTION_DOWN_LEFT}, {B::ANCHOR_TOP_CENTER, B::DIRECTION_UP_LEFT}},
-        {{B::ANCHOR_BOTTOM_RIGHT, B::DIRECTION_DOWN_LEFT}, {B::ANCHOR_TOP_RIGHT, B::DIRECTION_UP_LEFT}},
-        {{B::ANCHOR_TOP_LEFT, B::DIRECTION_UP_RIGHT}, {B::ANCHOR_BOTTOM_LEFT, B::DIRECTION_DOWN_RIGHT}},
-        {{B::ANCHOR_TOP_CENTER, B::DIRECTION_UP_RIGHT}, {B::ANCHOR_BOTTOM_CENTER, B::DIRECTION_DOWN_RIGHT}},
-        {{B::ANCHOR_TOP_RIGHT, B::DIRECTION_UP_RIGHT}, {B::ANCHOR_BOTTOM_RIGHT, B::DIRECTION_DOWN_RIGHT}},
-        {{B::ANCHOR_BOTTOM_RIGHT, B::DIRECTION_UP_RIGHT}, {B::ANCHOR_BOTTOM_LEFT, B::DIRECTION_UP_LEFT}},
-        {{B::ANCHOR_TOP_LEFT, B::DIRECTION_UP_CENTER}, {B::ANCHOR_BOTTOM_LEFT, B::DIRECTION_DOWN_CENTER}},
-        {{B::ANCHOR_TOP_CENTER, B::DIRECTION_UP_CENTER}, {B::ANCHOR_BOTTOM_CENTER, B::DIRECTION_DOWN_CENTER}},
-        {{B::ANCHOR_TOP_RIGHT, B::DIRECTION_UP_CENTER}, {B::ANCHOR_BOTTOM_RIGHT, B::DIRECTION_DOWN_CENTER}},
-        {{B::ANCHOR_TOP_LEFT, B::DIRECTION_UP_LEFT}, {B::ANCHOR_BOTTOM_LEFT, B::DIRECTION_DOWN_LEFT}},
-        {{B::ANCHOR_TOP_CENTER, B::DIRECTION_UP_LEFT}, {B::ANCHOR_BOTTOM_CENTER, B::DIRECTION_DOWN_LEFT}},
-        {{B::ANCHOR_TOP_RIGHT, B::DIRECTION_UP_LEFT}, {B::ANCHOR_BOTTOM_RIGHT, B::DIRECTION_DOWN_LEFT}},
-        {{B::ANCHOR_BOTTOM_LEFT, B::DIRECTION_UP_LEFT}, {B::ANCHOR_BOTTOM_RIGHT, B::DIRECTION_UP_RIGHT}},
+        {{A::TopRight, D::DownRight}, {A::TopLeft, D::DownLeft}},
+        {{A::BottomLeft, D::DownRight}, {A::TopLeft, D::UpRight}},
+        {{A::BottomCenter, D::DownRight}, {A::TopCenter, D::UpRight}},
+        {{A::BottomRight, D::DownRight}, {A::TopRight, D::UpRight}},
+        {{A::BottomLeft, D::DownCenter}, {A::TopLeft, D::UpCenter}},
+        {{A::BottomCenter, D::DownCenter}, {A::TopCenter, D::UpCenter}},
+        {{A::BottomRight, D::DownCenter}, {A::TopRight, D::UpCenter}},
+        {{A::TopLeft, D::DownLeft}, {A::TopRight, D::DownRight}},
+        {{A::BottomLeft, D::DownLeft}, {A::TopLeft, D::UpLeft}},
+        {{A::BottomCenter, D::DownLeft}, {A::TopCenter, D::UpLeft}},
+        {{A::BottomRight, D::DownLeft}, {A::TopRight, D::UpLeft}},
+        {{A::TopLeft, D::UpRight}, {A::BottomLeft, D::DownRight}},
+        {{A::TopCenter, D::UpRight}, {A::BottomCenter, D::DownRight}},
+        {{A::TopRight, D::UpRight}, {A::BottomRight, D::DownRight}},
+        {{A::BottomRight, D::UpRight}, {A::BottomLeft, D::UpLeft}},
+        {{A::TopLeft, D::UpCenter}, {A::BottomLeft, D::DownCenter}},
+        {{A::TopCenter, D::UpCenter}, {A::BottomCenter, D::DownCenter}},
+        {{A::TopRight, D::UpCenter}, {A::BottomRight, D::DownCenter}},
+        {{A::TopLeft, D::UpLeft}, {A::BottomLeft, D::DownLeft}},
+        {{A::TopCenter, D::UpLeft}, {A::BottomCenter, D::DownLeft}},
+        {{A::TopRight, D::UpLeft}, {A::BottomRight, D::DownLeft}},
+        {{A::BottomLeft, D::UpLeft}, {A::BottomRight, D::UpRight}},
     };
     return placements;
 }
 
-/// The point that the pop-up is attached to. The offsets push it away from the button; right and bottom anchors lie
-/// one pixel past the last column and row.
-inline QPoint AnchorPoint(const Scene& scene, Anchor anchor)
+/// Returns the point that the pop-up is attached to. The offsets push it away from the button. Right and bottom anchors
+/// are one pixel past the last column and row. Values outside the enumeration count as `BottomLeft`.
+inline QPoint AnchorPoint(const Geometry& geometry, Anchor anchor)
 {
-    // Beyond any screen, and far from where the sums below would overflow.
-    constexpr int FAR_AWAY = 1 << 24;
-    const int h = qBound(-FAR_AWAY, scene.hOffset, FAR_AWAY);
-    const int v = qBound(-FAR_AWAY, scene.vOffset, FAR_AWAY);
+    // Larger than any screen, and small enough for the sums below not to overflow.
+    constexpr int MAXIMUM_OFFSET = 1 << 24;
+    const int h = qBound(-MAXIMUM_OFFSET, geometry.hOffset, MAXIMUM_OFFSET);
+    const int v = qBound(-MAXIMUM_OFFSET, geometry.vOffset, MAXIMUM_OFFSET);
     const int left = -h;
-    const int center = scene.button.width() / 2;
-    const int right = scene.button.width() + h;
+    const int center = geometry.button.width() / 2;
+    const int right = geometry.button.width() + h;
     const int top = -v;
-    const int bottom = scene.button.height() + v;
+    const int bottom = geometry.button.height() + v;
     switch (anchor) {
-    case ButtonWithPopUpContainer::ANCHOR_TOP_LEFT:
-        return scene.button.topLeft() + QPoint(left, top);
-    case ButtonWithPopUpContainer::ANCHOR_TOP_CENTER:
-        return scene.button.topLeft() + QPoint(center, top);
-    case ButtonWithPopUpContainer::ANCHOR_TOP_RIGHT:
-        return scene.button.topLeft() + QPoint(right, top);
-    case ButtonWithPopUpContainer::ANCHOR_BOTTOM_CENTER:
-        return scene.button.topLeft() + QPoint(center, bottom);
-    case ButtonWithPopUpContainer::ANCHOR_BOTTOM_RIGHT:
-        return scene.button.topLeft() + QPoint(right, bottom);
-    case ButtonWithPopUpContainer::ANCHOR_BOTTOM_LEFT:
+    case Anchor::TopLeft:
+        return geometry.button.topLeft() + QPoint(left, top);
+    case Anchor::TopCenter:
+        return geometry.button.topLeft() + QPoint(center, top);
+    case Anchor::TopRight:
+        return geometry.button.topLeft() + QPoint(right, top);
+    case Anchor::BottomCenter:
+        return geometry.button.topLeft() + QPoint(center, bottom);
+    case Anchor::BottomRight:
+        return geometry.button.topLeft() + QPoint(right, bottom);
+    case Anchor::BottomLeft:
     default:
-        return scene.button.topLeft() + QPoint(left, bottom);
+        return geometry.button.topLeft() + QPoint(left, bottom);
     }
 }
 
-/// From the attachment point to the pop-up's top left corner.
-inline QPoint DirectionOffset(const Scene& scene, Direction direction)
+/// Returns the vector from the anchor to the pop-up's top left corner. Values outside the enumeration count as
+/// `DownRight`.
+inline QPoint DirectionOffset(const Geometry& geometry, Direction direction)
 {
-    const int width = scene.popUp.width();
-    const int height = scene.popUp.height();
+    const int width = geometry.popUp.width();
+    const int height = geometry.popUp.height();
     switch (direction) {
-    case ButtonWithPopUpContainer::DIRECTION_DOWN_CENTER:
+    case Direction::DownCenter:
         return QPoint(-(width / 2), 0);
-    case ButtonWithPopUpContainer::DIRECTION_DOWN_LEFT:
+    case Direction::DownLeft:
         return QPoint(-width, 0);
-    case ButtonWithPopUpContainer::DIRECTION_UP_RIGHT:
+    case Direction::UpRight:
         return QPoint(0, -height);
-    case ButtonWithPopUpContainer::DIRECTION_UP_CENTER:
+    case Direction::UpCenter:
         return QPoint(-(width / 2), -height);
-    case ButtonWithPopUpContainer::DIRECTION_UP_LEFT:
+    case Direction::UpLeft:
         return QPoint(-width, -height);
-    case ButtonWithPopUpContainer::DIRECTION_DOWN_RIGHT:
+    case Direction::DownRight:
     default:
         return QPoint(0, 0);
     }
 }
 
-/// The top left corner moved so that the pop-up lies on the screen. At the right and bottom edges one pixel stays
-/// free; a pop-up larger than the screen keeps its left and top edges.
+/// Returns the top left corner, moved so that the pop-up is on the screen. Leaves one pixel free at the right and
+/// bottom edges. A pop-up larger than the screen keeps its left and top edges visible.
 inline QPoint FitToScreen(const QRect& screen, const QSize& popUp, const QPoint& point)
 {
     const int x = qMin(screen.right(), point.x() + popUp.width()) - popUp.width();
@@ -118,22 +121,22 @@ inline QPoint FitToScreen(const QRect& screen, const QSize& popUp, const QPoint&
     return QPoint(qMax(x, screen.left()), qMax(y, screen.top()));
 }
 
-/// The top left corner of the pop-up. `fit` moves a corner into the screen. A pop-up that must not overlap the button
-/// takes the first of the mirrored placements that does not, else the preferred one.
+/// Returns the top left corner of the pop-up. `fit` moves a corner into the screen. Unless `canOverlap`, a pop-up that
+/// would overlap the button takes the first of the mirrored placements that does not, or else the preferred one.
 template<class Fit>
-QPoint FindPosition(const Scene& scene, const Placement& preferred, bool canOverlap, Fit fit)
+QPoint FindPosition(const Geometry& geometry, const Placement& preferred, bool canOverlap, Fit fit)
 {
     const auto positionOf = [&](const Placement& placement) {
-        return fit(AnchorPoint(scene, placement.first) + DirectionOffset(scene, placement.second));
+        return fit(AnchorPoint(geometry, placement.first) + DirectionOffset(geometry, placement.second));
     };
     const auto overlaps = [&](const QPoint& position) {
-        return !scene.button.intersected(QRect(position, scene.popUp)).isEmpty();
+        return !geometry.button.intersected(QRect(position, geometry.popUp)).isEmpty();
     };
     const QPoint first = positionOf(preferred);
     if (canOverlap || !overlaps(first))
         return first;
 
-    // The table may hold chains; a placement that comes again ends the search.
+    // Mirrors may form a chain; the search ends when a placement repeats.
     std::set<Placement> visited;
     Placement current = preferred;
     while (visited.insert(current).second) {

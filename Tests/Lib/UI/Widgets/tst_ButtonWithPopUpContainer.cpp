@@ -49,7 +49,7 @@ void ShowPopup(ButtonWithPopUpContainer* button)
     button->ShowPopup();
 }
 
-QPoint Position(const Scene& scene, const Placement& placement, bool canOverlap)
+QPoint Position(const Geometry& scene, const Placement& placement, bool canOverlap)
 {
     return FindPosition(scene, placement, canOverlap,
                         [&](const QPoint& point) { return FitToScreen(SCREEN, scene.popUp, point); });
@@ -67,11 +67,12 @@ private Q_SLOTS:
     // In the middle of the screen the named side of the pop-up lies on the named point of the button.
     void growsFromItsAnchor()
     {
-        const Scene scene{QRect(-600, 800, 41, 25), POP_UP, 7, 3};
+        const Geometry scene{QRect(-600, 800, 41, 25), POP_UP, 7, 3};
         for (int i = 0; i < PLACEMENTS; ++i) {
             InRow(QString::number(i));
-            const auto [anchor, direction] = PlacementOf(i);
-            const QPoint popUp = Position(scene, {anchor, direction}, true);
+            const int anchor = i / 6;
+            const int direction = i % 6;
+            const QPoint popUp = Position(scene, PlacementOf(i), true);
             const int across[] = {-600 - 7, -600 + 20, -600 + 41 + 7};
             const int rightToLeft[] = {0, 60, 121};
             QCOMPARE(popUp.x() + rightToLeft[direction % 3], across[anchor % 3]);
@@ -87,7 +88,7 @@ private Q_SLOTS:
             InRow(QString("place %1, placement %2").arg(i / PLACEMENTS).arg(i % PLACEMENTS));
             const int x[] = {-1000, -620, -241};
             const int y[] = {500, 780, 1075};
-            const Scene scene{QRect(x[i / PLACEMENTS % 3], y[i / PLACEMENTS / 3], 41, 25), POP_UP, 0, 0};
+            const Geometry scene{QRect(x[i / PLACEMENTS % 3], y[i / PLACEMENTS / 3], 41, 25), POP_UP, 0, 0};
             const auto covers = [&](const QPoint& point) { return scene.button.intersects(QRect(point, POP_UP)); };
             const Placement placement = PlacementOf(i % PLACEMENTS);
             const QPoint preferred = Position(scene, placement, true);
