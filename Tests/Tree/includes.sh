@@ -48,7 +48,6 @@ ButtonWithPopUpList:AccessiblePopUpButton
 CustomTabWidget:HorizontalTabBar
 FastPresetButton:ButtonWithLabels
 FrameReaderThread:PreviewGate
-FrameReaderThread:VideoPreviewWidget
 PixmapWidget:PixmapCrop
 PopUpWindow:PopUpPlacement
 PreviewGate:VideoPreviewWidget

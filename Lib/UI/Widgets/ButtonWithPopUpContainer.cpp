@@ -1,7 +1,7 @@
 #include <UI/Widgets/ButtonWithPopUpContainer.h>
 
 #include <UI/Common/AccessibleFactory.h>
-#include <UI/Common/CanHold.h>
+#include <UI/Common/CanBeParentOf.h>
 #include <UI/Common/LogSource.h>
 #include <UI/Common/MirroredStyle.h>
 #include <UI/Common/PopUpKeys.h>
@@ -46,7 +46,7 @@ bool IsKnown(ButtonWithPopUpContainer::LayoutDirection direction)
 // Returns whether the panel may own the widget. Like Qt's layouts, warns when it may not.
 bool CanOwn(const PopUpWindow& popUp, const QWidget* widget, const char* function)
 {
-    const bool canOwn = Common::CanHold(popUp.container, widget);
+    const bool canOwn = Common::CanBeParentOf(popUp.container, widget);
     if (!canOwn)
         qWarning("ButtonWithPopUpContainer::%s: the widget holds the panel", function);
     return canOwn;

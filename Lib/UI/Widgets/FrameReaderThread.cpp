@@ -1,7 +1,7 @@
 #include <UI/Widgets/FrameReaderThread.h>
 
 #include <UI/Common/CatchException.h>
-#include <UI/Widgets/VideoPreviewWidget.h>
+#include <UI/Widgets/PreviewGate.h>
 
 #include <algorithm>
 #include <chrono>
@@ -18,45 +18,6 @@ std::chrono::milliseconds FramePeriod(double frameRate)
 }
 
 } // namespace
-
-void PreviewGate::Show(const boost::intrusive_ptr<Proc::IDataVideo>& frame)
-{
-    if (isClosing)
-        return;
-    const std::lock_guard<std::mutex> lock(mutex);
-    if (!preview || (frame == shown && preview->GetRevision() == shownRevision))
-        return;
-    // The revision that this frame makes. A change by another thread in between makes another one, which no frame has.
-    const unsigned revision = preview->GetRevision() + 1;
-    preview->UpdateView(frame);
-    shown = frame;
-    shownRevision = revision;
-}
-
-void PreviewGate::Reset()
-{
-    const std::lock_guard<std::mutex> lock(mutex);
-    shown = nullptr;
-    shownRevision.reset();
-    if (preview)
-        preview->ResetPreview();
-}
-
-bool PreviewGate::IsOpen() const
-{
-    if (isClosing)
-        return false;
-    const std::lock_guard<std::mutex> lock(mutex);
-    return preview;
-}
-
-void PreviewGate::Close()
-{
-    isClosing = true;
-    const std::lock_guard<std::mutex> lock(mutex);
-    preview = nullptr;
-    shown = nullptr;
-}
 
 FrameReaderThread::FrameReaderThread(std::shared_ptr<PreviewGate> gate,
                                      boost::intrusive_ptr<Acquis::IFrameReader> reader, double frameRate,
@@ -91,7 +52,7 @@ void FrameReaderThread::Run()
 {
     if (!reader || !gate->IsOpen())
         return;
-    const auto failure = UI::Common::CatchException([this] { ShowFrames(); });
+    const auto failure = CatchException([this] { ShowFrames(); });
     gate->Reset();
     reader = nullptr;
     if (failure)

@@ -2,42 +2,16 @@
 
 #include <Zelkor/Acquis/IFrameProvider.h>
 
-#include <atomic>
 #include <condition_variable>
 #include <functional>
 #include <memory>
 #include <mutex>
-#include <optional>
 #include <string>
 #include <thread>
 
 namespace Zelkor::Vx {
 
-namespace UI {
-class VideoPreviewWidget;
-}
-
-/// The way from other threads to a preview widget: it can be closed before the widget dies. Any thread; internal.
-class PreviewGate
-{
-public:
-    explicit PreviewGate(UI::VideoPreviewWidget* preview) : preview(preview) {}
-
-    /// Shows the frame, if the preview is still there. Does nothing when it shows this frame already, in this size.
-    void Show(const boost::intrusive_ptr<Proc::IDataVideo>& frame);
-    void Reset();
-    bool IsOpen() const;
-
-    /// When this returns, no thread uses the preview and none will. Waits for the conversion that runs, for no other.
-    void Close();
-
-private:
-    std::atomic<bool> isClosing{false}; ///< keeps a pump that is late from taking the mutex again before `Close`
-    mutable std::mutex mutex;           ///< held while the preview takes a frame
-    UI::VideoPreviewWidget* preview;
-    boost::intrusive_ptr<Proc::IDataVideo> shown; ///< held, so that no other frame can have its address
-    std::optional<unsigned> shownRevision;        ///< of the preview, none before the first frame
-};
+class PreviewGate;
 
 /// A thread that shows the newest frame of a reader once per frame period. Internal.
 ///

@@ -4,14 +4,14 @@
 #include <UI/Common/GuiThreadCall.h>
 #include <UI/Common/LogSource.h>
 #include <UI/Widgets/FrameReaderThread.h>
+#include <UI/Widgets/PreviewCapture.h>
 #include <UI/Widgets/PreviewFeeder.h>
+#include <UI/Widgets/PreviewGate.h>
 #include <UI/Widgets/RetrySchedule.h>
 #include <UI/Widgets/VideoModeChoice.h>
 #include <UI/Widgets/VideoPreviewWidget.h>
 
 #include <Zelkor/Acquis/CaptureFactory.h>
-#include <Zelkor/Core/CoreManager.h>
-#include <Zelkor/Proc/ImplNames.h>
 
 #include <QTimer>
 
@@ -28,13 +28,6 @@ namespace {
 const UI::Common::LogSource LOG_SOURCE("Lib/UI/Widgets/WebCameraPreviewStream");
 
 using Clock = std::chrono::steady_clock;
-
-/// The preview shows frames as they come: their time stamps are left as they are.
-class TimeShift : public Acquis::TimeShift
-{
-public:
-    std::int64_t MapTime(std::int64_t time) const override { return time; }
-};
 
 } // namespace
 
@@ -69,15 +62,14 @@ private:
     void HandleStarted(const Observer* from, const boost::intrusive_ptr<Acquis::IFrameProvider>& provider);
     void HandleError(const Observer* from, int code);
     void HandleStopped(const Observer* from);
-    void HandleBrokenPump(const Observer* from, const std::string& what);
+    void HandleReadError(const Observer* from, const std::string& what);
 
     bool IsCurrent(const Observer* observer) const { return session.observer.get() == observer; }
-    boost::intrusive_ptr<Acquis::ICaptureSession> CreateCaptureSession() const;
     void BuildSession(unsigned forEpoch);
     void StartSession(const Session& started);
-    void StartPump(const Observer* from, Acquis::IFrameProvider& provider);
+    void StartReaderThread(const Observer* from, Acquis::IFrameProvider& provider);
     void RetryIfCurrent(const Observer* from);
-    void EndPump(const std::shared_ptr<FrameReaderThread>& ended);
+    void EndReaderThread(const std::shared_ptr<FrameReaderThread>& ended);
     void RequestRetry();
     void ArmRetryTimer();
     void RunRetryTimer();
@@ -94,7 +86,7 @@ private:
     double frameRate = 1.0;
     boost::intrusive_ptr<Acquis::IDeviceSettings> settingsHandle;
     Session session;
-    std::shared_ptr<FrameReaderThread> pump;
+    std::shared_ptr<FrameReaderThread> readerThread;
     unsigned epoch = 0;
     RetrySchedule retries;
 };
@@ -124,10 +116,10 @@ public:
             impl->HandleStopped(this);
     }
 
-    void HandleBrokenPump(const std::string& what)
+    void HandleReadError(const std::string& what)
     {
         if (const auto impl = weakImpl.lock())
-            impl->HandleBrokenPump(this, what);
+            impl->HandleReadError(this, what);
     }
 
 private:
@@ -192,14 +184,14 @@ void WebCameraPreviewStream::Impl::Stop()
         ++epoch;
         retries.Cancel();
         std::swap(stopped, session);
-        ended = pump;
+        ended = readerThread;
     }
     if (stopped.capture) {
         // Destructors call this, too.
-        if (const auto failure = UI::Common::CatchException([&] { stopped.capture->Stop(); }))
+        if (const auto failure = CatchException([&] { stopped.capture->Stop(); }))
             LOG_SOURCE.Error(133, "Zelkor::Vx::WebCameraPreviewStream::Impl::Stop", failure->c_str());
     }
-    EndPump(ended);
+    EndReaderThread(ended);
     gate->Reset();
 }
 
@@ -220,14 +212,14 @@ bool WebCameraPreviewStream::Impl::Retry()
             return true;
         }
         std::swap(failed, session);
-        ended = pump;
+        ended = readerThread;
         forEpoch = epoch;
     }
-    EndPump(ended);
+    EndReaderThread(ended);
     failed = Session();
     gate->Reset();
     // An exception must not reach Qt's event loop, which calls this: it counts as one more failed start.
-    if (const auto failure = UI::Common::CatchException([&] { BuildSession(forEpoch); }))
+    if (const auto failure = CatchException([&] { BuildSession(forEpoch); }))
         LOG_SOURCE.Error(150, "Zelkor::Vx::WebCameraPreviewStream::Impl::BuildSession", failure->c_str());
 
     Session started;
@@ -240,7 +232,7 @@ bool WebCameraPreviewStream::Impl::Retry()
         if (!started.capture)
             RequestRetry();
     }
-    if (const auto failure = UI::Common::CatchException([&] { StartSession(started); })) {
+    if (const auto failure = CatchException([&] { StartSession(started); })) {
         LOG_SOURCE.Error(158, "Zelkor::Vx::WebCameraPreviewStream::Impl::StartSession", failure->c_str());
         RetryIfCurrent(started.observer.get());
     }
@@ -284,32 +276,30 @@ void WebCameraPreviewStream::Impl::HandleStarted(const Observer* from,
         const std::lock_guard<std::mutex> lock(mutex);
         if (!IsCurrent(from) || !provider)
             return;
-        previous = pump;
+        previous = readerThread;
     }
-    EndPump(previous);
-    if (const auto failure = UI::Common::CatchException([&] { StartPump(from, *provider); })) {
+    EndReaderThread(previous);
+    if (const auto failure = CatchException([&] { StartReaderThread(from, *provider); })) {
         LOG_SOURCE.Error(196, "Zelkor::Vx::WebCameraPreviewStream::Impl::handleStarted", failure->c_str());
         RetryIfCurrent(from);
     }
 }
 
-void WebCameraPreviewStream::Impl::StartPump(const Observer* from, Acquis::IFrameProvider& provider)
+void WebCameraPreviewStream::Impl::StartReaderThread(const Observer* from, Acquis::IFrameProvider& provider)
 {
-    boost::intrusive_ptr<Acquis::ICaptureOutput> output;
-    provider.CreateOutput(output, "WebCameraPreview", 0);
+    const auto output = PreviewCapture::CreateOutput(provider);
     if (!output)
         return;
-    output->SetTimeShift(new TimeShift);
     auto reader = output->GetFrameReader();
 
     const std::lock_guard<std::mutex> lock(mutex);
-    if (!IsCurrent(from) || pump)
+    if (!IsCurrent(from) || readerThread)
         return;
     // Started under the lock, so that whoever finds the pump finds its thread.
-    const auto onFailure = [observer = session.observer](const std::string& what) { observer->HandleBrokenPump(what); };
+    const auto onFailure = [observer = session.observer](const std::string& what) { observer->HandleReadError(what); };
     auto started = std::make_shared<FrameReaderThread>(gate, std::move(reader), frameRate, onFailure);
     FrameReaderThread::Start(started);
-    pump = std::move(started);
+    readerThread = std::move(started);
 }
 
 void WebCameraPreviewStream::Impl::HandleError(const Observer* from, int code)
@@ -319,7 +309,7 @@ void WebCameraPreviewStream::Impl::HandleError(const Observer* from, int code)
     RetryIfCurrent(from);
 }
 
-void WebCameraPreviewStream::Impl::HandleBrokenPump(const Observer* from, const std::string& what)
+void WebCameraPreviewStream::Impl::HandleReadError(const Observer* from, const std::string& what)
 {
     LOG_SOURCE.Error(219, "Zelkor::Vx::WebCameraPreviewStream::Impl::HandleBrokenPump", what.c_str());
     RetryIfCurrent(from);
@@ -332,41 +322,26 @@ void WebCameraPreviewStream::Impl::HandleStopped(const Observer* from)
         const std::lock_guard<std::mutex> lock(mutex);
         if (!IsCurrent(from))
             return;
-        ended = pump;
+        ended = readerThread;
     }
-    EndPump(ended);
+    EndReaderThread(ended);
     // Under the lock, which a new session needs to get a pump: its picture shall not be cleared.
     const std::lock_guard<std::mutex> lock(mutex);
     if (IsCurrent(from))
         gate->Reset();
 }
 
-/// Returns a new session for device and settings; null when there are none or the engine does not make one. Throws what
-/// the engine throws.
-boost::intrusive_ptr<Acquis::ICaptureSession> WebCameraPreviewStream::Impl::CreateCaptureSession() const
+void WebCameraPreviewStream::Impl::BuildSession(unsigned forEpoch)
 {
     boost::intrusive_ptr<Acquis::ICaptureDevice> sessionDevice;
-    boost::intrusive_ptr<Acquis::ICaptureSettings> sessionSettings;
+    boost::intrusive_ptr<Acquis::IVideoCaptureSettings> sessionSettings;
     {
         const std::lock_guard<std::mutex> lock(mutex);
         sessionDevice = device;
         sessionSettings = settings;
     }
-    boost::intrusive_ptr<Acquis::ICaptureSession> capture;
-    if (!sessionDevice || !sessionSettings)
-        return capture;
-    using Unit = Acquis::CaptureSessionInitializer::Unit;
-    const Acquis::CaptureSessionInitializer initializer({Unit(sessionDevice, sessionSettings)},
-                                                        Core::CoreManager::Instance().GetEffectFactory(), nullptr,
-                                                        Proc::PixFmt::None);
-    captureFactory->CreateSession(capture, initializer, Proc::ImplNames::DEFAULT);
-    return capture;
-}
-
-void WebCameraPreviewStream::Impl::BuildSession(unsigned forEpoch)
-{
     Session built;
-    built.capture = CreateCaptureSession();
+    built.capture = PreviewCapture::CreateSession(*captureFactory, sessionDevice, sessionSettings);
     std::vector<boost::intrusive_ptr<Acquis::IDeviceSettings>> handles;
     if (built.capture) {
         built.capture->GetDeviceSettings(handles);
@@ -395,14 +370,14 @@ void WebCameraPreviewStream::Impl::StartSession(const Session& started)
 }
 
 /// Stops a pump and takes it out of the state, unless another one is there already.
-void WebCameraPreviewStream::Impl::EndPump(const std::shared_ptr<FrameReaderThread>& ended)
+void WebCameraPreviewStream::Impl::EndReaderThread(const std::shared_ptr<FrameReaderThread>& ended)
 {
     if (!ended)
         return;
     ended->Stop();
     const std::lock_guard<std::mutex> lock(mutex);
-    if (pump == ended)
-        pump = nullptr;
+    if (readerThread == ended)
+        readerThread = nullptr;
 }
 
 /// Schedules a retry for a session that is lost, unless another one has replaced it.
