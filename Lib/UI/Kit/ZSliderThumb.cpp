@@ -73,7 +73,8 @@ private:
 
 } // namespace
 
-ZSliderThumb::ZSliderThumb(ZSlider* slider) : QToolButton(slider), slider(slider), currentValue(slider ? slider->minimum() : 0)
+ZSliderThumb::ZSliderThumb(ZSlider* slider)
+    : QToolButton(slider), slider(slider), currentValue(slider ? slider->minimum() : 0)
 {
     Zelkor::Vx::UI::Common::AccessibleFactory<ZSliderThumb, AccessibleThumb>::Install();
     setCheckable(true);

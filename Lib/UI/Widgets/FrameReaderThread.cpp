@@ -52,7 +52,7 @@ void FrameReaderThread::Run()
 {
     if (!reader || !gate->IsOpen())
         return;
-    const auto failure = CatchException([this] { ShowFrames(); });
+    const auto failure = UI::Common::CatchException([this] { ShowFrames(); });
     gate->Reset();
     reader = nullptr;
     if (failure)

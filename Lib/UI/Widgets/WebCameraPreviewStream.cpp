@@ -188,7 +188,7 @@ void WebCameraPreviewStream::Impl::Stop()
     }
     if (stopped.capture) {
         // Destructors call this, too.
-        if (const auto failure = CatchException([&] { stopped.capture->Stop(); }))
+        if (const auto failure = UI::Common::CatchException([&] { stopped.capture->Stop(); }))
             LOG_SOURCE.Error(133, "Zelkor::Vx::WebCameraPreviewStream::Impl::Stop", failure->c_str());
     }
     EndReaderThread(ended);
@@ -219,7 +219,7 @@ bool WebCameraPreviewStream::Impl::Retry()
     failed = Session();
     gate->Reset();
     // An exception must not reach Qt's event loop, which calls this: it counts as one more failed start.
-    if (const auto failure = CatchException([&] { BuildSession(forEpoch); }))
+    if (const auto failure = UI::Common::CatchException([&] { BuildSession(forEpoch); }))
         LOG_SOURCE.Error(150, "Zelkor::Vx::WebCameraPreviewStream::Impl::BuildSession", failure->c_str());
 
     Session started;
@@ -232,7 +232,7 @@ bool WebCameraPreviewStream::Impl::Retry()
         if (!started.capture)
             RequestRetry();
     }
-    if (const auto failure = CatchException([&] { StartSession(started); })) {
+    if (const auto failure = UI::Common::CatchException([&] { StartSession(started); })) {
         LOG_SOURCE.Error(158, "Zelkor::Vx::WebCameraPreviewStream::Impl::StartSession", failure->c_str());
         RetryIfCurrent(started.observer.get());
     }
@@ -279,7 +279,7 @@ void WebCameraPreviewStream::Impl::HandleStarted(const Observer* from,
         previous = readerThread;
     }
     EndReaderThread(previous);
-    if (const auto failure = CatchException([&] { StartReaderThread(from, *provider); })) {
+    if (const auto failure = UI::Common::CatchException([&] { StartReaderThread(from, *provider); })) {
         LOG_SOURCE.Error(196, "Zelkor::Vx::WebCameraPreviewStream::Impl::handleStarted", failure->c_str());
         RetryIfCurrent(from);
     }

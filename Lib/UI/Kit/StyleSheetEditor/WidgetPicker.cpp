@@ -66,7 +66,7 @@ bool WidgetPicker::eventFilter(QObject* watched, QEvent* event)
 {
     QPointer<QWidget> widget = qobject_cast<QWidget*>(watched);
     auto* window = qobject_cast<QWindow*>(watched);
-    const QPointer<ZWidgetPicker> self(this);
+    const QPointer<WidgetPicker> self(this);
     switch (event->type()) {
     case QEvent::Enter:
         if (!running || !isPickable(widget))
