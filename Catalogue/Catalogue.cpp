@@ -10,7 +10,7 @@
 
 #include <algorithm>
 
-namespace Zelkor::Gallery {
+namespace Zelkor::Catalogue {
 
 namespace {
 
@@ -68,7 +68,7 @@ void AddSamplePages(QStackedWidget* stack, const QStringList& texts)
     for (int i = 0; i < texts.size(); ++i) {
         auto* page = new ZFrame;
         auto* layout = new QVBoxLayout(page);
-        auto* button = new QPushButton(Catalogue::tr("Next page"));
+        auto* button = new QPushButton(EntryText::tr("Next page"));
         layout->addWidget(new QLabel(texts[i]));
         layout->addWidget(button);
         page->setProperty("role", QStringLiteral("card"));
@@ -86,7 +86,7 @@ Entry NotInForms(Entry entry, const QString& reason)
 
 State DisabledState()
 {
-    return {Catalogue::tr("Disabled"), [](QWidget* widget) { widget->setEnabled(false); }};
+    return {EntryText::tr("Disabled"), [](QWidget* widget) { widget->setEnabled(false); }};
 }
 
-} // namespace Zelkor::Gallery
+} // namespace Zelkor::Catalogue

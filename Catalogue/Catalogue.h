@@ -12,12 +12,12 @@
 class QStackedWidget;
 class QWidget;
 
-namespace Zelkor::Gallery {
+namespace Zelkor::Catalogue {
 
-/// The texts of the catalogue, for translation.
-class Catalogue
+/// Translates the texts of the catalogue.
+class EntryText
 {
-    Q_DECLARE_TR_FUNCTIONS(Catalogue)
+    Q_DECLARE_TR_FUNCTIONS(EntryText)
 };
 
 /// A situation in which a widget is worth looking at.
@@ -60,8 +60,7 @@ struct Entry
 /// this. A new widget is a new entry in the function of its group.
 const QVector<Entry>& Entries();
 
-/// Has the texts of the entries be in the language that the program speaks now. Entries from before are gone. GUI
-/// thread.
+/// Recreates the entries with texts in the current language. References to earlier entries become invalid. GUI thread.
 void RetranslateEntries();
 
 /// The entry of a class, null for a class that is not in the catalogue.
@@ -127,4 +126,4 @@ Entry NotInForms(Entry entry, const QString& reason);
 /// A state for any widget: as it comes, but disabled.
 State DisabledState();
 
-} // namespace Zelkor::Gallery
+} // namespace Zelkor::Catalogue

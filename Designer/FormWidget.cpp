@@ -1,9 +1,8 @@
 #include "FormWidget.h"
-
 #include "FormXml.h"
 
-#include <Gallery/Catalogue.h>
-#include <Gallery/StyleSheet.h>
+#include <Catalogue/Catalogue.h>
+#include <Examples/Support/BuiltInStyleSheets.h>
 
 #include <QGuiApplication>
 #include <QIcon>
@@ -48,7 +47,9 @@ QString FormWidget::includeFile() const
 QIcon FormWidget::icon() const
 {
     const bool isDark = QGuiApplication::palette().color(QPalette::Window).lightness() < 128;
-    const QIcon drawn = Gallery::BuiltInIcon(isDark ? QStringLiteral("dark") : QStringLiteral("light"), entry.icon);
+    static const std::optional<ZStyleSheet> sheets[] = {Examples::LoadStyleSheet("light"),
+                                                        Examples::LoadStyleSheet("dark")};
+    const QIcon drawn = sheets[isDark]->ownIcon(entry.icon);
     QIcon icon;
     for (const int size : ICON_SIZES)
         icon.addPixmap(drawn.pixmap(size));

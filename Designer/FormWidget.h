@@ -2,7 +2,7 @@
 
 #include <QtUiPlugin/QDesignerCustomWidgetInterface>
 
-namespace Zelkor::Gallery {
+namespace Zelkor::Catalogue {
 struct Entry;
 }
 
@@ -12,7 +12,7 @@ namespace Zelkor::Designer {
 class FormWidget : public QDesignerCustomWidgetInterface
 {
 public:
-    explicit FormWidget(const Gallery::Entry& entry) : entry(entry) {}
+    explicit FormWidget(const Catalogue::Entry& entry) : entry(entry) {}
 
     QString name() const override;
     QString group() const override;
@@ -30,7 +30,7 @@ public:
     QString domXml() const override;
 
 private:
-    const Gallery::Entry& entry;
+    const Catalogue::Entry& entry;
     bool isInEditor = false;
 };
 

@@ -1,6 +1,6 @@
 #include "FormXml.h"
 
-#include <Gallery/Catalogue.h>
+#include <Catalogue/Catalogue.h>
 
 #include <QStackedWidget>
 #include <QTabWidget>
@@ -35,7 +35,7 @@ QString ExtendedClass(const QMetaObject& metaObject)
     return QString::fromLatin1(base->className());
 }
 
-QSize FirstSize(const Gallery::Entry& entry)
+QSize FirstSize(const Catalogue::Entry& entry)
 {
     if (HasPages(*entry.form.metaObject))
         return SIZE_WITH_PAGES;
@@ -92,7 +92,7 @@ bool HasPages(const QMetaObject& metaObject)
     return metaObject.inherits(&QTabWidget::staticMetaObject) || metaObject.inherits(&QStackedWidget::staticMetaObject);
 }
 
-QString FormXml(const Gallery::Entry& entry)
+QString FormXml(const Catalogue::Entry& entry)
 {
     const QString className = QString::fromLatin1(entry.form.metaObject->className());
     QString text;

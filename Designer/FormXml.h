@@ -4,7 +4,7 @@
 
 struct QMetaObject;
 
-namespace Zelkor::Gallery {
+namespace Zelkor::Catalogue {
 struct Entry;
 }
 
@@ -14,6 +14,6 @@ namespace Zelkor::Designer {
 bool HasPages(const QMetaObject& metaObject);
 
 /// The piece of a form that a new widget starts from: name, size, first properties, first pages, and what it extends.
-QString FormXml(const Gallery::Entry& entry);
+QString FormXml(const Catalogue::Entry& entry);
 
 } // namespace Zelkor::Designer

@@ -1,14 +1,13 @@
 #include "WidgetCollection.h"
-
 #include "FormWidget.h"
 
-#include <Gallery/Catalogue.h>
+#include <Catalogue/Catalogue.h>
 
 namespace Zelkor::Designer {
 
 WidgetCollection::WidgetCollection(QObject* parent) : QObject(parent)
 {
-    for (const Gallery::Entry& entry : Gallery::Entries()) {
+    for (const Catalogue::Entry& entry : Catalogue::Entries()) {
         if (entry.form.metaObject)
             widgets.push_back(std::make_unique<FormWidget>(entry));
     }

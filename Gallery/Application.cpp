@@ -1,11 +1,11 @@
 #include "Application.h"
-#include "Catalogue.h"
-#include "GalleryWindow.h"
-#include "RecorderWindow.h"
 #include "Screenshot.h"
-#include "Scrolled.h"
 
+#include <Catalogue/Catalogue.h>
+#include <Examples/Support/ScreenFit.h>
+#include <Gallery/Browser/GalleryWindow.h>
 #include <UI/Kit/ZRuntimeStylesheetEditor.h>
+#include <UI/Kit/ZStyleSheet.h>
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -13,18 +13,17 @@
 #include <QEventLoop>
 #include <QFileInfo>
 #include <QProcess>
-#include <QSettings>
 #include <QTimer>
 
 #include <cstdio>
 
 namespace Zelkor::Gallery {
 
+using namespace Examples;
+
 namespace {
 
 constexpr int PICTURE_MARGIN = 12;
-constexpr int HINT_DELAY_MS = 800; ///< until the window system has put the window into its place
-const QString HINT_SHOWN = QStringLiteral("firstHintShown");
 
 void Wait(int milliseconds)
 {
@@ -57,30 +56,24 @@ void Complain(const QString& text)
     std::fprintf(stderr, "VxGallery: %s\n", qPrintable(text));
 }
 
-Application::Application(Options options) : options(std::move(options))
+Application::Application(Options options) : options(std::move(options)), appearance("VxGallery")
 {
-    if (!this->options.language.isEmpty())
-        preferences.SetLanguage(this->options.language);
-    preferences.SetStyleName(this->options.styleName);
-    UseLanguage(preferences.Language());
+    if (!this->options.language.isEmpty() && !appearance.SetLanguage(this->options.language))
+        Complain(QString("there are no translations for '%1'; continuing in English").arg(this->options.language));
     if (this->options.rightToLeft)
         QApplication::setLayoutDirection(Qt::RightToLeft);
-    ApplyStyleSheet(this->options.style);
-    QApplication::setWindowIcon(StyleIcon("app"));
-    // Two pictures of a page shall differ in nothing but the live picture.
+    appearance.SetStyle(this->options.styleArgument);
+    QApplication::setWindowIcon(ZStyleSheet::icon("app"));
+    // Two pictures of a page must differ in nothing but live content.
     if (this->options.TakesPictures())
         QApplication::setCursorFlashTime(0);
 
-    QObject::connect(&devices, &StandIn::DeviceList::Changed, &model,
-                     [this] { model.SetDevices(devices.GetDevices()); });
-    QObject::connect(&preferences, &Preferences::LanguageChanged, &model,
-                     [this](const QString& code) { UseLanguage(code); });
-    QObject::connect(&preferences, &Preferences::StyleNameChanged, &model,
-                     [this](const QString& name) { UseStyle(name); });
-    model.SetDevices(devices.GetDevices());
+    // The entries are translated when they are made, and pages are made anew after this.
+    QObject::connect(&appearance, &Examples::Appearance::LanguageChanged, &editStyle,
+                     [] { Catalogue::RetranslateEntries(); });
     editStyle.setShortcut(Qt::Key_F12);
     editStyle.setShortcutContext(Qt::ApplicationShortcut);
-    QObject::connect(&editStyle, &QAction::triggered, &model, [this] { OpenStyleEditor(); });
+    QObject::connect(&editStyle, &QAction::triggered, &editStyle, [this] { OpenStyleEditor(); });
 }
 
 Application::~Application() = default;
@@ -91,78 +84,61 @@ int Application::Run()
         return TakeAllPictures();
     if (!options.pictures.isEmpty())
         return TakePicturesOfWidgets();
-    const QString page = options.page.isEmpty() ? RecorderPageName() : options.page;
+    const QString page = options.page.isEmpty() ? StartPageName() : options.page;
     if (!options.shot.isEmpty())
         return TakePictureOfPage(page, options.shot);
     OpenPage(page);
-    GreetOnce();
     return QApplication::exec();
-}
-
-void Application::UseLanguage(const QString& code)
-{
-    if (!translations.Use(code))
-        Complain(QString("there are no texts for the language '%1'; going on in English").arg(code));
-}
-
-void Application::UseStyle(const QString& name)
-{
-    QString error;
-    if (const auto sheet = LoadStyleSheet(name, error))
-        ApplyStyleSheet(*sheet);
 }
 
 QWidget* Application::OpenPage(const QString& name)
 {
-    if (name == RecorderPageName()) {
-        if (!recorder) {
-            recorder = std::make_unique<RecorderWindow>(&model, &preferences);
-            recorder->resize(recorder->sizeHint());
-            QObject::connect(recorder.get(), &RecorderWindow::WidgetsRequested, recorder.get(),
-                             [this] { OpenWidgets(); });
-            QObject::connect(recorder.get(), &RecorderWindow::StyleEditorRequested, &editStyle, &QAction::trigger);
-            recorder->addAction(&editStyle);
-        }
-        Show(recorder.get(), options.size);
-        return recorder.get();
-    }
     if (!gallery)
         MakeGallery();
     gallery->OpenPage(name);
-    Show(gallery.get(), options.size);
-    return gallery.get();
-}
-
-void Application::Show(QWidget* window, const QSize& size) const
-{
-    if (size.isValid()) {
-        // The person's size counts, also below what the window would like.
-        window->setMinimumSize(1, 1);
-        window->resize(size);
+    if (options.size.isValid()) {
+        // The size on the command line overrides the minimum size.
+        gallery->setMinimumSize(1, 1);
+        gallery->resize(options.size);
     } else if (!options.TakesPictures()) {
-        FitScreen(window);
+        Examples::FitToScreen(gallery.get());
     }
-    window->show();
+    gallery->show();
+    return gallery.get();
 }
 
 void Application::MakeGallery()
 {
-    gallery = std::make_unique<GalleryWindow>(&model, &preferences, options.scale);
+    gallery = std::make_unique<GalleryWindow>(&appearance, options.scale);
     gallery->addAction(&editStyle);
+    QObject::connect(gallery.get(), &GalleryWindow::RecorderRequested, gallery.get(), [this] { StartRecorder(); });
     QObject::connect(gallery.get(), &GalleryWindow::StyleEditorRequested, &editStyle, &QAction::trigger);
     QObject::connect(gallery.get(), &GalleryWindow::RestartRequested, gallery.get(),
                      [this](double scale, const QString& page) { Restart(scale, page); });
 }
 
-// The new program comes up as this one looks now.
-void Application::Restart(double scale, const QString& page)
+// What makes another program look as this one does now.
+QStringList Application::LookArguments() const
 {
-    const QString style = preferences.StyleName().isEmpty() ? options.styleArgument : preferences.StyleName();
-    QStringList arguments = {"--scale", QString::number(scale), "--style", style, "--language", preferences.Language()};
-    if (!page.isEmpty())
-        arguments += QStringList{"--page", page};
+    const QString style = appearance.StyleName().isEmpty() ? options.styleArgument : appearance.StyleName();
+    QStringList arguments = {"--style", style, "--language", appearance.Language()};
     if (QApplication::layoutDirection() == Qt::RightToLeft)
         arguments += "--rtl";
+    return arguments;
+}
+
+void Application::StartRecorder()
+{
+    const QString program = QDir(QApplication::applicationDirPath()).filePath("VxRecorder");
+    if (!QProcess::startDetached(program, LookArguments()))
+        Complain(QString("cannot start '%1'").arg(program));
+}
+
+void Application::Restart(double scale, const QString& page)
+{
+    QStringList arguments = LookArguments() + QStringList{"--scale", QString::number(scale)};
+    if (!page.isEmpty())
+        arguments += QStringList{"--page", page};
     if (QProcess::startDetached(QApplication::applicationFilePath(), arguments))
         QApplication::quit();
     else
@@ -178,33 +154,6 @@ void Application::OpenStyleEditor()
     styleEditor->show();
     styleEditor->raise();
     styleEditor->activateWindow();
-}
-
-// Somebody who has seen the hint once knows. Without a screen, nobody would see it.
-void Application::GreetOnce()
-{
-    if (!recorder || QApplication::platformName() == "offscreen")
-        return;
-    QTimer::singleShot(HINT_DELAY_MS, recorder.get(), [this] {
-        QSettings settings("VxUiWidgets", QApplication::applicationName());
-        if (!recorder->isVisible() || settings.value(HINT_SHOWN).toBool())
-            return;
-        settings.setValue(HINT_SHOWN, true);
-        recorder->ShowFirstHint();
-    });
-}
-
-// The gallery has the recorder as a page of its own, and a camera can be open only once: the one window goes while the
-// other is there.
-void Application::OpenWidgets()
-{
-    if (!gallery) {
-        MakeGallery();
-        QObject::connect(gallery.get(), &GalleryWindow::Closed, recorder.get(), [this] { recorder->show(); });
-    }
-    gallery->OpenPage(PageNames().value(1));
-    Show(gallery.get(), QSize());
-    recorder->hide();
 }
 
 int Application::TakePictureOfPage(const QString& page, const QString& file)
@@ -232,9 +181,6 @@ int Application::TakeAllPictures()
         const int result = TakePictureOfPage(page, QDir(options.shots).filePath(page + ".png"));
         if (result != EXIT_SUCCESS)
             return result;
-        // A window that is out of the picture runs nothing.
-        if (recorder)
-            recorder->hide();
     }
     return EXIT_SUCCESS;
 }
@@ -243,7 +189,7 @@ int Application::TakePicturesOfWidgets()
 {
     if (!MakeFolder(options.pictures))
         return EXIT_FAILURE;
-    for (const Entry& entry : Entries()) {
+    for (const Catalogue::Entry& entry : Catalogue::Entries()) {
         QWidget backdrop;
         // Else the widget would have the focus, and show it.
         backdrop.setFocusPolicy(Qt::StrongFocus);

@@ -1,11 +1,8 @@
 #pragma once
 
-#include "Languages.h"
 #include "Options.h"
-#include "Preferences.h"
-#include "RecorderModel.h"
 
-#include <Zelkor/StandIn/DeviceList.h>
+#include <Examples/Support/Appearance.h>
 
 #include <QAction>
 
@@ -16,7 +13,6 @@ class ZRuntimeStylesheetEditor;
 namespace Zelkor::Gallery {
 
 class GalleryWindow;
-class RecorderWindow;
 
 /// The program behind its command line: windows, devices, and pictures. Needs a `QApplication`.
 class Application
@@ -29,26 +25,19 @@ public:
     int Run();
 
 private:
-    void UseLanguage(const QString& code);
-    void UseStyle(const QString& name);
     QWidget* OpenPage(const QString& name);
-    void Show(QWidget* window, const QSize& size) const;
     void MakeGallery();
-    void OpenWidgets();
+    void StartRecorder();
     void OpenStyleEditor();
     void Restart(double scale, const QString& page);
-    void GreetOnce();
+    QStringList LookArguments() const;
     int TakePictureOfPage(const QString& page, const QString& file);
     int TakeAllPictures();
     int TakePicturesOfWidgets();
 
     const Options options;
-    Translations translations;
-    Preferences preferences;
+    Examples::Appearance appearance;
     QAction editStyle; ///< with its shortcut in every window
-    StandIn::DeviceList devices;
-    RecorderModel model;
-    std::unique_ptr<RecorderWindow> recorder;
     std::unique_ptr<GalleryWindow> gallery;
     std::unique_ptr<ZRuntimeStylesheetEditor> styleEditor;
 };

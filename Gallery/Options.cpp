@@ -1,5 +1,7 @@
 #include "Options.h"
-#include "GalleryWindow.h"
+
+#include <Examples/Support/BuiltInStyleSheets.h>
+#include <Gallery/Browser/PageList.h>
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
@@ -10,6 +12,8 @@
 
 namespace Zelkor::Gallery {
 
+using namespace Examples;
+
 namespace {
 
 constexpr double SMALLEST_SCALE = 0.5;
@@ -18,12 +22,12 @@ constexpr int LONGEST_WAIT = 600000;
 
 void Declare(QCommandLineParser& parser)
 {
-    parser.setApplicationDescription("Shows a small recorder, and every widget of VxUiWidgets in its states.");
+    parser.setApplicationDescription("Shows every widget of VxUiWidgets in its states.");
     parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
     parser.addOptions({
         {{"h", "help"}, "Shows this help."},
         {"list", "Prints the names of the pages."},
-        {"page", "Opens the page NAME; without it the recorder.", "NAME"},
+        {"page", "Opens the page NAME instead of the start page.", "NAME"},
         {"style",
          "Takes another style sheet: dark, light or a file. The icons of a file lie beside it in a folder of "
          "the same name.",
@@ -91,13 +95,8 @@ QString TakeValues(const QCommandLineParser& parser, Options& options)
         (parser.isSet("shots") || parser.isSet("shot") || parser.isSet("page") || parser.isSet("press")))
         return "--pictures shows no page, so --shot, --shots, --page and --press do not go with it";
     QString error;
-    const QString name = parser.value("style");
-    options.styleArgument = name;
-    const std::optional<StyleSheet> style = LoadStyleSheet(name, error);
-    if (style)
-        options.style = *style;
-    if (name == "dark" || name == "light")
-        options.styleName = name;
+    options.styleArgument = parser.value("style");
+    Examples::LoadStyleSheet(options.styleArgument, &error);
     return error;
 }
 

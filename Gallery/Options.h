@@ -1,7 +1,5 @@
 #pragma once
 
-#include "StyleSheet.h"
-
 #include <QSize>
 #include <QString>
 #include <QStringList>
@@ -17,10 +15,8 @@ constexpr int LARGEST_SIDE = 8192; ///< of a window, in pixels of the picture
 struct Options
 {
     bool list = false;
-    QString page; ///< empty for the one that comes up by itself
-    StyleSheet style;
-    QString styleArgument; ///< as it was given
-    QString styleName;     ///< of a built-in sheet; empty for a file
+    QString page;          ///< empty for the start page
+    QString styleArgument; ///< "dark", "light" or a file
     QString shot;          ///< file for a picture of the page; empty for none
     QString shots;         ///< folder for a picture of each page; empty for none
     QString pictures;      ///< folder for a picture of each widget by itself; empty for none

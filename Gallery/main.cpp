@@ -1,10 +1,13 @@
 #include "Application.h"
-#include "GalleryWindow.h"
 #include "Options.h"
 
-#include <glog/logging.h>
+#include <Examples/Support/Offscreen.h>
+
+#include <Gallery/Browser/PageList.h>
 
 #include <QApplication>
+
+#include <glog/logging.h>
 
 #include <cstdio>
 
@@ -57,28 +60,6 @@ void GoWithoutDisplay(Options& options)
     Complain(QString("there is no display; running without a window, the picture goes to '%1'").arg(options.shot));
 }
 
-// Without a window system, requests to it are refused; nobody has to hear that.
-QtMessageHandler previousHandler = nullptr;
-
-void PassOnMessage(QtMsgType type, const QMessageLogContext& context, const QString& message)
-{
-    if (!message.startsWith("This plugin does not support"))
-        previousHandler(type, context, message);
-}
-
-// There is no desktop either whose font could be taken.
-constexpr int FONT_SIZE_WITHOUT_DESKTOP = 10;
-
-void SettleWithoutDesktop()
-{
-    if (QApplication::platformName() != "offscreen")
-        return;
-    previousHandler = qInstallMessageHandler(PassOnMessage);
-    QFont font = QApplication::font();
-    font.setPointSize(FONT_SIZE_WITHOUT_DESKTOP);
-    QApplication::setFont(font);
-}
-
 } // namespace
 
 int main(int argc, char* argv[])
@@ -110,7 +91,7 @@ int main(int argc, char* argv[])
     int programOnly = 1;
     QApplication qtApplication(programOnly, argv);
     QApplication::setApplicationName("VxGallery");
-    SettleWithoutDesktop();
+    Zelkor::Examples::AdaptToOffscreen();
     // The scale of the screen, and of the environment, comes on top.
     const QSize pixels = options.size * qtApplication.devicePixelRatio();
     if (qMax(pixels.width(), pixels.height()) > LARGEST_SIDE) {

@@ -2,7 +2,52 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de">
 <context>
-    <name>Catalogue</name>
+    <name>Editors</name>
+    <message>
+        <source>One text in each line</source>
+        <translation>Ein Text je Zeile</translation>
+    </message>
+    <message>
+        <source>No colour</source>
+        <translation>Keine Farbe</translation>
+    </message>
+    <message>
+        <source>w</source>
+        <comment>short for width</comment>
+        <translation>B</translation>
+    </message>
+    <message>
+        <source>h</source>
+        <comment>short for height</comment>
+        <translation>H</translation>
+    </message>
+    <message>
+        <source>Choose a file</source>
+        <translation>Datei wählen</translation>
+    </message>
+    <message>
+        <source>This file is no picture</source>
+        <translation>Diese Datei ist kein Bild</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Bild</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>Bilder</translation>
+    </message>
+    <message>
+        <source>No picture</source>
+        <translation>Kein Bild</translation>
+    </message>
+</context>
+<context>
+    <name>EntryText</name>
+    <message>
+        <source>Next page</source>
+        <translation>Nächste Seite</translation>
+    </message>
     <message>
         <source>Disabled</source>
         <translation>Deaktiviert</translation>
@@ -196,6 +241,38 @@
         <translation>Von rechts nach links</translation>
     </message>
     <message>
+        <source>Start</source>
+        <translation>Anfang</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Anhalten</translation>
+    </message>
+    <message>
+        <source>Microphone</source>
+        <translation>Mikrofon</translation>
+    </message>
+    <message>
+        <source>Kit</source>
+        <translation>Bausteine</translation>
+    </message>
+    <message>
+        <source>An editor for the style sheet of the running application; here it works on the sample above it.</source>
+        <translation>Ein Editor für das Stylesheet der laufenden Anwendung; hier wirkt er auf das Beispiel darüber.</translation>
+    </message>
+    <message>
+        <source>With a sheet</source>
+        <translation>Mit Stylesheet</translation>
+    </message>
+    <message>
+        <source>With mistakes</source>
+        <translation>Mit Fehlern</translation>
+    </message>
+    <message>
+        <source>Find and replace</source>
+        <translation>Suchen und ersetzen</translation>
+    </message>
+    <message>
         <source>A drawn portrait</source>
         <translation>Ein gezeichnetes Porträt</translation>
     </message>
@@ -222,6 +299,284 @@
     <message>
         <source>Coloured</source>
         <translation>Farbig</translation>
+    </message>
+    <message>
+        <source>Built-in camera of the laptop in the lecture hall</source>
+        <translation>Integrierte Kamera des Laptops im Hörsaal</translation>
+    </message>
+    <message>
+        <source>Camera</source>
+        <translation>Kamera</translation>
+    </message>
+    <message>
+        <source>No camera</source>
+        <translation>Keine Kamera</translation>
+    </message>
+    <message>
+        <source>Document camera</source>
+        <translation>Dokumentenkamera</translation>
+    </message>
+    <message>
+        <source>Sound sources</source>
+        <translation>Tonquellen</translation>
+    </message>
+    <message>
+        <source>Sources: %1</source>
+        <translation>Quellen: %1</translation>
+    </message>
+    <message>
+        <source>System sound</source>
+        <translation>Systemton</translation>
+    </message>
+    <message>
+        <source>Click sounds</source>
+        <translation>Klickgeräusche</translation>
+    </message>
+    <message>
+        <source>A combo box that elides its text, opens a list as wide as its items or a widget of yours, and can leave the wheel to its panel.</source>
+        <translation>Ein Kombinationsfeld, das seinen Text kürzt, eine Liste in der Breite ihrer Einträge oder ein eigenes Widget öffnet und das Mausrad seinem Bedienfeld überlassen kann.</translation>
+    </message>
+    <message>
+        <source>Elided, wide list</source>
+        <translation>Gekürzt, breite Liste</translation>
+    </message>
+    <message>
+        <source>Narrow list</source>
+        <translation>Schmale Liste</translation>
+    </message>
+    <message>
+        <source>Cut, not elided</source>
+        <translation>Abgeschnitten, nicht gekürzt</translation>
+    </message>
+    <message>
+        <source>Display text</source>
+        <translation>Anzeigetext</translation>
+    </message>
+    <message>
+        <source>Choose a camera…</source>
+        <translation>Kamera auswählen…</translation>
+    </message>
+    <message>
+        <source>Opens a widget</source>
+        <translation>Öffnet ein Widget</translation>
+    </message>
+    <message>
+        <source>With icons, elided</source>
+        <translation>Mit Symbolen, gekürzt</translation>
+    </message>
+    <message>
+        <source>Wheel left to the panel</source>
+        <translation>Mausrad dem Bedienfeld überlassen</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Name of the camera</source>
+        <translation>Name der Kamera</translation>
+    </message>
+    <message>
+        <source>A line edit that elides its text until it gets the focus, and reports an edit when the focus leaves.</source>
+        <translation>Ein Eingabefeld, das seinen Text kürzt, bis es den Fokus erhält, und eine Bearbeitung meldet, wenn es ihn verliert.</translation>
+    </message>
+    <message>
+        <source>Fits</source>
+        <translation>Passt</translation>
+    </message>
+    <message>
+        <source>Elided</source>
+        <translation>Gekürzt</translation>
+    </message>
+    <message>
+        <source>Right-to-left text</source>
+        <translation>Text von rechts nach links</translation>
+    </message>
+    <message>
+        <source>Read-only</source>
+        <translation>Schreibgeschützt</translation>
+    </message>
+    <message>
+        <source>Clear button</source>
+        <translation>Löschschaltfläche</translation>
+    </message>
+    <message>
+        <source>Validated</source>
+        <translation>Geprüft</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Passwort</translation>
+    </message>
+    <message>
+        <source>Secret</source>
+        <translation>Geheim</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>Zoom</translation>
+    </message>
+    <message>
+        <source>Wheel in focus only</source>
+        <translation>Mausrad nur mit Fokus</translation>
+    </message>
+    <message>
+        <source>A slider that can leave the wheel to its panel until it has the focus.</source>
+        <translation>Ein Schieberegler, der das Mausrad seinem Bedienfeld überlassen kann, bis er den Fokus hat.</translation>
+    </message>
+    <message>
+        <source>At its end</source>
+        <translation>Am Ende</translation>
+    </message>
+    <message>
+        <source>Vertical</source>
+        <translation>Vertikal</translation>
+    </message>
+    <message>
+        <source>A slider for a floating-point value: its position times a multiplier.</source>
+        <translation>Ein Schieberegler für einen Gleitkommawert: seine Position mal ein Faktor.</translation>
+    </message>
+    <message>
+        <source>Tenths</source>
+        <translation>Zehntel</translation>
+    </message>
+    <message>
+        <source>Around zero, in quarters</source>
+        <translation>Um null, in Vierteln</translation>
+    </message>
+    <message>
+        <source>Frame rate</source>
+        <translation>Bildrate</translation>
+    </message>
+    <message>
+        <source>A field for a whole number that can leave the wheel to its panel until it has the focus.</source>
+        <translation>Ein Feld für eine ganze Zahl, das das Mausrad seinem Bedienfeld überlassen kann, bis es den Fokus hat.</translation>
+    </message>
+    <message>
+        <source>With a unit</source>
+        <translation>Mit Einheit</translation>
+    </message>
+    <message>
+        <source> fps</source>
+        <translation> fps</translation>
+    </message>
+    <message>
+        <source>Delay</source>
+        <translation>Verzögerung</translation>
+    </message>
+    <message>
+        <source> s</source>
+        <translation> s</translation>
+    </message>
+    <message>
+        <source>A field for a floating-point number that can keep what is typed to whole steps.</source>
+        <translation>Ein Feld für eine Gleitkommazahl, das Eingaben auf ganze Schritte begrenzen kann.</translation>
+    </message>
+    <message>
+        <source>Typed numbers in whole steps</source>
+        <translation>Eingaben in ganzen Schritten</translation>
+    </message>
+    <message>
+        <source>Button %1</source>
+        <translation>Schaltfläche %1</translation>
+    </message>
+    <message>
+        <source>Built-in camera</source>
+        <translation>Integrierte Kamera</translation>
+    </message>
+    <message>
+        <source>A small page</source>
+        <translation>Eine kleine Seite</translation>
+    </message>
+    <message>
+        <source>A page that takes
+the room of its text
+and no more</source>
+        <translation>Eine Seite, die so viel
+Platz nimmt wie ihr Text,
+und nicht mehr</translation>
+    </message>
+    <message>
+        <source>A frame whose layout can be spaced by a style sheet.</source>
+        <translation>Ein Rahmen, dessen Layoutabstände ein Stylesheet festlegen kann.</translation>
+    </message>
+    <message>
+        <source>Spaced by style sheet</source>
+        <translation>Abstände durch Stylesheet</translation>
+    </message>
+    <message>
+        <source>Spaced by properties</source>
+        <translation>Abstände durch Eigenschaften</translation>
+    </message>
+    <message>
+        <source>A camera with a name that is far too long for this place</source>
+        <translation>Eine Kamera mit einem Namen, der für diesen Platz viel zu lang ist</translation>
+    </message>
+    <message>
+        <source>A label for one text that may be too long: it is elided, and shown whole as the tool tip.</source>
+        <translation>Eine Beschriftung für einen Text, der zu lang sein kann: Er wird gekürzt und vollständig als Tooltip gezeigt.</translation>
+    </message>
+    <message>
+        <source>Not clickable</source>
+        <translation>Nicht anklickbar</translation>
+    </message>
+    <message>
+        <source>A stack of pages that takes the size of the page it shows instead of the largest one.</source>
+        <translation>Ein Seitenstapel, der die Größe der gezeigten Seite annimmt statt die der größten.</translation>
+    </message>
+    <message>
+        <source>Small page</source>
+        <translation>Kleine Seite</translation>
+    </message>
+    <message>
+        <source>Large page</source>
+        <translation>Große Seite</translation>
+    </message>
+    <message>
+        <source>Without fitting</source>
+        <translation>Ohne Anpassung</translation>
+    </message>
+    <message>
+        <source>Show the hint</source>
+        <translation>Hinweis zeigen</translation>
+    </message>
+    <message>
+        <source>Choose a source first</source>
+        <translation>Wählen Sie zuerst eine Quelle</translation>
+    </message>
+    <message>
+        <source>A camera, the screen
+or the test picture</source>
+        <translation>Eine Kamera, der Bildschirm
+oder das Testbild</translation>
+    </message>
+    <message>
+        <source>A camera, the screen or the test picture</source>
+        <translation>Eine Kamera, der Bildschirm oder das Testbild</translation>
+    </message>
+    <message>
+        <source>Windows</source>
+        <translation>Fenster</translation>
+    </message>
+    <message>
+        <source>A hint in a window of its own, in the shape of an image, that goes by itself.</source>
+        <translation>Ein Hinweis in einem eigenen Fenster in der Form eines Bildes, der von selbst verschwindet.</translation>
+    </message>
+    <message>
+        <source>Title and text</source>
+        <translation>Titel und Text</translation>
+    </message>
+    <message>
+        <source>Text only</source>
+        <translation>Nur Text</translation>
+    </message>
+    <message>
+        <source>The recording goes on</source>
+        <translation>Die Aufnahme läuft weiter</translation>
+    </message>
+    <message>
+        <source>Speech bubble</source>
+        <translation>Sprechblase</translation>
     </message>
     <message>
         <source>Indicators</source>
@@ -276,86 +631,6 @@
         <translation>Kein Rand</translation>
     </message>
     <message>
-        <source>Button %1</source>
-        <translation>Schaltfläche %1</translation>
-    </message>
-    <message>
-        <source>Built-in camera</source>
-        <translation>Integrierte Kamera</translation>
-    </message>
-    <message>
-        <source>A small page</source>
-        <translation>Eine kleine Seite</translation>
-    </message>
-    <message>
-        <source>A page that takes
-the room of its text
-and no more</source>
-        <translation>Eine Seite, die so viel
-Platz nimmt wie ihr Text,
-und nicht mehr</translation>
-    </message>
-    <message>
-        <source>Kit</source>
-        <translation>Bausteine</translation>
-    </message>
-    <message>
-        <source>A frame whose layout can be spaced by a style sheet.</source>
-        <translation>Ein Rahmen, dessen Layoutabstände ein Stylesheet festlegen kann.</translation>
-    </message>
-    <message>
-        <source>Spaced by style sheet</source>
-        <translation>Abstände durch Stylesheet</translation>
-    </message>
-    <message>
-        <source>Spaced by properties</source>
-        <translation>Abstände durch Eigenschaften</translation>
-    </message>
-    <message>
-        <source>A camera with a name that is far too long for this place</source>
-        <translation>Eine Kamera mit einem Namen, der für diesen Platz viel zu lang ist</translation>
-    </message>
-    <message>
-        <source>A label for one text that may be too long: it is elided, and shown whole as the tool tip.</source>
-        <translation>Eine Beschriftung für einen Text, der zu lang sein kann: Er wird gekürzt und vollständig als Tooltip gezeigt.</translation>
-    </message>
-    <message>
-        <source>Fits</source>
-        <translation>Passt</translation>
-    </message>
-    <message>
-        <source>Elided</source>
-        <translation>Gekürzt</translation>
-    </message>
-    <message>
-        <source>Right-to-left text</source>
-        <translation>Text von rechts nach links</translation>
-    </message>
-    <message>
-        <source>Cut, not elided</source>
-        <translation>Abgeschnitten, nicht gekürzt</translation>
-    </message>
-    <message>
-        <source>Not clickable</source>
-        <translation>Nicht anklickbar</translation>
-    </message>
-    <message>
-        <source>A stack of pages that takes the size of the page it shows instead of the largest one.</source>
-        <translation>Ein Seitenstapel, der die Größe der gezeigten Seite annimmt statt die der größten.</translation>
-    </message>
-    <message>
-        <source>Small page</source>
-        <translation>Kleine Seite</translation>
-    </message>
-    <message>
-        <source>Large page</source>
-        <translation>Große Seite</translation>
-    </message>
-    <message>
-        <source>Without fitting</source>
-        <translation>Ohne Anpassung</translation>
-    </message>
-    <message>
         <source>Take a picture</source>
         <translation>Bild aufnehmen</translation>
     </message>
@@ -370,10 +645,6 @@ und nicht mehr</translation>
     <message>
         <source>Horizontal</source>
         <translation>Horizontal</translation>
-    </message>
-    <message>
-        <source>Vertical</source>
-        <translation>Vertikal</translation>
     </message>
     <message>
         <source>Take a picture of everything on the screen</source>
@@ -422,6 +693,82 @@ den Zeiger</translation>
         <translation>Fenster</translation>
     </message>
     <message>
+        <source>Recording</source>
+        <translation>Aufnahme</translation>
+    </message>
+    <message>
+        <source>Waves of colour</source>
+        <translation>Farbwellen</translation>
+    </message>
+    <message>
+        <source>Colours</source>
+        <translation>Farben</translation>
+    </message>
+    <message>
+        <source>A grid of round LEDs, each of a colour of its own.</source>
+        <translation>Ein Raster runder LEDs, jede mit eigener Farbe.</translation>
+    </message>
+    <message>
+        <source>A sign</source>
+        <translation>Ein Zeichen</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Dunkel</translation>
+    </message>
+    <message>
+        <source>Transparent background</source>
+        <translation>Transparenter Hintergrund</translation>
+    </message>
+    <message>
+        <source>Named colours</source>
+        <translation>Benannte Farben</translation>
+    </message>
+    <message>
+        <source>Wider than the grid</source>
+        <translation>Breiter als das Raster</translation>
+    </message>
+    <message>
+        <source>4096 LEDs</source>
+        <translation>4096 LEDs</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>Lautstärke</translation>
+    </message>
+    <message>
+        <source>A button that shows a level and opens a slider above itself.</source>
+        <translation>Eine Schaltfläche, die einen Pegel zeigt und über sich einen Schieberegler öffnet.</translation>
+    </message>
+    <message>
+        <source>Level 0</source>
+        <translation>Pegel 0</translation>
+    </message>
+    <message>
+        <source>From 1</source>
+        <translation>Ab 1</translation>
+    </message>
+    <message>
+        <source>From 25</source>
+        <translation>Ab 25</translation>
+    </message>
+    <message>
+        <source>From 50</source>
+        <translation>Ab 50</translation>
+    </message>
+    <message>
+        <source>From 75</source>
+        <translation>Ab 75</translation>
+    </message>
+    <message>
+        <source>Slider in a window apart</source>
+        <translation>Schieberegler in eigenem Fenster</translation>
+    </message>
+    <message>
+        <source>High slider</source>
+        <translation>Hoher Schieberegler</translation>
+    </message>
+    <message>
         <source>No picture</source>
         <translation>Kein Bild</translation>
     </message>
@@ -462,10 +809,6 @@ den Zeiger</translation>
         <translation>Live</translation>
     </message>
     <message>
-        <source>Volume</source>
-        <translation>Lautstärke</translation>
-    </message>
-    <message>
         <source>A slider for a recording volume, with a meter of the input level behind its handle.</source>
         <translation>Ein Schieberegler für die Aufnahmelautstärke mit einer Anzeige des Eingangspegels hinter dem Griff.</translation>
     </message>
@@ -488,48 +831,6 @@ den Zeiger</translation>
     <message>
         <source>Rounded</source>
         <translation>Abgerundet</translation>
-    </message>
-    <message>
-        <source>Show the hint</source>
-        <translation>Hinweis zeigen</translation>
-    </message>
-    <message>
-        <source>Choose a source first</source>
-        <translation>Wählen Sie zuerst eine Quelle</translation>
-    </message>
-    <message>
-        <source>A camera, the screen
-or the test picture</source>
-        <translation>Eine Kamera, der Bildschirm
-oder das Testbild</translation>
-    </message>
-    <message>
-        <source>A camera, the screen or the test picture</source>
-        <translation>Eine Kamera, der Bildschirm oder das Testbild</translation>
-    </message>
-    <message>
-        <source>Windows</source>
-        <translation>Fenster</translation>
-    </message>
-    <message>
-        <source>A hint in a window of its own, in the shape of an image, that goes by itself.</source>
-        <translation>Ein Hinweis in einem eigenen Fenster in der Form eines Bildes, der von selbst verschwindet.</translation>
-    </message>
-    <message>
-        <source>Title and text</source>
-        <translation>Titel und Text</translation>
-    </message>
-    <message>
-        <source>Text only</source>
-        <translation>Nur Text</translation>
-    </message>
-    <message>
-        <source>The recording goes on</source>
-        <translation>Die Aufnahme läuft weiter</translation>
-    </message>
-    <message>
-        <source>Speech bubble</source>
-        <translation>Sprechblase</translation>
     </message>
     <message>
         <source>Shows one picture over its whole area: stretched, cut, or cut to an ellipse.</source>
@@ -556,100 +857,6 @@ oder das Testbild</translation>
         <translation>Ellipse hochkant</translation>
     </message>
     <message>
-        <source>Screen</source>
-        <translation>Bildschirm</translation>
-    </message>
-    <message>
-        <source>Camera</source>
-        <translation>Kamera</translation>
-    </message>
-    <message>
-        <source>Microphone</source>
-        <translation>Mikrofon</translation>
-    </message>
-    <message>
-        <source>Recording %1</source>
-        <translation>Aufnahme %1</translation>
-    </message>
-    <message>
-        <source>What is on the screen, or a part of it.</source>
-        <translation>Was auf dem Bildschirm ist, oder ein Teil davon.</translation>
-    </message>
-    <message>
-        <source>A camera, in a corner of the picture.</source>
-        <translation>Eine Kamera in einer Ecke des Bildes.</translation>
-    </message>
-    <message>
-        <source>The sound of what is said.</source>
-        <translation>Der Ton dessen, was gesagt wird.</translation>
-    </message>
-    <message>
-        <source>A page that is wider than the others</source>
-        <translation>Eine Seite, die breiter ist als die anderen</translation>
-    </message>
-    <message>
-        <source>A page
-that is higher
-than the others
-and not wide</source>
-        <translation>Eine Seite,
-die höher ist
-als die anderen
-und nicht breit</translation>
-    </message>
-    <message>
-        <source>Next page</source>
-        <translation>Nächste Seite</translation>
-    </message>
-    <message>
-        <source>Tabs</source>
-        <translation>Registerkarten</translation>
-    </message>
-    <message>
-        <source>A tab bar whose style sheet says where text and icon of a tab are, and how they change with the selection.</source>
-        <translation>Eine Tableiste, deren Stylesheet festlegt, wo Text und Symbol eines Tabs stehen und wie die Auswahl sie ändert.</translation>
-    </message>
-    <message>
-        <source>Text</source>
-        <translation>Text</translation>
-    </message>
-    <message>
-        <source>Icons</source>
-        <translation>Symbole</translation>
-    </message>
-    <message>
-        <source>One disabled</source>
-        <translation>Eine deaktiviert</translation>
-    </message>
-    <message>
-        <source>Scrolled</source>
-        <translation>Gescrollt</translation>
-    </message>
-    <message>
-        <source>Closable and movable</source>
-        <translation>Schließbar und verschiebbar</translation>
-    </message>
-    <message>
-        <source>A tab widget with that tab bar.</source>
-        <translation>Ein Tab-Widget mit dieser Tableiste.</translation>
-    </message>
-    <message>
-        <source>At the side</source>
-        <translation>An der Seite</translation>
-    </message>
-    <message>
-        <source>A stack of pages that is fixed to the size of the page it shows.</source>
-        <translation>Ein Seitenstapel, der fest die Größe der gezeigten Seite hat.</translation>
-    </message>
-    <message>
-        <source>Wide page</source>
-        <translation>Breite Seite</translation>
-    </message>
-    <message>
-        <source>High page</source>
-        <translation>Hohe Seite</translation>
-    </message>
-    <message>
         <source>Pointer</source>
         <translation>Zeiger</translation>
     </message>
@@ -668,6 +875,10 @@ und nicht breit</translation>
     <message>
         <source>Arrow</source>
         <translation>Pfeil</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
     </message>
     <message>
         <source>Blur</source>
@@ -754,6 +965,194 @@ und nicht breit</translation>
         <translation>Kein Wert</translation>
     </message>
     <message>
+        <source>Position</source>
+        <translation>Position</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <comment>thumb</comment>
+        <translation>Anfang</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <comment>thumb</comment>
+        <translation>Ende</translation>
+    </message>
+    <message>
+        <source>Mark at %1</source>
+        <translation>Marke bei %1</translation>
+    </message>
+    <message>
+        <source>A slider with any number of thumbs and highlighted stretches, for trimming and timelines.</source>
+        <translation>Ein Schieberegler mit beliebig vielen Griffen und hervorgehobenen Abschnitten, zum Zuschneiden und für Zeitleisten.</translation>
+    </message>
+    <message>
+        <source>One thumb</source>
+        <translation>Ein Griff</translation>
+    </message>
+    <message>
+        <source>Trimming</source>
+        <translation>Zuschneiden</translation>
+    </message>
+    <message>
+        <source>Trimming, position limited</source>
+        <translation>Zuschneiden, Position begrenzt</translation>
+    </message>
+    <message>
+        <source>Segments</source>
+        <translation>Abschnitte</translation>
+    </message>
+    <message>
+        <source>Marks, one selected</source>
+        <translation>Marken, eine ausgewählt</translation>
+    </message>
+    <message>
+        <source>Marks that snap to the position</source>
+        <translation>Marken, die an der Position einrasten</translation>
+    </message>
+    <message>
+        <source>Upright</source>
+        <translation>Senkrecht</translation>
+    </message>
+    <message>
+        <source>Upright, segments</source>
+        <translation>Senkrecht, Abschnitte</translation>
+    </message>
+    <message>
+        <source>Screen</source>
+        <translation>Bildschirm</translation>
+    </message>
+    <message>
+        <source>Recording %1</source>
+        <translation>Aufnahme %1</translation>
+    </message>
+    <message>
+        <source>What is on the screen, or a part of it.</source>
+        <translation>Was auf dem Bildschirm ist, oder ein Teil davon.</translation>
+    </message>
+    <message>
+        <source>A camera, in a corner of the picture.</source>
+        <translation>Eine Kamera in einer Ecke des Bildes.</translation>
+    </message>
+    <message>
+        <source>The sound of what is said.</source>
+        <translation>Der Ton dessen, was gesagt wird.</translation>
+    </message>
+    <message>
+        <source>A page that is wider than the others</source>
+        <translation>Eine Seite, die breiter ist als die anderen</translation>
+    </message>
+    <message>
+        <source>A page
+that is higher
+than the others
+and not wide</source>
+        <translation>Eine Seite,
+die höher ist
+als die anderen
+und nicht breit</translation>
+    </message>
+    <message>
+        <source>Tabs</source>
+        <translation>Registerkarten</translation>
+    </message>
+    <message>
+        <source>A tab bar whose style sheet says where text and icon of a tab are, and how they change with the selection.</source>
+        <translation>Eine Tableiste, deren Stylesheet festlegt, wo Text und Symbol eines Tabs stehen und wie die Auswahl sie ändert.</translation>
+    </message>
+    <message>
+        <source>Icons</source>
+        <translation>Symbole</translation>
+    </message>
+    <message>
+        <source>One disabled</source>
+        <translation>Eine deaktiviert</translation>
+    </message>
+    <message>
+        <source>Scrolled</source>
+        <translation>Gescrollt</translation>
+    </message>
+    <message>
+        <source>Closable and movable</source>
+        <translation>Schließbar und verschiebbar</translation>
+    </message>
+    <message>
+        <source>A tab widget with that tab bar.</source>
+        <translation>Ein Tab-Widget mit dieser Tableiste.</translation>
+    </message>
+    <message>
+        <source>At the side</source>
+        <translation>An der Seite</translation>
+    </message>
+    <message>
+        <source>A stack of pages that is fixed to the size of the page it shows.</source>
+        <translation>Ein Seitenstapel, der fest die Größe der gezeigten Seite hat.</translation>
+    </message>
+    <message>
+        <source>Wide page</source>
+        <translation>Breite Seite</translation>
+    </message>
+    <message>
+        <source>High page</source>
+        <translation>Hohe Seite</translation>
+    </message>
+    <message>
+        <source>A slider for a time within a span, which bounds can narrow; it tells the time under the mouse.</source>
+        <translation>Ein Schieberegler für eine Zeit in einer Spanne, die Grenzen einengen können; er nennt die Zeit unter der Maus.</translation>
+    </message>
+    <message>
+        <source>One minute of three</source>
+        <translation>Eine Minute von dreien</translation>
+    </message>
+    <message>
+        <source>Narrowed by bounds</source>
+        <translation>Durch Grenzen eingeengt</translation>
+    </message>
+    <message>
+        <source>Bounds with thumbs</source>
+        <translation>Grenzen mit Griffen</translation>
+    </message>
+    <message>
+        <source>At its bound</source>
+        <translation>An der Grenze</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Zeit</translation>
+    </message>
+    <message>
+        <source>A field for a time whose digits are overwritten in place, in the shortest format that is exact.</source>
+        <translation>Ein Feld für eine Zeit, deren Ziffern an ihrer Stelle überschrieben werden, im kürzesten genauen Format.</translation>
+    </message>
+    <message>
+        <source>One format</source>
+        <translation>Ein Format</translation>
+    </message>
+    <message>
+        <source>The format that fits: minutes</source>
+        <translation>Das passende Format: Minuten</translation>
+    </message>
+    <message>
+        <source>The format that fits: milliseconds</source>
+        <translation>Das passende Format: Millisekunden</translation>
+    </message>
+    <message>
+        <source>Always the longest format</source>
+        <translation>Immer das längste Format</translation>
+    </message>
+    <message>
+        <source>As wide as its text</source>
+        <translation>So breit wie der Text</translation>
+    </message>
+    <message>
+        <source>From 00:01:00 to 00:30:00</source>
+        <translation>Von 00:01:00 bis 00:30:00</translation>
+    </message>
+    <message>
+        <source>Twelve hours</source>
+        <translation>Zwölf Stunden</translation>
+    </message>
+    <message>
         <source>Recorder</source>
         <translation>Rekorder</translation>
     </message>
@@ -813,416 +1212,6 @@ und nicht breit</translation>
         <source>Copyright 2026 Example Company. All rights reserved. Protected by law; made with the help of many.</source>
         <translation>Copyright 2026 Beispielfirma. Alle Rechte vorbehalten. Gesetzlich geschützt; mit der Hilfe vieler entstanden.</translation>
     </message>
-    <message>
-        <source>Start</source>
-        <translation>Start</translation>
-    </message>
-    <message>
-        <source>Stop</source>
-        <translation>Stopp</translation>
-    </message>
-    <message>
-        <source>An editor for the style sheet of the running application; here it works on the sample above it.</source>
-        <translation>Ein Editor für das Stylesheet der laufenden Anwendung; hier wirkt er auf das Beispiel darüber.</translation>
-    </message>
-    <message>
-        <source>With a sheet</source>
-        <translation>Mit Stylesheet</translation>
-    </message>
-    <message>
-        <source>With mistakes</source>
-        <translation>Mit Fehlern</translation>
-    </message>
-    <message>
-        <source>Find and replace</source>
-        <translation>Suchen und ersetzen</translation>
-    </message>
-    <message>
-        <source>Built-in camera of the laptop in the lecture hall</source>
-        <translation>Integrierte Kamera des Laptops im Hörsaal</translation>
-    </message>
-    <message>
-        <source>No camera</source>
-        <translation>Keine Kamera</translation>
-    </message>
-    <message>
-        <source>Document camera</source>
-        <translation>Dokumentenkamera</translation>
-    </message>
-    <message>
-        <source>Sound sources</source>
-        <translation>Tonquellen</translation>
-    </message>
-    <message>
-        <source>Sources: %1</source>
-        <translation>Quellen: %1</translation>
-    </message>
-    <message>
-        <source>System sound</source>
-        <translation>Systemton</translation>
-    </message>
-    <message>
-        <source>Click sounds</source>
-        <translation>Klickgeräusche</translation>
-    </message>
-    <message>
-        <source>A combo box that elides its text, opens a list as wide as its items or a widget of yours, and can leave the wheel to its panel.</source>
-        <translation>Ein Kombinationsfeld, das seinen Text kürzt, eine Liste in der Breite ihrer Einträge oder ein eigenes Widget öffnet und das Mausrad seinem Bedienfeld überlassen kann.</translation>
-    </message>
-    <message>
-        <source>Elided, wide list</source>
-        <translation>Gekürzt, breite Liste</translation>
-    </message>
-    <message>
-        <source>Narrow list</source>
-        <translation>Schmale Liste</translation>
-    </message>
-    <message>
-        <source>Display text</source>
-        <translation>Anzeigetext</translation>
-    </message>
-    <message>
-        <source>Choose a camera…</source>
-        <translation>Kamera auswählen…</translation>
-    </message>
-    <message>
-        <source>Opens a widget</source>
-        <translation>Öffnet ein Widget</translation>
-    </message>
-    <message>
-        <source>With icons, elided</source>
-        <translation>Mit Symbolen, gekürzt</translation>
-    </message>
-    <message>
-        <source>Wheel left to the panel</source>
-        <translation>Mausrad dem Bedienfeld überlassen</translation>
-    </message>
-    <message>
-        <source>Name</source>
-        <translation>Name</translation>
-    </message>
-    <message>
-        <source>Name of the camera</source>
-        <translation>Name der Kamera</translation>
-    </message>
-    <message>
-        <source>A line edit that elides its text until it gets the focus, and reports an edit when the focus leaves.</source>
-        <translation>Ein Eingabefeld, das seinen Text kürzt, bis es den Fokus erhält, und eine Bearbeitung meldet, wenn es ihn verliert.</translation>
-    </message>
-    <message>
-        <source>Read-only</source>
-        <translation>Schreibgeschützt</translation>
-    </message>
-    <message>
-        <source>Clear button</source>
-        <translation>Löschschaltfläche</translation>
-    </message>
-    <message>
-        <source>Validated</source>
-        <translation>Geprüft</translation>
-    </message>
-    <message>
-        <source>Password</source>
-        <translation>Passwort</translation>
-    </message>
-    <message>
-        <source>Secret</source>
-        <translation>Geheim</translation>
-    </message>
-    <message>
-        <source>Zoom</source>
-        <translation>Zoom</translation>
-    </message>
-    <message>
-        <source>Wheel in focus only</source>
-        <translation>Mausrad nur mit Fokus</translation>
-    </message>
-    <message>
-        <source>A slider that can leave the wheel to its panel until it has the focus.</source>
-        <translation>Ein Schieberegler, der das Mausrad seinem Bedienfeld überlassen kann, bis er den Fokus hat.</translation>
-    </message>
-    <message>
-        <source>At its end</source>
-        <translation>Am Ende</translation>
-    </message>
-    <message>
-        <source>A slider for a floating-point value: its position times a multiplier.</source>
-        <translation>Ein Schieberegler für einen Gleitkommawert: seine Position mal ein Faktor.</translation>
-    </message>
-    <message>
-        <source>Tenths</source>
-        <translation>Zehntel</translation>
-    </message>
-    <message>
-        <source>Around zero, in quarters</source>
-        <translation>Um null, in Vierteln</translation>
-    </message>
-    <message>
-        <source>Frame rate</source>
-        <translation>Bildrate</translation>
-    </message>
-    <message>
-        <source>A field for a whole number that can leave the wheel to its panel until it has the focus.</source>
-        <translation>Ein Feld für eine ganze Zahl, das das Mausrad seinem Bedienfeld überlassen kann, bis es den Fokus hat.</translation>
-    </message>
-    <message>
-        <source>With a unit</source>
-        <translation>Mit Einheit</translation>
-    </message>
-    <message>
-        <source> fps</source>
-        <translation> fps</translation>
-    </message>
-    <message>
-        <source>Delay</source>
-        <translation>Verzögerung</translation>
-    </message>
-    <message>
-        <source> s</source>
-        <translation> s</translation>
-    </message>
-    <message>
-        <source>A field for a floating-point number that can keep what is typed to whole steps.</source>
-        <translation>Ein Feld für eine Gleitkommazahl, das Eingaben auf ganze Schritte begrenzen kann.</translation>
-    </message>
-    <message>
-        <source>Typed numbers in whole steps</source>
-        <translation>Eingaben in ganzen Schritten</translation>
-    </message>
-    <message>
-        <source>Recording</source>
-        <translation>Aufnahme</translation>
-    </message>
-    <message>
-        <source>Waves of colour</source>
-        <translation>Farbwellen</translation>
-    </message>
-    <message>
-        <source>Colours</source>
-        <translation>Farben</translation>
-    </message>
-    <message>
-        <source>A grid of round LEDs, each of a colour of its own.</source>
-        <translation>Ein Raster runder LEDs, jede mit eigener Farbe.</translation>
-    </message>
-    <message>
-        <source>A sign</source>
-        <translation>Ein Zeichen</translation>
-    </message>
-    <message>
-        <source>Dark</source>
-        <translation>Dunkel</translation>
-    </message>
-    <message>
-        <source>Transparent background</source>
-        <translation>Transparenter Hintergrund</translation>
-    </message>
-    <message>
-        <source>Named colours</source>
-        <translation>Benannte Farben</translation>
-    </message>
-    <message>
-        <source>Wider than the grid</source>
-        <translation>Breiter als das Raster</translation>
-    </message>
-    <message>
-        <source>4096 LEDs</source>
-        <translation>4096 LEDs</translation>
-    </message>
-    <message>
-        <source>A button that shows a level and opens a slider above itself.</source>
-        <translation>Eine Schaltfläche, die einen Pegel zeigt und über sich einen Schieberegler öffnet.</translation>
-    </message>
-    <message>
-        <source>Level 0</source>
-        <translation>Pegel 0</translation>
-    </message>
-    <message>
-        <source>From 1</source>
-        <translation>Ab 1</translation>
-    </message>
-    <message>
-        <source>From 25</source>
-        <translation>Ab 25</translation>
-    </message>
-    <message>
-        <source>From 50</source>
-        <translation>Ab 50</translation>
-    </message>
-    <message>
-        <source>From 75</source>
-        <translation>Ab 75</translation>
-    </message>
-    <message>
-        <source>Slider in a window apart</source>
-        <translation>Schieberegler in eigenem Fenster</translation>
-    </message>
-    <message>
-        <source>High slider</source>
-        <translation>Hoher Schieberegler</translation>
-    </message>
-    <message>
-        <source>Position</source>
-        <translation>Position</translation>
-    </message>
-    <message>
-        <source>Mark at %1</source>
-        <translation>Marke bei %1</translation>
-    </message>
-    <message>
-        <source>A slider with any number of thumbs and highlighted stretches, for trimming and timelines.</source>
-        <translation>Ein Schieberegler mit beliebig vielen Griffen und hervorgehobenen Abschnitten, zum Zuschneiden und für Zeitleisten.</translation>
-    </message>
-    <message>
-        <source>One thumb</source>
-        <translation>Ein Griff</translation>
-    </message>
-    <message>
-        <source>Trimming</source>
-        <translation>Zuschneiden</translation>
-    </message>
-    <message>
-        <source>Trimming, position limited</source>
-        <translation>Zuschneiden, Position begrenzt</translation>
-    </message>
-    <message>
-        <source>Segments</source>
-        <translation>Abschnitte</translation>
-    </message>
-    <message>
-        <source>Marks, one selected</source>
-        <translation>Marken, eine ausgewählt</translation>
-    </message>
-    <message>
-        <source>Marks that snap to the position</source>
-        <translation>Marken, die an der Position einrasten</translation>
-    </message>
-    <message>
-        <source>Upright</source>
-        <translation>Senkrecht</translation>
-    </message>
-    <message>
-        <source>Upright, segments</source>
-        <translation>Senkrecht, Abschnitte</translation>
-    </message>
-    <message>
-        <source>Start</source>
-        <comment>thumb</comment>
-        <translation>Anfang</translation>
-    </message>
-    <message>
-        <source>End</source>
-        <comment>thumb</comment>
-        <translation>Ende</translation>
-    </message>
-    <message>
-        <source>A slider for a time within a span, which bounds can narrow; it tells the time under the mouse.</source>
-        <translation>Ein Schieberegler für eine Zeit in einer Spanne, die Grenzen einengen können; er nennt die Zeit unter der Maus.</translation>
-    </message>
-    <message>
-        <source>One minute of three</source>
-        <translation>Eine Minute von dreien</translation>
-    </message>
-    <message>
-        <source>Narrowed by bounds</source>
-        <translation>Durch Grenzen eingeengt</translation>
-    </message>
-    <message>
-        <source>Bounds with thumbs</source>
-        <translation>Grenzen mit Griffen</translation>
-    </message>
-    <message>
-        <source>At its bound</source>
-        <translation>An der Grenze</translation>
-    </message>
-    <message>
-        <source>Time</source>
-        <translation>Zeit</translation>
-    </message>
-    <message>
-        <source>A field for a time whose digits are overwritten in place, in the shortest format that is exact.</source>
-        <translation>Ein Feld für eine Zeit, deren Ziffern an ihrer Stelle überschrieben werden, im kürzesten genauen Format.</translation>
-    </message>
-    <message>
-        <source>One format</source>
-        <translation>Ein Format</translation>
-    </message>
-    <message>
-        <source>The format that fits: minutes</source>
-        <translation>Das passende Format: Minuten</translation>
-    </message>
-    <message>
-        <source>The format that fits: milliseconds</source>
-        <translation>Das passende Format: Millisekunden</translation>
-    </message>
-    <message>
-        <source>Always the longest format</source>
-        <translation>Immer das längste Format</translation>
-    </message>
-    <message>
-        <source>As wide as its text</source>
-        <translation>So breit wie der Text</translation>
-    </message>
-    <message>
-        <source>From 00:01:00 to 00:30:00</source>
-        <translation>Von 00:01:00 bis 00:30:00</translation>
-    </message>
-    <message>
-        <source>Twelve hours</source>
-        <translation>Zwölf Stunden</translation>
-    </message>
-</context>
-<context>
-    <name>Editors</name>
-    <message>
-        <source>One text in each line</source>
-        <translation>Ein Text je Zeile</translation>
-    </message>
-    <message>
-        <source>No colour</source>
-        <translation>Keine Farbe</translation>
-    </message>
-    <message>
-        <source>w</source>
-        <comment>short for width</comment>
-        <translation>B</translation>
-    </message>
-    <message>
-        <source>h</source>
-        <comment>short for height</comment>
-        <translation>H</translation>
-    </message>
-    <message>
-        <source>Choose a file</source>
-        <translation>Datei wählen</translation>
-    </message>
-    <message>
-        <source>This file is no picture</source>
-        <translation>Diese Datei ist kein Bild</translation>
-    </message>
-    <message>
-        <source>Picture</source>
-        <translation>Bild</translation>
-    </message>
-    <message>
-        <source>Pictures</source>
-        <translation>Bilder</translation>
-    </message>
-    <message>
-        <source>No picture</source>
-        <translation>Kein Bild</translation>
-    </message>
-</context>
-<context>
-    <name>FirstHint</name>
-    <message>
-        <source>Start here</source>
-        <translation>Hier beginnen</translation>
-    </message>
-    <message>
-        <source>Choose what is shown: a camera, the screen or the test picture.</source>
-        <translation>Wählen Sie, was gezeigt wird: eine Kamera, der Bildschirm oder das Testbild.</translation>
-    </message>
 </context>
 <context>
     <name>TestPicture</name>
@@ -1259,88 +1248,10 @@ und nicht breit</translation>
     </message>
 </context>
 <context>
-    <name>Zelkor::Gallery::AudioPanel</name>
-    <message>
-        <source>Test signal</source>
-        <translation>Testsignal</translation>
-    </message>
-    <message>
-        <source>Microphone</source>
-        <translation>Mikrofon</translation>
-    </message>
-    <message>
-        <source>System sound</source>
-        <translation>Systemton</translation>
-    </message>
-</context>
-<context>
-    <name>Zelkor::Gallery::CaptureBar</name>
-    <message>
-        <source>Full screen</source>
-        <translation>Ganzer Bildschirm</translation>
-    </message>
-    <message>
-        <source>Window</source>
-        <translation>Fenster</translation>
-    </message>
-    <message>
-        <source>Region</source>
-        <translation>Bereich</translation>
-    </message>
-    <message>
-        <source>Around pointer</source>
-        <translation>Um den Zeiger</translation>
-    </message>
-    <message>
-        <source>Sound only</source>
-        <translation>Nur Ton</translation>
-    </message>
-    <message>
-        <source>No click sound</source>
-        <translation>Kein Klickgeräusch</translation>
-    </message>
-    <message>
-        <source>Soft click</source>
-        <translation>Leiser Klick</translation>
-    </message>
-    <message>
-        <source>Mechanical keyboard</source>
-        <translation>Mechanische Tastatur</translation>
-    </message>
-    <message>
-        <source>Typewriter</source>
-        <translation>Schreibmaschine</translation>
-    </message>
-    <message>
-        <source>Recording mode: %1</source>
-        <translation>Aufnahmemodus: %1</translation>
-    </message>
-    <message>
-        <source>Chooses what is recorded</source>
-        <translation>Wählt, was aufgenommen wird</translation>
-    </message>
-    <message>
-        <source>Chooses the colour of drawings</source>
-        <translation>Wählt die Farbe von Zeichnungen</translation>
-    </message>
-    <message>
-        <source>Drawing colour</source>
-        <translation>Zeichenfarbe</translation>
-    </message>
-    <message>
-        <source>Chooses what is heard when you click</source>
-        <translation>Wählt, was beim Klicken zu hören ist</translation>
-    </message>
-    <message>
-        <source>Click sound</source>
-        <translation>Klickgeräusch</translation>
-    </message>
-</context>
-<context>
     <name>Zelkor::Gallery::GalleryWindow</name>
     <message>
-        <source>Widgets of Vx Recorder</source>
-        <translation>Widgets von Vx Recorder</translation>
+        <source>VxUiWidgets Gallery</source>
+        <translation>VxUiWidgets-Galerie</translation>
     </message>
 </context>
 <context>
@@ -1392,12 +1303,8 @@ und nicht breit</translation>
         <translation>Seiten durchsuchen (%1)</translation>
     </message>
     <message>
-        <source>Recorder</source>
-        <translation>Rekorder</translation>
-    </message>
-    <message>
-        <source>Trimmer</source>
-        <translation>Zuschneiden</translation>
+        <source>Start</source>
+        <translation>Anfang</translation>
     </message>
 </context>
 <context>
@@ -1443,127 +1350,6 @@ Vorgabe: %3</translation>
     <message>
         <source>Style sheets cannot say this</source>
         <translation>Stylesheets können das nicht sagen</translation>
-    </message>
-</context>
-<context>
-    <name>Zelkor::Gallery::RecorderModel</name>
-    <message>
-        <source>Screen</source>
-        <translation>Bildschirm</translation>
-    </message>
-</context>
-<context>
-    <name>Zelkor::Gallery::RecorderView</name>
-    <message>
-        <source>Record</source>
-        <translation>Aufnehmen</translation>
-    </message>
-    <message>
-        <source>End</source>
-        <translation>Beenden</translation>
-    </message>
-    <message>
-        <source>Starts to record after a countdown</source>
-        <translation>Beginnt die Aufnahme nach einem Countdown</translation>
-    </message>
-    <message>
-        <source>Ends the recording</source>
-        <translation>Beendet die Aufnahme</translation>
-    </message>
-    <message>
-        <source>Waiting for the picture</source>
-        <translation>Warten auf das Bild</translation>
-    </message>
-    <message>
-        <source>No picture</source>
-        <translation>Kein Bild</translation>
-    </message>
-    <message>
-        <source>Stop</source>
-        <translation>Anhalten</translation>
-    </message>
-    <message>
-        <source>Start</source>
-        <translation>Starten</translation>
-    </message>
-    <message>
-        <source>%1 · %2 · %3 fps</source>
-        <translation>%1 · %2 · %3 fps</translation>
-    </message>
-    <message>
-        <source>Recording %1 · %2</source>
-        <translation>Aufnahme %1 · %2</translation>
-    </message>
-    <message>
-        <source>Stopped · %1</source>
-        <translation>Angehalten · %1</translation>
-    </message>
-    <message>
-        <source>No picture · %1</source>
-        <translation>Kein Bild · %1</translation>
-    </message>
-    <message>
-        <source>The camera could not be opened. Check that it is connected and that no other program uses it, then start again.</source>
-        <translation>Die Kamera konnte nicht geöffnet werden. Prüfen Sie, ob sie angeschlossen ist und von keinem anderen Programm verwendet wird, und starten Sie erneut.</translation>
-    </message>
-    <message>
-        <source>The source could not be opened. Choose another one, or start again.</source>
-        <translation>Die Quelle konnte nicht geöffnet werden. Wählen Sie eine andere, oder starten Sie erneut.</translation>
-    </message>
-    <message>
-        <source>Source</source>
-        <translation>Quelle</translation>
-    </message>
-    <message>
-        <source>Chooses what is shown</source>
-        <translation>Wählt, was gezeigt wird</translation>
-    </message>
-    <message>
-        <source>Audio</source>
-        <translation>Audio</translation>
-    </message>
-    <message>
-        <source>Sets how loud microphone and system are</source>
-        <translation>Stellt die Lautstärke von Mikrofon und System ein</translation>
-    </message>
-    <message>
-        <source>Settings of the device</source>
-        <translation>Einstellungen des Geräts</translation>
-    </message>
-    <message>
-        <source>Live picture</source>
-        <translation>Livebild</translation>
-    </message>
-</context>
-<context>
-    <name>Zelkor::Gallery::RecorderWindow</name>
-    <message>
-        <source>Version %1</source>
-        <translation>Version %1</translation>
-    </message>
-    <message>
-        <source>Shows the widgets of VxUiWidgets at work. Nothing is recorded.</source>
-        <translation>Zeigt die Widgets von VxUiWidgets im Einsatz. Es wird nichts aufgenommen.</translation>
-    </message>
-    <message>
-        <source>Vx Recorder</source>
-        <translation>Vx Recorder</translation>
-    </message>
-    <message>
-        <source>All widgets</source>
-        <translation>Alle Widgets</translation>
-    </message>
-    <message>
-        <source>Settings</source>
-        <translation>Einstellungen</translation>
-    </message>
-    <message>
-        <source>About</source>
-        <translation>Info</translation>
-    </message>
-    <message>
-        <source>Edit the style sheet (F12)</source>
-        <translation>Stylesheet bearbeiten (F12)</translation>
     </message>
 </context>
 <context>
@@ -1630,97 +1416,6 @@ Vorgabe: %3</translation>
     </message>
 </context>
 <context>
-    <name>Zelkor::Gallery::SettingsDialog</name>
-    <message>
-        <source>Settings</source>
-        <translation>Einstellungen</translation>
-    </message>
-    <message>
-        <source>Subjects</source>
-        <translation>Themen</translation>
-    </message>
-    <message>
-        <source>General</source>
-        <translation>Allgemein</translation>
-    </message>
-    <message>
-        <source>Recording</source>
-        <translation>Aufnahme</translation>
-    </message>
-    <message>
-        <source>Pointer</source>
-        <translation>Mauszeiger</translation>
-    </message>
-    <message>
-        <source>Language</source>
-        <translation>Sprache</translation>
-    </message>
-    <message>
-        <source>Appearance</source>
-        <translation>Darstellung</translation>
-    </message>
-    <message>
-        <source>As given</source>
-        <translation>Wie vorgegeben</translation>
-    </message>
-    <message>
-        <source>Dark</source>
-        <translation>Dunkel</translation>
-    </message>
-    <message>
-        <source>Light</source>
-        <translation>Hell</translation>
-    </message>
-    <message>
-        <source>Countdown</source>
-        <translation>Countdown</translation>
-    </message>
-    <message>
-        <source>None</source>
-        <translation>Keiner</translation>
-    </message>
-    <message>
-        <source>Quality</source>
-        <translation>Qualität</translation>
-    </message>
-    <message>
-        <source>Small</source>
-        <translation>Niedrig</translation>
-    </message>
-    <message>
-        <source>Medium</source>
-        <translation>Mittel</translation>
-    </message>
-    <message>
-        <source>High</source>
-        <translation>Hoch</translation>
-    </message>
-    <message>
-        <source>Lossless</source>
-        <translation>Verlustfrei</translation>
-    </message>
-    <message>
-        <source>Colour</source>
-        <translation>Farbe</translation>
-    </message>
-    <message>
-        <source>Size</source>
-        <translation>Größe</translation>
-    </message>
-    <message>
-        <source>The pointer&apos;s highlight</source>
-        <translation>Hervorhebung des Mauszeigers</translation>
-    </message>
-    <message>
-        <source>About %1 MB per minute</source>
-        <translation>Etwa %1 MB je Minute</translation>
-    </message>
-    <message>
-        <source>%1 s</source>
-        <translation>%1 s</translation>
-    </message>
-</context>
-<context>
     <name>Zelkor::Gallery::SignalLog</name>
     <message>
         <source>Signals</source>
@@ -1744,124 +1439,22 @@ Vorgabe: %3</translation>
     </message>
 </context>
 <context>
-    <name>Zelkor::Gallery::SourcePanel</name>
+    <name>Zelkor::Gallery::StartPage</name>
     <message>
-        <source>%1 (not connected)</source>
-        <translation>%1 (nicht angeschlossen)</translation>
+        <source>Widgets for screen recorders</source>
+        <translation>Widgets für Bildschirmrekorder</translation>
     </message>
     <message>
-        <source>%1 frames per second</source>
-        <translation>%1 Bilder pro Sekunde</translation>
+        <source>The recorder is an application made of these widgets: a live picture, its sound level, panels, settings and a trimmer.</source>
+        <translation>Der Recorder ist eine Anwendung aus diesen Widgets: mit Livebild, Tonpegel, Bedienfeldern, Einstellungen und Schnitt.</translation>
     </message>
     <message>
-        <source>Device</source>
-        <translation>Gerät</translation>
+        <source>Open the recorder</source>
+        <translation>Recorder öffnen</translation>
     </message>
     <message>
-        <source>Mode</source>
-        <translation>Modus</translation>
-    </message>
-    <message>
-        <source>Frame rate</source>
-        <translation>Bildrate</translation>
-    </message>
-</context>
-<context>
-    <name>Zelkor::Gallery::ToolStrip</name>
-    <message>
-        <source>Pointer</source>
-        <translation>Zeiger</translation>
-    </message>
-    <message>
-        <source>Pen</source>
-        <translation>Stift</translation>
-    </message>
-    <message>
-        <source>Marker</source>
-        <translation>Textmarker</translation>
-    </message>
-    <message>
-        <source>Line</source>
-        <translation>Linie</translation>
-    </message>
-    <message>
-        <source>Arrow</source>
-        <translation>Pfeil</translation>
-    </message>
-    <message>
-        <source>Rectangle</source>
-        <translation>Rechteck</translation>
-    </message>
-    <message>
-        <source>Ellipse</source>
-        <translation>Ellipse</translation>
-    </message>
-    <message>
-        <source>Text</source>
-        <translation>Text</translation>
-    </message>
-    <message>
-        <source>Numbered step</source>
-        <translation>Nummerierter Schritt</translation>
-    </message>
-    <message>
-        <source>Spotlight</source>
-        <translation>Spotlight</translation>
-    </message>
-    <message>
-        <source>Blur</source>
-        <translation>Weichzeichner</translation>
-    </message>
-    <message>
-        <source>Magnifier</source>
-        <translation>Lupe</translation>
-    </message>
-    <message>
-        <source>Eraser</source>
-        <translation>Radierer</translation>
-    </message>
-</context>
-<context>
-    <name>Zelkor::Gallery::TrimPage</name>
-    <message>
-        <source>Result: %1</source>
-        <translation>Ergebnis: %1</translation>
-    </message>
-    <message>
-        <source>Trim a recording</source>
-        <translation>Aufnahme zuschneiden</translation>
-    </message>
-    <message>
-        <source>Drag the brackets or type the times. A cut begins where the position is and ends where it is the next time. Everything can be undone; Escape takes back a drag.</source>
-        <translation>Ziehen Sie die Klammern oder geben Sie die Zeiten ein. Ein Schnitt beginnt an der Position und endet dort, wo sie beim nächsten Mal ist. Alles lässt sich rückgängig machen; Esc nimmt ein Ziehen zurück.</translation>
-    </message>
-    <message>
-        <source>Position</source>
-        <translation>Position</translation>
-    </message>
-    <message>
-        <source>Start</source>
-        <translation>Anfang</translation>
-    </message>
-    <message>
-        <source>End</source>
-        <translation>Ende</translation>
-    </message>
-    <message>
-        <source>Cut to here</source>
-        <translation>Bis hierher schneiden</translation>
-    </message>
-    <message>
-        <source>Cut from here</source>
-        <translation>Ab hier schneiden</translation>
-    </message>
-    <message>
-        <source>Undo</source>
-        <translation>Rückgängig</translation>
-    </message>
-    <message>
-        <source>Redo</source>
-        <translation>Wiederholen</translation>
+        <source>The list at the side has a page for each widget, with all of its states and an inspector.</source>
+        <translation>Die Liste an der Seite hat eine Seite für jedes Widget, mit allen seinen Zuständen und einem Inspektor.</translation>
     </message>
 </context>
 </TS>

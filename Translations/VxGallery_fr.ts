@@ -2,7 +2,52 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr">
 <context>
-    <name>Catalogue</name>
+    <name>Editors</name>
+    <message>
+        <source>One text in each line</source>
+        <translation>Un texte par ligne</translation>
+    </message>
+    <message>
+        <source>No colour</source>
+        <translation>Aucune couleur</translation>
+    </message>
+    <message>
+        <source>w</source>
+        <comment>short for width</comment>
+        <translation>l</translation>
+    </message>
+    <message>
+        <source>h</source>
+        <comment>short for height</comment>
+        <translation>h</translation>
+    </message>
+    <message>
+        <source>Choose a file</source>
+        <translation>Choisir un fichier</translation>
+    </message>
+    <message>
+        <source>This file is no picture</source>
+        <translation>Ce fichier n’est pas une image</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Image</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>Images</translation>
+    </message>
+    <message>
+        <source>No picture</source>
+        <translation>Aucune image</translation>
+    </message>
+</context>
+<context>
+    <name>EntryText</name>
+    <message>
+        <source>Next page</source>
+        <translation>Page suivante</translation>
+    </message>
     <message>
         <source>Disabled</source>
         <translation>Désactivé</translation>
@@ -196,6 +241,38 @@
         <translation>De droite à gauche</translation>
     </message>
     <message>
+        <source>Start</source>
+        <translation>Début</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Arrêter</translation>
+    </message>
+    <message>
+        <source>Microphone</source>
+        <translation>Microphone</translation>
+    </message>
+    <message>
+        <source>Kit</source>
+        <translation>Kit</translation>
+    </message>
+    <message>
+        <source>An editor for the style sheet of the running application; here it works on the sample above it.</source>
+        <translation>Un éditeur pour la feuille de style de l’application en cours&#xa0;; ici, il agit sur l’exemple au-dessus.</translation>
+    </message>
+    <message>
+        <source>With a sheet</source>
+        <translation>Avec une feuille de style</translation>
+    </message>
+    <message>
+        <source>With mistakes</source>
+        <translation>Avec des erreurs</translation>
+    </message>
+    <message>
+        <source>Find and replace</source>
+        <translation>Rechercher et remplacer</translation>
+    </message>
+    <message>
         <source>A drawn portrait</source>
         <translation>Un portrait dessiné</translation>
     </message>
@@ -222,6 +299,284 @@
     <message>
         <source>Coloured</source>
         <translation>Coloré</translation>
+    </message>
+    <message>
+        <source>Built-in camera of the laptop in the lecture hall</source>
+        <translation>Caméra intégrée de l’ordinateur portable de l’amphithéâtre</translation>
+    </message>
+    <message>
+        <source>Camera</source>
+        <translation>Caméra</translation>
+    </message>
+    <message>
+        <source>No camera</source>
+        <translation>Aucune caméra</translation>
+    </message>
+    <message>
+        <source>Document camera</source>
+        <translation>Caméra de documents</translation>
+    </message>
+    <message>
+        <source>Sound sources</source>
+        <translation>Sources sonores</translation>
+    </message>
+    <message>
+        <source>Sources: %1</source>
+        <translation>Sources&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>System sound</source>
+        <translation>Son du système</translation>
+    </message>
+    <message>
+        <source>Click sounds</source>
+        <translation>Sons des clics</translation>
+    </message>
+    <message>
+        <source>A combo box that elides its text, opens a list as wide as its items or a widget of yours, and can leave the wheel to its panel.</source>
+        <translation>Une liste déroulante qui abrège son texte, ouvre une liste aussi large que ses éléments ou un widget de votre choix, et peut laisser la molette à son panneau.</translation>
+    </message>
+    <message>
+        <source>Elided, wide list</source>
+        <translation>Abrégé, liste large</translation>
+    </message>
+    <message>
+        <source>Narrow list</source>
+        <translation>Liste étroite</translation>
+    </message>
+    <message>
+        <source>Cut, not elided</source>
+        <translation>Coupé, non abrégé</translation>
+    </message>
+    <message>
+        <source>Display text</source>
+        <translation>Texte affiché</translation>
+    </message>
+    <message>
+        <source>Choose a camera…</source>
+        <translation>Choisir une caméra…</translation>
+    </message>
+    <message>
+        <source>Opens a widget</source>
+        <translation>Ouvre un widget</translation>
+    </message>
+    <message>
+        <source>With icons, elided</source>
+        <translation>Avec icônes, abrégé</translation>
+    </message>
+    <message>
+        <source>Wheel left to the panel</source>
+        <translation>Molette laissée au panneau</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nom</translation>
+    </message>
+    <message>
+        <source>Name of the camera</source>
+        <translation>Nom de la caméra</translation>
+    </message>
+    <message>
+        <source>A line edit that elides its text until it gets the focus, and reports an edit when the focus leaves.</source>
+        <translation>Un champ de saisie qui abrège son texte jusqu’à ce qu’il ait le focus, et signale une modification lorsqu’il le perd.</translation>
+    </message>
+    <message>
+        <source>Fits</source>
+        <translation>Tient dans la place</translation>
+    </message>
+    <message>
+        <source>Elided</source>
+        <translation>Abrégé</translation>
+    </message>
+    <message>
+        <source>Right-to-left text</source>
+        <translation>Texte de droite à gauche</translation>
+    </message>
+    <message>
+        <source>Read-only</source>
+        <translation>Lecture seule</translation>
+    </message>
+    <message>
+        <source>Clear button</source>
+        <translation>Bouton d’effacement</translation>
+    </message>
+    <message>
+        <source>Validated</source>
+        <translation>Validé</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Mot de passe</translation>
+    </message>
+    <message>
+        <source>Secret</source>
+        <translation>Secret</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>Zoom</translation>
+    </message>
+    <message>
+        <source>Wheel in focus only</source>
+        <translation>Molette avec le focus seulement</translation>
+    </message>
+    <message>
+        <source>A slider that can leave the wheel to its panel until it has the focus.</source>
+        <translation>Un curseur qui peut laisser la molette à son panneau jusqu’à ce qu’il ait le focus.</translation>
+    </message>
+    <message>
+        <source>At its end</source>
+        <translation>En bout de course</translation>
+    </message>
+    <message>
+        <source>Vertical</source>
+        <translation>Vertical</translation>
+    </message>
+    <message>
+        <source>A slider for a floating-point value: its position times a multiplier.</source>
+        <translation>Un curseur pour une valeur à virgule flottante&#xa0;: sa position multipliée par un facteur.</translation>
+    </message>
+    <message>
+        <source>Tenths</source>
+        <translation>Dixièmes</translation>
+    </message>
+    <message>
+        <source>Around zero, in quarters</source>
+        <translation>Autour de zéro, par quarts</translation>
+    </message>
+    <message>
+        <source>Frame rate</source>
+        <translation>Fréquence d’images</translation>
+    </message>
+    <message>
+        <source>A field for a whole number that can leave the wheel to its panel until it has the focus.</source>
+        <translation>Un champ pour un nombre entier, qui peut laisser la molette à son panneau jusqu’à ce qu’il ait le focus.</translation>
+    </message>
+    <message>
+        <source>With a unit</source>
+        <translation>Avec une unité</translation>
+    </message>
+    <message>
+        <source> fps</source>
+        <translation> i/s</translation>
+    </message>
+    <message>
+        <source>Delay</source>
+        <translation>Délai</translation>
+    </message>
+    <message>
+        <source> s</source>
+        <translation> s</translation>
+    </message>
+    <message>
+        <source>A field for a floating-point number that can keep what is typed to whole steps.</source>
+        <translation>Un champ pour un nombre à virgule flottante, qui peut ramener la saisie à des pas entiers.</translation>
+    </message>
+    <message>
+        <source>Typed numbers in whole steps</source>
+        <translation>Saisie par pas entiers</translation>
+    </message>
+    <message>
+        <source>Button %1</source>
+        <translation>Bouton %1</translation>
+    </message>
+    <message>
+        <source>Built-in camera</source>
+        <translation>Caméra intégrée</translation>
+    </message>
+    <message>
+        <source>A small page</source>
+        <translation>Une petite page</translation>
+    </message>
+    <message>
+        <source>A page that takes
+the room of its text
+and no more</source>
+        <translation>Une page qui prend
+la place de son texte
+et pas plus</translation>
+    </message>
+    <message>
+        <source>A frame whose layout can be spaced by a style sheet.</source>
+        <translation>Un cadre dont une feuille de style peut régler les espacements.</translation>
+    </message>
+    <message>
+        <source>Spaced by style sheet</source>
+        <translation>Espacé par feuille de style</translation>
+    </message>
+    <message>
+        <source>Spaced by properties</source>
+        <translation>Espacé par propriétés</translation>
+    </message>
+    <message>
+        <source>A camera with a name that is far too long for this place</source>
+        <translation>Une caméra dont le nom est bien trop long pour cet emplacement</translation>
+    </message>
+    <message>
+        <source>A label for one text that may be too long: it is elided, and shown whole as the tool tip.</source>
+        <translation>Une étiquette pour un texte qui peut être trop long&#xa0;: il est abrégé, et affiché en entier dans l’info-bulle.</translation>
+    </message>
+    <message>
+        <source>Not clickable</source>
+        <translation>Non cliquable</translation>
+    </message>
+    <message>
+        <source>A stack of pages that takes the size of the page it shows instead of the largest one.</source>
+        <translation>Une pile de pages qui prend la taille de la page affichée au lieu de celle de la plus grande.</translation>
+    </message>
+    <message>
+        <source>Small page</source>
+        <translation>Petite page</translation>
+    </message>
+    <message>
+        <source>Large page</source>
+        <translation>Grande page</translation>
+    </message>
+    <message>
+        <source>Without fitting</source>
+        <translation>Sans ajustement</translation>
+    </message>
+    <message>
+        <source>Show the hint</source>
+        <translation>Afficher l’indication</translation>
+    </message>
+    <message>
+        <source>Choose a source first</source>
+        <translation>Choisissez d’abord une source</translation>
+    </message>
+    <message>
+        <source>A camera, the screen
+or the test picture</source>
+        <translation>Une caméra, l’écran
+ou la mire</translation>
+    </message>
+    <message>
+        <source>A camera, the screen or the test picture</source>
+        <translation>Une caméra, l’écran ou la mire</translation>
+    </message>
+    <message>
+        <source>Windows</source>
+        <translation>Fenêtres</translation>
+    </message>
+    <message>
+        <source>A hint in a window of its own, in the shape of an image, that goes by itself.</source>
+        <translation>Une indication dans sa propre fenêtre, de la forme d’une image, qui disparaît d’elle-même.</translation>
+    </message>
+    <message>
+        <source>Title and text</source>
+        <translation>Titre et texte</translation>
+    </message>
+    <message>
+        <source>Text only</source>
+        <translation>Texte seul</translation>
+    </message>
+    <message>
+        <source>The recording goes on</source>
+        <translation>L’enregistrement continue</translation>
+    </message>
+    <message>
+        <source>Speech bubble</source>
+        <translation>Bulle</translation>
     </message>
     <message>
         <source>Indicators</source>
@@ -276,86 +631,6 @@
         <translation>Sans bordure</translation>
     </message>
     <message>
-        <source>Button %1</source>
-        <translation>Bouton %1</translation>
-    </message>
-    <message>
-        <source>Built-in camera</source>
-        <translation>Caméra intégrée</translation>
-    </message>
-    <message>
-        <source>A small page</source>
-        <translation>Une petite page</translation>
-    </message>
-    <message>
-        <source>A page that takes
-the room of its text
-and no more</source>
-        <translation>Une page qui prend
-la place de son texte
-et pas plus</translation>
-    </message>
-    <message>
-        <source>Kit</source>
-        <translation>Kit</translation>
-    </message>
-    <message>
-        <source>A frame whose layout can be spaced by a style sheet.</source>
-        <translation>Un cadre dont une feuille de style peut régler les espacements.</translation>
-    </message>
-    <message>
-        <source>Spaced by style sheet</source>
-        <translation>Espacé par feuille de style</translation>
-    </message>
-    <message>
-        <source>Spaced by properties</source>
-        <translation>Espacé par propriétés</translation>
-    </message>
-    <message>
-        <source>A camera with a name that is far too long for this place</source>
-        <translation>Une caméra dont le nom est bien trop long pour cet emplacement</translation>
-    </message>
-    <message>
-        <source>A label for one text that may be too long: it is elided, and shown whole as the tool tip.</source>
-        <translation>Une étiquette pour un texte qui peut être trop long&#xa0;: il est abrégé, et affiché en entier dans l’info-bulle.</translation>
-    </message>
-    <message>
-        <source>Fits</source>
-        <translation>Tient dans la place</translation>
-    </message>
-    <message>
-        <source>Elided</source>
-        <translation>Abrégé</translation>
-    </message>
-    <message>
-        <source>Right-to-left text</source>
-        <translation>Texte de droite à gauche</translation>
-    </message>
-    <message>
-        <source>Cut, not elided</source>
-        <translation>Coupé, non abrégé</translation>
-    </message>
-    <message>
-        <source>Not clickable</source>
-        <translation>Non cliquable</translation>
-    </message>
-    <message>
-        <source>A stack of pages that takes the size of the page it shows instead of the largest one.</source>
-        <translation>Une pile de pages qui prend la taille de la page affichée au lieu de celle de la plus grande.</translation>
-    </message>
-    <message>
-        <source>Small page</source>
-        <translation>Petite page</translation>
-    </message>
-    <message>
-        <source>Large page</source>
-        <translation>Grande page</translation>
-    </message>
-    <message>
-        <source>Without fitting</source>
-        <translation>Sans ajustement</translation>
-    </message>
-    <message>
         <source>Take a picture</source>
         <translation>Capturer une image</translation>
     </message>
@@ -370,10 +645,6 @@ et pas plus</translation>
     <message>
         <source>Horizontal</source>
         <translation>Horizontal</translation>
-    </message>
-    <message>
-        <source>Vertical</source>
-        <translation>Vertical</translation>
     </message>
     <message>
         <source>Take a picture of everything on the screen</source>
@@ -422,6 +693,82 @@ du pointeur</translation>
         <translation>Fenêtre</translation>
     </message>
     <message>
+        <source>Recording</source>
+        <translation>Enregistrement</translation>
+    </message>
+    <message>
+        <source>Waves of colour</source>
+        <translation>Vagues de couleurs</translation>
+    </message>
+    <message>
+        <source>Colours</source>
+        <translation>Couleurs</translation>
+    </message>
+    <message>
+        <source>A grid of round LEDs, each of a colour of its own.</source>
+        <translation>Une grille de LED rondes, chacune de sa propre couleur.</translation>
+    </message>
+    <message>
+        <source>A sign</source>
+        <translation>Un signe</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Sombre</translation>
+    </message>
+    <message>
+        <source>Transparent background</source>
+        <translation>Arrière-plan transparent</translation>
+    </message>
+    <message>
+        <source>Named colours</source>
+        <translation>Couleurs nommées</translation>
+    </message>
+    <message>
+        <source>Wider than the grid</source>
+        <translation>Plus large que la grille</translation>
+    </message>
+    <message>
+        <source>4096 LEDs</source>
+        <translation>4096 LED</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>Volume</translation>
+    </message>
+    <message>
+        <source>A button that shows a level and opens a slider above itself.</source>
+        <translation>Un bouton qui affiche un niveau et ouvre un curseur au-dessus de lui.</translation>
+    </message>
+    <message>
+        <source>Level 0</source>
+        <translation>Niveau 0</translation>
+    </message>
+    <message>
+        <source>From 1</source>
+        <translation>À partir de 1</translation>
+    </message>
+    <message>
+        <source>From 25</source>
+        <translation>À partir de 25</translation>
+    </message>
+    <message>
+        <source>From 50</source>
+        <translation>À partir de 50</translation>
+    </message>
+    <message>
+        <source>From 75</source>
+        <translation>À partir de 75</translation>
+    </message>
+    <message>
+        <source>Slider in a window apart</source>
+        <translation>Curseur dans une fenêtre à part</translation>
+    </message>
+    <message>
+        <source>High slider</source>
+        <translation>Curseur haut</translation>
+    </message>
+    <message>
         <source>No picture</source>
         <translation>Pas d’image</translation>
     </message>
@@ -462,10 +809,6 @@ du pointeur</translation>
         <translation>En direct</translation>
     </message>
     <message>
-        <source>Volume</source>
-        <translation>Volume</translation>
-    </message>
-    <message>
         <source>A slider for a recording volume, with a meter of the input level behind its handle.</source>
         <translation>Un curseur pour le volume d’enregistrement, avec un indicateur du niveau d’entrée derrière sa poignée.</translation>
     </message>
@@ -488,48 +831,6 @@ du pointeur</translation>
     <message>
         <source>Rounded</source>
         <translation>Arrondi</translation>
-    </message>
-    <message>
-        <source>Show the hint</source>
-        <translation>Afficher l’indication</translation>
-    </message>
-    <message>
-        <source>Choose a source first</source>
-        <translation>Choisissez d’abord une source</translation>
-    </message>
-    <message>
-        <source>A camera, the screen
-or the test picture</source>
-        <translation>Une caméra, l’écran
-ou la mire</translation>
-    </message>
-    <message>
-        <source>A camera, the screen or the test picture</source>
-        <translation>Une caméra, l’écran ou la mire</translation>
-    </message>
-    <message>
-        <source>Windows</source>
-        <translation>Fenêtres</translation>
-    </message>
-    <message>
-        <source>A hint in a window of its own, in the shape of an image, that goes by itself.</source>
-        <translation>Une indication dans sa propre fenêtre, de la forme d’une image, qui disparaît d’elle-même.</translation>
-    </message>
-    <message>
-        <source>Title and text</source>
-        <translation>Titre et texte</translation>
-    </message>
-    <message>
-        <source>Text only</source>
-        <translation>Texte seul</translation>
-    </message>
-    <message>
-        <source>The recording goes on</source>
-        <translation>L’enregistrement continue</translation>
-    </message>
-    <message>
-        <source>Speech bubble</source>
-        <translation>Bulle</translation>
     </message>
     <message>
         <source>Shows one picture over its whole area: stretched, cut, or cut to an ellipse.</source>
@@ -556,100 +857,6 @@ ou la mire</translation>
         <translation>Ellipse verticale</translation>
     </message>
     <message>
-        <source>Screen</source>
-        <translation>Écran</translation>
-    </message>
-    <message>
-        <source>Camera</source>
-        <translation>Caméra</translation>
-    </message>
-    <message>
-        <source>Microphone</source>
-        <translation>Microphone</translation>
-    </message>
-    <message>
-        <source>Recording %1</source>
-        <translation>Enregistrement %1</translation>
-    </message>
-    <message>
-        <source>What is on the screen, or a part of it.</source>
-        <translation>Ce qui est à l’écran, ou une partie.</translation>
-    </message>
-    <message>
-        <source>A camera, in a corner of the picture.</source>
-        <translation>Une caméra, dans un coin de l’image.</translation>
-    </message>
-    <message>
-        <source>The sound of what is said.</source>
-        <translation>Le son de ce qui est dit.</translation>
-    </message>
-    <message>
-        <source>A page that is wider than the others</source>
-        <translation>Une page plus large que les autres</translation>
-    </message>
-    <message>
-        <source>A page
-that is higher
-than the others
-and not wide</source>
-        <translation>Une page
-plus haute
-que les autres
-et peu large</translation>
-    </message>
-    <message>
-        <source>Next page</source>
-        <translation>Page suivante</translation>
-    </message>
-    <message>
-        <source>Tabs</source>
-        <translation>Onglets</translation>
-    </message>
-    <message>
-        <source>A tab bar whose style sheet says where text and icon of a tab are, and how they change with the selection.</source>
-        <translation>Une barre d’onglets dont la feuille de style indique où se trouvent le texte et l’icône d’un onglet, et comment la sélection les modifie.</translation>
-    </message>
-    <message>
-        <source>Text</source>
-        <translation>Texte</translation>
-    </message>
-    <message>
-        <source>Icons</source>
-        <translation>Icônes</translation>
-    </message>
-    <message>
-        <source>One disabled</source>
-        <translation>Un onglet désactivé</translation>
-    </message>
-    <message>
-        <source>Scrolled</source>
-        <translation>Défilé</translation>
-    </message>
-    <message>
-        <source>Closable and movable</source>
-        <translation>Fermables et déplaçables</translation>
-    </message>
-    <message>
-        <source>A tab widget with that tab bar.</source>
-        <translation>Un widget à onglets avec cette barre d’onglets.</translation>
-    </message>
-    <message>
-        <source>At the side</source>
-        <translation>Sur le côté</translation>
-    </message>
-    <message>
-        <source>A stack of pages that is fixed to the size of the page it shows.</source>
-        <translation>Une pile de pages fixée à la taille de la page affichée.</translation>
-    </message>
-    <message>
-        <source>Wide page</source>
-        <translation>Page large</translation>
-    </message>
-    <message>
-        <source>High page</source>
-        <translation>Page haute</translation>
-    </message>
-    <message>
         <source>Pointer</source>
         <translation>Pointeur</translation>
     </message>
@@ -668,6 +875,10 @@ et peu large</translation>
     <message>
         <source>Arrow</source>
         <translation>Flèche</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Texte</translation>
     </message>
     <message>
         <source>Blur</source>
@@ -754,6 +965,194 @@ et peu large</translation>
         <translation>Aucune valeur</translation>
     </message>
     <message>
+        <source>Position</source>
+        <translation>Position</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <comment>thumb</comment>
+        <translation>Début</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <comment>thumb</comment>
+        <translation>Fin</translation>
+    </message>
+    <message>
+        <source>Mark at %1</source>
+        <translation>Repère à %1</translation>
+    </message>
+    <message>
+        <source>A slider with any number of thumbs and highlighted stretches, for trimming and timelines.</source>
+        <translation>Un curseur avec autant de poignées et de segments mis en évidence que voulu, pour le découpage et les chronologies.</translation>
+    </message>
+    <message>
+        <source>One thumb</source>
+        <translation>Une poignée</translation>
+    </message>
+    <message>
+        <source>Trimming</source>
+        <translation>Découpage</translation>
+    </message>
+    <message>
+        <source>Trimming, position limited</source>
+        <translation>Découpage, position limitée</translation>
+    </message>
+    <message>
+        <source>Segments</source>
+        <translation>Segments</translation>
+    </message>
+    <message>
+        <source>Marks, one selected</source>
+        <translation>Repères, dont un sélectionné</translation>
+    </message>
+    <message>
+        <source>Marks that snap to the position</source>
+        <translation>Repères aimantés à la position</translation>
+    </message>
+    <message>
+        <source>Upright</source>
+        <translation>Vertical</translation>
+    </message>
+    <message>
+        <source>Upright, segments</source>
+        <translation>Vertical, segments</translation>
+    </message>
+    <message>
+        <source>Screen</source>
+        <translation>Écran</translation>
+    </message>
+    <message>
+        <source>Recording %1</source>
+        <translation>Enregistrement %1</translation>
+    </message>
+    <message>
+        <source>What is on the screen, or a part of it.</source>
+        <translation>Ce qui est à l’écran, ou une partie.</translation>
+    </message>
+    <message>
+        <source>A camera, in a corner of the picture.</source>
+        <translation>Une caméra, dans un coin de l’image.</translation>
+    </message>
+    <message>
+        <source>The sound of what is said.</source>
+        <translation>Le son de ce qui est dit.</translation>
+    </message>
+    <message>
+        <source>A page that is wider than the others</source>
+        <translation>Une page plus large que les autres</translation>
+    </message>
+    <message>
+        <source>A page
+that is higher
+than the others
+and not wide</source>
+        <translation>Une page
+plus haute
+que les autres
+et peu large</translation>
+    </message>
+    <message>
+        <source>Tabs</source>
+        <translation>Onglets</translation>
+    </message>
+    <message>
+        <source>A tab bar whose style sheet says where text and icon of a tab are, and how they change with the selection.</source>
+        <translation>Une barre d’onglets dont la feuille de style indique où se trouvent le texte et l’icône d’un onglet, et comment la sélection les modifie.</translation>
+    </message>
+    <message>
+        <source>Icons</source>
+        <translation>Icônes</translation>
+    </message>
+    <message>
+        <source>One disabled</source>
+        <translation>Un onglet désactivé</translation>
+    </message>
+    <message>
+        <source>Scrolled</source>
+        <translation>Défilé</translation>
+    </message>
+    <message>
+        <source>Closable and movable</source>
+        <translation>Fermables et déplaçables</translation>
+    </message>
+    <message>
+        <source>A tab widget with that tab bar.</source>
+        <translation>Un widget à onglets avec cette barre d’onglets.</translation>
+    </message>
+    <message>
+        <source>At the side</source>
+        <translation>Sur le côté</translation>
+    </message>
+    <message>
+        <source>A stack of pages that is fixed to the size of the page it shows.</source>
+        <translation>Une pile de pages fixée à la taille de la page affichée.</translation>
+    </message>
+    <message>
+        <source>Wide page</source>
+        <translation>Page large</translation>
+    </message>
+    <message>
+        <source>High page</source>
+        <translation>Page haute</translation>
+    </message>
+    <message>
+        <source>A slider for a time within a span, which bounds can narrow; it tells the time under the mouse.</source>
+        <translation>Un curseur pour un temps dans un intervalle que des bornes peuvent réduire&#xa0;; il indique le temps sous la souris.</translation>
+    </message>
+    <message>
+        <source>One minute of three</source>
+        <translation>Une minute sur trois</translation>
+    </message>
+    <message>
+        <source>Narrowed by bounds</source>
+        <translation>Réduit par des bornes</translation>
+    </message>
+    <message>
+        <source>Bounds with thumbs</source>
+        <translation>Bornes avec poignées</translation>
+    </message>
+    <message>
+        <source>At its bound</source>
+        <translation>À la borne</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Temps</translation>
+    </message>
+    <message>
+        <source>A field for a time whose digits are overwritten in place, in the shortest format that is exact.</source>
+        <translation>Un champ pour un temps dont les chiffres sont remplacés sur place, au format exact le plus court.</translation>
+    </message>
+    <message>
+        <source>One format</source>
+        <translation>Un seul format</translation>
+    </message>
+    <message>
+        <source>The format that fits: minutes</source>
+        <translation>Le format adapté&#xa0;: minutes</translation>
+    </message>
+    <message>
+        <source>The format that fits: milliseconds</source>
+        <translation>Le format adapté&#xa0;: millisecondes</translation>
+    </message>
+    <message>
+        <source>Always the longest format</source>
+        <translation>Toujours le format le plus long</translation>
+    </message>
+    <message>
+        <source>As wide as its text</source>
+        <translation>Aussi large que son texte</translation>
+    </message>
+    <message>
+        <source>From 00:01:00 to 00:30:00</source>
+        <translation>De 00:01:00 à 00:30:00</translation>
+    </message>
+    <message>
+        <source>Twelve hours</source>
+        <translation>Douze heures</translation>
+    </message>
+    <message>
         <source>Recorder</source>
         <translation>Enregistreur</translation>
     </message>
@@ -813,416 +1212,6 @@ et peu large</translation>
         <source>Copyright 2026 Example Company. All rights reserved. Protected by law; made with the help of many.</source>
         <translation>Copyright 2026 Société Exemple. Tous droits réservés. Protégé par la loi&#xa0;; réalisé avec l’aide de nombreuses personnes.</translation>
     </message>
-    <message>
-        <source>Start</source>
-        <translation>Départ</translation>
-    </message>
-    <message>
-        <source>Stop</source>
-        <translation>Arrêt</translation>
-    </message>
-    <message>
-        <source>An editor for the style sheet of the running application; here it works on the sample above it.</source>
-        <translation>Un éditeur pour la feuille de style de l’application en cours&#xa0;; ici, il agit sur l’exemple au-dessus.</translation>
-    </message>
-    <message>
-        <source>With a sheet</source>
-        <translation>Avec une feuille de style</translation>
-    </message>
-    <message>
-        <source>With mistakes</source>
-        <translation>Avec des erreurs</translation>
-    </message>
-    <message>
-        <source>Find and replace</source>
-        <translation>Rechercher et remplacer</translation>
-    </message>
-    <message>
-        <source>Built-in camera of the laptop in the lecture hall</source>
-        <translation>Caméra intégrée de l’ordinateur portable de l’amphithéâtre</translation>
-    </message>
-    <message>
-        <source>No camera</source>
-        <translation>Aucune caméra</translation>
-    </message>
-    <message>
-        <source>Document camera</source>
-        <translation>Caméra de documents</translation>
-    </message>
-    <message>
-        <source>Sound sources</source>
-        <translation>Sources sonores</translation>
-    </message>
-    <message>
-        <source>Sources: %1</source>
-        <translation>Sources&#xa0;: %1</translation>
-    </message>
-    <message>
-        <source>System sound</source>
-        <translation>Son du système</translation>
-    </message>
-    <message>
-        <source>Click sounds</source>
-        <translation>Sons des clics</translation>
-    </message>
-    <message>
-        <source>A combo box that elides its text, opens a list as wide as its items or a widget of yours, and can leave the wheel to its panel.</source>
-        <translation>Une liste déroulante qui abrège son texte, ouvre une liste aussi large que ses éléments ou un widget de votre choix, et peut laisser la molette à son panneau.</translation>
-    </message>
-    <message>
-        <source>Elided, wide list</source>
-        <translation>Abrégé, liste large</translation>
-    </message>
-    <message>
-        <source>Narrow list</source>
-        <translation>Liste étroite</translation>
-    </message>
-    <message>
-        <source>Display text</source>
-        <translation>Texte affiché</translation>
-    </message>
-    <message>
-        <source>Choose a camera…</source>
-        <translation>Choisir une caméra…</translation>
-    </message>
-    <message>
-        <source>Opens a widget</source>
-        <translation>Ouvre un widget</translation>
-    </message>
-    <message>
-        <source>With icons, elided</source>
-        <translation>Avec icônes, abrégé</translation>
-    </message>
-    <message>
-        <source>Wheel left to the panel</source>
-        <translation>Molette laissée au panneau</translation>
-    </message>
-    <message>
-        <source>Name</source>
-        <translation>Nom</translation>
-    </message>
-    <message>
-        <source>Name of the camera</source>
-        <translation>Nom de la caméra</translation>
-    </message>
-    <message>
-        <source>A line edit that elides its text until it gets the focus, and reports an edit when the focus leaves.</source>
-        <translation>Un champ de saisie qui abrège son texte jusqu’à ce qu’il ait le focus, et signale une modification lorsqu’il le perd.</translation>
-    </message>
-    <message>
-        <source>Read-only</source>
-        <translation>Lecture seule</translation>
-    </message>
-    <message>
-        <source>Clear button</source>
-        <translation>Bouton d’effacement</translation>
-    </message>
-    <message>
-        <source>Validated</source>
-        <translation>Validé</translation>
-    </message>
-    <message>
-        <source>Password</source>
-        <translation>Mot de passe</translation>
-    </message>
-    <message>
-        <source>Secret</source>
-        <translation>Secret</translation>
-    </message>
-    <message>
-        <source>Zoom</source>
-        <translation>Zoom</translation>
-    </message>
-    <message>
-        <source>Wheel in focus only</source>
-        <translation>Molette avec le focus seulement</translation>
-    </message>
-    <message>
-        <source>A slider that can leave the wheel to its panel until it has the focus.</source>
-        <translation>Un curseur qui peut laisser la molette à son panneau jusqu’à ce qu’il ait le focus.</translation>
-    </message>
-    <message>
-        <source>At its end</source>
-        <translation>En bout de course</translation>
-    </message>
-    <message>
-        <source>A slider for a floating-point value: its position times a multiplier.</source>
-        <translation>Un curseur pour une valeur à virgule flottante&#xa0;: sa position multipliée par un facteur.</translation>
-    </message>
-    <message>
-        <source>Tenths</source>
-        <translation>Dixièmes</translation>
-    </message>
-    <message>
-        <source>Around zero, in quarters</source>
-        <translation>Autour de zéro, par quarts</translation>
-    </message>
-    <message>
-        <source>Frame rate</source>
-        <translation>Fréquence d’images</translation>
-    </message>
-    <message>
-        <source>A field for a whole number that can leave the wheel to its panel until it has the focus.</source>
-        <translation>Un champ pour un nombre entier, qui peut laisser la molette à son panneau jusqu’à ce qu’il ait le focus.</translation>
-    </message>
-    <message>
-        <source>With a unit</source>
-        <translation>Avec une unité</translation>
-    </message>
-    <message>
-        <source> fps</source>
-        <translation> i/s</translation>
-    </message>
-    <message>
-        <source>Delay</source>
-        <translation>Délai</translation>
-    </message>
-    <message>
-        <source> s</source>
-        <translation> s</translation>
-    </message>
-    <message>
-        <source>A field for a floating-point number that can keep what is typed to whole steps.</source>
-        <translation>Un champ pour un nombre à virgule flottante, qui peut ramener la saisie à des pas entiers.</translation>
-    </message>
-    <message>
-        <source>Typed numbers in whole steps</source>
-        <translation>Saisie par pas entiers</translation>
-    </message>
-    <message>
-        <source>Recording</source>
-        <translation>Enregistrement</translation>
-    </message>
-    <message>
-        <source>Waves of colour</source>
-        <translation>Vagues de couleurs</translation>
-    </message>
-    <message>
-        <source>Colours</source>
-        <translation>Couleurs</translation>
-    </message>
-    <message>
-        <source>A grid of round LEDs, each of a colour of its own.</source>
-        <translation>Une grille de LED rondes, chacune de sa propre couleur.</translation>
-    </message>
-    <message>
-        <source>A sign</source>
-        <translation>Un signe</translation>
-    </message>
-    <message>
-        <source>Dark</source>
-        <translation>Éteint</translation>
-    </message>
-    <message>
-        <source>Transparent background</source>
-        <translation>Arrière-plan transparent</translation>
-    </message>
-    <message>
-        <source>Named colours</source>
-        <translation>Couleurs nommées</translation>
-    </message>
-    <message>
-        <source>Wider than the grid</source>
-        <translation>Plus large que la grille</translation>
-    </message>
-    <message>
-        <source>4096 LEDs</source>
-        <translation>4096 LED</translation>
-    </message>
-    <message>
-        <source>A button that shows a level and opens a slider above itself.</source>
-        <translation>Un bouton qui affiche un niveau et ouvre un curseur au-dessus de lui.</translation>
-    </message>
-    <message>
-        <source>Level 0</source>
-        <translation>Niveau 0</translation>
-    </message>
-    <message>
-        <source>From 1</source>
-        <translation>À partir de 1</translation>
-    </message>
-    <message>
-        <source>From 25</source>
-        <translation>À partir de 25</translation>
-    </message>
-    <message>
-        <source>From 50</source>
-        <translation>À partir de 50</translation>
-    </message>
-    <message>
-        <source>From 75</source>
-        <translation>À partir de 75</translation>
-    </message>
-    <message>
-        <source>Slider in a window apart</source>
-        <translation>Curseur dans une fenêtre à part</translation>
-    </message>
-    <message>
-        <source>High slider</source>
-        <translation>Curseur haut</translation>
-    </message>
-    <message>
-        <source>Position</source>
-        <translation>Position</translation>
-    </message>
-    <message>
-        <source>Mark at %1</source>
-        <translation>Repère à %1</translation>
-    </message>
-    <message>
-        <source>A slider with any number of thumbs and highlighted stretches, for trimming and timelines.</source>
-        <translation>Un curseur avec autant de poignées et de segments mis en évidence que voulu, pour le découpage et les chronologies.</translation>
-    </message>
-    <message>
-        <source>One thumb</source>
-        <translation>Une poignée</translation>
-    </message>
-    <message>
-        <source>Trimming</source>
-        <translation>Découpage</translation>
-    </message>
-    <message>
-        <source>Trimming, position limited</source>
-        <translation>Découpage, position limitée</translation>
-    </message>
-    <message>
-        <source>Segments</source>
-        <translation>Segments</translation>
-    </message>
-    <message>
-        <source>Marks, one selected</source>
-        <translation>Repères, dont un sélectionné</translation>
-    </message>
-    <message>
-        <source>Marks that snap to the position</source>
-        <translation>Repères aimantés à la position</translation>
-    </message>
-    <message>
-        <source>Upright</source>
-        <translation>Vertical</translation>
-    </message>
-    <message>
-        <source>Upright, segments</source>
-        <translation>Vertical, segments</translation>
-    </message>
-    <message>
-        <source>Start</source>
-        <comment>thumb</comment>
-        <translation>Début</translation>
-    </message>
-    <message>
-        <source>End</source>
-        <comment>thumb</comment>
-        <translation>Fin</translation>
-    </message>
-    <message>
-        <source>A slider for a time within a span, which bounds can narrow; it tells the time under the mouse.</source>
-        <translation>Un curseur pour un temps dans un intervalle que des bornes peuvent réduire&#xa0;; il indique le temps sous la souris.</translation>
-    </message>
-    <message>
-        <source>One minute of three</source>
-        <translation>Une minute sur trois</translation>
-    </message>
-    <message>
-        <source>Narrowed by bounds</source>
-        <translation>Réduit par des bornes</translation>
-    </message>
-    <message>
-        <source>Bounds with thumbs</source>
-        <translation>Bornes avec poignées</translation>
-    </message>
-    <message>
-        <source>At its bound</source>
-        <translation>À la borne</translation>
-    </message>
-    <message>
-        <source>Time</source>
-        <translation>Temps</translation>
-    </message>
-    <message>
-        <source>A field for a time whose digits are overwritten in place, in the shortest format that is exact.</source>
-        <translation>Un champ pour un temps dont les chiffres sont remplacés sur place, au format exact le plus court.</translation>
-    </message>
-    <message>
-        <source>One format</source>
-        <translation>Un seul format</translation>
-    </message>
-    <message>
-        <source>The format that fits: minutes</source>
-        <translation>Le format adapté&#xa0;: minutes</translation>
-    </message>
-    <message>
-        <source>The format that fits: milliseconds</source>
-        <translation>Le format adapté&#xa0;: millisecondes</translation>
-    </message>
-    <message>
-        <source>Always the longest format</source>
-        <translation>Toujours le format le plus long</translation>
-    </message>
-    <message>
-        <source>As wide as its text</source>
-        <translation>Aussi large que son texte</translation>
-    </message>
-    <message>
-        <source>From 00:01:00 to 00:30:00</source>
-        <translation>De 00:01:00 à 00:30:00</translation>
-    </message>
-    <message>
-        <source>Twelve hours</source>
-        <translation>Douze heures</translation>
-    </message>
-</context>
-<context>
-    <name>Editors</name>
-    <message>
-        <source>One text in each line</source>
-        <translation>Un texte par ligne</translation>
-    </message>
-    <message>
-        <source>No colour</source>
-        <translation>Aucune couleur</translation>
-    </message>
-    <message>
-        <source>w</source>
-        <comment>short for width</comment>
-        <translation>l</translation>
-    </message>
-    <message>
-        <source>h</source>
-        <comment>short for height</comment>
-        <translation>h</translation>
-    </message>
-    <message>
-        <source>Choose a file</source>
-        <translation>Choisir un fichier</translation>
-    </message>
-    <message>
-        <source>This file is no picture</source>
-        <translation>Ce fichier n’est pas une image</translation>
-    </message>
-    <message>
-        <source>Picture</source>
-        <translation>Image</translation>
-    </message>
-    <message>
-        <source>Pictures</source>
-        <translation>Images</translation>
-    </message>
-    <message>
-        <source>No picture</source>
-        <translation>Aucune image</translation>
-    </message>
-</context>
-<context>
-    <name>FirstHint</name>
-    <message>
-        <source>Start here</source>
-        <translation>Commencez ici</translation>
-    </message>
-    <message>
-        <source>Choose what is shown: a camera, the screen or the test picture.</source>
-        <translation>Choisissez ce qui est affiché&#xa0;: une caméra, l’écran ou la mire.</translation>
-    </message>
 </context>
 <context>
     <name>TestPicture</name>
@@ -1259,88 +1248,10 @@ et peu large</translation>
     </message>
 </context>
 <context>
-    <name>Zelkor::Gallery::AudioPanel</name>
-    <message>
-        <source>Test signal</source>
-        <translation>Signal de test</translation>
-    </message>
-    <message>
-        <source>Microphone</source>
-        <translation>Microphone</translation>
-    </message>
-    <message>
-        <source>System sound</source>
-        <translation>Son du système</translation>
-    </message>
-</context>
-<context>
-    <name>Zelkor::Gallery::CaptureBar</name>
-    <message>
-        <source>Full screen</source>
-        <translation>Plein écran</translation>
-    </message>
-    <message>
-        <source>Window</source>
-        <translation>Fenêtre</translation>
-    </message>
-    <message>
-        <source>Region</source>
-        <translation>Zone</translation>
-    </message>
-    <message>
-        <source>Around pointer</source>
-        <translation>Autour du pointeur</translation>
-    </message>
-    <message>
-        <source>Sound only</source>
-        <translation>Son seul</translation>
-    </message>
-    <message>
-        <source>No click sound</source>
-        <translation>Aucun son de clic</translation>
-    </message>
-    <message>
-        <source>Soft click</source>
-        <translation>Clic discret</translation>
-    </message>
-    <message>
-        <source>Mechanical keyboard</source>
-        <translation>Clavier mécanique</translation>
-    </message>
-    <message>
-        <source>Typewriter</source>
-        <translation>Machine à écrire</translation>
-    </message>
-    <message>
-        <source>Recording mode: %1</source>
-        <translation>Mode d’enregistrement&#xa0;: %1</translation>
-    </message>
-    <message>
-        <source>Chooses what is recorded</source>
-        <translation>Choisit ce qui est enregistré</translation>
-    </message>
-    <message>
-        <source>Chooses the colour of drawings</source>
-        <translation>Choisit la couleur des dessins</translation>
-    </message>
-    <message>
-        <source>Drawing colour</source>
-        <translation>Couleur de dessin</translation>
-    </message>
-    <message>
-        <source>Chooses what is heard when you click</source>
-        <translation>Choisit le son émis lors d’un clic</translation>
-    </message>
-    <message>
-        <source>Click sound</source>
-        <translation>Son du clic</translation>
-    </message>
-</context>
-<context>
     <name>Zelkor::Gallery::GalleryWindow</name>
     <message>
-        <source>Widgets of Vx Recorder</source>
-        <translation>Widgets de Vx Recorder</translation>
+        <source>VxUiWidgets Gallery</source>
+        <translation>Galerie VxUiWidgets</translation>
     </message>
 </context>
 <context>
@@ -1392,12 +1303,8 @@ et peu large</translation>
         <translation>Rechercher dans les pages (%1)</translation>
     </message>
     <message>
-        <source>Recorder</source>
-        <translation>Enregistreur</translation>
-    </message>
-    <message>
-        <source>Trimmer</source>
-        <translation>Découpe</translation>
+        <source>Start</source>
+        <translation>Début</translation>
     </message>
 </context>
 <context>
@@ -1443,127 +1350,6 @@ Par défaut&#xa0;: %3</translation>
     <message>
         <source>Style sheets cannot say this</source>
         <translation>Une feuille de style ne peut pas le dire</translation>
-    </message>
-</context>
-<context>
-    <name>Zelkor::Gallery::RecorderModel</name>
-    <message>
-        <source>Screen</source>
-        <translation>Écran</translation>
-    </message>
-</context>
-<context>
-    <name>Zelkor::Gallery::RecorderView</name>
-    <message>
-        <source>Record</source>
-        <translation>Enregistrer</translation>
-    </message>
-    <message>
-        <source>End</source>
-        <translation>Terminer</translation>
-    </message>
-    <message>
-        <source>Starts to record after a countdown</source>
-        <translation>Démarre l’enregistrement après un compte à rebours</translation>
-    </message>
-    <message>
-        <source>Ends the recording</source>
-        <translation>Termine l’enregistrement</translation>
-    </message>
-    <message>
-        <source>Waiting for the picture</source>
-        <translation>En attente de l’image</translation>
-    </message>
-    <message>
-        <source>No picture</source>
-        <translation>Pas d’image</translation>
-    </message>
-    <message>
-        <source>Stop</source>
-        <translation>Arrêter</translation>
-    </message>
-    <message>
-        <source>Start</source>
-        <translation>Démarrer</translation>
-    </message>
-    <message>
-        <source>%1 · %2 · %3 fps</source>
-        <translation>%1 · %2 · %3 i/s</translation>
-    </message>
-    <message>
-        <source>Recording %1 · %2</source>
-        <translation>Enregistrement %1 · %2</translation>
-    </message>
-    <message>
-        <source>Stopped · %1</source>
-        <translation>Arrêté · %1</translation>
-    </message>
-    <message>
-        <source>No picture · %1</source>
-        <translation>Pas d’image · %1</translation>
-    </message>
-    <message>
-        <source>The camera could not be opened. Check that it is connected and that no other program uses it, then start again.</source>
-        <translation>Impossible d’ouvrir la caméra. Vérifiez qu’elle est connectée et qu’aucun autre programme ne l’utilise, puis redémarrez.</translation>
-    </message>
-    <message>
-        <source>The source could not be opened. Choose another one, or start again.</source>
-        <translation>Impossible d’ouvrir la source. Choisissez-en une autre ou redémarrez.</translation>
-    </message>
-    <message>
-        <source>Source</source>
-        <translation>Source</translation>
-    </message>
-    <message>
-        <source>Chooses what is shown</source>
-        <translation>Choisit ce qui est affiché</translation>
-    </message>
-    <message>
-        <source>Audio</source>
-        <translation>Audio</translation>
-    </message>
-    <message>
-        <source>Sets how loud microphone and system are</source>
-        <translation>Règle le volume du microphone et du système</translation>
-    </message>
-    <message>
-        <source>Settings of the device</source>
-        <translation>Paramètres du périphérique</translation>
-    </message>
-    <message>
-        <source>Live picture</source>
-        <translation>Image en direct</translation>
-    </message>
-</context>
-<context>
-    <name>Zelkor::Gallery::RecorderWindow</name>
-    <message>
-        <source>Version %1</source>
-        <translation>Version %1</translation>
-    </message>
-    <message>
-        <source>Shows the widgets of VxUiWidgets at work. Nothing is recorded.</source>
-        <translation>Montre les widgets de VxUiWidgets à l’œuvre. Rien n’est enregistré.</translation>
-    </message>
-    <message>
-        <source>Vx Recorder</source>
-        <translation>Vx Recorder</translation>
-    </message>
-    <message>
-        <source>All widgets</source>
-        <translation>Tous les widgets</translation>
-    </message>
-    <message>
-        <source>Settings</source>
-        <translation>Paramètres</translation>
-    </message>
-    <message>
-        <source>About</source>
-        <translation>À propos</translation>
-    </message>
-    <message>
-        <source>Edit the style sheet (F12)</source>
-        <translation>Modifier la feuille de style (F12)</translation>
     </message>
 </context>
 <context>
@@ -1630,97 +1416,6 @@ Par défaut&#xa0;: %3</translation>
     </message>
 </context>
 <context>
-    <name>Zelkor::Gallery::SettingsDialog</name>
-    <message>
-        <source>Settings</source>
-        <translation>Paramètres</translation>
-    </message>
-    <message>
-        <source>Subjects</source>
-        <translation>Rubriques</translation>
-    </message>
-    <message>
-        <source>General</source>
-        <translation>Général</translation>
-    </message>
-    <message>
-        <source>Recording</source>
-        <translation>Enregistrement</translation>
-    </message>
-    <message>
-        <source>Pointer</source>
-        <translation>Pointeur</translation>
-    </message>
-    <message>
-        <source>Language</source>
-        <translation>Langue</translation>
-    </message>
-    <message>
-        <source>Appearance</source>
-        <translation>Apparence</translation>
-    </message>
-    <message>
-        <source>As given</source>
-        <translation>Selon le fichier indiqué</translation>
-    </message>
-    <message>
-        <source>Dark</source>
-        <translation>Sombre</translation>
-    </message>
-    <message>
-        <source>Light</source>
-        <translation>Clair</translation>
-    </message>
-    <message>
-        <source>Countdown</source>
-        <translation>Compte à rebours</translation>
-    </message>
-    <message>
-        <source>None</source>
-        <translation>Aucun</translation>
-    </message>
-    <message>
-        <source>Quality</source>
-        <translation>Qualité</translation>
-    </message>
-    <message>
-        <source>Small</source>
-        <translation>Faible</translation>
-    </message>
-    <message>
-        <source>Medium</source>
-        <translation>Moyenne</translation>
-    </message>
-    <message>
-        <source>High</source>
-        <translation>Élevée</translation>
-    </message>
-    <message>
-        <source>Lossless</source>
-        <translation>Sans perte</translation>
-    </message>
-    <message>
-        <source>Colour</source>
-        <translation>Couleur</translation>
-    </message>
-    <message>
-        <source>Size</source>
-        <translation>Taille</translation>
-    </message>
-    <message>
-        <source>The pointer&apos;s highlight</source>
-        <translation>Mise en évidence du pointeur</translation>
-    </message>
-    <message>
-        <source>About %1 MB per minute</source>
-        <translation>Environ %1 Mo par minute</translation>
-    </message>
-    <message>
-        <source>%1 s</source>
-        <translation>%1 s</translation>
-    </message>
-</context>
-<context>
     <name>Zelkor::Gallery::SignalLog</name>
     <message>
         <source>Signals</source>
@@ -1744,124 +1439,22 @@ Par défaut&#xa0;: %3</translation>
     </message>
 </context>
 <context>
-    <name>Zelkor::Gallery::SourcePanel</name>
+    <name>Zelkor::Gallery::StartPage</name>
     <message>
-        <source>%1 (not connected)</source>
-        <translation>%1 (non connecté)</translation>
+        <source>Widgets for screen recorders</source>
+        <translation>Widgets pour enregistreurs d’écran</translation>
     </message>
     <message>
-        <source>%1 frames per second</source>
-        <translation>%1 images par seconde</translation>
+        <source>The recorder is an application made of these widgets: a live picture, its sound level, panels, settings and a trimmer.</source>
+        <translation>L’enregistreur est une application faite de ces widgets : image en direct, niveau sonore, panneaux, réglages et montage.</translation>
     </message>
     <message>
-        <source>Device</source>
-        <translation>Périphérique</translation>
+        <source>Open the recorder</source>
+        <translation>Ouvrir l’enregistreur</translation>
     </message>
     <message>
-        <source>Mode</source>
-        <translation>Mode</translation>
-    </message>
-    <message>
-        <source>Frame rate</source>
-        <translation>Fréquence d’images</translation>
-    </message>
-</context>
-<context>
-    <name>Zelkor::Gallery::ToolStrip</name>
-    <message>
-        <source>Pointer</source>
-        <translation>Pointeur</translation>
-    </message>
-    <message>
-        <source>Pen</source>
-        <translation>Stylo</translation>
-    </message>
-    <message>
-        <source>Marker</source>
-        <translation>Surligneur</translation>
-    </message>
-    <message>
-        <source>Line</source>
-        <translation>Ligne</translation>
-    </message>
-    <message>
-        <source>Arrow</source>
-        <translation>Flèche</translation>
-    </message>
-    <message>
-        <source>Rectangle</source>
-        <translation>Rectangle</translation>
-    </message>
-    <message>
-        <source>Ellipse</source>
-        <translation>Ellipse</translation>
-    </message>
-    <message>
-        <source>Text</source>
-        <translation>Texte</translation>
-    </message>
-    <message>
-        <source>Numbered step</source>
-        <translation>Étape numérotée</translation>
-    </message>
-    <message>
-        <source>Spotlight</source>
-        <translation>Projecteur</translation>
-    </message>
-    <message>
-        <source>Blur</source>
-        <translation>Flou</translation>
-    </message>
-    <message>
-        <source>Magnifier</source>
-        <translation>Loupe</translation>
-    </message>
-    <message>
-        <source>Eraser</source>
-        <translation>Gomme</translation>
-    </message>
-</context>
-<context>
-    <name>Zelkor::Gallery::TrimPage</name>
-    <message>
-        <source>Result: %1</source>
-        <translation>Résultat&#xa0;: %1</translation>
-    </message>
-    <message>
-        <source>Trim a recording</source>
-        <translation>Découper un enregistrement</translation>
-    </message>
-    <message>
-        <source>Drag the brackets or type the times. A cut begins where the position is and ends where it is the next time. Everything can be undone; Escape takes back a drag.</source>
-        <translation>Faites glisser les crochets ou saisissez les temps. Une coupe commence à la position et se termine là où elle se trouve la fois suivante. Tout peut être annulé&#xa0;; Échap annule un glissement.</translation>
-    </message>
-    <message>
-        <source>Position</source>
-        <translation>Position</translation>
-    </message>
-    <message>
-        <source>Start</source>
-        <translation>Début</translation>
-    </message>
-    <message>
-        <source>End</source>
-        <translation>Fin</translation>
-    </message>
-    <message>
-        <source>Cut to here</source>
-        <translation>Couper jusqu’ici</translation>
-    </message>
-    <message>
-        <source>Cut from here</source>
-        <translation>Couper à partir d’ici</translation>
-    </message>
-    <message>
-        <source>Undo</source>
-        <translation>Annuler</translation>
-    </message>
-    <message>
-        <source>Redo</source>
-        <translation>Rétablir</translation>
+        <source>The list at the side has a page for each widget, with all of its states and an inspector.</source>
+        <translation>La liste sur le côté propose une page par widget, avec tous ses états et un inspecteur.</translation>
     </message>
 </context>
 </TS>

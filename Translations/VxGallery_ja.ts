@@ -2,7 +2,52 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ja">
 <context>
-    <name>Catalogue</name>
+    <name>Editors</name>
+    <message>
+        <source>One text in each line</source>
+        <translation>1 行に 1 つのテキスト</translation>
+    </message>
+    <message>
+        <source>No colour</source>
+        <translation>色なし</translation>
+    </message>
+    <message>
+        <source>w</source>
+        <comment>short for width</comment>
+        <translation>幅</translation>
+    </message>
+    <message>
+        <source>h</source>
+        <comment>short for height</comment>
+        <translation>高さ</translation>
+    </message>
+    <message>
+        <source>Choose a file</source>
+        <translation>ファイルを選択</translation>
+    </message>
+    <message>
+        <source>This file is no picture</source>
+        <translation>このファイルは画像ではありません</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>画像</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>画像</translation>
+    </message>
+    <message>
+        <source>No picture</source>
+        <translation>画像なし</translation>
+    </message>
+</context>
+<context>
+    <name>EntryText</name>
+    <message>
+        <source>Next page</source>
+        <translation>次のページ</translation>
+    </message>
     <message>
         <source>Disabled</source>
         <translation>無効</translation>
@@ -196,6 +241,38 @@
         <translation>右から左</translation>
     </message>
     <message>
+        <source>Start</source>
+        <translation>開始</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>停止</translation>
+    </message>
+    <message>
+        <source>Microphone</source>
+        <translation>マイク</translation>
+    </message>
+    <message>
+        <source>Kit</source>
+        <translation>キット</translation>
+    </message>
+    <message>
+        <source>An editor for the style sheet of the running application; here it works on the sample above it.</source>
+        <translation>実行中のアプリケーションのスタイルシートエディターです。ここでは上のサンプルに適用されます。</translation>
+    </message>
+    <message>
+        <source>With a sheet</source>
+        <translation>スタイルシートあり</translation>
+    </message>
+    <message>
+        <source>With mistakes</source>
+        <translation>エラーあり</translation>
+    </message>
+    <message>
+        <source>Find and replace</source>
+        <translation>検索と置換</translation>
+    </message>
+    <message>
         <source>A drawn portrait</source>
         <translation>人物のイラスト</translation>
     </message>
@@ -222,6 +299,284 @@
     <message>
         <source>Coloured</source>
         <translation>色付き</translation>
+    </message>
+    <message>
+        <source>Built-in camera of the laptop in the lecture hall</source>
+        <translation>講義室のノートパソコンの内蔵カメラ</translation>
+    </message>
+    <message>
+        <source>Camera</source>
+        <translation>カメラ</translation>
+    </message>
+    <message>
+        <source>No camera</source>
+        <translation>カメラなし</translation>
+    </message>
+    <message>
+        <source>Document camera</source>
+        <translation>書画カメラ</translation>
+    </message>
+    <message>
+        <source>Sound sources</source>
+        <translation>音源</translation>
+    </message>
+    <message>
+        <source>Sources: %1</source>
+        <translation>ソース: %1</translation>
+    </message>
+    <message>
+        <source>System sound</source>
+        <translation>システム音</translation>
+    </message>
+    <message>
+        <source>Click sounds</source>
+        <translation>クリック音</translation>
+    </message>
+    <message>
+        <source>A combo box that elides its text, opens a list as wide as its items or a widget of yours, and can leave the wheel to its panel.</source>
+        <translation>テキストを省略し、項目の幅のリストや独自のウィジェットを開き、ホイール操作をパネルに任せることもできるコンボボックスです。</translation>
+    </message>
+    <message>
+        <source>Elided, wide list</source>
+        <translation>省略、幅の広いリスト</translation>
+    </message>
+    <message>
+        <source>Narrow list</source>
+        <translation>幅の狭いリスト</translation>
+    </message>
+    <message>
+        <source>Cut, not elided</source>
+        <translation>省略せず切り取り</translation>
+    </message>
+    <message>
+        <source>Display text</source>
+        <translation>表示テキスト</translation>
+    </message>
+    <message>
+        <source>Choose a camera…</source>
+        <translation>カメラを選択…</translation>
+    </message>
+    <message>
+        <source>Opens a widget</source>
+        <translation>ウィジェットを開く</translation>
+    </message>
+    <message>
+        <source>With icons, elided</source>
+        <translation>アイコン付き、省略</translation>
+    </message>
+    <message>
+        <source>Wheel left to the panel</source>
+        <translation>ホイール操作はパネルに任せる</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名前</translation>
+    </message>
+    <message>
+        <source>Name of the camera</source>
+        <translation>カメラの名前</translation>
+    </message>
+    <message>
+        <source>A line edit that elides its text until it gets the focus, and reports an edit when the focus leaves.</source>
+        <translation>フォーカスを得るまでテキストを省略し、フォーカスを失うと編集を通知する入力欄です。</translation>
+    </message>
+    <message>
+        <source>Fits</source>
+        <translation>収まる</translation>
+    </message>
+    <message>
+        <source>Elided</source>
+        <translation>省略</translation>
+    </message>
+    <message>
+        <source>Right-to-left text</source>
+        <translation>右から左のテキスト</translation>
+    </message>
+    <message>
+        <source>Read-only</source>
+        <translation>読み取り専用</translation>
+    </message>
+    <message>
+        <source>Clear button</source>
+        <translation>クリアボタン</translation>
+    </message>
+    <message>
+        <source>Validated</source>
+        <translation>入力を検証</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>パスワード</translation>
+    </message>
+    <message>
+        <source>Secret</source>
+        <translation>秘密</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>ズーム</translation>
+    </message>
+    <message>
+        <source>Wheel in focus only</source>
+        <translation>フォーカス時のみホイール有効</translation>
+    </message>
+    <message>
+        <source>A slider that can leave the wheel to its panel until it has the focus.</source>
+        <translation>フォーカスを得るまでホイール操作をパネルに任せることができるスライダーです。</translation>
+    </message>
+    <message>
+        <source>At its end</source>
+        <translation>端の値</translation>
+    </message>
+    <message>
+        <source>Vertical</source>
+        <translation>垂直</translation>
+    </message>
+    <message>
+        <source>A slider for a floating-point value: its position times a multiplier.</source>
+        <translation>浮動小数点値のスライダーです。値は位置と倍率の積になります。</translation>
+    </message>
+    <message>
+        <source>Tenths</source>
+        <translation>0.1 単位</translation>
+    </message>
+    <message>
+        <source>Around zero, in quarters</source>
+        <translation>0 を中心に 0.25 単位</translation>
+    </message>
+    <message>
+        <source>Frame rate</source>
+        <translation>フレームレート</translation>
+    </message>
+    <message>
+        <source>A field for a whole number that can leave the wheel to its panel until it has the focus.</source>
+        <translation>フォーカスを得るまでホイール操作をパネルに任せることができる整数フィールドです。</translation>
+    </message>
+    <message>
+        <source>With a unit</source>
+        <translation>単位付き</translation>
+    </message>
+    <message>
+        <source> fps</source>
+        <translation> fps</translation>
+    </message>
+    <message>
+        <source>Delay</source>
+        <translation>遅延</translation>
+    </message>
+    <message>
+        <source> s</source>
+        <translation> 秒</translation>
+    </message>
+    <message>
+        <source>A field for a floating-point number that can keep what is typed to whole steps.</source>
+        <translation>入力値をステップの倍数に揃えることができる浮動小数点数フィールドです。</translation>
+    </message>
+    <message>
+        <source>Typed numbers in whole steps</source>
+        <translation>入力値をステップに揃える</translation>
+    </message>
+    <message>
+        <source>Button %1</source>
+        <translation>ボタン %1</translation>
+    </message>
+    <message>
+        <source>Built-in camera</source>
+        <translation>内蔵カメラ</translation>
+    </message>
+    <message>
+        <source>A small page</source>
+        <translation>小さいページ</translation>
+    </message>
+    <message>
+        <source>A page that takes
+the room of its text
+and no more</source>
+        <translation>テキストに
+必要なだけの
+広さのページ</translation>
+    </message>
+    <message>
+        <source>A frame whose layout can be spaced by a style sheet.</source>
+        <translation>レイアウトの間隔をスタイルシートで指定できるフレームです。</translation>
+    </message>
+    <message>
+        <source>Spaced by style sheet</source>
+        <translation>スタイルシートによる間隔</translation>
+    </message>
+    <message>
+        <source>Spaced by properties</source>
+        <translation>プロパティによる間隔</translation>
+    </message>
+    <message>
+        <source>A camera with a name that is far too long for this place</source>
+        <translation>この場所には名前がはるかに長すぎるカメラ</translation>
+    </message>
+    <message>
+        <source>A label for one text that may be too long: it is elided, and shown whole as the tool tip.</source>
+        <translation>長すぎるテキストを省略し、全体をツールチップで表示するラベルです。</translation>
+    </message>
+    <message>
+        <source>Not clickable</source>
+        <translation>クリック不可</translation>
+    </message>
+    <message>
+        <source>A stack of pages that takes the size of the page it shows instead of the largest one.</source>
+        <translation>最大のページではなく、表示中のページのサイズになるページスタックです。</translation>
+    </message>
+    <message>
+        <source>Small page</source>
+        <translation>小さいページ</translation>
+    </message>
+    <message>
+        <source>Large page</source>
+        <translation>大きいページ</translation>
+    </message>
+    <message>
+        <source>Without fitting</source>
+        <translation>サイズ調整なし</translation>
+    </message>
+    <message>
+        <source>Show the hint</source>
+        <translation>ヒントを表示</translation>
+    </message>
+    <message>
+        <source>Choose a source first</source>
+        <translation>最初にソースを選択してください</translation>
+    </message>
+    <message>
+        <source>A camera, the screen
+or the test picture</source>
+        <translation>カメラ、画面、
+またはテスト映像</translation>
+    </message>
+    <message>
+        <source>A camera, the screen or the test picture</source>
+        <translation>カメラ、画面、またはテスト映像</translation>
+    </message>
+    <message>
+        <source>Windows</source>
+        <translation>ウィンドウ</translation>
+    </message>
+    <message>
+        <source>A hint in a window of its own, in the shape of an image, that goes by itself.</source>
+        <translation>画像の形をした独立したウィンドウに表示され、自動的に消えるヒントです。</translation>
+    </message>
+    <message>
+        <source>Title and text</source>
+        <translation>タイトルとテキスト</translation>
+    </message>
+    <message>
+        <source>Text only</source>
+        <translation>テキストのみ</translation>
+    </message>
+    <message>
+        <source>The recording goes on</source>
+        <translation>録画は続いています</translation>
+    </message>
+    <message>
+        <source>Speech bubble</source>
+        <translation>吹き出し</translation>
     </message>
     <message>
         <source>Indicators</source>
@@ -276,86 +631,6 @@
         <translation>枠線なし</translation>
     </message>
     <message>
-        <source>Button %1</source>
-        <translation>ボタン %1</translation>
-    </message>
-    <message>
-        <source>Built-in camera</source>
-        <translation>内蔵カメラ</translation>
-    </message>
-    <message>
-        <source>A small page</source>
-        <translation>小さいページ</translation>
-    </message>
-    <message>
-        <source>A page that takes
-the room of its text
-and no more</source>
-        <translation>テキストに
-必要なだけの
-広さのページ</translation>
-    </message>
-    <message>
-        <source>Kit</source>
-        <translation>キット</translation>
-    </message>
-    <message>
-        <source>A frame whose layout can be spaced by a style sheet.</source>
-        <translation>レイアウトの間隔をスタイルシートで指定できるフレームです。</translation>
-    </message>
-    <message>
-        <source>Spaced by style sheet</source>
-        <translation>スタイルシートによる間隔</translation>
-    </message>
-    <message>
-        <source>Spaced by properties</source>
-        <translation>プロパティによる間隔</translation>
-    </message>
-    <message>
-        <source>A camera with a name that is far too long for this place</source>
-        <translation>この場所には名前がはるかに長すぎるカメラ</translation>
-    </message>
-    <message>
-        <source>A label for one text that may be too long: it is elided, and shown whole as the tool tip.</source>
-        <translation>長すぎるテキストを省略し、全体をツールチップで表示するラベルです。</translation>
-    </message>
-    <message>
-        <source>Fits</source>
-        <translation>収まる</translation>
-    </message>
-    <message>
-        <source>Elided</source>
-        <translation>省略</translation>
-    </message>
-    <message>
-        <source>Right-to-left text</source>
-        <translation>右から左のテキスト</translation>
-    </message>
-    <message>
-        <source>Cut, not elided</source>
-        <translation>省略せず切り取り</translation>
-    </message>
-    <message>
-        <source>Not clickable</source>
-        <translation>クリック不可</translation>
-    </message>
-    <message>
-        <source>A stack of pages that takes the size of the page it shows instead of the largest one.</source>
-        <translation>最大のページではなく、表示中のページのサイズになるページスタックです。</translation>
-    </message>
-    <message>
-        <source>Small page</source>
-        <translation>小さいページ</translation>
-    </message>
-    <message>
-        <source>Large page</source>
-        <translation>大きいページ</translation>
-    </message>
-    <message>
-        <source>Without fitting</source>
-        <translation>サイズ調整なし</translation>
-    </message>
-    <message>
         <source>Take a picture</source>
         <translation>撮影</translation>
     </message>
@@ -370,10 +645,6 @@ and no more</source>
     <message>
         <source>Horizontal</source>
         <translation>水平</translation>
-    </message>
-    <message>
-        <source>Vertical</source>
-        <translation>垂直</translation>
     </message>
     <message>
         <source>Take a picture of everything on the screen</source>
@@ -422,8 +693,84 @@ the pointer</source>
         <translation>ウィンドウ</translation>
     </message>
     <message>
+        <source>Recording</source>
+        <translation>録画</translation>
+    </message>
+    <message>
+        <source>Waves of colour</source>
+        <translation>色の波</translation>
+    </message>
+    <message>
+        <source>Colours</source>
+        <translation>色</translation>
+    </message>
+    <message>
+        <source>A grid of round LEDs, each of a colour of its own.</source>
+        <translation>それぞれ独自の色を持つ丸い LED のグリッドです。</translation>
+    </message>
+    <message>
+        <source>A sign</source>
+        <translation>記号</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>ダーク</translation>
+    </message>
+    <message>
+        <source>Transparent background</source>
+        <translation>透明な背景</translation>
+    </message>
+    <message>
+        <source>Named colours</source>
+        <translation>名前付きの色</translation>
+    </message>
+    <message>
+        <source>Wider than the grid</source>
+        <translation>グリッドより幅が広い</translation>
+    </message>
+    <message>
+        <source>4096 LEDs</source>
+        <translation>4096 個の LED</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>音量</translation>
+    </message>
+    <message>
+        <source>A button that shows a level and opens a slider above itself.</source>
+        <translation>レベルを表示し、上にスライダーを開くボタンです。</translation>
+    </message>
+    <message>
+        <source>Level 0</source>
+        <translation>レベル 0</translation>
+    </message>
+    <message>
+        <source>From 1</source>
+        <translation>1 以上</translation>
+    </message>
+    <message>
+        <source>From 25</source>
+        <translation>25 以上</translation>
+    </message>
+    <message>
+        <source>From 50</source>
+        <translation>50 以上</translation>
+    </message>
+    <message>
+        <source>From 75</source>
+        <translation>75 以上</translation>
+    </message>
+    <message>
+        <source>Slider in a window apart</source>
+        <translation>別ウィンドウのスライダー</translation>
+    </message>
+    <message>
+        <source>High slider</source>
+        <translation>縦に長いスライダー</translation>
+    </message>
+    <message>
         <source>No picture</source>
-        <translation>画像なし</translation>
+        <translation>映像なし</translation>
     </message>
     <message>
         <source>Media</source>
@@ -462,10 +809,6 @@ the pointer</source>
         <translation>ライブ</translation>
     </message>
     <message>
-        <source>Volume</source>
-        <translation>音量</translation>
-    </message>
-    <message>
         <source>A slider for a recording volume, with a meter of the input level behind its handle.</source>
         <translation>つまみの後ろに入力レベルメーターを備えた、録音音量のスライダーです。</translation>
     </message>
@@ -488,48 +831,6 @@ the pointer</source>
     <message>
         <source>Rounded</source>
         <translation>角丸</translation>
-    </message>
-    <message>
-        <source>Show the hint</source>
-        <translation>ヒントを表示</translation>
-    </message>
-    <message>
-        <source>Choose a source first</source>
-        <translation>最初にソースを選択してください</translation>
-    </message>
-    <message>
-        <source>A camera, the screen
-or the test picture</source>
-        <translation>カメラ、画面、
-またはテスト映像</translation>
-    </message>
-    <message>
-        <source>A camera, the screen or the test picture</source>
-        <translation>カメラ、画面、またはテスト映像</translation>
-    </message>
-    <message>
-        <source>Windows</source>
-        <translation>ウィンドウ</translation>
-    </message>
-    <message>
-        <source>A hint in a window of its own, in the shape of an image, that goes by itself.</source>
-        <translation>画像の形をした独立したウィンドウに表示され、自動的に消えるヒントです。</translation>
-    </message>
-    <message>
-        <source>Title and text</source>
-        <translation>タイトルとテキスト</translation>
-    </message>
-    <message>
-        <source>Text only</source>
-        <translation>テキストのみ</translation>
-    </message>
-    <message>
-        <source>The recording goes on</source>
-        <translation>録画は続いています</translation>
-    </message>
-    <message>
-        <source>Speech bubble</source>
-        <translation>吹き出し</translation>
     </message>
     <message>
         <source>Shows one picture over its whole area: stretched, cut, or cut to an ellipse.</source>
@@ -556,100 +857,6 @@ or the test picture</source>
         <translation>縦長の楕円</translation>
     </message>
     <message>
-        <source>Screen</source>
-        <translation>画面</translation>
-    </message>
-    <message>
-        <source>Camera</source>
-        <translation>カメラ</translation>
-    </message>
-    <message>
-        <source>Microphone</source>
-        <translation>マイク</translation>
-    </message>
-    <message>
-        <source>Recording %1</source>
-        <translation>録画 %1</translation>
-    </message>
-    <message>
-        <source>What is on the screen, or a part of it.</source>
-        <translation>画面に表示されているもの、またはその一部。</translation>
-    </message>
-    <message>
-        <source>A camera, in a corner of the picture.</source>
-        <translation>映像の隅に表示するカメラ。</translation>
-    </message>
-    <message>
-        <source>The sound of what is said.</source>
-        <translation>話している音声。</translation>
-    </message>
-    <message>
-        <source>A page that is wider than the others</source>
-        <translation>ほかのページより幅の広いページ</translation>
-    </message>
-    <message>
-        <source>A page
-that is higher
-than the others
-and not wide</source>
-        <translation>ほかのページより
-高さがあり
-幅の広くない
-ページ</translation>
-    </message>
-    <message>
-        <source>Next page</source>
-        <translation>次のページ</translation>
-    </message>
-    <message>
-        <source>Tabs</source>
-        <translation>タブ</translation>
-    </message>
-    <message>
-        <source>A tab bar whose style sheet says where text and icon of a tab are, and how they change with the selection.</source>
-        <translation>タブのテキストとアイコンの位置、選択による変化をスタイルシートで指定するタブバーです。</translation>
-    </message>
-    <message>
-        <source>Text</source>
-        <translation>テキスト</translation>
-    </message>
-    <message>
-        <source>Icons</source>
-        <translation>アイコン</translation>
-    </message>
-    <message>
-        <source>One disabled</source>
-        <translation>1 つ無効</translation>
-    </message>
-    <message>
-        <source>Scrolled</source>
-        <translation>スクロール済み</translation>
-    </message>
-    <message>
-        <source>Closable and movable</source>
-        <translation>閉じる・移動が可能</translation>
-    </message>
-    <message>
-        <source>A tab widget with that tab bar.</source>
-        <translation>そのタブバーを備えたタブウィジェットです。</translation>
-    </message>
-    <message>
-        <source>At the side</source>
-        <translation>横に配置</translation>
-    </message>
-    <message>
-        <source>A stack of pages that is fixed to the size of the page it shows.</source>
-        <translation>表示中のページのサイズに固定されるページスタックです。</translation>
-    </message>
-    <message>
-        <source>Wide page</source>
-        <translation>幅の広いページ</translation>
-    </message>
-    <message>
-        <source>High page</source>
-        <translation>高さのあるページ</translation>
-    </message>
-    <message>
         <source>Pointer</source>
         <translation>ポインター</translation>
     </message>
@@ -668,6 +875,10 @@ and not wide</source>
     <message>
         <source>Arrow</source>
         <translation>矢印</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>テキスト</translation>
     </message>
     <message>
         <source>Blur</source>
@@ -754,6 +965,194 @@ and not wide</source>
         <translation>値なし</translation>
     </message>
     <message>
+        <source>Position</source>
+        <translation>位置</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <comment>thumb</comment>
+        <translation>開始</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <comment>thumb</comment>
+        <translation>終了</translation>
+    </message>
+    <message>
+        <source>Mark at %1</source>
+        <translation>%1 のマーク</translation>
+    </message>
+    <message>
+        <source>A slider with any number of thumbs and highlighted stretches, for trimming and timelines.</source>
+        <translation>任意の数のつまみと強調区間を持つ、トリミングやタイムラインのためのスライダーです。</translation>
+    </message>
+    <message>
+        <source>One thumb</source>
+        <translation>つまみ 1 つ</translation>
+    </message>
+    <message>
+        <source>Trimming</source>
+        <translation>トリミング</translation>
+    </message>
+    <message>
+        <source>Trimming, position limited</source>
+        <translation>トリミング、位置を制限</translation>
+    </message>
+    <message>
+        <source>Segments</source>
+        <translation>区間</translation>
+    </message>
+    <message>
+        <source>Marks, one selected</source>
+        <translation>マーク、1 つ選択</translation>
+    </message>
+    <message>
+        <source>Marks that snap to the position</source>
+        <translation>位置に吸着するマーク</translation>
+    </message>
+    <message>
+        <source>Upright</source>
+        <translation>縦向き</translation>
+    </message>
+    <message>
+        <source>Upright, segments</source>
+        <translation>縦向き、区間</translation>
+    </message>
+    <message>
+        <source>Screen</source>
+        <translation>画面</translation>
+    </message>
+    <message>
+        <source>Recording %1</source>
+        <translation>録画 %1</translation>
+    </message>
+    <message>
+        <source>What is on the screen, or a part of it.</source>
+        <translation>画面に表示されているもの、またはその一部。</translation>
+    </message>
+    <message>
+        <source>A camera, in a corner of the picture.</source>
+        <translation>映像の隅に表示するカメラ。</translation>
+    </message>
+    <message>
+        <source>The sound of what is said.</source>
+        <translation>話している音声。</translation>
+    </message>
+    <message>
+        <source>A page that is wider than the others</source>
+        <translation>ほかのページより幅の広いページ</translation>
+    </message>
+    <message>
+        <source>A page
+that is higher
+than the others
+and not wide</source>
+        <translation>ほかのページより
+高さがあり
+幅の広くない
+ページ</translation>
+    </message>
+    <message>
+        <source>Tabs</source>
+        <translation>タブ</translation>
+    </message>
+    <message>
+        <source>A tab bar whose style sheet says where text and icon of a tab are, and how they change with the selection.</source>
+        <translation>タブのテキストとアイコンの位置、選択による変化をスタイルシートで指定するタブバーです。</translation>
+    </message>
+    <message>
+        <source>Icons</source>
+        <translation>アイコン</translation>
+    </message>
+    <message>
+        <source>One disabled</source>
+        <translation>1 つ無効</translation>
+    </message>
+    <message>
+        <source>Scrolled</source>
+        <translation>スクロール済み</translation>
+    </message>
+    <message>
+        <source>Closable and movable</source>
+        <translation>閉じる・移動が可能</translation>
+    </message>
+    <message>
+        <source>A tab widget with that tab bar.</source>
+        <translation>そのタブバーを備えたタブウィジェットです。</translation>
+    </message>
+    <message>
+        <source>At the side</source>
+        <translation>横に配置</translation>
+    </message>
+    <message>
+        <source>A stack of pages that is fixed to the size of the page it shows.</source>
+        <translation>表示中のページのサイズに固定されるページスタックです。</translation>
+    </message>
+    <message>
+        <source>Wide page</source>
+        <translation>幅の広いページ</translation>
+    </message>
+    <message>
+        <source>High page</source>
+        <translation>高さのあるページ</translation>
+    </message>
+    <message>
+        <source>A slider for a time within a span, which bounds can narrow; it tells the time under the mouse.</source>
+        <translation>範囲内の時刻を選ぶスライダー。境界で範囲を狭められ、マウスの下の時刻を表示します。</translation>
+    </message>
+    <message>
+        <source>One minute of three</source>
+        <translation>3 分のうち 1 分</translation>
+    </message>
+    <message>
+        <source>Narrowed by bounds</source>
+        <translation>境界で狭めた範囲</translation>
+    </message>
+    <message>
+        <source>Bounds with thumbs</source>
+        <translation>つまみ付きの境界</translation>
+    </message>
+    <message>
+        <source>At its bound</source>
+        <translation>境界上</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>時刻</translation>
+    </message>
+    <message>
+        <source>A field for a time whose digits are overwritten in place, in the shortest format that is exact.</source>
+        <translation>数字をその場で上書きする時刻欄。正確に表せる最短の形式で表示します。</translation>
+    </message>
+    <message>
+        <source>One format</source>
+        <translation>1 つの形式</translation>
+    </message>
+    <message>
+        <source>The format that fits: minutes</source>
+        <translation>合う形式: 分</translation>
+    </message>
+    <message>
+        <source>The format that fits: milliseconds</source>
+        <translation>合う形式: ミリ秒</translation>
+    </message>
+    <message>
+        <source>Always the longest format</source>
+        <translation>常に最長の形式</translation>
+    </message>
+    <message>
+        <source>As wide as its text</source>
+        <translation>テキストの幅</translation>
+    </message>
+    <message>
+        <source>From 00:01:00 to 00:30:00</source>
+        <translation>00:01:00 から 00:30:00 まで</translation>
+    </message>
+    <message>
+        <source>Twelve hours</source>
+        <translation>12 時間</translation>
+    </message>
+    <message>
         <source>Recorder</source>
         <translation>レコーダー</translation>
     </message>
@@ -813,416 +1212,6 @@ and not wide</source>
         <source>Copyright 2026 Example Company. All rights reserved. Protected by law; made with the help of many.</source>
         <translation>Copyright 2026 サンプル株式会社. All rights reserved. 法律により保護されています。多くの方々の協力により制作されました。</translation>
     </message>
-    <message>
-        <source>Start</source>
-        <translation>開始</translation>
-    </message>
-    <message>
-        <source>Stop</source>
-        <translation>停止</translation>
-    </message>
-    <message>
-        <source>An editor for the style sheet of the running application; here it works on the sample above it.</source>
-        <translation>実行中のアプリケーションのスタイルシートエディターです。ここでは上のサンプルに適用されます。</translation>
-    </message>
-    <message>
-        <source>With a sheet</source>
-        <translation>スタイルシートあり</translation>
-    </message>
-    <message>
-        <source>With mistakes</source>
-        <translation>エラーあり</translation>
-    </message>
-    <message>
-        <source>Find and replace</source>
-        <translation>検索と置換</translation>
-    </message>
-    <message>
-        <source>Built-in camera of the laptop in the lecture hall</source>
-        <translation>講義室のノートパソコンの内蔵カメラ</translation>
-    </message>
-    <message>
-        <source>No camera</source>
-        <translation>カメラなし</translation>
-    </message>
-    <message>
-        <source>Document camera</source>
-        <translation>書画カメラ</translation>
-    </message>
-    <message>
-        <source>Sound sources</source>
-        <translation>音源</translation>
-    </message>
-    <message>
-        <source>Sources: %1</source>
-        <translation>ソース: %1</translation>
-    </message>
-    <message>
-        <source>System sound</source>
-        <translation>システム音</translation>
-    </message>
-    <message>
-        <source>Click sounds</source>
-        <translation>クリック音</translation>
-    </message>
-    <message>
-        <source>A combo box that elides its text, opens a list as wide as its items or a widget of yours, and can leave the wheel to its panel.</source>
-        <translation>テキストを省略し、項目の幅のリストや独自のウィジェットを開き、ホイール操作をパネルに任せることもできるコンボボックスです。</translation>
-    </message>
-    <message>
-        <source>Elided, wide list</source>
-        <translation>省略、幅の広いリスト</translation>
-    </message>
-    <message>
-        <source>Narrow list</source>
-        <translation>幅の狭いリスト</translation>
-    </message>
-    <message>
-        <source>Display text</source>
-        <translation>表示テキスト</translation>
-    </message>
-    <message>
-        <source>Choose a camera…</source>
-        <translation>カメラを選択…</translation>
-    </message>
-    <message>
-        <source>Opens a widget</source>
-        <translation>ウィジェットを開く</translation>
-    </message>
-    <message>
-        <source>With icons, elided</source>
-        <translation>アイコン付き、省略</translation>
-    </message>
-    <message>
-        <source>Wheel left to the panel</source>
-        <translation>ホイール操作はパネルに任せる</translation>
-    </message>
-    <message>
-        <source>Name</source>
-        <translation>名前</translation>
-    </message>
-    <message>
-        <source>Name of the camera</source>
-        <translation>カメラの名前</translation>
-    </message>
-    <message>
-        <source>A line edit that elides its text until it gets the focus, and reports an edit when the focus leaves.</source>
-        <translation>フォーカスを得るまでテキストを省略し、フォーカスを失うと編集を通知する入力欄です。</translation>
-    </message>
-    <message>
-        <source>Read-only</source>
-        <translation>読み取り専用</translation>
-    </message>
-    <message>
-        <source>Clear button</source>
-        <translation>クリアボタン</translation>
-    </message>
-    <message>
-        <source>Validated</source>
-        <translation>入力を検証</translation>
-    </message>
-    <message>
-        <source>Password</source>
-        <translation>パスワード</translation>
-    </message>
-    <message>
-        <source>Secret</source>
-        <translation>秘密</translation>
-    </message>
-    <message>
-        <source>Zoom</source>
-        <translation>ズーム</translation>
-    </message>
-    <message>
-        <source>Wheel in focus only</source>
-        <translation>フォーカス時のみホイール有効</translation>
-    </message>
-    <message>
-        <source>A slider that can leave the wheel to its panel until it has the focus.</source>
-        <translation>フォーカスを得るまでホイール操作をパネルに任せることができるスライダーです。</translation>
-    </message>
-    <message>
-        <source>At its end</source>
-        <translation>端の値</translation>
-    </message>
-    <message>
-        <source>A slider for a floating-point value: its position times a multiplier.</source>
-        <translation>浮動小数点値のスライダーです。値は位置と倍率の積になります。</translation>
-    </message>
-    <message>
-        <source>Tenths</source>
-        <translation>0.1 単位</translation>
-    </message>
-    <message>
-        <source>Around zero, in quarters</source>
-        <translation>0 を中心に 0.25 単位</translation>
-    </message>
-    <message>
-        <source>Frame rate</source>
-        <translation>フレームレート</translation>
-    </message>
-    <message>
-        <source>A field for a whole number that can leave the wheel to its panel until it has the focus.</source>
-        <translation>フォーカスを得るまでホイール操作をパネルに任せることができる整数フィールドです。</translation>
-    </message>
-    <message>
-        <source>With a unit</source>
-        <translation>単位付き</translation>
-    </message>
-    <message>
-        <source> fps</source>
-        <translation> fps</translation>
-    </message>
-    <message>
-        <source>Delay</source>
-        <translation>遅延</translation>
-    </message>
-    <message>
-        <source> s</source>
-        <translation> 秒</translation>
-    </message>
-    <message>
-        <source>A field for a floating-point number that can keep what is typed to whole steps.</source>
-        <translation>入力値をステップの倍数に揃えることができる浮動小数点数フィールドです。</translation>
-    </message>
-    <message>
-        <source>Typed numbers in whole steps</source>
-        <translation>入力値をステップに揃える</translation>
-    </message>
-    <message>
-        <source>Recording</source>
-        <translation>録画</translation>
-    </message>
-    <message>
-        <source>Waves of colour</source>
-        <translation>色の波</translation>
-    </message>
-    <message>
-        <source>Colours</source>
-        <translation>色</translation>
-    </message>
-    <message>
-        <source>A grid of round LEDs, each of a colour of its own.</source>
-        <translation>それぞれ独自の色を持つ丸い LED のグリッドです。</translation>
-    </message>
-    <message>
-        <source>A sign</source>
-        <translation>記号</translation>
-    </message>
-    <message>
-        <source>Dark</source>
-        <translation>消灯</translation>
-    </message>
-    <message>
-        <source>Transparent background</source>
-        <translation>透明な背景</translation>
-    </message>
-    <message>
-        <source>Named colours</source>
-        <translation>名前付きの色</translation>
-    </message>
-    <message>
-        <source>Wider than the grid</source>
-        <translation>グリッドより幅が広い</translation>
-    </message>
-    <message>
-        <source>4096 LEDs</source>
-        <translation>4096 個の LED</translation>
-    </message>
-    <message>
-        <source>A button that shows a level and opens a slider above itself.</source>
-        <translation>レベルを表示し、上にスライダーを開くボタンです。</translation>
-    </message>
-    <message>
-        <source>Level 0</source>
-        <translation>レベル 0</translation>
-    </message>
-    <message>
-        <source>From 1</source>
-        <translation>1 以上</translation>
-    </message>
-    <message>
-        <source>From 25</source>
-        <translation>25 以上</translation>
-    </message>
-    <message>
-        <source>From 50</source>
-        <translation>50 以上</translation>
-    </message>
-    <message>
-        <source>From 75</source>
-        <translation>75 以上</translation>
-    </message>
-    <message>
-        <source>Slider in a window apart</source>
-        <translation>別ウィンドウのスライダー</translation>
-    </message>
-    <message>
-        <source>High slider</source>
-        <translation>縦に長いスライダー</translation>
-    </message>
-    <message>
-        <source>Position</source>
-        <translation>位置</translation>
-    </message>
-    <message>
-        <source>Mark at %1</source>
-        <translation>%1 のマーク</translation>
-    </message>
-    <message>
-        <source>A slider with any number of thumbs and highlighted stretches, for trimming and timelines.</source>
-        <translation>任意の数のつまみと強調区間を持つ、トリミングやタイムラインのためのスライダーです。</translation>
-    </message>
-    <message>
-        <source>One thumb</source>
-        <translation>つまみ 1 つ</translation>
-    </message>
-    <message>
-        <source>Trimming</source>
-        <translation>トリミング</translation>
-    </message>
-    <message>
-        <source>Trimming, position limited</source>
-        <translation>トリミング、位置を制限</translation>
-    </message>
-    <message>
-        <source>Segments</source>
-        <translation>区間</translation>
-    </message>
-    <message>
-        <source>Marks, one selected</source>
-        <translation>マーク、1 つ選択</translation>
-    </message>
-    <message>
-        <source>Marks that snap to the position</source>
-        <translation>位置に吸着するマーク</translation>
-    </message>
-    <message>
-        <source>Upright</source>
-        <translation>縦向き</translation>
-    </message>
-    <message>
-        <source>Upright, segments</source>
-        <translation>縦向き、区間</translation>
-    </message>
-    <message>
-        <source>Start</source>
-        <comment>thumb</comment>
-        <translation>開始</translation>
-    </message>
-    <message>
-        <source>End</source>
-        <comment>thumb</comment>
-        <translation>終了</translation>
-    </message>
-    <message>
-        <source>A slider for a time within a span, which bounds can narrow; it tells the time under the mouse.</source>
-        <translation>範囲内の時刻を選ぶスライダー。境界で範囲を狭められ、マウスの下の時刻を表示します。</translation>
-    </message>
-    <message>
-        <source>One minute of three</source>
-        <translation>3 分のうち 1 分</translation>
-    </message>
-    <message>
-        <source>Narrowed by bounds</source>
-        <translation>境界で狭めた範囲</translation>
-    </message>
-    <message>
-        <source>Bounds with thumbs</source>
-        <translation>つまみ付きの境界</translation>
-    </message>
-    <message>
-        <source>At its bound</source>
-        <translation>境界上</translation>
-    </message>
-    <message>
-        <source>Time</source>
-        <translation>時刻</translation>
-    </message>
-    <message>
-        <source>A field for a time whose digits are overwritten in place, in the shortest format that is exact.</source>
-        <translation>数字をその場で上書きする時刻欄。正確に表せる最短の形式で表示します。</translation>
-    </message>
-    <message>
-        <source>One format</source>
-        <translation>1 つの形式</translation>
-    </message>
-    <message>
-        <source>The format that fits: minutes</source>
-        <translation>合う形式: 分</translation>
-    </message>
-    <message>
-        <source>The format that fits: milliseconds</source>
-        <translation>合う形式: ミリ秒</translation>
-    </message>
-    <message>
-        <source>Always the longest format</source>
-        <translation>常に最長の形式</translation>
-    </message>
-    <message>
-        <source>As wide as its text</source>
-        <translation>テキストの幅</translation>
-    </message>
-    <message>
-        <source>From 00:01:00 to 00:30:00</source>
-        <translation>00:01:00 から 00:30:00 まで</translation>
-    </message>
-    <message>
-        <source>Twelve hours</source>
-        <translation>12 時間</translation>
-    </message>
-</context>
-<context>
-    <name>Editors</name>
-    <message>
-        <source>One text in each line</source>
-        <translation>1 行に 1 つのテキスト</translation>
-    </message>
-    <message>
-        <source>No colour</source>
-        <translation>色なし</translation>
-    </message>
-    <message>
-        <source>w</source>
-        <comment>short for width</comment>
-        <translation>幅</translation>
-    </message>
-    <message>
-        <source>h</source>
-        <comment>short for height</comment>
-        <translation>高さ</translation>
-    </message>
-    <message>
-        <source>Choose a file</source>
-        <translation>ファイルを選択</translation>
-    </message>
-    <message>
-        <source>This file is no picture</source>
-        <translation>このファイルは画像ではありません</translation>
-    </message>
-    <message>
-        <source>Picture</source>
-        <translation>画像</translation>
-    </message>
-    <message>
-        <source>Pictures</source>
-        <translation>画像</translation>
-    </message>
-    <message>
-        <source>No picture</source>
-        <translation>画像なし</translation>
-    </message>
-</context>
-<context>
-    <name>FirstHint</name>
-    <message>
-        <source>Start here</source>
-        <translation>まずはここから</translation>
-    </message>
-    <message>
-        <source>Choose what is shown: a camera, the screen or the test picture.</source>
-        <translation>表示するものを選択してください: カメラ、画面、テスト映像。</translation>
-    </message>
 </context>
 <context>
     <name>TestPicture</name>
@@ -1259,88 +1248,10 @@ and not wide</source>
     </message>
 </context>
 <context>
-    <name>Zelkor::Gallery::AudioPanel</name>
-    <message>
-        <source>Test signal</source>
-        <translation>テスト信号</translation>
-    </message>
-    <message>
-        <source>Microphone</source>
-        <translation>マイク</translation>
-    </message>
-    <message>
-        <source>System sound</source>
-        <translation>システム音</translation>
-    </message>
-</context>
-<context>
-    <name>Zelkor::Gallery::CaptureBar</name>
-    <message>
-        <source>Full screen</source>
-        <translation>全画面</translation>
-    </message>
-    <message>
-        <source>Window</source>
-        <translation>ウィンドウ</translation>
-    </message>
-    <message>
-        <source>Region</source>
-        <translation>領域</translation>
-    </message>
-    <message>
-        <source>Around pointer</source>
-        <translation>ポインター周辺</translation>
-    </message>
-    <message>
-        <source>Sound only</source>
-        <translation>音声のみ</translation>
-    </message>
-    <message>
-        <source>No click sound</source>
-        <translation>クリック音なし</translation>
-    </message>
-    <message>
-        <source>Soft click</source>
-        <translation>静かな音</translation>
-    </message>
-    <message>
-        <source>Mechanical keyboard</source>
-        <translation>メカニカルキーボード</translation>
-    </message>
-    <message>
-        <source>Typewriter</source>
-        <translation>タイプライター</translation>
-    </message>
-    <message>
-        <source>Recording mode: %1</source>
-        <translation>録画モード: %1</translation>
-    </message>
-    <message>
-        <source>Chooses what is recorded</source>
-        <translation>録画するものを選択します</translation>
-    </message>
-    <message>
-        <source>Chooses the colour of drawings</source>
-        <translation>描画の色を選択します</translation>
-    </message>
-    <message>
-        <source>Drawing colour</source>
-        <translation>描画の色</translation>
-    </message>
-    <message>
-        <source>Chooses what is heard when you click</source>
-        <translation>クリック時に鳴る音を選択します</translation>
-    </message>
-    <message>
-        <source>Click sound</source>
-        <translation>クリック音</translation>
-    </message>
-</context>
-<context>
     <name>Zelkor::Gallery::GalleryWindow</name>
     <message>
-        <source>Widgets of Vx Recorder</source>
-        <translation>Vx Recorder のウィジェット</translation>
+        <source>VxUiWidgets Gallery</source>
+        <translation>VxUiWidgets ギャラリー</translation>
     </message>
 </context>
 <context>
@@ -1392,12 +1303,8 @@ and not wide</source>
         <translation>ページを検索 (%1)</translation>
     </message>
     <message>
-        <source>Recorder</source>
-        <translation>レコーダー</translation>
-    </message>
-    <message>
-        <source>Trimmer</source>
-        <translation>トリミング</translation>
+        <source>Start</source>
+        <translation>開始</translation>
     </message>
 </context>
 <context>
@@ -1443,127 +1350,6 @@ Default: %3</source>
     <message>
         <source>Style sheets cannot say this</source>
         <translation>スタイルシートでは指定できません</translation>
-    </message>
-</context>
-<context>
-    <name>Zelkor::Gallery::RecorderModel</name>
-    <message>
-        <source>Screen</source>
-        <translation>画面</translation>
-    </message>
-</context>
-<context>
-    <name>Zelkor::Gallery::RecorderView</name>
-    <message>
-        <source>Record</source>
-        <translation>録画</translation>
-    </message>
-    <message>
-        <source>End</source>
-        <translation>終了</translation>
-    </message>
-    <message>
-        <source>Starts to record after a countdown</source>
-        <translation>カウントダウンの後に録画を開始します</translation>
-    </message>
-    <message>
-        <source>Ends the recording</source>
-        <translation>録画を終了します</translation>
-    </message>
-    <message>
-        <source>Waiting for the picture</source>
-        <translation>映像を待っています</translation>
-    </message>
-    <message>
-        <source>No picture</source>
-        <translation>映像なし</translation>
-    </message>
-    <message>
-        <source>Stop</source>
-        <translation>停止</translation>
-    </message>
-    <message>
-        <source>Start</source>
-        <translation>開始</translation>
-    </message>
-    <message>
-        <source>%1 · %2 · %3 fps</source>
-        <translation>%1 · %2 · %3 fps</translation>
-    </message>
-    <message>
-        <source>Recording %1 · %2</source>
-        <translation>録画中 %1 · %2</translation>
-    </message>
-    <message>
-        <source>Stopped · %1</source>
-        <translation>停止中 · %1</translation>
-    </message>
-    <message>
-        <source>No picture · %1</source>
-        <translation>映像なし · %1</translation>
-    </message>
-    <message>
-        <source>The camera could not be opened. Check that it is connected and that no other program uses it, then start again.</source>
-        <translation>カメラを開けませんでした。接続されていること、ほかのプログラムが使用していないことを確認して、もう一度開始してください。</translation>
-    </message>
-    <message>
-        <source>The source could not be opened. Choose another one, or start again.</source>
-        <translation>ソースを開けませんでした。別のソースを選択するか、もう一度開始してください。</translation>
-    </message>
-    <message>
-        <source>Source</source>
-        <translation>ソース</translation>
-    </message>
-    <message>
-        <source>Chooses what is shown</source>
-        <translation>表示するものを選択します</translation>
-    </message>
-    <message>
-        <source>Audio</source>
-        <translation>音声</translation>
-    </message>
-    <message>
-        <source>Sets how loud microphone and system are</source>
-        <translation>マイクとシステムの音量を設定します</translation>
-    </message>
-    <message>
-        <source>Settings of the device</source>
-        <translation>デバイスの設定</translation>
-    </message>
-    <message>
-        <source>Live picture</source>
-        <translation>ライブ映像</translation>
-    </message>
-</context>
-<context>
-    <name>Zelkor::Gallery::RecorderWindow</name>
-    <message>
-        <source>Version %1</source>
-        <translation>バージョン %1</translation>
-    </message>
-    <message>
-        <source>Shows the widgets of VxUiWidgets at work. Nothing is recorded.</source>
-        <translation>VxUiWidgets のウィジェットの動作を示します。録画は行われません。</translation>
-    </message>
-    <message>
-        <source>Vx Recorder</source>
-        <translation>Vx Recorder</translation>
-    </message>
-    <message>
-        <source>All widgets</source>
-        <translation>すべてのウィジェット</translation>
-    </message>
-    <message>
-        <source>Settings</source>
-        <translation>設定</translation>
-    </message>
-    <message>
-        <source>About</source>
-        <translation>バージョン情報</translation>
-    </message>
-    <message>
-        <source>Edit the style sheet (F12)</source>
-        <translation>スタイルシートを編集 (F12)</translation>
     </message>
 </context>
 <context>
@@ -1630,97 +1416,6 @@ Default: %3</source>
     </message>
 </context>
 <context>
-    <name>Zelkor::Gallery::SettingsDialog</name>
-    <message>
-        <source>Settings</source>
-        <translation>設定</translation>
-    </message>
-    <message>
-        <source>Subjects</source>
-        <translation>項目</translation>
-    </message>
-    <message>
-        <source>General</source>
-        <translation>全般</translation>
-    </message>
-    <message>
-        <source>Recording</source>
-        <translation>録画</translation>
-    </message>
-    <message>
-        <source>Pointer</source>
-        <translation>ポインター</translation>
-    </message>
-    <message>
-        <source>Language</source>
-        <translation>言語</translation>
-    </message>
-    <message>
-        <source>Appearance</source>
-        <translation>外観</translation>
-    </message>
-    <message>
-        <source>As given</source>
-        <translation>指定どおり</translation>
-    </message>
-    <message>
-        <source>Dark</source>
-        <translation>ダーク</translation>
-    </message>
-    <message>
-        <source>Light</source>
-        <translation>ライト</translation>
-    </message>
-    <message>
-        <source>Countdown</source>
-        <translation>カウントダウン</translation>
-    </message>
-    <message>
-        <source>None</source>
-        <translation>なし</translation>
-    </message>
-    <message>
-        <source>Quality</source>
-        <translation>画質</translation>
-    </message>
-    <message>
-        <source>Small</source>
-        <translation>低</translation>
-    </message>
-    <message>
-        <source>Medium</source>
-        <translation>中</translation>
-    </message>
-    <message>
-        <source>High</source>
-        <translation>高</translation>
-    </message>
-    <message>
-        <source>Lossless</source>
-        <translation>ロスレス</translation>
-    </message>
-    <message>
-        <source>Colour</source>
-        <translation>色</translation>
-    </message>
-    <message>
-        <source>Size</source>
-        <translation>サイズ</translation>
-    </message>
-    <message>
-        <source>The pointer&apos;s highlight</source>
-        <translation>ポインターの強調表示</translation>
-    </message>
-    <message>
-        <source>About %1 MB per minute</source>
-        <translation>1 分あたり約 %1 MB</translation>
-    </message>
-    <message>
-        <source>%1 s</source>
-        <translation>%1 秒</translation>
-    </message>
-</context>
-<context>
     <name>Zelkor::Gallery::SignalLog</name>
     <message>
         <source>Signals</source>
@@ -1744,124 +1439,22 @@ Default: %3</source>
     </message>
 </context>
 <context>
-    <name>Zelkor::Gallery::SourcePanel</name>
+    <name>Zelkor::Gallery::StartPage</name>
     <message>
-        <source>%1 (not connected)</source>
-        <translation>%1 (未接続)</translation>
+        <source>Widgets for screen recorders</source>
+        <translation>画面レコーダー用ウィジェット</translation>
     </message>
     <message>
-        <source>%1 frames per second</source>
-        <translation>%1 フレーム/秒</translation>
+        <source>The recorder is an application made of these widgets: a live picture, its sound level, panels, settings and a trimmer.</source>
+        <translation>レコーダーはこれらのウィジェットで作られたアプリケーションです。ライブ映像、音量レベル、パネル、設定、トリミングを備えています。</translation>
     </message>
     <message>
-        <source>Device</source>
-        <translation>デバイス</translation>
+        <source>Open the recorder</source>
+        <translation>レコーダーを開く</translation>
     </message>
     <message>
-        <source>Mode</source>
-        <translation>モード</translation>
-    </message>
-    <message>
-        <source>Frame rate</source>
-        <translation>フレームレート</translation>
-    </message>
-</context>
-<context>
-    <name>Zelkor::Gallery::ToolStrip</name>
-    <message>
-        <source>Pointer</source>
-        <translation>ポインター</translation>
-    </message>
-    <message>
-        <source>Pen</source>
-        <translation>ペン</translation>
-    </message>
-    <message>
-        <source>Marker</source>
-        <translation>マーカー</translation>
-    </message>
-    <message>
-        <source>Line</source>
-        <translation>直線</translation>
-    </message>
-    <message>
-        <source>Arrow</source>
-        <translation>矢印</translation>
-    </message>
-    <message>
-        <source>Rectangle</source>
-        <translation>長方形</translation>
-    </message>
-    <message>
-        <source>Ellipse</source>
-        <translation>楕円</translation>
-    </message>
-    <message>
-        <source>Text</source>
-        <translation>テキスト</translation>
-    </message>
-    <message>
-        <source>Numbered step</source>
-        <translation>番号付きステップ</translation>
-    </message>
-    <message>
-        <source>Spotlight</source>
-        <translation>スポットライト</translation>
-    </message>
-    <message>
-        <source>Blur</source>
-        <translation>ぼかし</translation>
-    </message>
-    <message>
-        <source>Magnifier</source>
-        <translation>拡大鏡</translation>
-    </message>
-    <message>
-        <source>Eraser</source>
-        <translation>消しゴム</translation>
-    </message>
-</context>
-<context>
-    <name>Zelkor::Gallery::TrimPage</name>
-    <message>
-        <source>Result: %1</source>
-        <translation>結果: %1</translation>
-    </message>
-    <message>
-        <source>Trim a recording</source>
-        <translation>録画のトリミング</translation>
-    </message>
-    <message>
-        <source>Drag the brackets or type the times. A cut begins where the position is and ends where it is the next time. Everything can be undone; Escape takes back a drag.</source>
-        <translation>かっこをドラッグするか、時刻を入力してください。カットは現在位置で始まり、次に押した位置で終わります。すべて元に戻せます。Esc キーでドラッグを取り消します。</translation>
-    </message>
-    <message>
-        <source>Position</source>
-        <translation>位置</translation>
-    </message>
-    <message>
-        <source>Start</source>
-        <translation>開始</translation>
-    </message>
-    <message>
-        <source>End</source>
-        <translation>終了</translation>
-    </message>
-    <message>
-        <source>Cut to here</source>
-        <translation>ここまでカット</translation>
-    </message>
-    <message>
-        <source>Cut from here</source>
-        <translation>ここからカット</translation>
-    </message>
-    <message>
-        <source>Undo</source>
-        <translation>元に戻す</translation>
-    </message>
-    <message>
-        <source>Redo</source>
-        <translation>やり直す</translation>
+        <source>The list at the side has a page for each widget, with all of its states and an inspector.</source>
+        <translation>横のリストには各ウィジェットのページがあり、すべての状態とインスペクターを表示します。</translation>
     </message>
 </context>
 </TS>

@@ -11,4 +11,5 @@ update() {
     "$lupdate" -silent -no-obsolete -locations none "$@" -ts "$folder/$name"_*.ts
 }
 update VxUiWidgets -I Lib Lib
-update VxGallery Gallery Host
+update VxGallery Gallery Catalogue Examples/Support Host
+update VxRecorder Examples Host

@@ -53,6 +53,8 @@ install(
   EXPORT VxUiWidgetsKitTargets
   ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT development
   INCLUDES DESTINATION ${header_folder})
+install(TARGETS VxStyles EXPORT VxUiWidgetsStylesTargets ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR}
+                                                                             COMPONENT development)
 
 # CMake strips everything but static libraries, where it must be less.
 install(CODE "set(kit \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/${CMAKE_INSTALL_LIBDIR}/$<TARGET_FILE_NAME:VxUiKit>\")
@@ -71,7 +73,7 @@ configure_package_config_file(cmake/VxUiWidgetsConfig.cmake.in ${generated}/VxUi
 write_basic_package_version_file(${generated}/VxUiWidgetsConfigVersion.cmake COMPATIBILITY SameMajorVersion)
 install(FILES ${generated}/VxUiWidgetsConfig.cmake ${generated}/VxUiWidgetsConfigVersion.cmake
         DESTINATION ${package_folder} COMPONENT development)
-foreach(export VxUiWidgetsTargets VxUiWidgetsKitTargets)
+foreach(export VxUiWidgetsTargets VxUiWidgetsKitTargets VxUiWidgetsStylesTargets)
   install(EXPORT ${export} NAMESPACE VxUiWidgets:: DESTINATION ${package_folder} COMPONENT development)
 endforeach()
 
@@ -86,18 +88,18 @@ endforeach()
 set(translations ${PROJECT_BINARY_DIR}/Translations/)
 install(DIRECTORY ${translations} DESTINATION ${data_folder}/Translations COMPONENT runtime
         FILES_MATCHING PATTERN "VxUiWidgets_*.qm" PATTERN CMakeFiles EXCLUDE)
-if(TARGET VxStyles)
-  # Programs ship a sheet of their own, which may begin as one of these.
-  install(DIRECTORY ${PROJECT_BINARY_DIR}/Styles/ DESTINATION ${data_folder}/Styles COMPONENT development
-          FILES_MATCHING PATTERN "*.qss" PATTERN "*.svg" PATTERN CMakeFiles EXCLUDE)
-endif()
+# Applications may start their own sheet from one of these.
+install(DIRECTORY ${PROJECT_BINARY_DIR}/Styles/ DESTINATION ${data_folder}/Styles COMPONENT development
+        FILES_MATCHING PATTERN "*.qss" PATTERN "*.svg" PATTERN CMakeFiles EXCLUDE)
 
-if(TARGET VxGallery)
-  vx_find_libraries_from(VxGallery ${CMAKE_INSTALL_BINDIR})
-  install(TARGETS VxGallery RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT tools)
-  install(DIRECTORY ${translations} DESTINATION ${data_folder}/Translations COMPONENT tools
-          FILES_MATCHING PATTERN "VxGallery_*.qm" PATTERN CMakeFiles EXCLUDE)
-endif()
+foreach(program VxGallery VxRecorder)
+  if(TARGET ${program})
+    vx_find_libraries_from(${program} ${CMAKE_INSTALL_BINDIR})
+    install(TARGETS ${program} RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT tools)
+    install(DIRECTORY ${translations} DESTINATION ${data_folder}/Translations COMPONENT tools
+            FILES_MATCHING PATTERN "${program}_*.qm" PATTERN CMakeFiles EXCLUDE)
+  endif()
+endforeach()
 if(TARGET VxUiWidgetsDesigner)
   vx_find_libraries_from(VxUiWidgetsDesigner ${VX_INSTALL_QTPLUGINDIR}/designer)
   install(TARGETS VxUiWidgetsDesigner LIBRARY DESTINATION ${VX_INSTALL_QTPLUGINDIR}/designer COMPONENT tools)

@@ -1,7 +1,8 @@
 # Options of the build, and the compiler settings that every target of this tree shares.
 
-option(VX_BUILD_GALLERY "Build the showcase application" ON)
-option(VX_BUILD_DESIGNER "Build the Qt Designer plugin; it needs the gallery's catalogue" ON)
+option(VX_BUILD_GALLERY "Build the gallery of all widgets" ON)
+option(VX_BUILD_EXAMPLES "Build the recorder, an example application" ON)
+option(VX_BUILD_DESIGNER "Build the Qt Designer plugin" ON)
 option(VX_BUILD_TESTS "Build the tests" ON)
 option(VX_BUILD_BENCHMARKS "Build the speed table" ON)
 option(VX_WITH_GSTREAMER "Cameras and the screen through GStreamer; the test picture is there without it" ON)

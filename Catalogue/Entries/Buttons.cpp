@@ -1,7 +1,6 @@
-#include "Catalogue.h"
-#include "StyleSheet.h"
-#include "Texts.h"
-
+#include <Catalogue/Catalogue.h>
+#include <Examples/Support/WidgetTexts.h>
+#include <UI/Kit/ZStyleSheet.h>
 #include <UI/Widgets/ButtonWithPopUpContainer.h>
 
 #include <QCheckBox>
@@ -10,25 +9,27 @@
 
 using Zelkor::Vx::UI::ButtonWithPopUpContainer;
 
-namespace Zelkor::Gallery {
+namespace Zelkor::Catalogue {
+
+using namespace Examples;
 
 namespace {
 
 void FillPanel(ButtonWithPopUpContainer& button)
 {
     auto* quality = new QComboBox;
-    quality->addItems({Catalogue::tr("High quality"), Catalogue::tr("Balanced"), Catalogue::tr("Small file")});
-    quality->setAccessibleName(Catalogue::tr("Quality"));
-    button.AppendWidget(new QLabel(Catalogue::tr("Quality")));
+    quality->addItems({EntryText::tr("High quality"), EntryText::tr("Balanced"), EntryText::tr("Small file")});
+    quality->setAccessibleName(EntryText::tr("Quality"));
+    button.AppendWidget(new QLabel(EntryText::tr("Quality")));
     button.AppendWidget(quality);
-    button.AppendWidget(new QCheckBox(Catalogue::tr("Record the pointer")));
-    button.AppendWidget(new QCheckBox(Catalogue::tr("Record clicks")));
+    button.AppendWidget(new QCheckBox(EntryText::tr("Record the pointer")));
+    button.AppendWidget(new QCheckBox(EntryText::tr("Record clicks")));
 }
 
 void ShowIconAndText(ButtonWithPopUpContainer& button, const QString& text)
 {
     button.setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    button.setIcon(StyleIcon("panel"));
+    button.setIcon(ZStyleSheet::icon("panel"));
     SetTextBesideIcon(&button, text);
     FillPanel(button);
 }
@@ -36,7 +37,7 @@ void ShowIconAndText(ButtonWithPopUpContainer& button, const QString& text)
 QWidget* CreateButton(QWidget* parent)
 {
     auto* button = new ButtonWithPopUpContainer(parent);
-    button->setText(Catalogue::tr("Quality"));
+    button->setText(EntryText::tr("Quality"));
     return button;
 }
 
@@ -45,38 +46,38 @@ Entry ButtonWithPopUpEntry()
     using Button = ButtonWithPopUpContainer;
     return {
         "ButtonWithPopUpContainer",
-        Catalogue::tr("Buttons"),
-        Catalogue::tr("Opens a floating panel of the application's widgets beside itself."),
+        EntryText::tr("Buttons"),
+        EntryText::tr("Opens a floating panel of the application's widgets beside itself."),
         "ButtonWithPopUpContainer",
         "panel",
         CreateButton,
         {
-            MakeState<Button>(Catalogue::tr("Typical"), FillPanel),
-            MakeState<Button>(Catalogue::tr("Icon and text"),
-                              [](Button& button) { ShowIconAndText(button, Catalogue::tr("Quality")); }),
-            MakeState<Button>(Catalogue::tr("Icon only"),
+            MakeState<Button>(EntryText::tr("Typical"), FillPanel),
+            MakeState<Button>(EntryText::tr("Icon and text"),
+                              [](Button& button) { ShowIconAndText(button, EntryText::tr("Quality")); }),
+            MakeState<Button>(EntryText::tr("Icon only"),
                               [](Button& button) {
-                                  ShowIconAndText(button, Catalogue::tr("Quality"));
+                                  ShowIconAndText(button, EntryText::tr("Quality"));
                                   button.setToolButtonStyle(Qt::ToolButtonIconOnly);
                               }),
-            MakeState<Button>(Catalogue::tr("Long text"),
+            MakeState<Button>(EntryText::tr("Long text"),
                               [](Button& button) {
                                   ShowIconAndText(button,
-                                                  Catalogue::tr("Quality, pointer and clicks of this recording"));
+                                                  EntryText::tr("Quality, pointer and clicks of this recording"));
                               }),
-            MakeState<Button>(Catalogue::tr("Checked"),
+            MakeState<Button>(EntryText::tr("Checked"),
                               [](Button& button) {
-                                  ShowIconAndText(button, Catalogue::tr("Quality"));
+                                  ShowIconAndText(button, EntryText::tr("Quality"));
                                   button.setChecked(true);
                               }),
-            MakeState<Button>(Catalogue::tr("Opens upwards"),
+            MakeState<Button>(EntryText::tr("Opens upwards"),
                               [](Button& button) {
-                                  ShowIconAndText(button, Catalogue::tr("Quality"));
+                                  ShowIconAndText(button, EntryText::tr("Quality"));
                                   button.SetPreferredPopupAnchor(Button::ANCHOR_TOP_CENTER);
                                   button.SetPreferredPopupDirection(Button::DIRECTION_UP_CENTER);
                               }),
-            MakeState<Button>(Catalogue::tr("Empty panel"),
-                              [](Button& button) { button.setText(Catalogue::tr("Nothing")); }),
+            MakeState<Button>(EntryText::tr("Empty panel"),
+                              [](Button& button) { button.setText(EntryText::tr("Nothing")); }),
             DisabledState(),
         },
         nullptr,
@@ -91,4 +92,4 @@ QVector<Entry> ButtonEntries()
     return {InForms<ButtonWithPopUpContainer>(ButtonWithPopUpEntry(), {{"text", "ButtonWithPopUpContainer"}})};
 }
 
-} // namespace Zelkor::Gallery
+} // namespace Zelkor::Catalogue

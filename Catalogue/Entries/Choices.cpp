@@ -1,7 +1,6 @@
-#include "Catalogue.h"
-#include "StyleSheet.h"
-#include "Texts.h"
-
+#include <Catalogue/Catalogue.h>
+#include <Examples/Support/WidgetTexts.h>
+#include <UI/Kit/ZStyleSheet.h>
 #include <UI/Widgets/ButtonWithPopUpList.h>
 #include <UI/Widgets/ClickSoundComboBox.h>
 #include <UI/Widgets/ColorButton.h>
@@ -10,7 +9,9 @@ using Zelkor::Vx::ButtonWithPopUpList;
 using Zelkor::Vx::ColorButton;
 using Zelkor::Vx::UI::ClickSoundComboBox;
 
-namespace Zelkor::Gallery {
+namespace Zelkor::Catalogue {
+
+using namespace Examples;
 
 namespace {
 
@@ -32,7 +33,7 @@ QStringList ManyTexts()
 {
     QStringList texts;
     for (int i = 1; i <= MANY; ++i)
-        texts.append(Catalogue::tr("Take %1").arg(i));
+        texts.append(EntryText::tr("Take %1").arg(i));
     return texts;
 }
 
@@ -41,19 +42,19 @@ QWidget* CreateList(QWidget* parent)
 {
     auto* button = new ButtonWithPopUpList(parent);
     button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    button->setIcon(StyleIcon("list"));
+    button->setIcon(ZStyleSheet::icon("list"));
     QObject::connect(button, &ButtonWithPopUpList::CurrentIndexChanged, button, [button] {
         const QString text = button->CurrentData().toString();
-        SetTextBesideIcon(button, text.isEmpty() ? Catalogue::tr("Format") : text);
+        SetTextBesideIcon(button, text.isEmpty() ? EntryText::tr("Format") : text);
     });
-    Fill(*button, {Catalogue::tr("Video"), Catalogue::tr("Animated picture"), Catalogue::tr("Sound only")});
+    Fill(*button, {EntryText::tr("Video"), EntryText::tr("Animated picture"), EntryText::tr("Sound only")});
     return button;
 }
 
 QWidget* CreateColorButton(QWidget* parent)
 {
     auto* button = new ColorButton(parent);
-    button->setText(Catalogue::tr("Drawing colour"));
+    button->setText(EntryText::tr("Drawing colour"));
     button->SetColor(QColor(0x2f, 0x9e, 0x6b));
     return button;
 }
@@ -68,7 +69,7 @@ void MakeTranslucent(ColorButton& button)
 void PlaceSquareElsewhere(ColorButton& button)
 {
     button.setText(QString());
-    button.setAccessibleName(Catalogue::tr("Drawing colour"));
+    button.setAccessibleName(EntryText::tr("Drawing colour"));
     button.setFixedWidth(BAR_BUTTON_WIDTH);
     button.SetColorRect(BAR);
 }
@@ -77,9 +78,9 @@ QWidget* CreateSoundBox(QWidget* parent)
 {
     auto* combo = new ClickSoundComboBox(parent);
     StyleItems(combo);
-    combo->setAccessibleName(Catalogue::tr("Click sound"));
-    combo->addItems({Catalogue::tr("No sound"), Catalogue::tr("Soft click"), Catalogue::tr("Mechanical keyboard"),
-                     Catalogue::tr("Typewriter")});
+    combo->setAccessibleName(EntryText::tr("Click sound"));
+    combo->addItems({EntryText::tr("No sound"), EntryText::tr("Soft click"), EntryText::tr("Mechanical keyboard"),
+                     EntryText::tr("Typewriter")});
     combo->setCurrentIndex(1);
     combo->setFixedWidth(COMBO_WIDTH);
     return combo;
@@ -87,7 +88,7 @@ QWidget* CreateSoundBox(QWidget* parent)
 
 void AddLongText(ClickSoundComboBox& combo)
 {
-    combo.addItem(Catalogue::tr("Mechanical keyboard of the office next door, recorded twice"));
+    combo.addItem(EntryText::tr("Mechanical keyboard of the office next door, recorded twice"));
     combo.setCurrentIndex(combo.count() - 1);
 }
 
@@ -103,25 +104,25 @@ Entry ButtonWithPopUpListEntry()
     using Button = ButtonWithPopUpList;
     return {
         "ButtonWithPopUpList",
-        Catalogue::tr("Buttons"),
-        Catalogue::tr("A tool button with a menu of choices, of which one is current."),
+        EntryText::tr("Buttons"),
+        EntryText::tr("A tool button with a menu of choices, of which one is current."),
         "ButtonWithPopUpList",
         "list",
         CreateList,
         {
-            MakeState<Button>(Catalogue::tr("Typical"), [](Button&) {}),
-            MakeState<Button>(Catalogue::tr("Empty"),
+            MakeState<Button>(EntryText::tr("Typical"), [](Button&) {}),
+            MakeState<Button>(EntryText::tr("Empty"),
                               [](Button& button) {
                                   button.Clear();
-                                  SetTextBesideIcon(&button, Catalogue::tr("Nothing to choose"));
+                                  SetTextBesideIcon(&button, EntryText::tr("Nothing to choose"));
                               }),
-            MakeState<Button>(Catalogue::tr("Many items"), [](Button& button) { Fill(button, ManyTexts()); }),
-            MakeState<Button>(Catalogue::tr("Long texts"),
+            MakeState<Button>(EntryText::tr("Many items"), [](Button& button) { Fill(button, ManyTexts()); }),
+            MakeState<Button>(EntryText::tr("Long texts"),
                               [](Button& button) {
-                                  Fill(button, {Catalogue::tr("Video for people who see it on a telephone"),
-                                                Catalogue::tr("Video for a lecture hall with a large screen")});
+                                  Fill(button, {EntryText::tr("Video for people who see it on a telephone"),
+                                                EntryText::tr("Video for a lecture hall with a large screen")});
                               }),
-            MakeState<Button>(Catalogue::tr("Nothing checked"),
+            MakeState<Button>(EntryText::tr("Nothing checked"),
                               [](Button& button) { button.SetCurrentIndex(button.Count()); }),
             DisabledState(),
         },
@@ -132,15 +133,15 @@ Entry ColorButtonEntry()
 {
     return {
         "ColorButton",
-        Catalogue::tr("Buttons"),
-        Catalogue::tr("Shows a colour, and opens a dialog that chooses another one."),
+        EntryText::tr("Buttons"),
+        EntryText::tr("Shows a colour, and opens a dialog that chooses another one."),
         "ColorButton",
         "palette",
         CreateColorButton,
         {
-            MakeState<ColorButton>(Catalogue::tr("Opaque"), [](ColorButton&) {}),
-            MakeState<ColorButton>(Catalogue::tr("Translucent, up to 60 %"), MakeTranslucent),
-            MakeState<ColorButton>(Catalogue::tr("Square placed elsewhere"), PlaceSquareElsewhere),
+            MakeState<ColorButton>(EntryText::tr("Opaque"), [](ColorButton&) {}),
+            MakeState<ColorButton>(EntryText::tr("Translucent, up to 60 %"), MakeTranslucent),
+            MakeState<ColorButton>(EntryText::tr("Square placed elsewhere"), PlaceSquareElsewhere),
             DisabledState(),
         },
     };
@@ -151,22 +152,22 @@ Entry ClickSoundEntry()
     using Combo = ClickSoundComboBox;
     return {
         "ClickSoundComboBox",
-        Catalogue::tr("Choices"),
-        Catalogue::tr("A combo box that elides texts too long for it instead of growing with them."),
+        EntryText::tr("Choices"),
+        EntryText::tr("A combo box that elides texts too long for it instead of growing with them."),
         "ClickSoundComboBox",
         "sound",
         CreateSoundBox,
         {
-            MakeState<Combo>(Catalogue::tr("Typical"), [](Combo&) {}),
-            MakeState<Combo>(Catalogue::tr("Long text"), AddLongText),
-            MakeState<Combo>(Catalogue::tr("With icons"),
+            MakeState<Combo>(EntryText::tr("Typical"), [](Combo&) {}),
+            MakeState<Combo>(EntryText::tr("Long text"), AddLongText),
+            MakeState<Combo>(EntryText::tr("With icons"),
                              [](Combo& combo) {
                                  for (int i = 0; i < combo.count(); ++i)
-                                     combo.setItemIcon(i, StyleIcon("sound"));
+                                     combo.setItemIcon(i, ZStyleSheet::icon("sound"));
                              }),
-            MakeState<Combo>(Catalogue::tr("Editable"), [](Combo& combo) { combo.setEditable(true); }),
-            MakeState<Combo>(Catalogue::tr("Narrow"), [](Combo& combo) { combo.setFixedWidth(NARROW_COMBO_WIDTH); }),
-            MakeState<Combo>(Catalogue::tr("Right-to-left"), ShowRightToLeft),
+            MakeState<Combo>(EntryText::tr("Editable"), [](Combo& combo) { combo.setEditable(true); }),
+            MakeState<Combo>(EntryText::tr("Narrow"), [](Combo& combo) { combo.setFixedWidth(NARROW_COMBO_WIDTH); }),
+            MakeState<Combo>(EntryText::tr("Right-to-left"), ShowRightToLeft),
             DisabledState(),
         },
     };
@@ -181,4 +182,4 @@ QVector<Entry> ChoiceEntries()
             InForms<ClickSoundComboBox>(ClickSoundEntry())};
 }
 
-} // namespace Zelkor::Gallery
+} // namespace Zelkor::Catalogue

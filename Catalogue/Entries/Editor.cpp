@@ -1,12 +1,11 @@
-#include "Catalogue.h"
-
+#include <Catalogue/Catalogue.h>
 #include <UI/Kit/ZRuntimeStylesheetEditor.h>
 
 #include <QCheckBox>
 #include <QHBoxLayout>
 #include <QPushButton>
 
-namespace Zelkor::Gallery {
+namespace Zelkor::Catalogue {
 
 namespace {
 
@@ -44,11 +43,11 @@ public:
         sample->setObjectName(QStringLiteral("sample"));
         auto* row = new QHBoxLayout(sample);
         row->setContentsMargins(0, 0, 0, 0);
-        row->addWidget(new QPushButton(Catalogue::tr("Start")));
-        auto* stop = new QPushButton(Catalogue::tr("Stop"));
+        row->addWidget(new QPushButton(EntryText::tr("Start")));
+        auto* stop = new QPushButton(EntryText::tr("Stop"));
         stop->setObjectName(QStringLiteral("stop"));
         row->addWidget(stop);
-        row->addWidget(new QCheckBox(Catalogue::tr("Microphone")));
+        row->addWidget(new QCheckBox(EntryText::tr("Microphone")));
         row->addStretch();
         auto* layout = new QVBoxLayout(this);
         layout->setContentsMargins(0, 0, 0, 0);
@@ -85,21 +84,21 @@ Entry RuntimeStylesheetEditorEntry()
 {
     return {
         "ZRuntimeStylesheetEditor",
-        Catalogue::tr("Kit"),
-        Catalogue::tr(
+        EntryText::tr("Kit"),
+        EntryText::tr(
             "An editor for the style sheet of the running application; here it works on the sample above it."),
         "ZRuntimeStylesheetEditor",
         "palette",
         [](QWidget* parent) -> QWidget* { return new EditorBench(parent); },
         {
-            EditorState(Catalogue::tr("With a sheet"), WearSheet),
-            EditorState(Catalogue::tr("With mistakes"),
+            EditorState(EntryText::tr("With a sheet"), WearSheet),
+            EditorState(EntryText::tr("With mistakes"),
                         [](EditorBench& bench) {
                             bench.editor->setText(QString::fromLatin1(SHEET_WITH_MISTAKES));
                             bench.editor->apply();
                         }),
-            EditorState(Catalogue::tr("Find and replace"), Search),
-            EditorState(Catalogue::tr("Empty"), [](EditorBench&) {}),
+            EditorState(EntryText::tr("Find and replace"), Search),
+            EditorState(EntryText::tr("Empty"), [](EditorBench&) {}),
             DisabledState(),
         },
         MakeBare<ZRuntimeStylesheetEditor>,
@@ -113,4 +112,4 @@ QVector<Entry> EditorEntries()
     return {RuntimeStylesheetEditorEntry()};
 }
 
-} // namespace Zelkor::Gallery
+} // namespace Zelkor::Catalogue

@@ -1,13 +1,12 @@
-#include "Artwork.h"
-#include "Catalogue.h"
-
+#include <Catalogue/Catalogue.h>
+#include <Catalogue/SamplePictures.h>
 #include <UI/Widgets/PixmapWidget.h>
 #include <UI/Widgets/ZGraphicsShadowEffect.h>
 
 using Zelkor::ZGraphicsShadowEffect;
 using Zelkor::Vx::PixmapWidget;
 
-namespace Zelkor::Gallery {
+namespace Zelkor::Catalogue {
 
 namespace {
 
@@ -19,7 +18,7 @@ QWidget* CreateShaded(QWidget* parent)
     auto* card = new PixmapWidget(parent, Qt::WindowFlags());
     card->setFixedSize(SHADED_SIZE);
     card->SetPixmap(QPixmap::fromImage(PortraitImage(PICTURE_SIZE)));
-    card->setAccessibleName(Catalogue::tr("A drawn portrait"));
+    card->setAccessibleName(EntryText::tr("A drawn portrait"));
     card->setGraphicsEffect(new ZGraphicsShadowEffect(card));
     return card;
 }
@@ -38,17 +37,17 @@ Entry ShadowEffectEntry()
 {
     return {
         "ZGraphicsShadowEffect",
-        Catalogue::tr("Effects"),
-        Catalogue::tr("Draws a soft rim inside the edges of a widget; here, of a picture."),
+        EntryText::tr("Effects"),
+        EntryText::tr("Draws a soft rim inside the edges of a widget; here, of a picture."),
         "ZGraphicsShadowEffect",
         "shadow",
         CreateShaded,
         {
-            ShadowState(Catalogue::tr("Off"), 0, 0),
-            ShadowState(Catalogue::tr("Typical"), 12, 0.6),
-            ShadowState(Catalogue::tr("Wide"), 36, 1),
-            ShadowState(Catalogue::tr("Strong"), 12, 3),
-            ShadowState(Catalogue::tr("Coloured"), 24, 1.5, QColor(0x35, 0x67, 0xe0)),
+            ShadowState(EntryText::tr("Off"), 0, 0),
+            ShadowState(EntryText::tr("Typical"), 12, 0.6),
+            ShadowState(EntryText::tr("Wide"), 36, 1),
+            ShadowState(EntryText::tr("Strong"), 12, 3),
+            ShadowState(EntryText::tr("Coloured"), 24, 1.5, QColor(0x35, 0x67, 0xe0)),
         },
         MakeBare<ZGraphicsShadowEffect>,
         1,
@@ -62,4 +61,4 @@ QVector<Entry> EffectEntries()
     return {NotInForms(ShadowEffectEntry(), "it is not a widget")};
 }
 
-} // namespace Zelkor::Gallery
+} // namespace Zelkor::Catalogue

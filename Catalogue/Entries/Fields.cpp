@@ -1,19 +1,18 @@
-#include "Catalogue.h"
-#include "StyleSheet.h"
-
+#include <Catalogue/Catalogue.h>
 #include <UI/Kit/ZComboBox.h>
 #include <UI/Kit/ZDoubleSlider.h>
 #include <UI/Kit/ZDoubleSpinBox.h>
 #include <UI/Kit/ZFrame.h>
 #include <UI/Kit/ZLineEdit.h>
 #include <UI/Kit/ZSpinBox.h>
+#include <UI/Kit/ZStyleSheet.h>
 
 #include <QCheckBox>
 #include <QRegularExpressionValidator>
 #include <QVBoxLayout>
 #include <QVariant>
 
-namespace Zelkor::Gallery {
+namespace Zelkor::Catalogue {
 
 namespace {
 
@@ -24,14 +23,14 @@ constexpr int TALL = 140;
 
 QString LongName()
 {
-    return Catalogue::tr("Built-in camera of the laptop in the lecture hall");
+    return EntryText::tr("Built-in camera of the laptop in the lecture hall");
 }
 
 QWidget* CreateCombo(QWidget* parent)
 {
     auto* combo = new ZComboBox(parent);
-    combo->setAccessibleName(Catalogue::tr("Camera"));
-    combo->addItems({Catalogue::tr("No camera"), LongName(), Catalogue::tr("Document camera")});
+    combo->setAccessibleName(EntryText::tr("Camera"));
+    combo->addItems({EntryText::tr("No camera"), LongName(), EntryText::tr("Document camera")});
     combo->setCurrentIndex(2);
     combo->setFixedWidth(FIELD_WIDTH);
     return combo;
@@ -45,15 +44,15 @@ void OpenCheckBoxes(ZComboBox& combo)
     QObject::connect(&combo, &QObject::destroyed, window, [window] { delete window; });
     auto* layout = new QVBoxLayout(window);
     window->setProperty("role", QStringLiteral("card"));
-    combo.setAccessibleName(Catalogue::tr("Sound sources"));
+    combo.setAccessibleName(EntryText::tr("Sound sources"));
     const auto tell = [&combo, window] {
         int count = 0;
         for (const auto* box : window->findChildren<QCheckBox*>())
             count += box->isChecked();
-        combo.setDisplayText(Catalogue::tr("Sources: %1").arg(count));
+        combo.setDisplayText(EntryText::tr("Sources: %1").arg(count));
     };
     for (const QString& text :
-         {Catalogue::tr("Microphone"), Catalogue::tr("System sound"), Catalogue::tr("Click sounds")}) {
+         {EntryText::tr("Microphone"), EntryText::tr("System sound"), EntryText::tr("Click sounds")}) {
         auto* box = new QCheckBox(text);
         layout->addWidget(box);
         box->setChecked(layout->count() < 3);
@@ -68,8 +67,8 @@ Entry ComboEntry()
     using Combo = ZComboBox;
     return {
         "ZComboBox",
-        Catalogue::tr("Kit"),
-        Catalogue::tr(
+        EntryText::tr("Kit"),
+        EntryText::tr(
             "A combo box that elides its text, opens a list as wide as its items or a widget of yours, and can leave "
             "the "
             "wheel to its panel."),
@@ -77,30 +76,30 @@ Entry ComboEntry()
         "combo",
         CreateCombo,
         {
-            MakeState<Combo>(Catalogue::tr("Typical"), [](Combo&) {}),
-            MakeState<Combo>(Catalogue::tr("Elided, wide list"), [](Combo& combo) { combo.setCurrentIndex(1); }),
-            MakeState<Combo>(Catalogue::tr("Narrow list"),
+            MakeState<Combo>(EntryText::tr("Typical"), [](Combo&) {}),
+            MakeState<Combo>(EntryText::tr("Elided, wide list"), [](Combo& combo) { combo.setCurrentIndex(1); }),
+            MakeState<Combo>(EntryText::tr("Narrow list"),
                              [](Combo& combo) {
                                  combo.setCurrentIndex(1);
                                  combo.setWidePopupEnabled(false);
                              }),
-            MakeState<Combo>(Catalogue::tr("Cut, not elided"),
+            MakeState<Combo>(EntryText::tr("Cut, not elided"),
                              [](Combo& combo) {
                                  combo.setCurrentIndex(1);
                                  combo.setEliding(false);
                              }),
-            MakeState<Combo>(Catalogue::tr("Display text"),
-                             [](Combo& combo) { combo.setDisplayText(Catalogue::tr("Choose a camera…")); }),
-            MakeState<Combo>(Catalogue::tr("Opens a widget"), OpenCheckBoxes),
-            MakeState<Combo>(Catalogue::tr("With icons, elided"),
+            MakeState<Combo>(EntryText::tr("Display text"),
+                             [](Combo& combo) { combo.setDisplayText(EntryText::tr("Choose a camera…")); }),
+            MakeState<Combo>(EntryText::tr("Opens a widget"), OpenCheckBoxes),
+            MakeState<Combo>(EntryText::tr("With icons, elided"),
                              [](Combo& combo) {
                                  for (int i = 0; i < combo.count(); ++i)
-                                     combo.setItemIcon(i, StyleIcon("camera"));
+                                     combo.setItemIcon(i, ZStyleSheet::icon("camera"));
                                  combo.setCurrentIndex(1);
                              }),
-            MakeState<Combo>(Catalogue::tr("Narrow"), [](Combo& combo) { combo.setFixedWidth(NARROW_WIDTH); }),
-            MakeState<Combo>(Catalogue::tr("Editable"), [](Combo& combo) { combo.setEditable(true); }),
-            MakeState<Combo>(Catalogue::tr("Wheel left to the panel"),
+            MakeState<Combo>(EntryText::tr("Narrow"), [](Combo& combo) { combo.setFixedWidth(NARROW_WIDTH); }),
+            MakeState<Combo>(EntryText::tr("Editable"), [](Combo& combo) { combo.setEditable(true); }),
+            MakeState<Combo>(EntryText::tr("Wheel left to the panel"),
                              [](Combo& combo) { combo.setMouseWheelEnabled(false); }),
             DisabledState(),
         },
@@ -110,9 +109,9 @@ Entry ComboEntry()
 QWidget* CreateLineEdit(QWidget* parent)
 {
     auto* edit = new ZLineEdit(parent);
-    edit->setAccessibleName(Catalogue::tr("Name"));
-    edit->setOriginalText(Catalogue::tr("Document camera"));
-    edit->setPlaceholderText(Catalogue::tr("Name of the camera"));
+    edit->setAccessibleName(EntryText::tr("Name"));
+    edit->setOriginalText(EntryText::tr("Document camera"));
+    edit->setPlaceholderText(EntryText::tr("Name of the camera"));
     edit->setFixedWidth(FIELD_WIDTH);
     return edit;
 }
@@ -137,25 +136,25 @@ Entry LineEditEntry()
     using Edit = ZLineEdit;
     return {
         "ZLineEdit",
-        Catalogue::tr("Kit"),
-        Catalogue::tr(
+        EntryText::tr("Kit"),
+        EntryText::tr(
             "A line edit that elides its text until it gets the focus, and reports an edit when the focus leaves."),
         "ZLineEdit",
         "field",
         CreateLineEdit,
         {
-            MakeState<Edit>(Catalogue::tr("Fits"), [](Edit&) {}),
-            EditState(Catalogue::tr("Elided"), LongName()),
-            EditState(Catalogue::tr("Right-to-left text"),
+            MakeState<Edit>(EntryText::tr("Fits"), [](Edit&) {}),
+            EditState(EntryText::tr("Elided"), LongName()),
+            EditState(EntryText::tr("Right-to-left text"),
                       QString::fromUtf8("המצלמה המובנית של המחשב הנייד באולם ההרצאות")),
-            EditState(Catalogue::tr("Cut, not elided"), LongName(), [](Edit& edit) { edit.setEliding(false); }),
-            EditState(Catalogue::tr("Read-only"), LongName(), [](Edit& edit) { edit.setReadOnly(true); }),
-            EditState(Catalogue::tr("Clear button"), LongName(), [](Edit& edit) { edit.setClearButtonEnabled(true); }),
-            EditState(Catalogue::tr("Validated"), LongName(), AcceptLettersOnly),
-            EditState(Catalogue::tr("Password"), Catalogue::tr("Secret"),
+            EditState(EntryText::tr("Cut, not elided"), LongName(), [](Edit& edit) { edit.setEliding(false); }),
+            EditState(EntryText::tr("Read-only"), LongName(), [](Edit& edit) { edit.setReadOnly(true); }),
+            EditState(EntryText::tr("Clear button"), LongName(), [](Edit& edit) { edit.setClearButtonEnabled(true); }),
+            EditState(EntryText::tr("Validated"), LongName(), AcceptLettersOnly),
+            EditState(EntryText::tr("Password"), EntryText::tr("Secret"),
                       [](Edit& edit) { edit.setEchoMode(QLineEdit::Password); }),
-            EditState(Catalogue::tr("Empty"), QString()),
-            EditState(Catalogue::tr("Narrow"), LongName(), [](Edit& edit) { edit.setFixedWidth(NARROW_WIDTH); }),
+            EditState(EntryText::tr("Empty"), QString()),
+            EditState(EntryText::tr("Narrow"), LongName(), [](Edit& edit) { edit.setFixedWidth(NARROW_WIDTH); }),
             DisabledState(),
         },
         MakeBare<ZLineEdit>,
@@ -167,7 +166,7 @@ QWidget* CreateSlider(QWidget* parent)
 {
     auto* slider = new Slider(parent);
     slider->setOrientation(Qt::Horizontal);
-    slider->setAccessibleName(Catalogue::tr("Zoom"));
+    slider->setAccessibleName(EntryText::tr("Zoom"));
     slider->setValue(40);
     slider->setFixedWidth(FIELD_WIDTH);
     return slider;
@@ -176,7 +175,7 @@ QWidget* CreateSlider(QWidget* parent)
 template<class Field>
 State FocusedWheelState()
 {
-    return MakeState<Field>(Catalogue::tr("Wheel in focus only"), [](Field& field) { field.setEditableInFocus(true); });
+    return MakeState<Field>(EntryText::tr("Wheel in focus only"), [](Field& field) { field.setEditableInFocus(true); });
 }
 
 void MakeVertical(QSlider& slider)
@@ -191,16 +190,16 @@ Entry CustomSliderEntry()
 {
     return {
         "ZCustomSlider",
-        Catalogue::tr("Kit"),
-        Catalogue::tr("A slider that can leave the wheel to its panel until it has the focus."),
+        EntryText::tr("Kit"),
+        EntryText::tr("A slider that can leave the wheel to its panel until it has the focus."),
         "ZCustomSlider",
         "slide",
         CreateSlider<ZCustomSlider>,
         {
-            MakeState<ZCustomSlider>(Catalogue::tr("Typical"), [](ZCustomSlider&) {}),
+            MakeState<ZCustomSlider>(EntryText::tr("Typical"), [](ZCustomSlider&) {}),
             FocusedWheelState<ZCustomSlider>(),
-            MakeState<ZCustomSlider>(Catalogue::tr("At its end"), [](ZCustomSlider& slider) { slider.setValue(99); }),
-            MakeState<ZCustomSlider>(Catalogue::tr("Vertical"), [](ZCustomSlider& slider) { MakeVertical(slider); }),
+            MakeState<ZCustomSlider>(EntryText::tr("At its end"), [](ZCustomSlider& slider) { slider.setValue(99); }),
+            MakeState<ZCustomSlider>(EntryText::tr("Vertical"), [](ZCustomSlider& slider) { MakeVertical(slider); }),
             DisabledState(),
         },
     };
@@ -210,14 +209,14 @@ Entry DoubleSliderEntry()
 {
     return {
         "ZDoubleSlider",
-        Catalogue::tr("Kit"),
-        Catalogue::tr("A slider for a floating-point value: its position times a multiplier."),
+        EntryText::tr("Kit"),
+        EntryText::tr("A slider for a floating-point value: its position times a multiplier."),
         "ZDoubleSlider",
         "slide",
         CreateSlider<ZDoubleSlider>,
         {
-            MakeState<ZDoubleSlider>(Catalogue::tr("Tenths"), [](ZDoubleSlider& slider) { slider.setMultiplier(0.1); }),
-            MakeState<ZDoubleSlider>(Catalogue::tr("Around zero, in quarters"),
+            MakeState<ZDoubleSlider>(EntryText::tr("Tenths"), [](ZDoubleSlider& slider) { slider.setMultiplier(0.1); }),
+            MakeState<ZDoubleSlider>(EntryText::tr("Around zero, in quarters"),
                                      [](ZDoubleSlider& slider) {
                                          slider.setMultiplier(0.25);
                                          slider.setRange(-20, 20);
@@ -232,7 +231,7 @@ Entry DoubleSliderEntry()
 QWidget* CreateSpinBox(QWidget* parent)
 {
     auto* field = new ZSpinBox(parent);
-    field->setAccessibleName(Catalogue::tr("Frame rate"));
+    field->setAccessibleName(EntryText::tr("Frame rate"));
     field->setRange(1, 240);
     field->setValue(30);
     field->setFixedWidth(NUMBER_WIDTH);
@@ -243,18 +242,18 @@ Entry SpinBoxEntry()
 {
     return {
         "ZSpinBox",
-        Catalogue::tr("Kit"),
-        Catalogue::tr("A field for a whole number that can leave the wheel to its panel until it has the focus."),
+        EntryText::tr("Kit"),
+        EntryText::tr("A field for a whole number that can leave the wheel to its panel until it has the focus."),
         "ZSpinBox",
         "step",
         CreateSpinBox,
         {
-            MakeState<ZSpinBox>(Catalogue::tr("Typical"), [](ZSpinBox&) {}),
+            MakeState<ZSpinBox>(EntryText::tr("Typical"), [](ZSpinBox&) {}),
             FocusedWheelState<ZSpinBox>(),
-            MakeState<ZSpinBox>(Catalogue::tr("With a unit"),
-                                [](ZSpinBox& field) { field.setSuffix(Catalogue::tr(" fps")); }),
-            MakeState<ZSpinBox>(Catalogue::tr("At its end"), [](ZSpinBox& field) { field.setValue(field.maximum()); }),
-            MakeState<ZSpinBox>(Catalogue::tr("Read-only"), [](ZSpinBox& field) { field.setReadOnly(true); }),
+            MakeState<ZSpinBox>(EntryText::tr("With a unit"),
+                                [](ZSpinBox& field) { field.setSuffix(EntryText::tr(" fps")); }),
+            MakeState<ZSpinBox>(EntryText::tr("At its end"), [](ZSpinBox& field) { field.setValue(field.maximum()); }),
+            MakeState<ZSpinBox>(EntryText::tr("Read-only"), [](ZSpinBox& field) { field.setReadOnly(true); }),
             DisabledState(),
         },
     };
@@ -263,11 +262,11 @@ Entry SpinBoxEntry()
 QWidget* CreateDoubleSpinBox(QWidget* parent)
 {
     auto* field = new ZDoubleSpinBox(parent);
-    field->setAccessibleName(Catalogue::tr("Delay"));
+    field->setAccessibleName(EntryText::tr("Delay"));
     field->setRange(0.5, 60);
     field->setSingleStep(0.25);
     field->setValue(2.5);
-    field->setSuffix(Catalogue::tr(" s"));
+    field->setSuffix(EntryText::tr(" s"));
     field->setFixedWidth(NUMBER_WIDTH);
     return field;
 }
@@ -277,17 +276,17 @@ Entry DoubleSpinBoxEntry()
     using Field = ZDoubleSpinBox;
     return {
         "ZDoubleSpinBox",
-        Catalogue::tr("Kit"),
-        Catalogue::tr("A field for a floating-point number that can keep what is typed to whole steps."),
+        EntryText::tr("Kit"),
+        EntryText::tr("A field for a floating-point number that can keep what is typed to whole steps."),
         "ZDoubleSpinBox",
         "step",
         CreateDoubleSpinBox,
         {
-            MakeState<Field>(Catalogue::tr("Typical"), [](Field&) {}),
-            MakeState<Field>(Catalogue::tr("Typed numbers in whole steps"),
+            MakeState<Field>(EntryText::tr("Typical"), [](Field&) {}),
+            MakeState<Field>(EntryText::tr("Typed numbers in whole steps"),
                              [](Field& field) { field.setFixupWithStep(true); }),
             FocusedWheelState<Field>(),
-            MakeState<Field>(Catalogue::tr("At its end"), [](Field& field) { field.setValue(field.minimum()); }),
+            MakeState<Field>(EntryText::tr("At its end"), [](Field& field) { field.setValue(field.minimum()); }),
             DisabledState(),
         },
     };
@@ -301,4 +300,4 @@ QVector<Entry> FieldEntries()
             DoubleSliderEntry(), SpinBoxEntry(),  DoubleSpinBoxEntry()};
 }
 
-} // namespace Zelkor::Gallery
+} // namespace Zelkor::Catalogue

@@ -1,5 +1,4 @@
-#include "Catalogue.h"
-
+#include <Catalogue/Catalogue.h>
 #include <UI/Kit/ZFrame.h>
 #include <UI/Kit/ZLabel.h>
 #include <UI/Kit/ZStackedWidget.h>
@@ -8,7 +7,7 @@
 #include <QPushButton>
 #include <QVariant>
 
-namespace Zelkor::Gallery {
+namespace Zelkor::Catalogue {
 
 namespace {
 
@@ -21,7 +20,7 @@ QWidget* CreateFrame(QWidget* parent)
     auto* grid = new QGridLayout(frame);
     frame->setProperty("role", QStringLiteral("card"));
     for (int i = 0; i < 4; ++i)
-        grid->addWidget(new QPushButton(Catalogue::tr("Button %1").arg(i + 1)), i / 2, i % 2);
+        grid->addWidget(new QPushButton(EntryText::tr("Button %1").arg(i + 1)), i / 2, i % 2);
     return frame;
 }
 
@@ -38,7 +37,7 @@ void SpaceByProperties(ZFrame& frame)
 QWidget* CreateLabel(QWidget* parent)
 {
     auto* label = new ZLabel(parent);
-    label->setOriginalText(Catalogue::tr("Built-in camera"));
+    label->setOriginalText(EntryText::tr("Built-in camera"));
     label->setFixedWidth(LABEL_WIDTH);
     return label;
 }
@@ -52,8 +51,8 @@ State LabelText(const QString& name, const QString& text)
 QWidget* CreateStack(QWidget* parent)
 {
     auto* stack = new ZStackedWidget(parent);
-    const QStringList texts = {Catalogue::tr("A small page"),
-                               Catalogue::tr("A page that takes\nthe room of its text\nand no more")};
+    const QStringList texts = {EntryText::tr("A small page"),
+                               EntryText::tr("A page that takes\nthe room of its text\nand no more")};
     AddSamplePages(stack, texts);
     stack->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     return stack;
@@ -63,14 +62,14 @@ Entry FrameEntry()
 {
     return {
         "ZFrame",
-        Catalogue::tr("Kit"),
-        Catalogue::tr("A frame whose layout can be spaced by a style sheet."),
+        EntryText::tr("Kit"),
+        EntryText::tr("A frame whose layout can be spaced by a style sheet."),
         "ZFrame",
         "frame",
         CreateFrame,
         {
-            MakeState<ZFrame>(Catalogue::tr("Spaced by style sheet"), [](ZFrame&) {}),
-            MakeState<ZFrame>(Catalogue::tr("Spaced by properties"), SpaceByProperties),
+            MakeState<ZFrame>(EntryText::tr("Spaced by style sheet"), [](ZFrame&) {}),
+            MakeState<ZFrame>(EntryText::tr("Spaced by properties"), SpaceByProperties),
             DisabledState(),
         },
         MakeBare<ZFrame>,
@@ -79,24 +78,24 @@ Entry FrameEntry()
 
 Entry LabelEntry()
 {
-    const QString longText = Catalogue::tr("A camera with a name that is far too long for this place");
+    const QString longText = EntryText::tr("A camera with a name that is far too long for this place");
     return {
         "ZLabel",
-        Catalogue::tr("Kit"),
-        Catalogue::tr("A label for one text that may be too long: it is elided, and shown whole as the tool tip."),
+        EntryText::tr("Kit"),
+        EntryText::tr("A label for one text that may be too long: it is elided, and shown whole as the tool tip."),
         "ZLabel",
         "text",
         CreateLabel,
         {
-            MakeState<ZLabel>(Catalogue::tr("Fits"), [](ZLabel&) {}),
-            LabelText(Catalogue::tr("Elided"), longText),
-            LabelText(Catalogue::tr("Right-to-left text"), QString::fromUtf8("נא לבחור מצלמה אחרת מתוך הרשימה")),
-            MakeState<ZLabel>(Catalogue::tr("Cut, not elided"),
+            MakeState<ZLabel>(EntryText::tr("Fits"), [](ZLabel&) {}),
+            LabelText(EntryText::tr("Elided"), longText),
+            LabelText(EntryText::tr("Right-to-left text"), QString::fromUtf8("נא לבחור מצלמה אחרת מתוך הרשימה")),
+            MakeState<ZLabel>(EntryText::tr("Cut, not elided"),
                               [longText](ZLabel& label) {
                                   label.setEliding(false);
                                   label.setOriginalText(longText);
                               }),
-            MakeState<ZLabel>(Catalogue::tr("Not clickable"), [](ZLabel& label) { label.setClickable(false); }),
+            MakeState<ZLabel>(EntryText::tr("Not clickable"), [](ZLabel& label) { label.setClickable(false); }),
             DisabledState(),
         },
         MakeBare<ZLabel>,
@@ -108,16 +107,16 @@ Entry StackEntry()
 {
     return {
         "ZStackedWidget",
-        Catalogue::tr("Kit"),
-        Catalogue::tr("A stack of pages that takes the size of the page it shows instead of the largest one."),
+        EntryText::tr("Kit"),
+        EntryText::tr("A stack of pages that takes the size of the page it shows instead of the largest one."),
         "ZStackedWidget",
         "layers",
         CreateStack,
         {
-            MakeState<ZStackedWidget>(Catalogue::tr("Small page"), [](ZStackedWidget&) {}),
-            MakeState<ZStackedWidget>(Catalogue::tr("Large page"),
+            MakeState<ZStackedWidget>(EntryText::tr("Small page"), [](ZStackedWidget&) {}),
+            MakeState<ZStackedWidget>(EntryText::tr("Large page"),
                                       [](ZStackedWidget& stack) { stack.setCurrentIndex(1); }),
-            MakeState<ZStackedWidget>(Catalogue::tr("Without fitting"),
+            MakeState<ZStackedWidget>(EntryText::tr("Without fitting"),
                                       [](ZStackedWidget& stack) { stack.setAutoFit(false); }),
             DisabledState(),
         },
@@ -132,4 +131,4 @@ QVector<Entry> KitEntries()
     return {FrameEntry(), LabelEntry(), StackEntry()};
 }
 
-} // namespace Zelkor::Gallery
+} // namespace Zelkor::Catalogue

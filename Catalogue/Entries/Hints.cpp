@@ -1,7 +1,6 @@
-#include "Artwork.h"
-#include "Catalogue.h"
-#include "Texts.h"
-
+#include <Catalogue/Catalogue.h>
+#include <Examples/Support/Artwork.h>
+#include <Examples/Support/WidgetTexts.h>
 #include <UI/Widgets/MaskedToolTip.h>
 
 #include <QPushButton>
@@ -12,7 +11,9 @@
 
 using Zelkor::Vx::UI::MaskedToolTip;
 
-namespace Zelkor::Gallery {
+namespace Zelkor::Catalogue {
+
+using namespace Examples;
 
 namespace {
 
@@ -26,7 +27,7 @@ class HintHost : public QWidget
 public:
     explicit HintHost(QWidget* parent)
         : QWidget(parent), look(new MaskedToolTip(this)), hint(new MaskedToolTip(this)),
-          button(new QPushButton(Catalogue::tr("Show the hint")))
+          button(new QPushButton(EntryText::tr("Show the hint")))
     {
         look->setWindowFlags(Qt::Widget);
         look->setAttribute(Qt::WA_TransparentForMouseEvents);
@@ -86,7 +87,7 @@ private:
 QWidget* CreateHintHost(QWidget* parent)
 {
     auto* host = new HintHost(parent);
-    host->SetTexts(Catalogue::tr("Choose a source first"), Catalogue::tr("A camera, the screen\nor the test picture"));
+    host->SetTexts(EntryText::tr("Choose a source first"), EntryText::tr("A camera, the screen\nor the test picture"));
     return host;
 }
 
@@ -94,7 +95,7 @@ QWidget* CreateBubbleHost(QWidget* parent)
 {
     auto* host = new HintHost(parent);
     host->MakeBubble();
-    host->SetTexts(Catalogue::tr("Choose a source first"), Catalogue::tr("A camera, the screen or the test picture"));
+    host->SetTexts(EntryText::tr("Choose a source first"), EntryText::tr("A camera, the screen or the test picture"));
     return host;
 }
 
@@ -102,20 +103,20 @@ Entry MaskedToolTipEntry()
 {
     return {
         "MaskedToolTip",
-        Catalogue::tr("Windows"),
-        Catalogue::tr("A hint in a window of its own, in the shape of an image, that goes by itself."),
+        EntryText::tr("Windows"),
+        EntryText::tr("A hint in a window of its own, in the shape of an image, that goes by itself."),
         "MaskedToolTip",
         "hint",
         CreateHintHost,
         {
-            MadeState(Catalogue::tr("Title and text"), CreateHintHost),
-            MadeState(Catalogue::tr("Text only"),
+            MadeState(EntryText::tr("Title and text"), CreateHintHost),
+            MadeState(EntryText::tr("Text only"),
                       [](QWidget* parent) {
                           auto* host = new HintHost(parent);
-                          host->SetTexts(QString(), Catalogue::tr("The recording goes on"));
+                          host->SetTexts(QString(), EntryText::tr("The recording goes on"));
                           return host;
                       }),
-            MadeState(Catalogue::tr("Speech bubble"), CreateBubbleHost),
+            MadeState(EntryText::tr("Speech bubble"), CreateBubbleHost),
         },
         MakeBare<MaskedToolTip>,
         2,
@@ -129,4 +130,4 @@ QVector<Entry> HintEntries()
     return {NotInForms(MaskedToolTipEntry(), "it is a window that comes and goes")};
 }
 
-} // namespace Zelkor::Gallery
+} // namespace Zelkor::Catalogue

@@ -1,5 +1,4 @@
-#include "Catalogue.h"
-
+#include <Catalogue/Catalogue.h>
 #include <UI/Widgets/CountdownIndicatorWidget.h>
 #include <UI/Widgets/CursorHighlightPreviewWidget.h>
 
@@ -8,7 +7,7 @@
 using Zelkor::Vx::CountdownIndicatorWidget;
 using Zelkor::Vx::UI::CursorHighlightPreviewWidget;
 
-namespace Zelkor::Gallery {
+namespace Zelkor::Catalogue {
 
 namespace {
 
@@ -39,19 +38,19 @@ Entry CountdownEntry()
 {
     return {
         "CountdownIndicatorWidget",
-        Catalogue::tr("Indicators"),
-        Catalogue::tr("Shows a remaining time as three numbers with captions, in the units that suit it."),
+        EntryText::tr("Indicators"),
+        EntryText::tr("Shows a remaining time as three numbers with captions, in the units that suit it."),
         "CountdownIndicatorWidget",
         "countdown",
         Create<CountdownIndicatorWidget>,
         {
-            CountdownState(Catalogue::tr("Fresh"), 0),
-            CountdownState(Catalogue::tr("Short"), 5),
-            CountdownState(Catalogue::tr("Hours"), 12 * HOUR + 34 * MINUTE + 56),
-            CountdownState(Catalogue::tr("Days"), 8 * DAY + 6 * HOUR + 45 * MINUTE),
-            CountdownState(Catalogue::tr("Months"), 200 * DAY + 21 * HOUR),
-            CountdownState(Catalogue::tr("Years"), 800 * DAY),
-            MakeState<CountdownIndicatorWidget>(Catalogue::tr("Disabled"),
+            CountdownState(EntryText::tr("Fresh"), 0),
+            CountdownState(EntryText::tr("Short"), 5),
+            CountdownState(EntryText::tr("Hours"), 12 * HOUR + 34 * MINUTE + 56),
+            CountdownState(EntryText::tr("Days"), 8 * DAY + 6 * HOUR + 45 * MINUTE),
+            CountdownState(EntryText::tr("Months"), 200 * DAY + 21 * HOUR),
+            CountdownState(EntryText::tr("Years"), 800 * DAY),
+            MakeState<CountdownIndicatorWidget>(EntryText::tr("Disabled"),
                                                 [](CountdownIndicatorWidget& countdown) {
                                                     countdown.SetSeconds(90 * MINUTE);
                                                     countdown.setEnabled(false);
@@ -83,24 +82,24 @@ Entry CursorHighlightEntry()
 {
     return {
         "CursorHighlightPreviewWidget",
-        Catalogue::tr("Indicators"),
-        Catalogue::tr("Shows how the highlight around the mouse cursor will look."),
+        EntryText::tr("Indicators"),
+        EntryText::tr("Shows how the highlight around the mouse cursor will look."),
         "CursorHighlightPreviewWidget",
         "pointer",
         Create<CursorHighlightPreviewWidget>,
         {
-            MakeState<CursorHighlightPreviewWidget>(Catalogue::tr("Fresh"), [](CursorHighlightPreviewWidget&) {}),
-            DiscState(Catalogue::tr("Typical"), TYPICAL_RADIUS, HIGHLIGHT),
-            DiscState(Catalogue::tr("Translucent colour"), TYPICAL_RADIUS, TRANSLUCENT_HIGHLIGHT),
-            DiscState(Catalogue::tr("Larger than the preview"), LARGE_RADIUS, HIGHLIGHT),
-            MadeState(Catalogue::tr("Thick border"),
+            MakeState<CursorHighlightPreviewWidget>(EntryText::tr("Fresh"), [](CursorHighlightPreviewWidget&) {}),
+            DiscState(EntryText::tr("Typical"), TYPICAL_RADIUS, HIGHLIGHT),
+            DiscState(EntryText::tr("Translucent colour"), TYPICAL_RADIUS, TRANSLUCENT_HIGHLIGHT),
+            DiscState(EntryText::tr("Larger than the preview"), LARGE_RADIUS, HIGHLIGHT),
+            MadeState(EntryText::tr("Thick border"),
                       [](QWidget* parent) {
                           QWidget* preview = CreateFramed(THICK_BORDER, parent);
                           // What the application's style sheet sets would come back with every change of it.
                           preview->setStyleSheet(THICK_BORDER_SHEET);
                           return preview;
                       }),
-            MadeState(Catalogue::tr("No border"), [](QWidget* parent) { return CreateFramed(0, parent); }),
+            MadeState(EntryText::tr("No border"), [](QWidget* parent) { return CreateFramed(0, parent); }),
         },
         nullptr,
         1,
@@ -115,4 +114,4 @@ QVector<Entry> IndicatorEntries()
             InForms<CursorHighlightPreviewWidget>(CursorHighlightEntry())};
 }
 
-} // namespace Zelkor::Gallery
+} // namespace Zelkor::Catalogue

@@ -1,24 +1,34 @@
-#include "Catalogue.h"
-#include "Texts.h"
-
+#include <Catalogue/Catalogue.h>
+#include <Examples/Support/WidgetTexts.h>
 #include <UI/Widgets/ButtonWithLabels.h>
 #include <UI/Widgets/FastPresetButton.h>
 
 #include <QAction>
+#include <QLabel>
+#include <QVariant>
 
 using Zelkor::Vx::UI::ButtonWithLabels;
 using Zelkor::Vx::UI::FastPresetButton;
 
-namespace Zelkor::Gallery {
+namespace Zelkor::Catalogue {
 
 namespace {
+
+// The style sheets draw a hot key as a key, which would be empty for a button without one.
+void HideEmptyHotKey(QWidget* button)
+{
+    for (auto* label : button->findChildren<QLabel*>()) {
+        if (label->objectName().startsWith("HotKey"))
+            label->setHidden(label->property("originalText").toString().isEmpty());
+    }
+}
 
 constexpr int NARROW_WIDTH = 192;
 
 QWidget* CreateLabelled(Qt::Orientation orientation, QWidget* parent)
 {
     auto* button = new ButtonWithLabels(orientation, parent);
-    button->SetLabelText(Catalogue::tr("Take a picture"));
+    button->SetLabelText(EntryText::tr("Take a picture"));
     button->SetHotkeyText("Ctrl+P");
     return button;
 }
@@ -39,7 +49,7 @@ QWidget* CreatePreset(const QString& type, const QString& text, const QKeySequen
     auto* action = new QAction(text);
     action->setProperty("PresetType", type);
     action->setShortcut(shortcut);
-    action->setToolTip(Catalogue::tr("Starts a recording with these settings"));
+    action->setToolTip(EntryText::tr("Starts a recording with these settings"));
     auto* button = new FastPresetButton(action, "1", parent);
     HideEmptyHotKey(button);
     return button;
@@ -54,21 +64,21 @@ Entry ButtonWithLabelsEntry()
 {
     return {
         "ButtonWithLabels",
-        Catalogue::tr("Buttons"),
-        Catalogue::tr("A push button with an icon, a text and a hot key, each with a look of its own."),
+        EntryText::tr("Buttons"),
+        EntryText::tr("A push button with an icon, a text and a hot key, each with a look of its own."),
         "ButtonWithLabels",
         "key",
         CreateHorizontal,
         {
-            MadeState(Catalogue::tr("Horizontal"), CreateHorizontal),
-            MadeState(Catalogue::tr("Vertical"), CreateVertical),
-            MakeState<ButtonWithLabels>(Catalogue::tr("Long text"),
+            MadeState(EntryText::tr("Horizontal"), CreateHorizontal),
+            MadeState(EntryText::tr("Vertical"), CreateVertical),
+            MakeState<ButtonWithLabels>(EntryText::tr("Long text"),
                                         [](ButtonWithLabels& button) {
                                             button.SetLabelText(
-                                                Catalogue::tr("Take a picture of everything on the screen"));
+                                                EntryText::tr("Take a picture of everything on the screen"));
                                             button.setFixedWidth(NARROW_WIDTH);
                                         }),
-            MakeState<ButtonWithLabels>(Catalogue::tr("No hot key"),
+            MakeState<ButtonWithLabels>(EntryText::tr("No hot key"),
                                         [](ButtonWithLabels& button) {
                                             button.SetHotkeyText(QString());
                                             HideEmptyHotKey(&button);
@@ -80,24 +90,24 @@ Entry ButtonWithLabelsEntry()
 
 Entry FastPresetEntry()
 {
-    const QString twoLines = Catalogue::tr("Region around \nthe pointer");
+    const QString twoLines = EntryText::tr("Region around \nthe pointer");
     const auto createTypical = [](QWidget* parent) {
-        return CreatePreset("FullScreen", Catalogue::tr("Full screen"), QKeySequence("Ctrl+1"), parent);
+        return CreatePreset("FullScreen", EntryText::tr("Full screen"), QKeySequence("Ctrl+1"), parent);
     };
     return {
         "FastPresetButton",
-        Catalogue::tr("Buttons"),
-        Catalogue::tr("Shows an action with its shortcut, and triggers it."),
+        EntryText::tr("Buttons"),
+        EntryText::tr("Shows an action with its shortcut, and triggers it."),
         "FastPresetButton",
         "preset",
         createTypical,
         {
-            MadeState(Catalogue::tr("Typical"), createTypical),
-            PresetState(Catalogue::tr("Preset type \"User\""), "User", Catalogue::tr("My lecture"),
+            MadeState(EntryText::tr("Typical"), createTypical),
+            PresetState(EntryText::tr("Preset type \"User\""), "User", EntryText::tr("My lecture"),
                         QKeySequence("Ctrl+Shift+L")),
-            PresetState(Catalogue::tr("Line feed, no word wrap"), "Region", twoLines, QKeySequence("Ctrl+3")),
-            PresetState(Catalogue::tr("Line feed, word wrap by style"), "TwoLines", twoLines, QKeySequence("Ctrl+3")),
-            PresetState(Catalogue::tr("No shortcut"), "Window", Catalogue::tr("Window"), QKeySequence()),
+            PresetState(EntryText::tr("Line feed, no word wrap"), "Region", twoLines, QKeySequence("Ctrl+3")),
+            PresetState(EntryText::tr("Line feed, word wrap by style"), "TwoLines", twoLines, QKeySequence("Ctrl+3")),
+            PresetState(EntryText::tr("No shortcut"), "Window", EntryText::tr("Window"), QKeySequence()),
             DisabledState(),
         },
         [](QWidget* parent) -> QObject* { return new FastPresetButton(new QAction(parent), "1", parent); },
@@ -112,4 +122,4 @@ QVector<Entry> LabelledButtonEntries()
             NotInForms(FastPresetEntry(), "its action is given to the constructor and stays")};
 }
 
-} // namespace Zelkor::Gallery
+} // namespace Zelkor::Catalogue

@@ -1,12 +1,11 @@
-#include "Catalogue.h"
-
+#include <Catalogue/Catalogue.h>
 #include <UI/Kit/QLedMatrix.h>
 #include <UI/Kit/ZSliderButton.h>
 
 #include <cmath>
 #include <iterator>
 
-namespace Zelkor::Gallery {
+namespace Zelkor::Catalogue {
 
 namespace {
 
@@ -44,7 +43,7 @@ QWidget* CreateSign(QWidget* parent)
                 matrix->setColorAt(row, column, led == 'r' ? QLedMatrix::Red : QLedMatrix::Green);
         }
     }
-    matrix->setAccessibleName(Catalogue::tr("Recording"));
+    matrix->setAccessibleName(EntryText::tr("Recording"));
     return matrix;
 }
 
@@ -59,7 +58,7 @@ void MakeBig(QLedMatrix& matrix)
             matrix.setColorAt(row, column, QColor::fromHsvF((wave + 2) / 4, 1, 1).rgb());
         }
     }
-    matrix.setAccessibleName(Catalogue::tr("Waves of colour"));
+    matrix.setAccessibleName(EntryText::tr("Waves of colour"));
 }
 
 void ShowColors(QLedMatrix& matrix)
@@ -71,27 +70,27 @@ void ShowColors(QLedMatrix& matrix)
     matrix.setFixedSize(matrix.sizeHint() * 3);
     for (int column = 0; column < matrix.columns(); ++column)
         matrix.setColorAt(0, column, COLORS[column]);
-    matrix.setAccessibleName(Catalogue::tr("Colours"));
+    matrix.setAccessibleName(EntryText::tr("Colours"));
 }
 
 Entry LedMatrixEntry()
 {
     return {
         "QLedMatrix",
-        Catalogue::tr("Kit"),
-        Catalogue::tr("A grid of round LEDs, each of a colour of its own."),
+        EntryText::tr("Kit"),
+        EntryText::tr("A grid of round LEDs, each of a colour of its own."),
         "QLedMatrix",
         "grid",
         CreateSign,
         {
-            MakeState<QLedMatrix>(Catalogue::tr("A sign"), [](QLedMatrix&) {}),
-            MakeState<QLedMatrix>(Catalogue::tr("Dark"), [](QLedMatrix& matrix) { matrix.clear(); }),
-            MakeState<QLedMatrix>(Catalogue::tr("Transparent background"),
+            MakeState<QLedMatrix>(EntryText::tr("A sign"), [](QLedMatrix&) {}),
+            MakeState<QLedMatrix>(EntryText::tr("Dark"), [](QLedMatrix& matrix) { matrix.clear(); }),
+            MakeState<QLedMatrix>(EntryText::tr("Transparent background"),
                                   [](QLedMatrix& matrix) { matrix.setBackgroundMode(Qt::TransparentMode); }),
-            MakeState<QLedMatrix>(Catalogue::tr("Named colours"), ShowColors),
-            MakeState<QLedMatrix>(Catalogue::tr("Wider than the grid"),
+            MakeState<QLedMatrix>(EntryText::tr("Named colours"), ShowColors),
+            MakeState<QLedMatrix>(EntryText::tr("Wider than the grid"),
                                   [](QLedMatrix& matrix) { matrix.setFixedSize(WIDE_PLACE); }),
-            MakeState<QLedMatrix>(Catalogue::tr("4096 LEDs"), MakeBig),
+            MakeState<QLedMatrix>(EntryText::tr("4096 LEDs"), MakeBig),
             DisabledState(),
         },
         MakeBare<QLedMatrix>,
@@ -101,7 +100,7 @@ Entry LedMatrixEntry()
 QWidget* CreateSliderButton(QWidget* parent)
 {
     auto* button = new ZSliderButton(parent);
-    button->setAccessibleName(Catalogue::tr("Volume"));
+    button->setAccessibleName(EntryText::tr("Volume"));
     button->setValue(60);
     return button;
 }
@@ -115,20 +114,20 @@ Entry SliderButtonEntry()
 {
     return {
         "ZSliderButton",
-        Catalogue::tr("Kit"),
-        Catalogue::tr("A button that shows a level and opens a slider above itself."),
+        EntryText::tr("Kit"),
+        EntryText::tr("A button that shows a level and opens a slider above itself."),
         "ZSliderButton",
         "sound",
         CreateSliderButton,
         {
-            LevelState(Catalogue::tr("Level 0"), 0),
-            LevelState(Catalogue::tr("From 1"), 1),
-            LevelState(Catalogue::tr("From 25"), 25),
-            LevelState(Catalogue::tr("From 50"), 50),
-            LevelState(Catalogue::tr("From 75"), 75),
-            MakeState<ZSliderButton>(Catalogue::tr("Slider in a window apart"),
+            LevelState(EntryText::tr("Level 0"), 0),
+            LevelState(EntryText::tr("From 1"), 1),
+            LevelState(EntryText::tr("From 25"), 25),
+            LevelState(EntryText::tr("From 50"), 50),
+            LevelState(EntryText::tr("From 75"), 75),
+            MakeState<ZSliderButton>(EntryText::tr("Slider in a window apart"),
                                      [](ZSliderButton& button) { button.setOnTop(true); }),
-            MakeState<ZSliderButton>(Catalogue::tr("High slider"),
+            MakeState<ZSliderButton>(EntryText::tr("High slider"),
                                      [](ZSliderButton& button) { button.setSliderHeight(240); }),
             DisabledState(),
         },
@@ -144,4 +143,4 @@ QVector<Entry> MatrixEntries()
     return {LedMatrixEntry(), SliderButtonEntry()};
 }
 
-} // namespace Zelkor::Gallery
+} // namespace Zelkor::Catalogue

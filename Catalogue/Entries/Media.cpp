@@ -1,7 +1,7 @@
-#include "Artwork.h"
-#include "Catalogue.h"
-#include "Texts.h"
-
+#include <Catalogue/Catalogue.h>
+#include <Catalogue/SamplePictures.h>
+#include <Examples/Support/Artwork.h>
+#include <Examples/Support/WidgetTexts.h>
 #include <UI/Widgets/VideoPreviewWidget.h>
 #include <UI/Widgets/WebCameraPreviewStream.h>
 
@@ -10,7 +10,9 @@
 using Zelkor::Vx::WebCameraPreviewStream;
 using Zelkor::Vx::UI::VideoPreviewWidget;
 
-namespace Zelkor::Gallery {
+namespace Zelkor::Catalogue {
+
+using namespace Examples;
 
 namespace {
 
@@ -30,7 +32,7 @@ void DrawDefaultImage(VideoPreviewWidget& preview)
     // The colour of text is the style sheet's only from here on.
     preview.ensurePolished();
     preview.SetDefaultImage(
-        NoPictureImage(PREVIEW_SIZE, preview.palette().color(QPalette::Text), Catalogue::tr("No picture")));
+        NoPictureImage(PREVIEW_SIZE, preview.palette().color(QPalette::Text), EntryText::tr("No picture")));
 }
 
 void ShowDefaultImage(VideoPreviewWidget& preview)
@@ -56,18 +58,18 @@ Entry VideoPreviewEntry()
     };
     return {
         "VideoPreviewWidget",
-        Catalogue::tr("Media"),
-        Catalogue::tr("Shows live video frames in an area of fixed size."),
+        EntryText::tr("Media"),
+        EntryText::tr("Shows live video frames in an area of fixed size."),
         "VideoPreviewWidget",
         "picture",
         CreatePreview,
         {
-            MakeState<Preview>(Catalogue::tr("Empty"), [](Preview&) {}),
-            MakeState<Preview>(Catalogue::tr("Default image"), ShowDefaultImage),
-            MakeState<Preview>(Catalogue::tr("Large frame"), showFrame({1280, 720})),
-            MakeState<Preview>(Catalogue::tr("Upright frame"), showFrame({720, 1280})),
-            MakeState<Preview>(Catalogue::tr("Small frame"), showFrame({160, 120})),
-            MakeState<Preview>(Catalogue::tr("Disabled"),
+            MakeState<Preview>(EntryText::tr("Empty"), [](Preview&) {}),
+            MakeState<Preview>(EntryText::tr("Default image"), ShowDefaultImage),
+            MakeState<Preview>(EntryText::tr("Large frame"), showFrame({1280, 720})),
+            MakeState<Preview>(EntryText::tr("Upright frame"), showFrame({720, 1280})),
+            MakeState<Preview>(EntryText::tr("Small frame"), showFrame({160, 120})),
+            MakeState<Preview>(EntryText::tr("Disabled"),
                                [showFrame](Preview& preview) {
                                    showFrame({1280, 720})(preview);
                                    preview.setEnabled(false);
@@ -83,14 +85,14 @@ Entry WebCameraStreamEntry()
     using Preview = VideoPreviewWidget;
     return {
         "WebCameraPreviewStream",
-        Catalogue::tr("Media"),
-        Catalogue::tr("Runs the live picture of a capture device in a preview; here, of the moving test picture."),
+        EntryText::tr("Media"),
+        EntryText::tr("Runs the live picture of a capture device in a preview; here, of the moving test picture."),
         "VideoPreviewWidget",
         "stream",
         CreatePreviewWithStream,
         {
-            MakeState<Preview>(Catalogue::tr("Stopped"), [](Preview&) {}),
-            MakeState<Preview>(Catalogue::tr("Live"),
+            MakeState<Preview>(EntryText::tr("Stopped"), [](Preview&) {}),
+            MakeState<Preview>(EntryText::tr("Live"),
                                [](Preview& preview) { preview.findChild<WebCameraPreviewStream*>()->StartStream(); }),
         },
         [](QWidget* parent) -> QObject* { return new WebCameraPreviewStream(new VideoPreviewWidget(parent)); },
@@ -107,4 +109,4 @@ QVector<Entry> MediaEntries()
             NotInForms(WebCameraStreamEntry(), "it is not a widget")};
 }
 
-} // namespace Zelkor::Gallery
+} // namespace Zelkor::Catalogue

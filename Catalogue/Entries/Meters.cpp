@@ -1,6 +1,5 @@
-#include "Artwork.h"
-#include "Catalogue.h"
-
+#include <Catalogue/Catalogue.h>
+#include <Catalogue/SamplePictures.h>
 #include <UI/Widgets/PixmapWidget.h>
 #include <UI/Widgets/VolumeSlider.h>
 
@@ -9,7 +8,7 @@
 using Zelkor::Vx::PixmapWidget;
 using Zelkor::Vx::VolumeSlider;
 
-namespace Zelkor::Gallery {
+namespace Zelkor::Catalogue {
 
 namespace {
 
@@ -24,7 +23,7 @@ constexpr QSize SQUARE_PLACE(144, 144);
 QWidget* CreateMeter(Qt::Orientation orientation, QWidget* parent)
 {
     auto* slider = new VolumeSlider(orientation, parent);
-    slider->setAccessibleName(Catalogue::tr("Volume"));
+    slider->setAccessibleName(EntryText::tr("Volume"));
     slider->SetVolumes(TYPICAL_VOLUME, TYPICAL_LEVEL);
     return slider;
 }
@@ -50,18 +49,18 @@ Entry VolumeSliderEntry()
 {
     return {
         "VolumeSlider",
-        Catalogue::tr("Media"),
-        Catalogue::tr("A slider for a recording volume, with a meter of the input level behind its handle."),
+        EntryText::tr("Media"),
+        EntryText::tr("A slider for a recording volume, with a meter of the input level behind its handle."),
         "VolumeSlider",
         "volume",
         CreateUprightMeter,
         {
-            MeterState(Catalogue::tr("Silence"), TYPICAL_VOLUME, 0),
-            MeterState(Catalogue::tr("Middle"), 1, TYPICAL_LEVEL),
-            MeterState(Catalogue::tr("Full"), 1, 1),
-            MeterState(Catalogue::tr("Volume lower than level"), 0.4F, 0.9F),
-            MadeState(Catalogue::tr("Horizontal"), [](QWidget* parent) { return CreateMeter(Qt::Horizontal, parent); }),
-            MakeState<VolumeSlider>(Catalogue::tr("Rounded"), RoundMeter),
+            MeterState(EntryText::tr("Silence"), TYPICAL_VOLUME, 0),
+            MeterState(EntryText::tr("Middle"), 1, TYPICAL_LEVEL),
+            MeterState(EntryText::tr("Full"), 1, 1),
+            MeterState(EntryText::tr("Volume lower than level"), 0.4F, 0.9F),
+            MadeState(EntryText::tr("Horizontal"), [](QWidget* parent) { return CreateMeter(Qt::Horizontal, parent); }),
+            MakeState<VolumeSlider>(EntryText::tr("Rounded"), RoundMeter),
             DisabledState(),
         },
         nullptr,
@@ -74,7 +73,7 @@ QWidget* CreatePicture(QWidget* parent)
     auto* picture = new PixmapWidget(parent, Qt::WindowFlags());
     picture->setFixedSize(WIDE_PLACE);
     picture->SetPixmap(QPixmap::fromImage(PortraitImage(PICTURE_SIZE)));
-    picture->setAccessibleName(Catalogue::tr("A drawn portrait"));
+    picture->setAccessibleName(EntryText::tr("A drawn portrait"));
     return picture;
 }
 
@@ -92,20 +91,20 @@ Entry PixmapWidgetEntry()
     using Picture = PixmapWidget;
     return {
         "PixmapWidget",
-        Catalogue::tr("Media"),
-        Catalogue::tr("Shows one picture over its whole area: stretched, cut, or cut to an ellipse."),
+        EntryText::tr("Media"),
+        EntryText::tr("Shows one picture over its whole area: stretched, cut, or cut to an ellipse."),
         "PixmapWidget",
         "thumbnail",
         CreatePicture,
         {
-            MakeState<Picture>(Catalogue::tr("No mask"), [](Picture&) {}),
-            PictureState(Catalogue::tr("Rectangle, top left"), Picture::MASK_RECTANGLE, Picture::ANCHOR_TOP_LEFT,
+            MakeState<Picture>(EntryText::tr("No mask"), [](Picture&) {}),
+            PictureState(EntryText::tr("Rectangle, top left"), Picture::MASK_RECTANGLE, Picture::ANCHOR_TOP_LEFT,
                          WIDE_PLACE),
-            PictureState(Catalogue::tr("Rectangle, bottom right"), Picture::MASK_RECTANGLE,
+            PictureState(EntryText::tr("Rectangle, bottom right"), Picture::MASK_RECTANGLE,
                          Picture::ANCHOR_BOTTOM_RIGHT, WIDE_PLACE),
-            PictureState(Catalogue::tr("Ellipse"), Picture::MASK_ELLIPSE, Picture::ANCHOR_CENTER, SQUARE_PLACE),
-            PictureState(Catalogue::tr("Ellipse upright"), Picture::MASK_ELLIPSE, Picture::ANCHOR_CENTER, HIGH_PLACE),
-            MakeState<Picture>(Catalogue::tr("No picture"), [](Picture& picture) { picture.SetPixmap(QPixmap()); }),
+            PictureState(EntryText::tr("Ellipse"), Picture::MASK_ELLIPSE, Picture::ANCHOR_CENTER, SQUARE_PLACE),
+            PictureState(EntryText::tr("Ellipse upright"), Picture::MASK_ELLIPSE, Picture::ANCHOR_CENTER, HIGH_PLACE),
+            MakeState<Picture>(EntryText::tr("No picture"), [](Picture& picture) { picture.SetPixmap(QPixmap()); }),
             DisabledState(),
         },
         nullptr,
@@ -120,4 +119,4 @@ QVector<Entry> MeterEntries()
     return {InForms<VolumeSlider>(VolumeSliderEntry()), InForms<PixmapWidget>(PixmapWidgetEntry())};
 }
 
-} // namespace Zelkor::Gallery
+} // namespace Zelkor::Catalogue

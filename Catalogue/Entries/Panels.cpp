@@ -1,6 +1,5 @@
-#include "Catalogue.h"
-#include "StyleSheet.h"
-
+#include <Catalogue/Catalogue.h>
+#include <UI/Kit/ZStyleSheet.h>
 #include <UI/Widgets/ScrollablePanelWithItem.h>
 #include <UI/Widgets/SliderWithTickLabels.h>
 
@@ -12,7 +11,7 @@
 using Zelkor::Vx::SliderWithTickLabels;
 using Zelkor::Vx::UI::ScrollablePanelWithItem;
 
-namespace Zelkor::Gallery {
+namespace Zelkor::Catalogue {
 
 namespace {
 
@@ -31,16 +30,16 @@ void AppendTools(ScrollablePanelWithItem& panel, int count)
         const char* icon;
         QString name;
     } tools[TOOL_COUNT] = {
-        {"pointer", Catalogue::tr("Pointer")},     {"pen", Catalogue::tr("Pen")},
-        {"marker", Catalogue::tr("Marker")},       {"line", Catalogue::tr("Line")},
-        {"arrow", Catalogue::tr("Arrow")},         {"text", Catalogue::tr("Text")},
-        {"blur", Catalogue::tr("Blur")},           {"eraser", Catalogue::tr("Eraser")},
-        {"rectangle", Catalogue::tr("Rectangle")}, {"ellipse", Catalogue::tr("Ellipse")},
+        {"pointer", EntryText::tr("Pointer")},     {"pen", EntryText::tr("Pen")},
+        {"marker", EntryText::tr("Marker")},       {"line", EntryText::tr("Line")},
+        {"arrow", EntryText::tr("Arrow")},         {"text", EntryText::tr("Text")},
+        {"blur", EntryText::tr("Blur")},           {"eraser", EntryText::tr("Eraser")},
+        {"rectangle", EntryText::tr("Rectangle")}, {"ellipse", EntryText::tr("Ellipse")},
     };
     auto* group = new QButtonGroup(&panel);
     for (int i = 0; i < count; ++i) {
         auto* item = new QToolButton;
-        item->setIcon(StyleIcon(tools[i].icon));
+        item->setIcon(ZStyleSheet::icon(tools[i].icon));
         item->setToolTip(tools[i].name);
         item->setAccessibleName(tools[i].name);
         item->setCheckable(true);
@@ -53,7 +52,7 @@ ScrollablePanelWithItem* CreatePanel(int count, QWidget* parent)
 {
     auto* panel = new ScrollablePanelWithItem(parent);
     panel->SetItemsSpacing(TOOL_SPACING);
-    panel->setAccessibleName(Catalogue::tr("Drawing tools"));
+    panel->setAccessibleName(EntryText::tr("Drawing tools"));
     AppendTools(*panel, count);
     return panel;
 }
@@ -89,17 +88,17 @@ Entry ScrollablePanelEntry()
     using Panel = ScrollablePanelWithItem;
     return {
         "ScrollablePanelWithItem",
-        Catalogue::tr("Panels"),
-        Catalogue::tr("A strip of tool buttons that scrolls sideways when they do not fit."),
+        EntryText::tr("Panels"),
+        EntryText::tr("A strip of tool buttons that scrolls sideways when they do not fit."),
         "ScrollablePanelWithItem",
         "strip",
         CreateTools,
         {
-            MakeState<Panel>(Catalogue::tr("All fit"), [](Panel& panel) { panel.setFixedWidth(ROOMY_WIDTH); }),
-            MakeState<Panel>(Catalogue::tr("Scrolls"), [](Panel& panel) { panel.setFixedWidth(NARROW_WIDTH); }),
-            MakeState<Panel>(Catalogue::tr("Scrolled to the middle"), ScrollToMiddle),
-            ToolsState(Catalogue::tr("Few items"), 3, NARROW_WIDTH),
-            ToolsState(Catalogue::tr("Empty"), 0, NARROW_WIDTH),
+            MakeState<Panel>(EntryText::tr("All fit"), [](Panel& panel) { panel.setFixedWidth(ROOMY_WIDTH); }),
+            MakeState<Panel>(EntryText::tr("Scrolls"), [](Panel& panel) { panel.setFixedWidth(NARROW_WIDTH); }),
+            MakeState<Panel>(EntryText::tr("Scrolled to the middle"), ScrollToMiddle),
+            ToolsState(EntryText::tr("Few items"), 3, NARROW_WIDTH),
+            ToolsState(EntryText::tr("Empty"), 0, NARROW_WIDTH),
             DisabledState(),
         },
         nullptr,
@@ -110,7 +109,7 @@ Entry ScrollablePanelEntry()
 QWidget* CreateSlider(const QStringList& texts, int current, int width, QWidget* parent)
 {
     auto* slider = new SliderWithTickLabels(parent);
-    slider->setAccessibleName(Catalogue::tr("Quality"));
+    slider->setAccessibleName(EntryText::tr("Quality"));
     // Without a value, there is nothing that the part with the keyboard could be named after.
     if (texts.isEmpty())
         slider->focusProxy()->setAccessibleName(slider->accessibleName());
@@ -123,7 +122,7 @@ QWidget* CreateSlider(const QStringList& texts, int current, int width, QWidget*
 
 QWidget* CreateQualities(QWidget* parent)
 {
-    return CreateSlider({Catalogue::tr("Small file"), Catalogue::tr("Balanced"), Catalogue::tr("Best")}, 1,
+    return CreateSlider({EntryText::tr("Small file"), EntryText::tr("Balanced"), EntryText::tr("Best")}, 1,
                         SLIDER_WIDTH, parent);
 }
 
@@ -136,24 +135,24 @@ Entry SliderWithTickLabelsEntry()
 {
     return {
         "SliderWithTickLabels",
-        Catalogue::tr("Panels"),
-        Catalogue::tr("A slider for one of a few named values, with the names above its ticks."),
+        EntryText::tr("Panels"),
+        EntryText::tr("A slider for one of a few named values, with the names above its ticks."),
         "SliderWithTickLabels",
         "ticks",
         CreateQualities,
         {
-            SliderState(Catalogue::tr("Three values"),
-                        {Catalogue::tr("Small file"), Catalogue::tr("Balanced"), Catalogue::tr("Best")}, 1),
-            SliderState(Catalogue::tr("Five values"), {"15", "24", "30", "60", Catalogue::tr("As the source")}, 4),
-            SliderState(Catalogue::tr("Long texts"),
-                        {Catalogue::tr("As small as possible"), Catalogue::tr("Balanced for most recordings"),
-                         Catalogue::tr("Without any loss")},
+            SliderState(EntryText::tr("Three values"),
+                        {EntryText::tr("Small file"), EntryText::tr("Balanced"), EntryText::tr("Best")}, 1),
+            SliderState(EntryText::tr("Five values"), {"15", "24", "30", "60", EntryText::tr("As the source")}, 4),
+            SliderState(EntryText::tr("Long texts"),
+                        {EntryText::tr("As small as possible"), EntryText::tr("Balanced for most recordings"),
+                         EntryText::tr("Without any loss")},
                         0),
-            SliderState(Catalogue::tr("Little room"),
-                        {Catalogue::tr("Small file"), Catalogue::tr("Balanced"), Catalogue::tr("Without any loss")}, 2,
+            SliderState(EntryText::tr("Little room"),
+                        {EntryText::tr("Small file"), EntryText::tr("Balanced"), EntryText::tr("Without any loss")}, 2,
                         NARROW_SLIDER_WIDTH),
-            SliderState(Catalogue::tr("One value"), {Catalogue::tr("Balanced")}, 0),
-            SliderState(Catalogue::tr("No value"), {}, 0),
+            SliderState(EntryText::tr("One value"), {EntryText::tr("Balanced")}, 0),
+            SliderState(EntryText::tr("No value"), {}, 0),
             DisabledState(),
         },
     };
@@ -167,4 +166,4 @@ QVector<Entry> PanelEntries()
             InForms<SliderWithTickLabels>(SliderWithTickLabelsEntry())};
 }
 
-} // namespace Zelkor::Gallery
+} // namespace Zelkor::Catalogue

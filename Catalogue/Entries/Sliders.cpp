@@ -1,11 +1,10 @@
-#include "Catalogue.h"
-
+#include <Catalogue/Catalogue.h>
 #include <UI/Kit/ZSlider.h>
 #include <UI/Kit/ZSliderThumb.h>
 
 #include <QVariant>
 
-namespace Zelkor::Gallery {
+namespace Zelkor::Catalogue {
 
 namespace {
 
@@ -34,8 +33,8 @@ ZSlider* CreateSlider(Qt::Orientation orientation, QWidget* parent)
 {
     auto* slider = new ZSlider(parent);
     slider->setOrientation(orientation);
-    slider->setAccessibleName(Catalogue::tr("Position"));
-    slider->defaultThumb()->setName(Catalogue::tr("Position"));
+    slider->setAccessibleName(EntryText::tr("Position"));
+    slider->defaultThumb()->setName(EntryText::tr("Position"));
     Step(*slider, slider->defaultThumb());
     if (orientation == Qt::Horizontal)
         slider->setMinimumWidth(LENGTH);
@@ -54,8 +53,8 @@ void Trim(ZSlider& slider)
     slider.setProperty("role", QStringLiteral("trim"));
     ZSliderThumb* left = AddThumb(slider, QStringLiteral("left"), 20);
     ZSliderThumb* right = AddThumb(slider, QStringLiteral("right"), 70);
-    left->setName(Catalogue::tr("Start", "thumb"));
-    right->setName(Catalogue::tr("End", "thumb"));
+    left->setName(EntryText::tr("Start", "thumb"));
+    right->setName(EntryText::tr("End", "thumb"));
     const auto follow = [&slider, left, right] {
         left->setUpperLimit(right->value());
         right->setLowerLimit(left->value());
@@ -70,8 +69,8 @@ void AddMarks(ZSlider& slider)
 {
     slider.setProperty("role", QStringLiteral("trim"));
     for (const int value : {15, 60, 80})
-        AddThumb(slider, Catalogue::tr("Mark at %1").arg(value), value)->setStyleTag(QStringLiteral("mark"));
-    slider.setSelectedThumb(slider.thumb(Catalogue::tr("Mark at %1").arg(60)));
+        AddThumb(slider, EntryText::tr("Mark at %1").arg(value), value)->setStyleTag(QStringLiteral("mark"));
+    slider.setSelectedThumb(slider.thumb(EntryText::tr("Mark at %1").arg(60)));
 }
 
 void AddChapters(ZSlider& slider)
@@ -111,21 +110,21 @@ Entry SliderEntry()
 {
     return {
         "ZSlider",
-        Catalogue::tr("Kit"),
-        Catalogue::tr("A slider with any number of thumbs and highlighted stretches, for trimming and timelines."),
+        EntryText::tr("Kit"),
+        EntryText::tr("A slider with any number of thumbs and highlighted stretches, for trimming and timelines."),
         "ZSlider",
         "trim",
         CreateHorizontalSlider,
         {
-            MakeState<ZSlider>(Catalogue::tr("One thumb"), [](ZSlider&) {}),
-            MakeState<ZSlider>(Catalogue::tr("Trimming"), Trim),
-            MakeState<ZSlider>(Catalogue::tr("Trimming, position limited"), LimitPosition),
-            MakeState<ZSlider>(Catalogue::tr("Segments"), AddChapters),
-            MakeState<ZSlider>(Catalogue::tr("Marks, one selected"), AddMarks),
-            MakeState<ZSlider>(Catalogue::tr("Marks that snap to the position"), Snap),
-            MadeState(Catalogue::tr("Upright"), [](QWidget* parent) { return CreateSlider(Qt::Vertical, parent); }),
-            MadeState(Catalogue::tr("Upright, segments"), CreateUprightChapters),
-            MakeState<ZSlider>(Catalogue::tr("Disabled"),
+            MakeState<ZSlider>(EntryText::tr("One thumb"), [](ZSlider&) {}),
+            MakeState<ZSlider>(EntryText::tr("Trimming"), Trim),
+            MakeState<ZSlider>(EntryText::tr("Trimming, position limited"), LimitPosition),
+            MakeState<ZSlider>(EntryText::tr("Segments"), AddChapters),
+            MakeState<ZSlider>(EntryText::tr("Marks, one selected"), AddMarks),
+            MakeState<ZSlider>(EntryText::tr("Marks that snap to the position"), Snap),
+            MadeState(EntryText::tr("Upright"), [](QWidget* parent) { return CreateSlider(Qt::Vertical, parent); }),
+            MadeState(EntryText::tr("Upright, segments"), CreateUprightChapters),
+            MakeState<ZSlider>(EntryText::tr("Disabled"),
                                [](ZSlider& slider) {
                                    Trim(slider);
                                    slider.setEnabled(false);
@@ -143,4 +142,4 @@ QVector<Entry> SliderEntries()
     return {SliderEntry()};
 }
 
-} // namespace Zelkor::Gallery
+} // namespace Zelkor::Catalogue

@@ -1,5 +1,4 @@
-#include "Catalogue.h"
-
+#include <Catalogue/Catalogue.h>
 #include <UI/Widgets/CustomTabWidget.h>
 #include <UI/Widgets/HorizontalTabBar.h>
 #include <UI/Widgets/ResizableStackedWidget.h>
@@ -10,7 +9,7 @@
 #include <QVBoxLayout>
 #include <QVariant>
 
-namespace Zelkor::Gallery {
+namespace Zelkor::Catalogue {
 
 namespace {
 
@@ -19,7 +18,7 @@ constexpr QSize PAGES_SIZE(400, 160);
 
 QStringList SourceNames()
 {
-    return {Catalogue::tr("Screen"), Catalogue::tr("Camera"), Catalogue::tr("Microphone")};
+    return {EntryText::tr("Screen"), EntryText::tr("Camera"), EntryText::tr("Microphone")};
 }
 
 QWidget* CreateTabBar(QWidget* parent)
@@ -39,7 +38,7 @@ void ShowIcons(QTabBar& bar)
 void ShowMany(QTabBar& bar)
 {
     for (int i = 1; i < 10; ++i)
-        bar.addTab(Catalogue::tr("Recording %1").arg(i));
+        bar.addTab(EntryText::tr("Recording %1").arg(i));
     bar.setCurrentIndex(5);
     bar.setFixedWidth(SCROLLED_WIDTH);
 }
@@ -72,9 +71,9 @@ QWidget* CreatePage(const QString& text)
 QWidget* CreateTabWidget(QWidget* parent)
 {
     auto* tabs = new Vx::CustomTabWidget(parent);
-    tabs->addTab(CreatePage(Catalogue::tr("What is on the screen, or a part of it.")), SourceNames()[0]);
-    tabs->addTab(CreatePage(Catalogue::tr("A camera, in a corner of the picture.")), SourceNames()[1]);
-    tabs->addTab(CreatePage(Catalogue::tr("The sound of what is said.")), SourceNames()[2]);
+    tabs->addTab(CreatePage(EntryText::tr("What is on the screen, or a part of it.")), SourceNames()[0]);
+    tabs->addTab(CreatePage(EntryText::tr("A camera, in a corner of the picture.")), SourceNames()[1]);
+    tabs->addTab(CreatePage(EntryText::tr("The sound of what is said.")), SourceNames()[2]);
     tabs->setFixedSize(PAGES_SIZE);
     return tabs;
 }
@@ -83,8 +82,8 @@ QWidget* CreateTabWidget(QWidget* parent)
 QWidget* CreateStack(QWidget* parent)
 {
     auto* stack = new ResizableStackedWidget(parent);
-    const QStringList texts = {Catalogue::tr("A small page"), Catalogue::tr("A page that is wider than the others"),
-                               Catalogue::tr("A page\nthat is higher\nthan the others\nand not wide")};
+    const QStringList texts = {EntryText::tr("A small page"), EntryText::tr("A page that is wider than the others"),
+                               EntryText::tr("A page\nthat is higher\nthan the others\nand not wide")};
     AddSamplePages(stack, texts);
     return stack;
 }
@@ -93,19 +92,19 @@ Entry TabBarEntry()
 {
     return {
         "HorizontalTabBar",
-        Catalogue::tr("Tabs"),
-        Catalogue::tr("A tab bar whose style sheet says where text and icon of a tab are, and how they change with the "
+        EntryText::tr("Tabs"),
+        EntryText::tr("A tab bar whose style sheet says where text and icon of a tab are, and how they change with the "
                       "selection."),
         "HorizontalTabBar",
         "tabs",
         CreateTabBar,
         {
-            MakeState<QTabBar>(Catalogue::tr("Text"), [](QTabBar&) {}),
-            MakeState<QTabBar>(Catalogue::tr("Icons"), ShowIcons),
-            MakeState<QTabBar>(Catalogue::tr("One disabled"), [](QTabBar& bar) { bar.setTabEnabled(1, false); }),
-            MakeState<QTabBar>(Catalogue::tr("Scrolled"), ShowMany),
-            MakeState<QTabBar>(Catalogue::tr("Closable and movable"), MakeMovable),
-            MakeState<QTabBar>(Catalogue::tr("Vertical"), MakeVertical),
+            MakeState<QTabBar>(EntryText::tr("Text"), [](QTabBar&) {}),
+            MakeState<QTabBar>(EntryText::tr("Icons"), ShowIcons),
+            MakeState<QTabBar>(EntryText::tr("One disabled"), [](QTabBar& bar) { bar.setTabEnabled(1, false); }),
+            MakeState<QTabBar>(EntryText::tr("Scrolled"), ShowMany),
+            MakeState<QTabBar>(EntryText::tr("Closable and movable"), MakeMovable),
+            MakeState<QTabBar>(EntryText::tr("Vertical"), MakeVertical),
             DisabledState(),
         },
         nullptr,
@@ -117,16 +116,16 @@ Entry TabWidgetEntry()
 {
     return {
         "CustomTabWidget",
-        Catalogue::tr("Tabs"),
-        Catalogue::tr("A tab widget with that tab bar."),
+        EntryText::tr("Tabs"),
+        EntryText::tr("A tab widget with that tab bar."),
         "CustomTabWidget",
         "panel",
         CreateTabWidget,
         {
-            MakeState<QTabWidget>(Catalogue::tr("Text"), [](QTabWidget&) {}),
-            MakeState<QTabWidget>(Catalogue::tr("Icons"),
+            MakeState<QTabWidget>(EntryText::tr("Text"), [](QTabWidget&) {}),
+            MakeState<QTabWidget>(EntryText::tr("Icons"),
                                   [](QTabWidget& tabs) { ShowIcons(*tabs.findChild<QTabBar*>()); }),
-            MakeState<QTabWidget>(Catalogue::tr("At the side"),
+            MakeState<QTabWidget>(EntryText::tr("At the side"),
                                   [](QTabWidget& tabs) { tabs.setTabPosition(QTabWidget::West); }),
             DisabledState(),
         },
@@ -139,16 +138,16 @@ Entry StackEntry()
 {
     return {
         "ResizableStackedWidget",
-        Catalogue::tr("Tabs"),
-        Catalogue::tr("A stack of pages that is fixed to the size of the page it shows."),
+        EntryText::tr("Tabs"),
+        EntryText::tr("A stack of pages that is fixed to the size of the page it shows."),
         "ResizableStackedWidget",
         "layers",
         CreateStack,
         {
-            MakeState<QStackedWidget>(Catalogue::tr("Small page"), [](QStackedWidget&) {}),
-            MakeState<QStackedWidget>(Catalogue::tr("Wide page"),
+            MakeState<QStackedWidget>(EntryText::tr("Small page"), [](QStackedWidget&) {}),
+            MakeState<QStackedWidget>(EntryText::tr("Wide page"),
                                       [](QStackedWidget& stack) { stack.setCurrentIndex(1); }),
-            MakeState<QStackedWidget>(Catalogue::tr("High page"),
+            MakeState<QStackedWidget>(EntryText::tr("High page"),
                                       [](QStackedWidget& stack) { stack.setCurrentIndex(2); }),
             DisabledState(),
         },
@@ -163,4 +162,4 @@ QVector<Entry> TabEntries()
             InForms<ResizableStackedWidget>(StackEntry())};
 }
 
-} // namespace Zelkor::Gallery
+} // namespace Zelkor::Catalogue

@@ -1,5 +1,4 @@
-#include "Catalogue.h"
-
+#include <Catalogue/Catalogue.h>
 #include <UI/Kit/ZSliderThumb.h>
 #include <UI/Kit/ZTimeEdit.h>
 #include <UI/Kit/ZTimelineSlider.h>
@@ -7,7 +6,7 @@
 #include <QTime>
 #include <QVariant>
 
-namespace Zelkor::Gallery {
+namespace Zelkor::Catalogue {
 
 namespace {
 
@@ -22,8 +21,8 @@ QWidget* CreateTimeline(QWidget* parent)
 {
     auto* slider = new ZTimelineSlider(parent);
     slider->setOrientation(Qt::Horizontal);
-    slider->setAccessibleName(Catalogue::tr("Position"));
-    slider->defaultThumb()->setName(Catalogue::tr("Position"));
+    slider->setAccessibleName(EntryText::tr("Position"));
+    slider->defaultThumb()->setName(EntryText::tr("Position"));
     slider->setMinimumWidth(LENGTH);
     slider->setDisplayFormatList(FORMATS);
     slider->setEndTime(3 * MINUTE);
@@ -40,8 +39,8 @@ void ShowBounds(ZTimelineSlider& slider)
     slider.setBounds(40 * SECOND, 130 * SECOND);
     ZSliderThumb* left = slider.addThumb(QStringLiteral("left"));
     ZSliderThumb* right = slider.addThumb(QStringLiteral("right"));
-    left->setName(Catalogue::tr("Start", "thumb"));
-    right->setName(Catalogue::tr("End", "thumb"));
+    left->setName(EntryText::tr("Start", "thumb"));
+    right->setName(EntryText::tr("End", "thumb"));
     left->setValue(slider.valueOf(slider.leftBound()));
     right->setValue(slider.valueOf(slider.rightBound()));
     const auto follow = [&slider, left, right] {
@@ -64,17 +63,17 @@ Entry TimelineEntry()
     using Slider = ZTimelineSlider;
     return {
         "ZTimelineSlider",
-        Catalogue::tr("Kit"),
-        Catalogue::tr("A slider for a time within a span, which bounds can narrow; it tells the time under the mouse."),
+        EntryText::tr("Kit"),
+        EntryText::tr("A slider for a time within a span, which bounds can narrow; it tells the time under the mouse."),
         "ZTimelineSlider",
         "timeline",
         CreateTimeline,
         {
-            MakeState<Slider>(Catalogue::tr("One minute of three"), [](Slider&) {}),
-            MakeState<Slider>(Catalogue::tr("Narrowed by bounds"),
+            MakeState<Slider>(EntryText::tr("One minute of three"), [](Slider&) {}),
+            MakeState<Slider>(EntryText::tr("Narrowed by bounds"),
                               [](Slider& slider) { slider.setBounds(40 * SECOND, 130 * SECOND); }),
-            MakeState<Slider>(Catalogue::tr("Bounds with thumbs"), ShowBounds),
-            MakeState<Slider>(Catalogue::tr("At its bound"),
+            MakeState<Slider>(EntryText::tr("Bounds with thumbs"), ShowBounds),
+            MakeState<Slider>(EntryText::tr("At its bound"),
                               [](Slider& slider) {
                                   ShowBounds(slider);
                                   slider.setTime(0);
@@ -88,7 +87,7 @@ Entry TimelineEntry()
 QWidget* CreateTimeEdit(QWidget* parent)
 {
     auto* edit = new ZTimeEdit(parent);
-    edit->setAccessibleName(Catalogue::tr("Time"));
+    edit->setAccessibleName(EntryText::tr("Time"));
     edit->setDisplayFormat(FORMATS[1]);
     edit->setTime(QTime(0, 12, 34));
     edit->setFixedWidth(FIELD_WIDTH);
@@ -103,7 +102,7 @@ void ChooseFormat(ZTimeEdit& edit)
 QWidget* CreateNarrowTimeEdit(QWidget* parent)
 {
     auto* edit = new ZTimeEdit(parent);
-    edit->setAccessibleName(Catalogue::tr("Time"));
+    edit->setAccessibleName(EntryText::tr("Time"));
     edit->setDisplayFormatList(FORMATS);
     edit->setTime(QTime(0, 12, 34));
     edit->setStyleTag(QStringLiteral("shrinkWidth"));
@@ -114,32 +113,32 @@ Entry TimeEditEntry()
 {
     return {
         "ZTimeEdit",
-        Catalogue::tr("Kit"),
-        Catalogue::tr(
+        EntryText::tr("Kit"),
+        EntryText::tr(
             "A field for a time whose digits are overwritten in place, in the shortest format that is exact."),
         "ZTimeEdit",
         "time",
         CreateTimeEdit,
         {
-            MakeState<ZTimeEdit>(Catalogue::tr("One format"), [](ZTimeEdit&) {}),
-            MakeState<ZTimeEdit>(Catalogue::tr("The format that fits: minutes"), ChooseFormat),
-            MakeState<ZTimeEdit>(Catalogue::tr("The format that fits: milliseconds"),
+            MakeState<ZTimeEdit>(EntryText::tr("One format"), [](ZTimeEdit&) {}),
+            MakeState<ZTimeEdit>(EntryText::tr("The format that fits: minutes"), ChooseFormat),
+            MakeState<ZTimeEdit>(EntryText::tr("The format that fits: milliseconds"),
                                  [](ZTimeEdit& edit) {
                                      ChooseFormat(edit);
                                      edit.setMillisecondStep(40);
                                      edit.setTime(QTime(0, 12, 34, 560));
                                  }),
-            MakeState<ZTimeEdit>(Catalogue::tr("Always the longest format"),
+            MakeState<ZTimeEdit>(EntryText::tr("Always the longest format"),
                                  [](ZTimeEdit& edit) {
                                      edit.setProperty("forceMaxtimeFormat", true);
                                      ChooseFormat(edit);
                                  }),
-            MadeState(Catalogue::tr("As wide as its text"), CreateNarrowTimeEdit),
-            MakeState<ZTimeEdit>(Catalogue::tr("From 00:01:00 to 00:30:00"),
+            MadeState(EntryText::tr("As wide as its text"), CreateNarrowTimeEdit),
+            MakeState<ZTimeEdit>(EntryText::tr("From 00:01:00 to 00:30:00"),
                                  [](ZTimeEdit& edit) { edit.setTimeRange(QTime(0, 1), QTime(0, 30)); }),
-            MakeState<ZTimeEdit>(Catalogue::tr("Twelve hours"),
+            MakeState<ZTimeEdit>(EntryText::tr("Twelve hours"),
                                  [](ZTimeEdit& edit) { edit.setDisplayFormat(QStringLiteral("h:mm AP")); }),
-            MakeState<ZTimeEdit>(Catalogue::tr("Read-only"), [](ZTimeEdit& edit) { edit.setReadOnly(true); }),
+            MakeState<ZTimeEdit>(EntryText::tr("Read-only"), [](ZTimeEdit& edit) { edit.setReadOnly(true); }),
             DisabledState(),
         },
         MakeBare<ZTimeEdit>,
@@ -153,4 +152,4 @@ QVector<Entry> TimeEntries()
     return {TimelineEntry(), TimeEditEntry()};
 }
 
-} // namespace Zelkor::Gallery
+} // namespace Zelkor::Catalogue

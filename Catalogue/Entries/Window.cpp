@@ -1,7 +1,6 @@
-#include "Catalogue.h"
-#include "StyleSheet.h"
-#include "Texts.h"
-
+#include <Catalogue/Catalogue.h>
+#include <Examples/Support/WidgetTexts.h>
+#include <UI/Kit/ZStyleSheet.h>
 #include <UI/Widgets/CustomTitleBar.h>
 #include <UI/Widgets/StyledAboutBoxDialog.h>
 
@@ -16,7 +15,9 @@
 using Zelkor::Vx::UI::CustomTitleBar;
 using Zelkor::Vx::UI::StyledAboutBoxDialog;
 
-namespace Zelkor::Gallery {
+namespace Zelkor::Catalogue {
+
+using namespace Examples;
 
 namespace {
 
@@ -34,11 +35,11 @@ public:
     SampleWindow(Qt::WindowFlags buttons, QWidget* parent) : QFrame(parent, buttons)
     {
         setObjectName(QStringLiteral("sampleWindow"));
-        setWindowTitle(Catalogue::tr("Recorder"));
-        setWindowIcon(StyleIcon("app"));
+        setWindowTitle(EntryText::tr("Recorder"));
+        setWindowIcon(ZStyleSheet::icon("app"));
         auto* layout = new QVBoxLayout(this);
         layout->setContentsMargins(CONTENT_MARGIN, CONTENT_MARGIN, CONTENT_MARGIN, CONTENT_MARGIN);
-        auto* label = new QLabel(Catalogue::tr("Drag the window by its title bar or by this text."));
+        auto* label = new QLabel(EntryText::tr("Drag the window by its title bar or by this text."));
         label->setWordWrap(true);
         AlignAtStart(label);
         layout->addWidget(label);
@@ -88,7 +89,7 @@ QToolButton* MakeTool(const char* icon, const QString& name)
 {
     auto* button = new QToolButton;
     button->setAutoRaise(true);
-    button->setIcon(StyleIcon(icon));
+    button->setIcon(ZStyleSheet::icon(icon));
     button->setToolTip(name);
     button->setAccessibleName(name);
     return button;
@@ -96,8 +97,8 @@ QToolButton* MakeTool(const char* icon, const QString& name)
 
 void AddTools(SampleWindow& window)
 {
-    window.bar->AddWidget(MakeTool("hint", Catalogue::tr("Help")));
-    window.bar->AddWidget(MakeTool("settings", Catalogue::tr("Settings")));
+    window.bar->AddWidget(MakeTool("hint", EntryText::tr("Help")));
+    window.bar->AddWidget(MakeTool("settings", EntryText::tr("Settings")));
     window.bar->AddSeparator();
 }
 
@@ -105,23 +106,23 @@ Entry CustomTitleBarEntry()
 {
     return {
         "CustomTitleBar",
-        Catalogue::tr("Windows"),
-        Catalogue::tr("A title bar that the application draws itself, for a window without a frame."),
+        EntryText::tr("Windows"),
+        EntryText::tr("A title bar that the application draws itself, for a window without a frame."),
         "CustomTitleBar",
         "window",
         CreateDesktop,
         {
-            MadeState(Catalogue::tr("Typical"), CreateDesktop),
-            WindowState(Catalogue::tr("With tools"), AddTools),
-            MadeState(Catalogue::tr("Close only"),
+            MadeState(EntryText::tr("Typical"), CreateDesktop),
+            WindowState(EntryText::tr("With tools"), AddTools),
+            MadeState(EntryText::tr("Close only"),
                       [](QWidget* parent) { return new SampleDesktop(CLOSE_BUTTON, parent); }),
-            WindowState(Catalogue::tr("Long title"),
+            WindowState(EntryText::tr("Long title"),
                         [](SampleWindow& window) {
                             window.setWindowTitle(
-                                Catalogue::tr("Recording of the weekly meeting, second part - Recorder"));
+                                EntryText::tr("Recording of the weekly meeting, second part - Recorder"));
                         }),
-            WindowState(Catalogue::tr("No icon"), [](SampleWindow& window) { window.setWindowIcon(QIcon()); }),
-            WindowState(Catalogue::tr("Disabled"),
+            WindowState(EntryText::tr("No icon"), [](SampleWindow& window) { window.setWindowIcon(QIcon()); }),
+            WindowState(EntryText::tr("Disabled"),
                         [](SampleWindow& window) {
                             AddTools(window);
                             window.setEnabled(false);
@@ -136,7 +137,7 @@ class AboutLook : public StyledAboutBoxDialog
 {
 public:
     AboutLook(const QString& legal, QWidget* parent)
-        : StyledAboutBoxDialog(Catalogue::tr("Recorder"), "2.4.1", legal, parent)
+        : StyledAboutBoxDialog(EntryText::tr("Recorder"), "2.4.1", legal, parent)
     {
         setWindowFlags(Qt::Widget);
         setAccessibleName(windowTitle());
@@ -154,14 +155,14 @@ class AboutHost : public QWidget
 public:
     AboutHost(const QString& legal, QWidget* parent) : QWidget(parent), look(new AboutLook(legal, this))
     {
-        auto* button = new QPushButton(Catalogue::tr("Show the dialog"));
+        auto* button = new QPushButton(EntryText::tr("Show the dialog"));
         auto* layout = new QVBoxLayout(this);
         layout->setContentsMargins(0, 0, 0, 0);
         layout->setSpacing(DISTANCE);
         layout->addWidget(look, 0, Qt::AlignLeading);
         layout->addWidget(button, 0, Qt::AlignLeading);
         connect(button, &QPushButton::clicked, this,
-                [this, legal] { StyledAboutBoxDialog::ShowAbout(Catalogue::tr("Recorder"), "2.4.1", legal, this); });
+                [this, legal] { StyledAboutBoxDialog::ShowAbout(EntryText::tr("Recorder"), "2.4.1", legal, this); });
     }
 
     AboutLook* look;
@@ -169,26 +170,26 @@ public:
 
 QWidget* CreateAbout(QWidget* parent)
 {
-    return new AboutHost(Catalogue::tr("Copyright 2026 Example Company"), parent);
+    return new AboutHost(EntryText::tr("Copyright 2026 Example Company"), parent);
 }
 
 Entry StyledAboutBoxDialogEntry()
 {
     return {
         "StyledAboutBoxDialog",
-        Catalogue::tr("Windows"),
-        Catalogue::tr("The about dialog, whose links take their style from the style sheet."),
+        EntryText::tr("Windows"),
+        EntryText::tr("The about dialog, whose links take their style from the style sheet."),
         "StyledAboutBoxDialog",
         "information",
         CreateAbout,
         {
-            MadeState(Catalogue::tr("Typical"), CreateAbout),
-            MakeState<AboutHost>(Catalogue::tr("Link of its own"),
+            MadeState(EntryText::tr("Typical"), CreateAbout),
+            MakeState<AboutHost>(EntryText::tr("Link of its own"),
                                  [](AboutHost& host) { host.look->SetCustomUrl(QUrl("https://example.com/news")); }),
-            MadeState(Catalogue::tr("Long text"),
+            MadeState(EntryText::tr("Long text"),
                       [](QWidget* parent) {
                           return new AboutHost(
-                              Catalogue::tr("Copyright 2026 Example Company. All rights reserved. Protected "
+                              EntryText::tr("Copyright 2026 Example Company. All rights reserved. Protected "
                                             "by law; made with the help of many."),
                               parent);
                       }),
@@ -207,4 +208,4 @@ QVector<Entry> WindowEntries()
             NotInForms(StyledAboutBoxDialogEntry(), "it is a dialog, whole as it is")};
 }
 
-} // namespace Zelkor::Gallery
+} // namespace Zelkor::Catalogue

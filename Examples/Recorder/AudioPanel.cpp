@@ -12,7 +12,7 @@
 using Zelkor::StandIn::AudioLevelSource;
 using Zelkor::Vx::VolumeSlider;
 
-namespace Zelkor::Gallery {
+namespace Zelkor::Recorder {
 
 namespace {
 
@@ -108,4 +108,4 @@ void AudioPanel::changeEvent(QEvent* event)
         Retranslate();
 }
 
-} // namespace Zelkor::Gallery
+} // namespace Zelkor::Recorder

@@ -15,7 +15,7 @@ class VolumeSlider;
 }
 } // namespace Zelkor
 
-namespace Zelkor::Gallery {
+namespace Zelkor::Recorder {
 
 /// How loud the microphone and the sound of the system are recorded, each with its level now.
 ///
@@ -50,4 +50,4 @@ private:
     Channel system;
 };
 
-} // namespace Zelkor::Gallery
+} // namespace Zelkor::Recorder

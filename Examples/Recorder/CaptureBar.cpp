@@ -1,8 +1,8 @@
 #include "CaptureBar.h"
 #include "RecorderModel.h"
-#include "StyleSheet.h"
-#include "Texts.h"
 
+#include <Examples/Support/WidgetTexts.h>
+#include <UI/Kit/ZStyleSheet.h>
 #include <UI/Widgets/ButtonWithPopUpList.h>
 #include <UI/Widgets/ClickSoundComboBox.h>
 #include <UI/Widgets/ColorButton.h>
@@ -18,7 +18,9 @@ using Zelkor::Vx::ColorButton;
 using Zelkor::Vx::UI::ClickSoundComboBox;
 using Zelkor::Vx::UI::FastPresetButton;
 
-namespace Zelkor::Gallery {
+namespace Zelkor::Recorder {
+
+using namespace Examples;
 
 namespace {
 
@@ -128,7 +130,7 @@ void CaptureBar::AddChoices()
     modes->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     color = new ColorButton;
     color->setObjectName("drawingColor");
-    color->setIcon(StyleIcon("palette"));
+    color->setIcon(ZStyleSheet::icon("palette"));
     color->SetAlphaEnabled(true);
     color->SetMaximumAlpha(RecorderModel::MAXIMUM_DRAWING_ALPHA);
     sound = new ClickSoundComboBox;
@@ -172,7 +174,7 @@ void CaptureBar::Refresh()
     const int index = modes->ItemIndex(int(mode));
     if (modes->CurrentIndex() != index)
         modes->SetCurrentIndex(index);
-    modes->setIcon(StyleIcon(MODES[index].icon));
+    modes->setIcon(ZStyleSheet::icon(MODES[index].icon));
     SetTextBesideIcon(modes, NameOf(mode));
     color->SetColor(model->CurrentDrawingColor());
     sound->setCurrentIndex(sound->findData(int(model->CurrentClickSound())));
@@ -191,7 +193,7 @@ void CaptureBar::Retranslate()
         int width = 0;
         for (const ModeLook& look : MODES) {
             modes->AppendItem(NameOf(look.mode), int(look.mode));
-            modes->setIcon(StyleIcon(look.icon));
+            modes->setIcon(ZStyleSheet::icon(look.icon));
             SetTextBesideIcon(modes, NameOf(look.mode));
             width = qMax(width, modes->sizeHint().width());
         }
@@ -247,4 +249,4 @@ bool CaptureBar::event(QEvent* event)
     return QWidget::event(event);
 }
 
-} // namespace Zelkor::Gallery
+} // namespace Zelkor::Recorder

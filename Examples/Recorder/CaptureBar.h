@@ -15,7 +15,7 @@ class FastPresetButton;
 } // namespace UI
 } // namespace Zelkor::Vx
 
-namespace Zelkor::Gallery {
+namespace Zelkor::Recorder {
 
 class RecorderModel;
 
@@ -55,4 +55,4 @@ private:
     Vx::UI::ClickSoundComboBox* sound;
 };
 
-} // namespace Zelkor::Gallery
+} // namespace Zelkor::Recorder

@@ -1,6 +1,6 @@
 #include "FirstHint.h"
-#include "Artwork.h"
 
+#include <Examples/Support/Artwork.h>
 #include <UI/Widgets/MaskedToolTip.h>
 
 #include <QAbstractButton>
@@ -9,7 +9,9 @@
 
 using Zelkor::Vx::UI::MaskedToolTip;
 
-namespace Zelkor::Gallery {
+namespace Zelkor::Recorder {
+
+using namespace Examples;
 
 namespace {
 
@@ -42,4 +44,4 @@ void ShowSourceHint(QAbstractButton* button)
     hint->Show(button->mapToGlobal(QPoint(x, -BUBBLE_SIZE.height() - DISTANCE)));
 }
 
-} // namespace Zelkor::Gallery
+} // namespace Zelkor::Recorder

@@ -2,21 +2,18 @@
 
 #include <QScrollArea>
 
-namespace Zelkor::Gallery {
+namespace Zelkor::Recorder {
 
-/// Gives its content the whole room, and scroll bars where that is less than the content needs.
-class Scrolled : public QScrollArea
+/// Resizes its content to the viewport and shows scroll bars below the minimum size of the content.
+class FittingScrollArea : public QScrollArea
 {
     Q_OBJECT
 
 public:
-    explicit Scrolled(QWidget* content, QWidget* parent = nullptr);
+    explicit FittingScrollArea(QWidget* content, QWidget* parent = nullptr);
 
-    /// That of the content, where Qt's own scroll areas are content with some lines of text.
+    /// Returns that of the content, while QScrollArea bounds its hint.
     QSize sizeHint() const override;
 };
 
-/// Has a window be no larger than its screen, with its frame.
-void FitScreen(QWidget* window);
-
-} // namespace Zelkor::Gallery
+} // namespace Zelkor::Recorder

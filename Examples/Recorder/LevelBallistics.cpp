@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-namespace Zelkor::Gallery {
+namespace Zelkor::Recorder {
 
 void LevelBallistics::TakePeak(double peak, Time time)
 {
@@ -23,4 +23,4 @@ double LevelBallistics::DecibelsAt(Time time) const
     return std::max(decibels - RELEASE_DB_PER_SECOND * seconds, FLOOR_DB);
 }
 
-} // namespace Zelkor::Gallery
+} // namespace Zelkor::Recorder

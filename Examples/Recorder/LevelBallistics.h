@@ -2,7 +2,7 @@
 
 #include <chrono>
 
-namespace Zelkor::Gallery {
+namespace Zelkor::Recorder {
 
 /// Makes a steady meter level of measured peaks: it rises at once and falls slowly, so that an eye can follow.
 ///
@@ -29,4 +29,4 @@ private:
     Time since{};
 };
 
-} // namespace Zelkor::Gallery
+} // namespace Zelkor::Recorder

@@ -1,44 +1,16 @@
 #pragma once
 
 #include <QColor>
-#include <QObject>
-#include <QString>
 
-namespace Zelkor::Gallery {
+namespace Zelkor::Recorder {
 
-/// What the person has set in the settings dialog. Knows no widget. GUI thread.
-class Preferences : public QObject
+/// What the settings dialog sets.
+struct Preferences
 {
-    Q_OBJECT
-
-public:
-    using QObject::QObject;
-
-    /// The code of a language, see `AllLanguages`.
-    QString Language() const { return language; }
-    void SetLanguage(const QString& code);
-
-    /// "dark", "light", or empty for a sheet that the command line brought.
-    QString StyleName() const { return styleName; }
-    void SetStyleName(const QString& name);
-
-    /// Seconds from the click on the record button to the recording.
-    int countdownSeconds = 3;
-
-    /// Index of the quality, from the smallest file on.
-    int quality = 2;
-
-    /// The disc around the pointer; the diameter is in pixels.
+    int countdownSeconds = 3; ///< from the click on the record button to the recording
+    int quality = 2;          ///< index, from the smallest file up
     QColor highlightColor{255, 214, 0, 200};
-    int highlightDiameter = 56;
-
-Q_SIGNALS:
-    void LanguageChanged(const QString& code);
-    void StyleNameChanged(const QString& name);
-
-private:
-    QString language = QStringLiteral("en");
-    QString styleName;
+    int highlightDiameter = 56; ///< of the disc around the pointer, in pixels
 };
 
-} // namespace Zelkor::Gallery
+} // namespace Zelkor::Recorder

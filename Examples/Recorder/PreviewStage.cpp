@@ -1,6 +1,6 @@
 #include "PreviewStage.h"
-#include "Artwork.h"
 
+#include <Examples/Support/Artwork.h>
 #include <UI/Widgets/VideoPreviewWidget.h>
 #include <UI/Widgets/ZGraphicsShadowEffect.h>
 
@@ -8,7 +8,9 @@
 
 using Zelkor::Vx::UI::VideoPreviewWidget;
 
-namespace Zelkor::Gallery {
+namespace Zelkor::Recorder {
+
+using namespace Examples;
 
 namespace {
 
@@ -86,4 +88,4 @@ void PreviewStage::RefreshDefaultImage()
         preview->SetDefaultImage(NoPictureImage(preview->size(), palette().color(QPalette::Text), idleText));
 }
 
-} // namespace Zelkor::Gallery
+} // namespace Zelkor::Recorder

@@ -6,7 +6,7 @@ namespace Zelkor::Vx::UI {
 class VideoPreviewWidget;
 }
 
-namespace Zelkor::Gallery {
+namespace Zelkor::Recorder {
 
 /// The place of a preview: keeps it as large as the place allows, in the shape of a screen, in the middle.
 ///
@@ -45,4 +45,4 @@ private:
     bool live = false;
 };
 
-} // namespace Zelkor::Gallery
+} // namespace Zelkor::Recorder

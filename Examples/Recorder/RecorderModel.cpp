@@ -5,7 +5,7 @@
 
 #include <algorithm>
 
-namespace Zelkor::Gallery {
+namespace Zelkor::Recorder {
 
 namespace {
 
@@ -299,4 +299,4 @@ QString FrameRateText(double rate)
     return QLocale().toString(rate, 'g', 4);
 }
 
-} // namespace Zelkor::Gallery
+} // namespace Zelkor::Recorder

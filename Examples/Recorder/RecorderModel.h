@@ -7,7 +7,7 @@
 #include <QStringList>
 #include <QVector>
 
-namespace Zelkor::Gallery {
+namespace Zelkor::Recorder {
 
 /// What the recorder shows: which devices, modes and rates there are, which are chosen, and whether the picture runs.
 ///
@@ -120,4 +120,4 @@ private:
 /// A rate for people, without a unit: "30" or "29.97".
 QString FrameRateText(double rate);
 
-} // namespace Zelkor::Gallery
+} // namespace Zelkor::Recorder

@@ -8,11 +8,11 @@
 #include "Recording.h"
 #include "Snapshot.h"
 #include "SourcePanel.h"
-#include "StyleSheet.h"
-#include "Texts.h"
 #include "ToolStrip.h"
 
+#include <Examples/Support/WidgetTexts.h>
 #include <UI/Kit/ZLabel.h>
+#include <UI/Kit/ZStyleSheet.h>
 #include <UI/Widgets/ButtonWithPopUpContainer.h>
 #include <UI/Widgets/CountdownIndicatorWidget.h>
 #include <UI/Widgets/VideoPreviewWidget.h>
@@ -31,7 +31,9 @@ using Zelkor::Vx::CountdownIndicatorWidget;
 using Zelkor::Vx::WebCameraPreviewStream;
 using Zelkor::Vx::UI::ButtonWithPopUpContainer;
 
-namespace Zelkor::Gallery {
+namespace Zelkor::Recorder {
+
+using namespace Examples;
 
 namespace {
 
@@ -104,7 +106,7 @@ QWidget* RecorderView::CreateToolBar()
     audioButton = CreatePanelButton("microphone", new AudioPanel);
     settingsButton = new QToolButton;
     settingsButton->setFocusPolicy(Qt::StrongFocus);
-    settingsButton->setIcon(StyleIcon("settings"));
+    settingsButton->setIcon(ZStyleSheet::icon("settings"));
     settingsButton->hide();
     runButton = new QToolButton;
     runButton->setObjectName("runButton");
@@ -129,7 +131,7 @@ ButtonWithPopUpContainer* RecorderView::CreatePanelButton(const QString& icon, Q
     auto* button = new ButtonWithPopUpContainer;
     button->setFocusPolicy(Qt::StrongFocus);
     button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    button->setIcon(StyleIcon(icon));
+    button->setIcon(ZStyleSheet::icon(icon));
     // The bar is at the lower end of the window, and often of the screen.
     const bool mirrored = layoutDirection() == Qt::RightToLeft;
     button->SetPreferredPopupAnchor(mirrored ? ButtonWithPopUpContainer::ANCHOR_TOP_RIGHT
@@ -209,7 +211,7 @@ void RecorderView::ShowRecording()
     countdown->SetSeconds(state == Recording::State::CountingDown ? qulonglong(recording->Seconds()) : 0);
     countdown->setVisible(state == Recording::State::CountingDown);
     SetTextBesideIcon(recordButton, idle ? tr("Record") : tr("End"));
-    recordButton->setIcon(StyleIcon(idle ? "record" : "stop"));
+    recordButton->setIcon(ZStyleSheet::icon(idle ? "record" : "stop"));
     recordButton->setToolTip(idle ? tr("Starts to record after a countdown") : tr("Ends the recording"));
     recordButton->setEnabled(model->GetStatus() == RecorderModel::Status::Running);
     const char* dot = "";
@@ -235,7 +237,7 @@ void RecorderView::ShowStatus()
     ShowRecording();
 
     SetTextBesideIcon(runButton, runs ? tr("Stop") : tr("Start"));
-    runButton->setIcon(runs ? StyleIcon("stop") : StyleIconOnAccent("play"));
+    runButton->setIcon(runs ? ZStyleSheet::icon("stop") : ZStyleSheet::iconOnAccent("play"));
     Util::ApplyWidgetStyle(runButton, runs ? QStringLiteral("running") : QStringLiteral("stopped"), "state");
 
     errorText->setText(ErrorText());
@@ -335,4 +337,4 @@ void RecorderView::changeEvent(QEvent* event)
         Retranslate();
 }
 
-} // namespace Zelkor::Gallery
+} // namespace Zelkor::Recorder

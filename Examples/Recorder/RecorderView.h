@@ -15,10 +15,10 @@ class ButtonWithPopUpContainer;
 }
 } // namespace Zelkor::Vx
 
-namespace Zelkor::Gallery {
+namespace Zelkor::Recorder {
 
 class CaptureBar;
-class Preferences;
+struct Preferences;
 class PreviewStage;
 class RecorderModel;
 class Recording;
@@ -39,7 +39,7 @@ public:
     /// proxy of a widget that it comes to, and would pass everything before it.
     void FocusRecordButton();
 
-    /// Tells somebody who is here for the first time where to begin. The view has to be visible.
+    /// Shows new users where to begin. The view must be visible.
     void ShowFirstHint();
 
 protected:
@@ -82,4 +82,4 @@ private:
     QToolButton* recordButton;
 };
 
-} // namespace Zelkor::Gallery
+} // namespace Zelkor::Recorder

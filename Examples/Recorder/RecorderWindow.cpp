@@ -1,10 +1,10 @@
 #include "RecorderWindow.h"
+#include "FittingScrollArea.h"
 #include "RecorderView.h"
-#include "Scrolled.h"
 #include "SettingsDialog.h"
-#include "StyleSheet.h"
-#include "Texts.h"
 
+#include <Examples/Support/WidgetTexts.h>
+#include <UI/Kit/ZStyleSheet.h>
 #include <UI/Widgets/CustomTitleBar.h>
 #include <UI/Widgets/StyledAboutBoxDialog.h>
 
@@ -16,28 +16,28 @@
 using Zelkor::Vx::UI::CustomTitleBar;
 using Zelkor::Vx::UI::StyledAboutBoxDialog;
 
-namespace Zelkor::Gallery {
+namespace Zelkor::Recorder {
 
-RecorderWindow::RecorderWindow(RecorderModel* model, Preferences* preferences)
+RecorderWindow::RecorderWindow(RecorderModel* model, Preferences* preferences, Examples::Appearance* appearance)
     : QWidget(nullptr,
               Qt::Window | Qt::WindowSystemMenuHint | Qt::WindowMinimizeButtonHint | Qt::WindowCloseButtonHint),
-      preferences(preferences), view(new RecorderView(model, preferences))
+      preferences(preferences), appearance(appearance), view(new RecorderView(model, preferences))
 {
     setObjectName("recorderWindow");
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(new Scrolled(view));
+    layout->addWidget(new FittingScrollArea(view));
     auto* titleBar = new CustomTitleBar(this);
-    widgetsButton = new QToolButton;
+    trimButton = new QToolButton;
     styleButton = new QToolButton;
     settingsButton = new QToolButton;
     aboutButton = new QToolButton;
     const std::pair<QToolButton*, const char*> buttons[] = {
-        {widgetsButton, "grid"}, {styleButton, "style"}, {settingsButton, "settings"}, {aboutButton, "information"}};
+        {trimButton, "trim"}, {styleButton, "style"}, {settingsButton, "settings"}, {aboutButton, "information"}};
     for (const auto& [button, icon] : buttons) {
         button->setFocusPolicy(Qt::StrongFocus);
         button->setAutoRaise(true);
-        button->setIcon(StyleIcon(icon));
+        button->setIcon(ZStyleSheet::icon(icon));
         titleBar->AddWidget(button);
     }
     titleBar->AddSeparator();
@@ -46,7 +46,7 @@ RecorderWindow::RecorderWindow(RecorderModel* model, Preferences* preferences)
     addActions(view->actions());
     view->FocusRecordButton();
 
-    connect(widgetsButton, &QToolButton::clicked, this, &RecorderWindow::WidgetsRequested);
+    connect(trimButton, &QToolButton::clicked, this, &RecorderWindow::TrimmerRequested);
     connect(styleButton, &QToolButton::clicked, this, &RecorderWindow::StyleEditorRequested);
     connect(settingsButton, &QToolButton::clicked, this, &RecorderWindow::ShowSettings);
     connect(aboutButton, &QToolButton::clicked, this, &RecorderWindow::ShowAbout);
@@ -61,7 +61,7 @@ void RecorderWindow::ShowFirstHint()
 void RecorderWindow::ShowSettings()
 {
     if (!settings) {
-        settings = new SettingsDialog(preferences, this);
+        settings = new SettingsDialog(preferences, appearance, this);
         settings->setAttribute(Qt::WA_DeleteOnClose);
     }
     settings->show();
@@ -82,7 +82,7 @@ void RecorderWindow::Retranslate()
         button->setAccessibleName(text);
         button->setToolTip(text);
     };
-    name(widgetsButton, tr("All widgets"));
+    name(trimButton, tr("Trim a recording"));
     name(styleButton, tr("Edit the style sheet (F12)"));
     name(settingsButton, tr("Settings"));
     name(aboutButton, tr("About"));
@@ -104,4 +104,4 @@ void RecorderWindow::changeEvent(QEvent* event)
         Retranslate();
 }
 
-} // namespace Zelkor::Gallery
+} // namespace Zelkor::Recorder

@@ -6,31 +6,33 @@
 class QSizeGrip;
 class QToolButton;
 
-namespace Zelkor::Gallery {
+namespace Zelkor::Examples {
+class Appearance;
+}
 
-class Preferences;
+namespace Zelkor::Recorder {
+
+struct Preferences;
 class RecorderModel;
 class RecorderView;
 class SettingsDialog;
 
-/// The recorder as a program of its own: a frameless window whose title bar leads to everything else.
+/// The recorder's frameless main window, whose title bar opens trimmer, style sheet editor, settings and about box.
 ///
-/// Model and preferences have to outlive the window.
+/// Model, preferences and appearance must outlive the window.
 class RecorderWindow : public QWidget
 {
     Q_OBJECT
 
 public:
-    RecorderWindow(RecorderModel* model, Preferences* preferences);
+    RecorderWindow(RecorderModel* model, Preferences* preferences, Examples::Appearance* appearance);
 
-    /// Tells somebody who is here for the first time where to begin. The window has to be visible.
+    /// Shows new users where to begin. The window must be visible.
     void ShowFirstHint();
 
 Q_SIGNALS:
-    /// The person wants to see the widgets.
-    void WidgetsRequested();
-
-    /// The person wants to edit the style sheet.
+    /// A button of the title bar was clicked.
+    void TrimmerRequested();
     void StyleEditorRequested();
 
 protected:
@@ -43,8 +45,9 @@ private:
     void Retranslate();
 
     Preferences* preferences;
+    Examples::Appearance* appearance;
     RecorderView* view;
-    QToolButton* widgetsButton;
+    QToolButton* trimButton;
     QToolButton* styleButton;
     QToolButton* settingsButton;
     QToolButton* aboutButton;
@@ -52,4 +55,4 @@ private:
     QPointer<SettingsDialog> settings;
 };
 
-} // namespace Zelkor::Gallery
+} // namespace Zelkor::Recorder

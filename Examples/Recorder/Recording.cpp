@@ -1,6 +1,6 @@
 #include "Recording.h"
 
-namespace Zelkor::Gallery {
+namespace Zelkor::Recorder {
 
 Recording::Recording(QObject* parent, std::chrono::milliseconds second) : QObject(parent)
 {
@@ -42,4 +42,4 @@ void Recording::Set(State newState, int newSeconds)
     Q_EMIT Changed();
 }
 
-} // namespace Zelkor::Gallery
+} // namespace Zelkor::Recorder

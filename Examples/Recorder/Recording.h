@@ -5,7 +5,7 @@
 
 #include <chrono>
 
-namespace Zelkor::Gallery {
+namespace Zelkor::Recorder {
 
 /// A recording as the recorder shows it: a countdown first, then the time that has gone by. Nothing is written.
 ///
@@ -44,4 +44,4 @@ private:
     int seconds = 0;
 };
 
-} // namespace Zelkor::Gallery
+} // namespace Zelkor::Recorder

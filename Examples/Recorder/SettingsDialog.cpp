@@ -1,8 +1,8 @@
 #include "SettingsDialog.h"
-#include "Languages.h"
 #include "Preferences.h"
-#include "Texts.h"
 
+#include <Examples/Support/Appearance.h>
+#include <Examples/Support/WidgetTexts.h>
 #include <UI/Widgets/ColorButton.h>
 #include <UI/Widgets/CursorHighlightPreviewWidget.h>
 #include <UI/Widgets/CustomTitleBar.h>
@@ -26,7 +26,9 @@ using Zelkor::Vx::SliderWithTickLabels;
 using Zelkor::Vx::UI::CursorHighlightPreviewWidget;
 using Zelkor::Vx::UI::CustomTitleBar;
 
-namespace Zelkor::Gallery {
+namespace Zelkor::Recorder {
+
+using namespace Examples;
 
 namespace {
 
@@ -77,9 +79,9 @@ void Name(QLabel* label, QWidget* field, const QString& text)
 
 } // namespace
 
-SettingsDialog::SettingsDialog(Preferences* preferences, QWidget* parent)
+SettingsDialog::SettingsDialog(Preferences* preferences, Appearance* appearance, QWidget* parent)
     : QDialog(parent, Qt::Dialog | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint), preferences(preferences),
-      tabs(new HorizontalTabBar(nullptr)), pages(new ResizableStackedWidget(nullptr))
+      appearance(appearance), tabs(new HorizontalTabBar(nullptr)), pages(new ResizableStackedWidget(nullptr))
 {
     setObjectName("settingsDialog");
     auto* layout = new QVBoxLayout(this);
@@ -112,7 +114,7 @@ QWidget* SettingsDialog::CreateGeneralPage()
     language->setObjectName("languageCombo");
     for (const Language& item : AllLanguages())
         language->addItem(item.name, item.code);
-    language->setCurrentIndex(language->findData(preferences->Language()));
+    language->setCurrentIndex(language->findData(appearance->Language()));
     styleLabel = MakeFieldLabel();
     style = MakeCombo();
     style->setObjectName("styleCombo");
@@ -125,8 +127,8 @@ QWidget* SettingsDialog::CreateGeneralPage()
     layout->addWidget(style);
 
     const auto chosen = QOverload<int>::of(&QComboBox::activated);
-    connect(language, chosen, this, [this] { preferences->SetLanguage(language->currentData().toString()); });
-    connect(style, chosen, this, [this] { preferences->SetStyleName(style->currentData().toString()); });
+    connect(language, chosen, this, [this] { appearance->SetLanguage(language->currentData().toString()); });
+    connect(style, chosen, this, [this] { appearance->SetStyle(style->currentData().toString()); });
     return page;
 }
 
@@ -224,11 +226,11 @@ void SettingsDialog::Retranslate()
     Name(languageLabel, language, tr("Language"));
     Name(styleLabel, style, tr("Appearance"));
     style->clear();
-    if (preferences->StyleName().isEmpty())
+    if (appearance->StyleName().isEmpty())
         style->addItem(tr("As given"), QString());
     style->addItem(tr("Dark"), QStringLiteral("dark"));
     style->addItem(tr("Light"), QStringLiteral("light"));
-    style->setCurrentIndex(style->findData(preferences->StyleName()));
+    style->setCurrentIndex(style->findData(appearance->StyleName()));
 
     Name(countdownLabel, countdown, tr("Countdown"));
     QStringList times;
@@ -252,4 +254,4 @@ void SettingsDialog::MeasureCurrentPage()
     pages->setCurrentIndex(index);
 }
 
-} // namespace Zelkor::Gallery
+} // namespace Zelkor::Recorder

@@ -16,19 +16,23 @@ class CursorHighlightPreviewWidget;
 }
 } // namespace Zelkor::Vx
 
-namespace Zelkor::Gallery {
+namespace Zelkor::Examples {
+class Appearance;
+}
 
-class Preferences;
+namespace Zelkor::Recorder {
 
-/// The settings, a page for each subject; the dialog is as large as its page. What is changed counts at once.
+struct Preferences;
+
+/// The settings dialog, with one page for each subject. It fits its current page; changes take effect at once.
 ///
-/// The preferences have to outlive the dialog.
+/// Preferences and appearance must outlive the dialog.
 class SettingsDialog : public QDialog
 {
     Q_OBJECT
 
 public:
-    explicit SettingsDialog(Preferences* preferences, QWidget* parent = nullptr);
+    SettingsDialog(Preferences* preferences, Examples::Appearance* appearance, QWidget* parent = nullptr);
 
 protected:
     void changeEvent(QEvent* event) override;
@@ -43,6 +47,7 @@ private:
     void MeasureCurrentPage();
 
     Preferences* preferences;
+    Examples::Appearance* appearance;
     Vx::HorizontalTabBar* tabs;
     ResizableStackedWidget* pages;
     QLabel* languageLabel;
@@ -61,4 +66,4 @@ private:
     QSlider* highlightSize;
 };
 
-} // namespace Zelkor::Gallery
+} // namespace Zelkor::Recorder

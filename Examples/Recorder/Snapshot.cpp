@@ -6,7 +6,7 @@
 
 using Zelkor::Vx::PixmapWidget;
 
-namespace Zelkor::Gallery {
+namespace Zelkor::Recorder {
 
 namespace {
 
@@ -68,4 +68,4 @@ void Snapshot::hideEvent(QHideEvent* event)
     thumbnail->SetPixmap(QPixmap());
 }
 
-} // namespace Zelkor::Gallery
+} // namespace Zelkor::Recorder

@@ -7,7 +7,7 @@ namespace Zelkor::Vx {
 class PixmapWidget;
 }
 
-namespace Zelkor::Gallery {
+namespace Zelkor::Recorder {
 
 /// A round thumbnail of what another widget shows, taken anew a few times a second while it is visible.
 ///
@@ -35,4 +35,4 @@ private:
     QTimer timer;
 };
 
-} // namespace Zelkor::Gallery
+} // namespace Zelkor::Recorder

@@ -1,16 +1,18 @@
 #include "SourcePanel.h"
 #include "RecorderModel.h"
-#include "StyleSheet.h"
-#include "Texts.h"
 
+#include <Examples/Support/WidgetTexts.h>
 #include <UI/Common/TextMarks.h>
+#include <UI/Kit/ZStyleSheet.h>
 
 #include <QComboBox>
 #include <QEvent>
 #include <QLabel>
 #include <QVBoxLayout>
 
-namespace Zelkor::Gallery {
+namespace Zelkor::Recorder {
+
+using namespace Examples;
 
 namespace {
 
@@ -80,7 +82,7 @@ void SourcePanel::Refresh()
     device.combo->clear();
     for (const RecorderModel::DeviceItem& item : model->Devices()) {
         const QString name = item.isPresent ? item.name : tr("%1 (not connected)").arg(item.name);
-        device.combo->addItem(StyleIcon(IconOf(item.kind)), name, item.id);
+        device.combo->addItem(ZStyleSheet::icon(IconOf(item.kind)), name, item.id);
     }
     Select(device.combo, model->CurrentDeviceId());
 
@@ -115,4 +117,4 @@ void SourcePanel::changeEvent(QEvent* event)
         Retranslate();
 }
 
-} // namespace Zelkor::Gallery
+} // namespace Zelkor::Recorder

@@ -5,7 +5,7 @@
 class QComboBox;
 class QLabel;
 
-namespace Zelkor::Gallery {
+namespace Zelkor::Recorder {
 
 class RecorderModel;
 
@@ -37,4 +37,4 @@ private:
     Field frameRate;
 };
 
-} // namespace Zelkor::Gallery
+} // namespace Zelkor::Recorder

@@ -1,6 +1,6 @@
 #include "ToolStrip.h"
-#include "StyleSheet.h"
 
+#include <UI/Kit/ZStyleSheet.h>
 #include <UI/Widgets/ScrollablePanelWithItem.h>
 
 #include <QButtonGroup>
@@ -8,7 +8,7 @@
 #include <QHBoxLayout>
 #include <QToolButton>
 
-namespace Zelkor::Gallery {
+namespace Zelkor::Recorder {
 
 namespace {
 
@@ -19,19 +19,19 @@ struct Tool
 };
 
 constexpr Tool TOOLS[] = {
-    {"pointer", QT_TRANSLATE_NOOP("Zelkor::Gallery::ToolStrip", "Pointer")},
-    {"pen", QT_TRANSLATE_NOOP("Zelkor::Gallery::ToolStrip", "Pen")},
-    {"marker", QT_TRANSLATE_NOOP("Zelkor::Gallery::ToolStrip", "Marker")},
-    {"line", QT_TRANSLATE_NOOP("Zelkor::Gallery::ToolStrip", "Line")},
-    {"arrow", QT_TRANSLATE_NOOP("Zelkor::Gallery::ToolStrip", "Arrow")},
-    {"rectangle", QT_TRANSLATE_NOOP("Zelkor::Gallery::ToolStrip", "Rectangle")},
-    {"ellipse", QT_TRANSLATE_NOOP("Zelkor::Gallery::ToolStrip", "Ellipse")},
-    {"text", QT_TRANSLATE_NOOP("Zelkor::Gallery::ToolStrip", "Text")},
-    {"number", QT_TRANSLATE_NOOP("Zelkor::Gallery::ToolStrip", "Numbered step")},
-    {"spotlight", QT_TRANSLATE_NOOP("Zelkor::Gallery::ToolStrip", "Spotlight")},
-    {"blur", QT_TRANSLATE_NOOP("Zelkor::Gallery::ToolStrip", "Blur")},
-    {"zoom", QT_TRANSLATE_NOOP("Zelkor::Gallery::ToolStrip", "Magnifier")},
-    {"eraser", QT_TRANSLATE_NOOP("Zelkor::Gallery::ToolStrip", "Eraser")},
+    {"pointer", QT_TRANSLATE_NOOP("Zelkor::Recorder::ToolStrip", "Pointer")},
+    {"pen", QT_TRANSLATE_NOOP("Zelkor::Recorder::ToolStrip", "Pen")},
+    {"marker", QT_TRANSLATE_NOOP("Zelkor::Recorder::ToolStrip", "Marker")},
+    {"line", QT_TRANSLATE_NOOP("Zelkor::Recorder::ToolStrip", "Line")},
+    {"arrow", QT_TRANSLATE_NOOP("Zelkor::Recorder::ToolStrip", "Arrow")},
+    {"rectangle", QT_TRANSLATE_NOOP("Zelkor::Recorder::ToolStrip", "Rectangle")},
+    {"ellipse", QT_TRANSLATE_NOOP("Zelkor::Recorder::ToolStrip", "Ellipse")},
+    {"text", QT_TRANSLATE_NOOP("Zelkor::Recorder::ToolStrip", "Text")},
+    {"number", QT_TRANSLATE_NOOP("Zelkor::Recorder::ToolStrip", "Numbered step")},
+    {"spotlight", QT_TRANSLATE_NOOP("Zelkor::Recorder::ToolStrip", "Spotlight")},
+    {"blur", QT_TRANSLATE_NOOP("Zelkor::Recorder::ToolStrip", "Blur")},
+    {"zoom", QT_TRANSLATE_NOOP("Zelkor::Recorder::ToolStrip", "Magnifier")},
+    {"eraser", QT_TRANSLATE_NOOP("Zelkor::Recorder::ToolStrip", "Eraser")},
 };
 
 constexpr int SPACING = 4;
@@ -50,7 +50,7 @@ ToolStrip::ToolStrip(QWidget* parent) : QWidget(parent), panel(new Vx::UI::Scrol
         button->setFocusPolicy(Qt::StrongFocus);
         button->setCheckable(true);
         button->setAutoRaise(true);
-        button->setIcon(StyleIcon(tool.icon));
+        button->setIcon(ZStyleSheet::icon(tool.icon));
         group->addButton(button);
         tools.append(button);
         panel->Append(button);
@@ -74,4 +74,4 @@ void ToolStrip::changeEvent(QEvent* event)
         Retranslate();
 }
 
-} // namespace Zelkor::Gallery
+} // namespace Zelkor::Recorder

@@ -8,7 +8,7 @@ namespace Zelkor::Vx::UI {
 class ScrollablePanelWithItem;
 }
 
-namespace Zelkor::Gallery {
+namespace Zelkor::Recorder {
 
 /// The tools for drawing on the picture, one of them chosen. Scrolls where there is no room for all.
 class ToolStrip : public QWidget
@@ -28,4 +28,4 @@ private:
     QVector<QToolButton*> tools;
 };
 
-} // namespace Zelkor::Gallery
+} // namespace Zelkor::Recorder

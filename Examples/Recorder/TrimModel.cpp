@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-namespace Zelkor::Gallery {
+namespace Zelkor::Recorder {
 
 namespace {
 
@@ -134,4 +134,4 @@ void TrimModel::Redo()
     Q_EMIT Changed();
 }
 
-} // namespace Zelkor::Gallery
+} // namespace Zelkor::Recorder

@@ -5,7 +5,7 @@
 #include <QObject>
 #include <QVector>
 
-namespace Zelkor::Gallery {
+namespace Zelkor::Recorder {
 
 /// How a recording is trimmed: where it starts and ends, and what is cut out between. Every change can be undone.
 ///
@@ -75,4 +75,4 @@ private:
     ZUndoStack undoStack;
 };
 
-} // namespace Zelkor::Gallery
+} // namespace Zelkor::Recorder

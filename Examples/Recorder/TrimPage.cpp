@@ -1,10 +1,10 @@
 #include "TrimPage.h"
-#include "StyleSheet.h"
-#include "Texts.h"
 
+#include <Examples/Support/WidgetTexts.h>
 #include <UI/Kit/ZFrame.h>
 #include <UI/Kit/ZLabel.h>
 #include <UI/Kit/ZSliderThumb.h>
+#include <UI/Kit/ZStyleSheet.h>
 #include <UI/Kit/ZTimeEdit.h>
 #include <UI/Kit/ZTimelineSlider.h>
 #include <UI/Widgets/CountdownIndicatorWidget.h>
@@ -18,7 +18,9 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
-namespace Zelkor::Gallery {
+namespace Zelkor::Recorder {
+
+using namespace Examples;
 
 namespace {
 
@@ -46,11 +48,6 @@ QLabel* CreateText(const char* objectName)
 }
 
 } // namespace
-
-QString TrimPageName()
-{
-    return QStringLiteral("Trimmer");
-}
 
 TrimPage::TrimPage(QWidget* parent) : QWidget(parent), model(DURATION)
 {
@@ -169,7 +166,7 @@ ZTimeEdit* TrimPage::CreateField(const char* name, Setter set)
 void TrimPage::AddAction(QToolButton* button, const char* icon, const QKeySequence& shortcut, void (TrimPage::*act)())
 {
     auto* action = new QAction(this);
-    action->setIcon(StyleIcon(icon));
+    action->setIcon(ZStyleSheet::icon(icon));
     action->setShortcut(shortcut);
     action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
     connect(action, &QAction::triggered, this, act);
@@ -262,4 +259,4 @@ void TrimPage::changeEvent(QEvent* event)
         Retranslate();
 }
 
-} // namespace Zelkor::Gallery
+} // namespace Zelkor::Recorder

@@ -17,10 +17,7 @@ namespace Zelkor::Vx {
 class CountdownIndicatorWidget;
 }
 
-namespace Zelkor::Gallery {
-
-/// The name of the page in the list of pages.
-QString TrimPageName();
+namespace Zelkor::Recorder {
 
 /// A recording on a timeline: brackets and time fields say what is kept, and stretches are cut out at the position.
 ///
@@ -70,4 +67,4 @@ private:
     QToolButton* redoButton;
 };
 
-} // namespace Zelkor::Gallery
+} // namespace Zelkor::Recorder

@@ -1,21 +1,34 @@
-#include "Preferences.h"
+#include "Appearance.h"
+#include "BuiltInStyleSheets.h"
 
-namespace Zelkor::Gallery {
+namespace Zelkor::Examples {
 
-void Preferences::SetLanguage(const QString& code)
+Appearance::Appearance(const QString& program, QObject* parent)
+    : QObject(parent), translations(program), language(AllLanguages().first().code)
+{}
+
+bool Appearance::SetLanguage(const QString& code)
 {
     if (language == code)
-        return;
-    language = code;
-    Q_EMIT LanguageChanged(code);
+        return true;
+    const bool found = translations.Use(code);
+    language = found ? code : AllLanguages().first().code;
+    Q_EMIT LanguageChanged(language);
+    return found;
 }
 
-void Preferences::SetStyleName(const QString& name)
+bool Appearance::SetStyle(const QString& nameOrFile, QString* error)
 {
-    if (styleName == name)
-        return;
-    styleName = name;
-    Q_EMIT StyleNameChanged(name);
+    const auto sheet = LoadStyleSheet(nameOrFile, error);
+    if (!sheet)
+        return false;
+    sheet->apply();
+    const QString name = IsBuiltInStyleSheet(nameOrFile) ? nameOrFile : QString();
+    if (styleName != name) {
+        styleName = name;
+        Q_EMIT StyleNameChanged(name);
+    }
+    return true;
 }
 
-} // namespace Zelkor::Gallery
+} // namespace Zelkor::Examples

@@ -1,16 +1,15 @@
-#include "Languages.h"
-#include "Catalogue.h"
+#include "Translations.h"
 
 #include <QApplication>
 #include <QDir>
 #include <QLibraryInfo>
 #include <QTranslator>
 
-namespace Zelkor::Gallery {
+namespace Zelkor::Examples {
 
 namespace {
 
-// Beside the program in the build folder, or where an installed program has its data.
+// In the build folder, in an installed tree, and where Qt has its own.
 QStringList TranslationFolders()
 {
     const QDir program(QApplication::applicationDirPath());
@@ -41,26 +40,22 @@ const QVector<Language>& AllLanguages()
     return languages;
 }
 
-Translations::Translations() = default;
+Translations::Translations(const QString& program) : program(program) {}
 
 Translations::~Translations() = default;
 
 bool Translations::Use(const QString& code)
 {
     translators.clear();
-    bool found = code == AllLanguages().first().code;
-    if (!found)
-        found = Install(code);
-    RetranslateEntries();
-    return found;
+    return code == AllLanguages().first().code || Install(code);
 }
 
 bool Translations::Install(const QString& code)
 {
     bool found = false;
-    for (const char* file : {"qtbase_", "VxUiWidgets_", "VxGallery_"}) {
-        auto translator = Load(file + code);
-        // The last ones count. Those of Qt may not be installed; its own buttons then stay as they are.
+    for (const QString& name : {QStringLiteral("qtbase"), QStringLiteral("VxUiWidgets"), program}) {
+        auto translator = Load(name + "_" + code);
+        // The last one, the program's own, decides. Qt's need not be installed.
         found = translator != nullptr;
         if (found) {
             QApplication::installTranslator(translator.get());
@@ -70,4 +65,4 @@ bool Translations::Install(const QString& code)
     return found;
 }
 
-} // namespace Zelkor::Gallery
+} // namespace Zelkor::Examples

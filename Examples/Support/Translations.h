@@ -8,7 +8,7 @@
 
 class QTranslator;
 
-namespace Zelkor::Gallery {
+namespace Zelkor::Examples {
 
 struct Language
 {
@@ -16,24 +16,26 @@ struct Language
     QString name; ///< in the language itself
 };
 
-/// The languages that there are texts for; the first is the one in which the texts are written.
+/// The languages with translations; the first is that of the source texts.
 const QVector<Language>& AllLanguages();
 
-/// The texts of the program in another language: those of the gallery, of the library and of Qt. GUI thread.
+/// Installs the translations of a program, of the library and of Qt. GUI thread.
 class Translations
 {
 public:
-    Translations();
+    /// `program` is the base name of the program's own translation files.
+    explicit Translations(const QString& program);
     ~Translations();
 
-    /// Has the application speak a language; every widget gets its `QEvent::LanguageChange`. False, and the language
-    /// of the texts as they are written, when there are no texts for it.
+    /// Switches the application to a language; every widget gets a `QEvent::LanguageChange`. Returns false and falls
+    /// back to the source texts when the program has no translation.
     bool Use(const QString& code);
 
 private:
     bool Install(const QString& code);
 
+    const QString program;
     std::vector<std::unique_ptr<QTranslator>> translators;
 };
 
-} // namespace Zelkor::Gallery
+} // namespace Zelkor::Examples

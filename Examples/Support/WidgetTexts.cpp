@@ -1,4 +1,4 @@
-#include "Texts.h"
+#include "WidgetTexts.h"
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
@@ -6,11 +6,10 @@
 #include <QEvent>
 #include <QLabel>
 #include <QStyledItemDelegate>
-#include <QVariant>
 
 #include <utility>
 
-namespace Zelkor::Gallery {
+namespace Zelkor::Examples {
 
 namespace {
 
@@ -59,18 +58,10 @@ void AdaptToSurroundings(QWidget* widget, std::function<void()> adapt)
     new Adapter(widget, std::move(adapt));
 }
 
-void HideEmptyHotKey(QWidget* button)
-{
-    for (auto* label : button->findChildren<QLabel*>()) {
-        if (label->objectName().startsWith("HotKey"))
-            label->setHidden(label->property("originalText").toString().isEmpty());
-    }
-}
-
 void StyleItems(QComboBox* combo)
 {
     combo->setItemDelegate(new QStyledItemDelegate(combo));
     combo->view()->setIconSize(combo->iconSize());
 }
 
-} // namespace Zelkor::Gallery
+} // namespace Zelkor::Examples

@@ -1,12 +1,11 @@
 #include "GalleryWindow.h"
-#include "Catalogue.h"
-#include "RecorderView.h"
 #include "SceneBar.h"
-#include "Scrolled.h"
-#include "TrimPage.h"
+#include "StartPage.h"
 #include "WidgetPage.h"
 
-#include <QCloseEvent>
+#include <Catalogue/Catalogue.h>
+
+#include <QEvent>
 #include <QHBoxLayout>
 
 namespace Zelkor::Gallery {
@@ -18,9 +17,8 @@ constexpr QSize PREFERRED_SIZE(1120, 720);
 
 } // namespace
 
-GalleryWindow::GalleryWindow(RecorderModel* model, Preferences* preferences, double scale, QWidget* parent)
-    : QWidget(parent), model(model), preferences(preferences), list(new PageList),
-      bar(new SceneBar(preferences, scale)), body(new QVBoxLayout)
+GalleryWindow::GalleryWindow(Examples::Appearance* appearance, double scale, QWidget* parent)
+    : QWidget(parent), list(new PageList), bar(new SceneBar(appearance, scale)), body(new QVBoxLayout)
 {
     resize(PREFERRED_SIZE);
     body->setContentsMargins(0, 0, 0, 0);
@@ -38,7 +36,7 @@ GalleryWindow::GalleryWindow(RecorderModel* model, Preferences* preferences, dou
     connect(bar, &SceneBar::RestartRequested, this,
             [this](double factor) { Q_EMIT RestartRequested(factor, list->CurrentPage()); });
     bar->SetForWidgets(false);
-    setWindowTitle(tr("Widgets of Vx Recorder"));
+    setWindowTitle(tr("VxUiWidgets Gallery"));
     list->FocusList();
 }
 
@@ -52,18 +50,20 @@ void GalleryWindow::ShowPage(const QString& name)
     delete page;
     WidgetPage* widgetPage = CreateWidgetPage(name);
     bar->SetForWidgets(widgetPage);
-    if (widgetPage)
-        page = widgetPage;
-    else if (name == TrimPageName())
-        page = new Scrolled(new TrimPage);
-    else
-        page = new Scrolled(new RecorderView(model, preferences));
+    page = widgetPage ? static_cast<QWidget*>(widgetPage) : CreateStartPage();
     body->addWidget(page, 1);
+}
+
+QWidget* GalleryWindow::CreateStartPage()
+{
+    auto* start = new StartPage;
+    connect(start, &StartPage::RecorderRequested, this, &GalleryWindow::RecorderRequested);
+    return start;
 }
 
 WidgetPage* GalleryWindow::CreateWidgetPage(const QString& name)
 {
-    const Entry* entry = FindEntry(name);
+    const Catalogue::Entry* entry = Catalogue::FindEntry(name);
     if (!entry)
         return nullptr;
     auto* widgetPage = new WidgetPage(*entry);
@@ -77,7 +77,7 @@ WidgetPage* GalleryWindow::CreateWidgetPage(const QString& name)
 
 void GalleryWindow::Retranslate()
 {
-    setWindowTitle(tr("Widgets of Vx Recorder"));
+    setWindowTitle(tr("VxUiWidgets Gallery"));
     list->Retranslate();
     bar->Retranslate();
 }
@@ -110,12 +110,6 @@ void GalleryWindow::resizeEvent(QResizeEvent* event)
 {
     QWidget::resizeEvent(event);
     list->SetCompact(width() < COMPACT_BELOW);
-}
-
-void GalleryWindow::closeEvent(QCloseEvent* event)
-{
-    event->accept();
-    Q_EMIT Closed();
 }
 
 } // namespace Zelkor::Gallery

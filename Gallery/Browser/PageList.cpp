@@ -1,7 +1,7 @@
 #include "PageList.h"
-#include "Catalogue.h"
-#include "StyleSheet.h"
-#include "TrimPage.h"
+
+#include <Catalogue/Catalogue.h>
+#include <UI/Kit/ZStyleSheet.h>
 
 #include <QAction>
 #include <QKeyEvent>
@@ -30,15 +30,15 @@ QString PageOf(const QListWidgetItem* item)
 
 } // namespace
 
-QString RecorderPageName()
+QString StartPageName()
 {
-    return QStringLiteral("Recorder");
+    return QStringLiteral("Start");
 }
 
 QStringList PageNames()
 {
-    QStringList names{RecorderPageName(), TrimPageName()};
-    for (const Entry& entry : Entries())
+    QStringList names{StartPageName()};
+    for (const Catalogue::Entry& entry : Catalogue::Entries())
         names.append(entry.className);
     return names;
 }
@@ -49,7 +49,7 @@ PageList::PageList(QWidget* parent) : QWidget(parent), search(new QLineEdit), li
     setAttribute(Qt::WA_StyledBackground);
     search->setObjectName("pageSearch");
     search->setClearButtonEnabled(true);
-    search->addAction(StyleIcon("search"), QLineEdit::LeadingPosition);
+    search->addAction(ZStyleSheet::icon("search"), QLineEdit::LeadingPosition);
     search->installEventFilter(this);
     list->setObjectName("pageList");
     list->setIconSize(QSize(ICON_SIZE, ICON_SIZE));
@@ -118,16 +118,15 @@ void PageList::Fill()
 {
     QString group;
     const auto addPage = [&](const QString& name, const QString& text, const QString& icon) {
-        auto* item = new QListWidgetItem(StyleIcon(icon), text, list);
+        auto* item = new QListWidgetItem(ZStyleSheet::icon(icon), text, list);
         item->setData(PAGE_NAME_ROLE, name);
         item->setData(GROUP_ROLE, group);
         item->setData(Qt::AccessibleTextRole, text);
     };
-    addPage(RecorderPageName(), tr("Recorder"), "camera");
-    addPage(TrimPageName(), tr("Trimmer"), "trim");
+    addPage(StartPageName(), tr("Start"), "app");
     QFont headingFont = list->font();
     headingFont.setPointSizeF(headingFont.pointSizeF() * HEADING_FONT_FACTOR);
-    for (const Entry& entry : Entries()) {
+    for (const Catalogue::Entry& entry : Catalogue::Entries()) {
         if (entry.group != group) {
             group = entry.group;
             auto* heading = new QListWidgetItem(group, list);

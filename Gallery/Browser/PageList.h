@@ -8,11 +8,10 @@ class QListWidgetItem;
 
 namespace Zelkor::Gallery {
 
-/// The name of the recorder's page, the first one. After it come the trimmer, and a page for each class of the
-/// catalogue.
-QString RecorderPageName();
+/// The name of the page that the gallery opens with.
+QString StartPageName();
 
-/// The names of all pages, in order.
+/// The names of all pages, in order: the start page, then one for each class of the catalogue.
 QStringList PageNames();
 
 /// The list of the pages under their groups, with a field to search in it: names and groups that hold the text stay.

@@ -1,8 +1,8 @@
 #include "SceneBar.h"
-#include "Languages.h"
-#include "Preferences.h"
-#include "StyleSheet.h"
-#include "Texts.h"
+
+#include <Examples/Support/Appearance.h>
+#include <Examples/Support/WidgetTexts.h>
+#include <UI/Kit/ZStyleSheet.h>
 
 #include <QAction>
 #include <QApplication>
@@ -11,6 +11,8 @@
 #include <QToolButton>
 
 namespace Zelkor::Gallery {
+
+using namespace Examples;
 
 namespace {
 
@@ -40,8 +42,8 @@ void Name(QToolButton* button, const QString& text, const QString& toolTip)
 
 } // namespace
 
-SceneBar::SceneBar(Preferences* preferences, double scale, QWidget* parent)
-    : QWidget(parent), preferences(preferences), scale(scale), style(AddButton("palette", true)),
+SceneBar::SceneBar(Appearance* appearance, double scale, QWidget* parent)
+    : QWidget(parent), appearance(appearance), scale(scale), style(AddButton("palette", true)),
       direction(AddButton("direction", true)), language(AddButton("globe", false)), scaling(AddButton("zoom", false)),
       enabled(AddButton("check", true)), styleEditor(AddButton("style", false)), inspector(AddButton("inspector", true))
 {
@@ -59,22 +61,21 @@ SceneBar::SceneBar(Preferences* preferences, double scale, QWidget* parent)
     }
     enabled->setChecked(true);
     FillMenus();
-    connect(style, &QToolButton::clicked, this,
-            [this](bool on) { this->preferences->SetStyleName(on ? "light" : "dark"); });
+    connect(style, &QToolButton::clicked, this, [this](bool on) { this->appearance->SetStyle(on ? "light" : "dark"); });
     connect(direction, &QToolButton::clicked, this,
             [](bool on) { QApplication::setLayoutDirection(on ? Qt::RightToLeft : Qt::LeftToRight); });
     connect(enabled, &QToolButton::toggled, this, &SceneBar::EnabledChanged);
     connect(styleEditor, &QToolButton::clicked, this, &SceneBar::StyleEditorRequested);
     connect(inspector, &QToolButton::clicked, this, &SceneBar::InspectorRequested);
-    connect(preferences, &Preferences::LanguageChanged, this, &SceneBar::ShowPreferences);
-    connect(preferences, &Preferences::StyleNameChanged, this, &SceneBar::ShowPreferences);
+    connect(appearance, &Appearance::LanguageChanged, this, &SceneBar::ShowAppearance);
+    connect(appearance, &Appearance::StyleNameChanged, this, &SceneBar::ShowAppearance);
     Retranslate();
 }
 
 QToolButton* SceneBar::AddButton(const char* icon, bool checkable)
 {
     auto* button = new QToolButton(this);
-    button->setIcon(StyleIcon(icon));
+    button->setIcon(ZStyleSheet::icon(icon));
     button->setCheckable(checkable);
     button->setAutoRaise(true);
     button->setFocusPolicy(Qt::StrongFocus);
@@ -92,8 +93,8 @@ void SceneBar::FillMenus()
         action->setData(item.code);
         action->setCheckable(true);
         connect(action, &QAction::triggered, this, [this, code = item.code] {
-            preferences->SetLanguage(code);
-            ShowPreferences();
+            appearance->SetLanguage(code);
+            ShowAppearance();
         });
     }
     QMenu* scales = MakeMenu(scaling);
@@ -140,16 +141,16 @@ void SceneBar::Retranslate()
         action->setText(factor == scale ? text : tr("%1 (starts anew)").arg(text));
         action->setChecked(factor == scale);
     }
-    ShowPreferences();
+    ShowAppearance();
 }
 
-void SceneBar::ShowPreferences()
+void SceneBar::ShowAppearance()
 {
-    style->setChecked(preferences->StyleName() == "light");
+    style->setChecked(appearance->StyleName() == "light");
     direction->setChecked(QApplication::layoutDirection() == Qt::RightToLeft);
-    QString name = preferences->Language();
+    QString name = appearance->Language();
     for (QAction* action : language->menu()->actions()) {
-        const bool isCurrent = action->data() == preferences->Language();
+        const bool isCurrent = action->data() == appearance->Language();
         action->setChecked(isCurrent);
         if (isCurrent)
             name = action->text();

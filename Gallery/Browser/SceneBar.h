@@ -5,20 +5,22 @@
 
 class QToolButton;
 
+namespace Zelkor::Examples {
+class Appearance;
+}
+
 namespace Zelkor::Gallery {
 
-class Preferences;
-
-/// The row of tools that sets the scene of the pages: style sheet, direction, language, scale, enabled widgets. The
-/// preferences have to outlive it.
+/// The tool bar that sets style sheet, direction, language, scale and enabled state of the pages. `appearance` must
+/// outlive it.
 class SceneBar : public QWidget
 {
     Q_OBJECT
 
 public:
-    SceneBar(Preferences* preferences, double scale, QWidget* parent = nullptr);
+    SceneBar(Examples::Appearance* appearance, double scale, QWidget* parent = nullptr);
 
-    /// Whether there are widgets to switch off, and an inspector.
+    /// Enables the tools for widget pages: "Enabled" and the inspector.
     void SetForWidgets(bool on);
 
     void ShowInspectorState(bool visible);
@@ -31,7 +33,7 @@ Q_SIGNALS:
     void InspectorRequested(bool on);
     void StyleEditorRequested();
 
-    /// Qt takes its scale when a program starts, so another one takes another start.
+    /// A scale was chosen. Qt reads its scale when a program starts.
     void RestartRequested(double scale);
 
 protected:
@@ -40,10 +42,10 @@ protected:
 private:
     QToolButton* AddButton(const char* icon, bool checkable);
     void FillMenus();
-    void ShowPreferences();
+    void ShowAppearance();
     void ShowTexts();
 
-    Preferences* preferences;
+    Examples::Appearance* appearance;
     const double scale;
     QVector<QToolButton*> buttons; ///< all of them, in order
     QToolButton* style;

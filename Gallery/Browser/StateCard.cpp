@@ -1,6 +1,7 @@
 #include "StateCard.h"
-#include "Catalogue.h"
-#include "Texts.h"
+
+#include <Catalogue/Catalogue.h>
+#include <Examples/Support/WidgetTexts.h>
 
 #include <QLabel>
 #include <QStyle>
@@ -9,7 +10,10 @@
 
 namespace Zelkor::Gallery {
 
-StateCard::StateCard(const Entry& entry, const State& state, QWidget* parent) : ZFrame(parent), holder(new QWidget)
+using namespace Examples;
+
+StateCard::StateCard(const Catalogue::Entry& entry, const Catalogue::State& state, QWidget* parent)
+    : ZFrame(parent), holder(new QWidget)
 {
     setProperty("role", QStringLiteral("card"));
     setProperty("selected", false);

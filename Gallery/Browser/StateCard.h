@@ -2,10 +2,12 @@
 
 #include <UI/Kit/ZFrame.h>
 
-namespace Zelkor::Gallery {
-
+namespace Zelkor::Catalogue {
 struct Entry;
 struct State;
+} // namespace Zelkor::Catalogue
+
+namespace Zelkor::Gallery {
 
 /// A captioned card with a widget in one of its states. It can have the focus, so that the keyboard reaches widgets
 /// that take none themselves.
@@ -14,7 +16,7 @@ class StateCard : public ZFrame
     Q_OBJECT
 
 public:
-    StateCard(const Entry& entry, const State& state, QWidget* parent = nullptr);
+    StateCard(const Catalogue::Entry& entry, const Catalogue::State& state, QWidget* parent = nullptr);
 
     QWidget* Widget() const { return widget; }
 

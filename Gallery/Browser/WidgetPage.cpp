@@ -1,11 +1,12 @@
 #include "WidgetPage.h"
-#include "Catalogue.h"
 #include "FlowLayout.h"
-#include "Inspector.h"
-#include "PropertyPanel.h"
-#include "SignalLog.h"
 #include "StateCard.h"
-#include "Texts.h"
+
+#include <Catalogue/Catalogue.h>
+#include <Examples/Support/WidgetTexts.h>
+#include <Gallery/Inspector/Inspector.h>
+#include <Gallery/Inspector/PropertyPanel.h>
+#include <Gallery/Inspector/SignalLog.h>
 
 #include <QApplication>
 #include <QEvent>
@@ -17,6 +18,8 @@
 #include <memory>
 
 namespace Zelkor::Gallery {
+
+using namespace Examples;
 
 namespace {
 
@@ -35,7 +38,7 @@ QLabel* CreateText(const QString& objectName, const QString& text)
 }
 
 // What the constructor of the class leaves, before any style sheet or state has a say.
-QVariantMap DefaultsOf(const Entry& entry)
+QVariantMap DefaultsOf(const Catalogue::Entry& entry)
 {
     QWidget parent;
     return PropertyValues(*CreateBare(entry, &parent));
@@ -43,7 +46,7 @@ QVariantMap DefaultsOf(const Entry& entry)
 
 } // namespace
 
-WidgetPage::WidgetPage(const Entry& entry, QWidget* parent)
+WidgetPage::WidgetPage(const Catalogue::Entry& entry, QWidget* parent)
     : QWidget(parent), className(entry.className), defaults(DefaultsOf(entry)), splitter(new QSplitter),
       inspector(new Inspector)
 {
@@ -78,7 +81,7 @@ WidgetPage::~WidgetPage()
     disconnect(qApp, nullptr, this, nullptr);
 }
 
-QWidget* WidgetPage::CreateContent(const Entry& entry)
+QWidget* WidgetPage::CreateContent(const Catalogue::Entry& entry)
 {
     auto* content = new QWidget;
     auto* layout = new QVBoxLayout(content);
@@ -92,7 +95,7 @@ QWidget* WidgetPage::CreateContent(const Entry& entry)
     layout->addSpacing(CARD_SPACING);
     auto* flow = new FlowLayout;
     flow->setSpacing(CARD_SPACING);
-    for (const State& state : entry.states) {
+    for (const Catalogue::State& state : entry.states) {
         auto* card = new StateCard(entry, state);
         inspector->Signals()->Watch(card->Widget(), className, state.name);
         flow->addWidget(card);

@@ -6,11 +6,14 @@
 
 class QSplitter;
 
+namespace Zelkor::Catalogue {
+struct Entry;
+}
+
 namespace Zelkor::Gallery {
 
 class Inspector;
 class StateCard;
-struct Entry;
 
 /// The page of one widget: what it is, its states side by side in captioned cards, and the inspector of the state that
 /// was clicked or has the focus.
@@ -19,7 +22,7 @@ class WidgetPage : public QWidget
     Q_OBJECT
 
 public:
-    explicit WidgetPage(const Entry& entry, QWidget* parent = nullptr);
+    explicit WidgetPage(const Catalogue::Entry& entry, QWidget* parent = nullptr);
     ~WidgetPage() override;
 
     /// Chooses a state by its index; the first one is chosen from the start. An index that is none is ignored.
@@ -42,7 +45,7 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
-    QWidget* CreateContent(const Entry& entry);
+    QWidget* CreateContent(const Catalogue::Entry& entry);
     void SelectCardAround(QWidget* widget);
     void Arrange();
 

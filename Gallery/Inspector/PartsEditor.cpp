@@ -1,5 +1,5 @@
 #include "PartsEditor.h"
-#include "EditorTools.h"
+#include "EditorSpinBox.h"
 
 #include <UI/Kit/ZDoubleSpinBox.h>
 
@@ -50,7 +50,7 @@ Parts PartsOf(int type)
 
 } // namespace
 
-PropertyEditor CreatePartsEditor(int type, QWidget* parent, const ValueListener& listener)
+PropertyControl CreatePartsEditor(int type, QWidget* parent, const ValueListener& listener)
 {
     auto* control = new QWidget(parent);
     auto* grid = new QGridLayout(control);

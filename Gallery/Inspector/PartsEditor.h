@@ -1,10 +1,10 @@
 #pragma once
 
-#include "PropertyEditor.h"
+#include "PropertyControl.h"
 
 namespace Zelkor::Gallery {
 
 /// A control for a point, a size or a rectangle: one spin box for each of its numbers. `type` is the property's.
-PropertyEditor CreatePartsEditor(int type, QWidget* parent, const ValueListener& listener);
+PropertyControl CreatePartsEditor(int type, QWidget* parent, const ValueListener& listener);
 
 } // namespace Zelkor::Gallery

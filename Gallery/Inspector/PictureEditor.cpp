@@ -1,5 +1,5 @@
 #include "PictureEditor.h"
-#include "EditorTools.h"
+#include "EditorSpinBox.h"
 
 #include <UI/Kit/ZLineEdit.h>
 
@@ -11,7 +11,7 @@
 
 namespace Zelkor::Gallery {
 
-PropertyEditor CreatePictureEditor(int type, QWidget* parent, const ValueListener& listener)
+PropertyControl CreatePictureEditor(int type, QWidget* parent, const ValueListener& listener)
 {
     auto* control = new QWidget(parent);
     auto* layout = new QHBoxLayout(control);

@@ -1,10 +1,10 @@
 #include "PropertyEditor.h"
-#include "EditorTools.h"
+#include "EditorSpinBox.h"
 #include "PartsEditor.h"
 #include "PictureEditor.h"
 #include "StyleSheetLine.h"
-#include "Texts.h"
 
+#include <Examples/Support/WidgetTexts.h>
 #include <UI/Kit/ZComboBox.h>
 #include <UI/Kit/ZDoubleSpinBox.h>
 #include <UI/Kit/ZLineEdit.h>
@@ -24,6 +24,8 @@
 
 namespace Zelkor::Gallery {
 
+using namespace Examples;
+
 namespace {
 
 constexpr int LIST_LINES = 3;
@@ -31,7 +33,7 @@ constexpr double EXACT_NUMBER = 9.0e15;   ///< up to here, a double counts in on
 constexpr double LARGEST_NUMBER = 1.0e12; ///< up to here, a spin box keeps its decimals
 constexpr QChar LEFT_TO_RIGHT_MARK(0x200e);
 
-PropertyEditor CreateBoolEditor(QWidget* parent, const ValueListener& listener)
+PropertyControl CreateBoolEditor(QWidget* parent, const ValueListener& listener)
 {
     auto* box = new QCheckBox(parent);
     QObject::connect(box, &QCheckBox::toggled, box, [listener](bool on) { listener(on, QString()); });
@@ -45,7 +47,7 @@ ZSpinBox* CreateIntBox(QWidget* parent)
     return box;
 }
 
-PropertyEditor CreateIntEditor(QWidget* parent, const ValueListener& listener)
+PropertyControl CreateIntEditor(QWidget* parent, const ValueListener& listener)
 {
     auto* box = CreateIntBox(parent);
     QObject::connect(box, QOverload<int>::of(&QSpinBox::valueChanged), box,
@@ -53,7 +55,7 @@ PropertyEditor CreateIntEditor(QWidget* parent, const ValueListener& listener)
     return {box, [box](const QVariant& value) { box->setValue(value.toInt()); }};
 }
 
-PropertyEditor CreateNumberEditor(int type, QWidget* parent, const ValueListener& listener)
+PropertyControl CreateNumberEditor(int type, QWidget* parent, const ValueListener& listener)
 {
     const bool isWhole = type != QMetaType::Double && type != QMetaType::Float;
     const bool isUnsigned = type == QMetaType::UInt || type == QMetaType::ULongLong;
@@ -71,7 +73,7 @@ PropertyEditor CreateNumberEditor(int type, QWidget* parent, const ValueListener
     return {box, [box](const QVariant& value) { box->setValue(value.toDouble()); }};
 }
 
-PropertyEditor CreateTextEditor(QWidget* parent, const ValueListener& listener)
+PropertyControl CreateTextEditor(QWidget* parent, const ValueListener& listener)
 {
     auto* edit = new ZLineEdit(parent);
     // Return tells the text as well, where a line edit of the kit waits for the focus to leave.
@@ -113,7 +115,7 @@ private:
     QStringList shown;
 };
 
-PropertyEditor CreateLinesEditor(QWidget* parent, const ValueListener& listener)
+PropertyControl CreateLinesEditor(QWidget* parent, const ValueListener& listener)
 {
     auto* edit = new LinesEdit(parent, listener);
     return {edit, [edit](const QVariant& value) { edit->Show(value.toStringList()); }};
@@ -125,7 +127,7 @@ QString ColorText(const QColor& color)
     return LEFT_TO_RIGHT_MARK + color.name(QColor::HexArgb);
 }
 
-PropertyEditor CreateColorEditor(QWidget* parent, const ValueListener& listener)
+PropertyControl CreateColorEditor(QWidget* parent, const ValueListener& listener)
 {
     auto* button = new Vx::ColorButton(parent);
     button->SetAlphaEnabled(true);
@@ -140,7 +142,7 @@ PropertyEditor CreateColorEditor(QWidget* parent, const ValueListener& listener)
             }};
 }
 
-PropertyEditor CreateEnumEditor(const QMetaEnum& type, QWidget* parent, const ValueListener& listener)
+PropertyControl CreateEnumEditor(const QMetaEnum& type, QWidget* parent, const ValueListener& listener)
 {
     auto* combo = new ZComboBox(parent);
     combo->setMouseWheelEnabled(false);
@@ -155,7 +157,7 @@ PropertyEditor CreateEnumEditor(const QMetaEnum& type, QWidget* parent, const Va
     return {combo, [combo](const QVariant& value) { combo->setCurrentIndex(combo->findData(EnumNumber(value))); }};
 }
 
-PropertyEditor CreateFlagsEditor(const QMetaEnum& type, QWidget* parent, const ValueListener& listener)
+PropertyControl CreateFlagsEditor(const QMetaEnum& type, QWidget* parent, const ValueListener& listener)
 {
     auto* button = new QToolButton(parent);
     auto* menu = new QMenu(button);
@@ -188,7 +190,7 @@ PropertyEditor CreateFlagsEditor(const QMetaEnum& type, QWidget* parent, const V
     return {button, show};
 }
 
-PropertyEditor CreateTimeEditor(QWidget* parent, const ValueListener& listener)
+PropertyControl CreateTimeEditor(QWidget* parent, const ValueListener& listener)
 {
     auto* edit = new ZTimeEdit(parent);
     edit->setDisplayFormat("HH:mm:ss.zzz");
@@ -197,7 +199,7 @@ PropertyEditor CreateTimeEditor(QWidget* parent, const ValueListener& listener)
     return {edit, [edit](const QVariant& value) { edit->setTime(value.toTime()); }};
 }
 
-PropertyEditor CreateEditorOfType(int type, QWidget* parent, const ValueListener& listener)
+PropertyControl CreateEditorOfType(int type, QWidget* parent, const ValueListener& listener)
 {
     switch (type) {
     case QMetaType::Bool:
@@ -235,7 +237,7 @@ PropertyEditor CreateEditorOfType(int type, QWidget* parent, const ValueListener
 
 } // namespace
 
-PropertyEditor CreatePropertyEditor(const QMetaProperty& property, QWidget* parent, const ValueListener& listener)
+PropertyControl CreatePropertyEditor(const QMetaProperty& property, QWidget* parent, const ValueListener& listener)
 {
     if (!property.isWritable())
         return {};

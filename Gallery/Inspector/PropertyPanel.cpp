@@ -1,8 +1,9 @@
 #include "PropertyPanel.h"
 #include "PropertyValue.h"
-#include "StyleSheet.h"
 #include "StyleSheetLine.h"
-#include "Texts.h"
+
+#include <Examples/Support/WidgetTexts.h>
+#include <UI/Kit/ZStyleSheet.h>
 
 #include <QApplication>
 #include <QClipboard>
@@ -16,6 +17,8 @@
 #include <QVBoxLayout>
 
 namespace Zelkor::Gallery {
+
+using namespace Examples;
 
 namespace {
 
@@ -164,7 +167,7 @@ void PropertyPanel::AddGroup(const QMetaObject* declaring)
     heading->setAutoRaise(true);
     heading->setFocusPolicy(Qt::StrongFocus);
     heading->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    heading->setIcon(StyleIcon(isRightToLeft() ? "chevron-left" : "chevron-right"));
+    heading->setIcon(ZStyleSheet::icon(isRightToLeft() ? "chevron-left" : "chevron-right"));
     auto* body = new QWidget;
     body->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
     body->hide();
@@ -179,7 +182,7 @@ void PropertyPanel::Unfold(int index, bool on)
 {
     Group& group = groups[index];
     const char* folded = isRightToLeft() ? "chevron-left" : "chevron-right";
-    group.heading->setIcon(StyleIcon(on ? "chevron-down" : folded));
+    group.heading->setIcon(ZStyleSheet::icon(on ? "chevron-down" : folded));
     if (on && !group.filled && object) {
         group.filled = true;
         auto* grid = new QGridLayout(group.body);
@@ -203,7 +206,7 @@ void PropertyPanel::AddRow(const QMetaProperty& property, QGridLayout* grid)
     const QString name = property.name();
     const int index = int(rows.size());
     QWidget* parent = grid->parentWidget();
-    PropertyEditor editor = CreatePropertyEditor(
+    PropertyControl editor = CreatePropertyEditor(
         property, parent, [this, index, made = generation](const QVariant& value, const QString& file) {
             if (made == generation)
                 Write(index, value, file);
@@ -213,7 +216,7 @@ void PropertyPanel::AddRow(const QMetaProperty& property, QGridLayout* grid)
     Row row{property, ReadProperty(property, object), QString(), std::move(editor), label, nullptr, reset};
     row.name->setWordWrap(true);
     AlignAtStart(row.name);
-    QWidget* control = row.editor.control;
+    QWidget* control = row.editor.widget;
     if (!control) {
         row.text = new QLineEdit(parent);
         row.text->setObjectName("value:" + name);
@@ -239,7 +242,7 @@ void PropertyPanel::AddRow(const QMetaProperty& property, QGridLayout* grid)
     policy.setRetainSizeWhenHidden(true);
     row.reset->setSizePolicy(policy);
     row.reset->setObjectName("reset:" + name);
-    row.reset->setIcon(StyleIcon("undo"));
+    row.reset->setIcon(ZStyleSheet::icon("undo"));
     row.reset->setAutoRaise(true);
     row.reset->setFocusPolicy(Qt::StrongFocus);
     row.reset->setAccessibleName(tr("Default of %1").arg(name));
@@ -282,7 +285,7 @@ void PropertyPanel::Refresh()
         Row& row = rows[i];
         const QVariant value = ReadProperty(row.property, object);
         const bool isSame = AreSame(row.property, value, row.value);
-        if (isSame || (row.editor.control && HasFocusWithin(row.editor.control)))
+        if (isSame || (row.editor.widget && HasFocusWithin(row.editor.widget)))
             continue;
         row.value = value;
         row.file.clear();
@@ -297,7 +300,7 @@ void PropertyPanel::Show(Row& row)
     showing = true;
     const QString name = row.property.name();
     const QString text = PropertyText(row.property, row.value);
-    if (row.editor.control) {
+    if (row.editor.widget) {
         row.editor.show(row.value);
     } else {
         row.text->setText(text);
@@ -310,7 +313,7 @@ void PropertyPanel::Show(Row& row)
                              : tr("%1: %2").arg(name, row.property.typeName()));
     SetDynamic(row.name, "changed", !isDefault);
     row.reset->setToolTip(tr("Back to the default: %1").arg(defaultText));
-    row.reset->setVisible(row.editor.control && !isDefault && defaults.contains(name));
+    row.reset->setVisible(row.editor.widget && !isDefault && defaults.contains(name));
     showing = false;
 }
 

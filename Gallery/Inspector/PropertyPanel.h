@@ -49,7 +49,7 @@ private:
         QMetaProperty property;
         QVariant value;
         QString file; ///< of a picture
-        PropertyEditor editor;
+        PropertyControl editor;
         QLabel* name;
         QLineEdit* text; ///< null where there is a control
         QToolButton* reset;

@@ -1,6 +1,5 @@
+#include <Catalogue/Catalogue.h>
 #include <Designer/FormXml.h>
-
-#include <Gallery/Catalogue.h>
 
 #include <QApplication>
 #include <QFile>
@@ -11,7 +10,7 @@ int main(int argc, char* argv[])
     QApplication application(argc, argv);
     QString widgets;
     QString classes;
-    for (const Zelkor::Gallery::Entry& entry : Zelkor::Gallery::Entries()) {
+    for (const Zelkor::Catalogue::Entry& entry : Zelkor::Catalogue::Entries()) {
         if (!entry.form.metaObject)
             continue;
         const QString xml = Zelkor::Designer::FormXml(entry);

@@ -1,5 +1,4 @@
 #include <Catalogue/Homes.h>
-
 #include <UI/Widgets/ButtonWithPopUpContainer.h>
 
 #include <QDialog>

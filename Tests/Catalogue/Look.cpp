@@ -1,13 +1,11 @@
 #include <Catalogue/Look.h>
+#include <Catalogue/SamplePictures.h>
 #include <Catalogue/Scene.h>
-
-#include <Gallery/Artwork.h>
-#include <Gallery/SignalLog.h>
-
-#include <Support/Picture.h>
-
+#include <Gallery/Inspector/SignalLog.h>
 #include <UI/Widgets/VideoPreviewWidget.h>
 #include <UI/Widgets/WebCameraPreviewStream.h>
+
+#include <Support/Picture.h>
 
 #include <QAccessible>
 #include <QApplication>
@@ -18,6 +16,7 @@
 #include <cstring>
 
 using namespace Zelkor;
+using namespace Zelkor::Catalogue;
 using namespace Zelkor::Gallery;
 
 namespace {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <Gallery/Catalogue.h>
+#include <Catalogue/Catalogue.h>
 
 #include <QStringList>
 #include <QWidget>
@@ -15,7 +15,7 @@ class Stage : public QWidget
 {
 public:
     explicit Stage(std::function<QWidget*(QWidget* parent)> create);
-    Stage(const Zelkor::Gallery::Entry& entry, const Zelkor::Gallery::State& state);
+    Stage(const Zelkor::Catalogue::Entry& entry, const Zelkor::Catalogue::State& state);
 
     /// Shows the window and processes what follows from that.
     void Show();
@@ -23,7 +23,7 @@ public:
     QWidget* widget;
 
     /// What the catalogue's entry is about: the widget, a part of it or an effect.
-    QObject* Subject(const Zelkor::Gallery::Entry& entry) const;
+    QObject* Subject(const Zelkor::Catalogue::Entry& entry) const;
 };
 
 /// The accessible tree of a widget, one line for each visible interface: role, name, description, value, state and

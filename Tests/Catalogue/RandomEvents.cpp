@@ -42,14 +42,12 @@ void Send(QWidget* receiver, QEvent& event)
     QCoreApplication::sendEvent(receiver, &event);
 }
 
-const Zelkor::Gallery::StyleSheet& Sheet(int index)
+const ZStyleSheet& Sheet(int index)
 {
-    using Zelkor::Gallery::LoadStyleSheet;
-    static QString error;
-    static const auto dark = *LoadStyleSheet("dark", error);
-    static const std::array<Zelkor::Gallery::StyleSheet, 3> sheets{
-        dark, *LoadStyleSheet("light", error), {QString(), dark.iconFolder}};
-    return sheets[static_cast<std::size_t>(index)];
+    using Zelkor::Examples::LoadStyleSheet;
+    static const ZStyleSheet dark = *LoadStyleSheet("dark");
+    static const std::array<ZStyleSheet, 3> sheets{dark, *LoadStyleSheet("light"), {QString(), dark.iconFolder}};
+    return sheets[std::size_t(index)];
 }
 
 } // namespace
@@ -274,7 +272,7 @@ void RandomEvents::Language(const Draw&)
 
 void RandomEvents::Style(const Draw& draw)
 {
-    Zelkor::Gallery::ApplyStyleSheet(Sheet(int(draw.detail % 3)));
+    Sheet(int(draw.detail % 3)).apply();
 }
 
 void RandomEvents::Paint(const Draw&)

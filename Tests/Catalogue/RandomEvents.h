@@ -1,6 +1,6 @@
 #pragma once
 
-#include <Gallery/StyleSheet.h>
+#include <Examples/Support/BuiltInStyleSheets.h>
 
 #include <Support/LoopWatch.h>
 

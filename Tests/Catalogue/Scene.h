@@ -1,6 +1,6 @@
 #pragma once
 
-#include <Gallery/Catalogue.h>
+#include <Catalogue/Catalogue.h>
 
 #include <QPointer>
 #include <QPushButton>
@@ -27,12 +27,12 @@ inline QVector<QPointer<QWidget>> PartsOf(QWidget* widget)
 class Scene
 {
 public:
-    Scene(const Zelkor::Gallery::Entry& entry, const Zelkor::Gallery::State& state) : window(new QWidget)
+    Scene(const Zelkor::Catalogue::Entry& entry, const Zelkor::Catalogue::State& state) : window(new QWidget)
     {
         auto* layout = new QVBoxLayout(window);
         // Created one after the other, which makes the order of Tab.
         before = new QPushButton(QStringLiteral("before"), window);
-        widget = Zelkor::Gallery::CreateInState(entry, state, window);
+        widget = Zelkor::Catalogue::CreateInState(entry, state, window);
         after = new QPushButton(QStringLiteral("after"), window);
         for (QWidget* part : {static_cast<QWidget*>(before), widget.data(), static_cast<QWidget*>(after)})
             layout->addWidget(part, 0, Qt::AlignLeading);
@@ -86,7 +86,7 @@ inline void Settle()
     }
 }
 
-inline QVector<int> AllStates(const Zelkor::Gallery::Entry& entry)
+inline QVector<int> AllStates(const Zelkor::Catalogue::Entry& entry)
 {
     QVector<int> places(entry.states.size());
     std::iota(places.begin(), places.end(), 0);
@@ -95,7 +95,7 @@ inline QVector<int> AllStates(const Zelkor::Gallery::Entry& entry)
 
 /// The states that the slow tests go through: all of them; under the address sanitizer and on Windows, whose windows
 /// cost several times as much under Wine, the pictured one.
-inline QVector<int> TestedStates(const Zelkor::Gallery::Entry& entry)
+inline QVector<int> TestedStates(const Zelkor::Catalogue::Entry& entry)
 {
 #if defined(__SANITIZE_ADDRESS__) || defined(Q_OS_WIN)
     return {entry.pictured};
@@ -105,11 +105,11 @@ inline QVector<int> TestedStates(const Zelkor::Gallery::Entry& entry)
 }
 
 /// Rows for every widget in some of its states: "className" and "state", the place of the state.
-inline void AddRowsOfStates(QVector<int> (*places)(const Zelkor::Gallery::Entry&))
+inline void AddRowsOfStates(QVector<int> (*places)(const Zelkor::Catalogue::Entry&))
 {
     QTest::addColumn<QString>("className");
     QTest::addColumn<int>("state");
-    for (const Zelkor::Gallery::Entry& entry : Zelkor::Gallery::Entries()) {
+    for (const Zelkor::Catalogue::Entry& entry : Zelkor::Catalogue::Entries()) {
         for (const int place : places(entry))
             QTest::addRow("%s, %s", qPrintable(entry.className), qPrintable(entry.states[place].name))
                 << entry.className << place;
@@ -125,6 +125,6 @@ inline std::unique_ptr<Scene> SceneOfThisRow()
 {
     QFETCH(QString, className);
     QFETCH(int, state);
-    const Zelkor::Gallery::Entry& entry = *Zelkor::Gallery::FindEntry(className);
+    const Zelkor::Catalogue::Entry& entry = *Zelkor::Catalogue::FindEntry(className);
     return std::make_unique<Scene>(entry, entry.states[state]);
 }

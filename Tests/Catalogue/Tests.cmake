@@ -1,7 +1,13 @@
-# Tests over every widget of the catalogue; nothing to test where it is not built.
-if(NOT VX_BUILD_GALLERY)
+# Tests of the catalogue and the style sheets, and over every widget of the catalogue.
+if(NOT TARGET VxGalleryWindows)
   return()
 endif()
+
+vx_test(Catalogue/tst_Catalogue.cpp LIBRARIES VxCatalogue)
+vx_test(Catalogue/tst_Styles.cpp LIBRARIES VxCatalogue)
+target_compile_definitions(tst_Styles PRIVATE VX_STYLES_SOURCE="${PROJECT_SOURCE_DIR}/Styles")
+vx_test(Catalogue/tst_Reference.cpp LIBRARIES VxCatalogue)
+target_compile_definitions(tst_Reference PRIVATE VX_DOCS="${PROJECT_SOURCE_DIR}/Docs")
 
 vx_test(Catalogue/tst_Environment.cpp LIBRARIES VxCatalogue)
 foreach(scale 1.25 2)

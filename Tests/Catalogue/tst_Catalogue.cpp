@@ -1,5 +1,5 @@
-#include <Gallery/Catalogue.h>
-#include <Gallery/StyleSheet.h>
+#include <Catalogue/Catalogue.h>
+#include <Examples/Support/BuiltInStyleSheets.h>
 
 #include <Support/TestCase.h>
 
@@ -8,18 +8,15 @@
 #include <algorithm>
 #include <memory>
 
-using namespace Zelkor::Gallery;
+using namespace Zelkor::Catalogue;
+using Zelkor::Examples::LoadStyleSheet;
 
 class tst_Catalogue : public Support::TestCase
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase()
-    {
-        QString error;
-        ApplyStyleSheet(LoadStyleSheet("dark", error).value());
-    }
+    void initTestCase() { LoadStyleSheet("dark")->apply(); }
 
     void entriesAreWhole()
     {

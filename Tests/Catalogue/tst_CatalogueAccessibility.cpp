@@ -1,7 +1,6 @@
 #include <Catalogue/Hearing.h>
 #include <Catalogue/Scene.h>
-
-#include <Gallery/StyleSheet.h>
+#include <Examples/Support/BuiltInStyleSheets.h>
 
 #include <Support/Input.h>
 #include <Support/LinkTrap.h>
@@ -20,7 +19,8 @@
 #include <algorithm>
 #include <cmath>
 
-using namespace Zelkor::Gallery;
+using namespace Zelkor::Catalogue;
+using Zelkor::Examples::LoadStyleSheet;
 
 namespace {
 
@@ -151,8 +151,7 @@ private Q_SLOTS:
         if (!TurnAccessibilityOn())
             QSKIP("Qt's private headers are not installed");
         QApplication::setCursorFlashTime(0);
-        QString error;
-        ApplyStyleSheet(*LoadStyleSheet("dark", error));
+        LoadStyleSheet("dark")->apply();
     }
 
     void tellsWhatItIs_data() { AddRowsOfAllStates(); }
@@ -267,10 +266,9 @@ private Q_SLOTS:
     void showsFocus()
     {
         QFETCH(QString, style);
-        QString error;
-        const StyleSheet sheet = *LoadStyleSheet(style, error);
+        const ZStyleSheet sheet = *LoadStyleSheet(style);
         if (qApp->styleSheet() != sheet.text)
-            ApplyStyleSheet(sheet);
+            sheet.apply();
         const auto scene = SceneOfThisRow();
         scene->Show();
         const auto look = [&scene](QWidget* focused) {

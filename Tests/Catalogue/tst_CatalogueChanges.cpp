@@ -1,9 +1,8 @@
 #include <Catalogue/Look.h>
 #include <Catalogue/Scene.h>
-
-#include <Gallery/PropertyValue.h>
-#include <Gallery/StyleSheet.h>
-#include <Gallery/StyleSheetLine.h>
+#include <Examples/Support/BuiltInStyleSheets.h>
+#include <Gallery/Inspector/PropertyValue.h>
+#include <Gallery/Inspector/StyleSheetLine.h>
 
 #include <Support/TestCase.h>
 
@@ -12,7 +11,9 @@
 #include <QStyle>
 #include <QTranslator>
 
+using namespace Zelkor::Catalogue;
 using namespace Zelkor::Gallery;
+using Zelkor::Examples::LoadStyleSheet;
 
 namespace {
 
@@ -369,11 +370,10 @@ private:
                 QCoreApplication::installTranslator(translators[wanted.language]);
         }
         if (wanted.sheet != now.sheet) {
-            QString error;
-            StyleSheet sheet = *LoadStyleSheet(wanted.sheet.isEmpty() ? "dark" : wanted.sheet, error);
+            ZStyleSheet sheet = *LoadStyleSheet(wanted.sheet.isEmpty() ? "dark" : wanted.sheet);
             if (wanted.sheet.isEmpty())
                 sheet.text.clear();
-            ApplyStyleSheet(sheet);
+            sheet.apply();
         }
         if (wanted.fontStep != now.fontStep) {
             QFont font = initialFont;

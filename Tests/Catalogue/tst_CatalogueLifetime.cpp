@@ -1,6 +1,5 @@
 #include <Catalogue/Scene.h>
-
-#include <Gallery/StyleSheet.h>
+#include <Examples/Support/BuiltInStyleSheets.h>
 
 #include <Support/Census.h>
 #include <Support/LoopWatch.h>
@@ -12,7 +11,8 @@
 #include <malloc.h>
 #endif
 
-using namespace Zelkor::Gallery;
+using namespace Zelkor::Catalogue;
+using Zelkor::Examples::LoadStyleSheet;
 
 namespace {
 
@@ -48,8 +48,7 @@ private Q_SLOTS:
     {
         // What pictures it holds, and when it lets go of them, is Qt's matter.
         QPixmapCache::setCacheLimit(0);
-        QString error;
-        ApplyStyleSheet({QString(), LoadStyleSheet("dark", error)->iconFolder});
+        ZStyleSheet{QString(), LoadStyleSheet("dark")->iconFolder}.apply();
     }
 
     void comesAndGoes_data()

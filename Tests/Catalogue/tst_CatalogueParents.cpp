@@ -1,7 +1,6 @@
 #include <Catalogue/Homes.h>
 #include <Catalogue/Scene.h>
-
-#include <Gallery/StyleSheet.h>
+#include <Examples/Support/BuiltInStyleSheets.h>
 
 #include <Support/Census.h>
 #include <Support/LinkTrap.h>
@@ -9,18 +8,19 @@
 #include <Support/SignalTap.h>
 #include <Support/TestCase.h>
 
-#include <ui_FormOfAll.h>
-
 #include <QGraphicsProxyWidget>
 #include <QGraphicsView>
 #include <QPointer>
 #include <QWindow>
 
+#include <ui_FormOfAll.h>
+
 #include <algorithm>
 #include <deque>
 #include <memory>
 
-using namespace Zelkor::Gallery;
+using namespace Zelkor::Catalogue;
+using Zelkor::Examples::LoadStyleSheet;
 
 namespace {
 
@@ -184,11 +184,7 @@ class tst_CatalogueParents : public Support::TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase()
-    {
-        QString error;
-        sheet = *LoadStyleSheet("dark", error);
-    }
+    void initTestCase() { sheet = *LoadStyleSheet("dark"); }
 
     void worksWhereItIsMade_data() { AddRows(0); }
 
@@ -300,7 +296,7 @@ private:
     {
         // The style sheet editor can take the sheet from the application.
         if (qApp->styleSheet() != sheet.text)
-            ApplyStyleSheet(sheet);
+            sheet.apply();
         QFETCH(QString, className);
         QFETCH(int, state);
         const Entry& entry = *FindEntry(className);
@@ -336,7 +332,7 @@ private:
         return Worker(widget, home).Work();
     }
 
-    StyleSheet sheet;
+    ZStyleSheet sheet;
     QMap<QString, QStringList> plainAnswers;
 };
 

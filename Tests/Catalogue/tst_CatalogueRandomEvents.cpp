@@ -1,7 +1,6 @@
+#include <Catalogue/Catalogue.h>
 #include <Catalogue/RandomEvents.h>
-
-#include <Gallery/Catalogue.h>
-#include <Gallery/StyleSheet.h>
+#include <Examples/Support/BuiltInStyleSheets.h>
 
 #include <Support/Census.h>
 #include <Support/LinkTrap.h>
@@ -9,7 +8,8 @@
 
 #include <functional>
 
-using namespace Zelkor::Gallery;
+using namespace Zelkor::Catalogue;
+using Zelkor::Examples::LoadStyleSheet;
 
 namespace {
 
@@ -68,8 +68,7 @@ private Q_SLOTS:
 private:
     void SendTo(const Entry& entry, const State& state, quint64 stateSeed, int count)
     {
-        QString error;
-        ApplyStyleSheet(*LoadStyleSheet("dark", error));
+        LoadStyleSheet("dark")->apply();
         QWidget host;
         const QPointer<QWidget> widget = CreateInState(entry, state, &host);
         widget->adjustSize();

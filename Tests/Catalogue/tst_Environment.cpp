@@ -1,5 +1,5 @@
-#include <Gallery/Catalogue.h>
-#include <Gallery/StyleSheet.h>
+#include <Catalogue/Catalogue.h>
+#include <Examples/Support/BuiltInStyleSheets.h>
 
 #include <Support/TestCase.h>
 
@@ -9,7 +9,8 @@
 #include <cmath>
 #include <memory>
 
-using namespace Zelkor::Gallery;
+using namespace Zelkor::Catalogue;
+using Zelkor::Examples::LoadStyleSheet;
 
 namespace {
 
@@ -165,11 +166,10 @@ private:
         if (style == worn)
             return;
         worn = style;
-        QString error;
-        StyleSheet sheet = LoadStyleSheet(*STYLES[style] != '\0' ? STYLES[style] : "light", error).value();
+        ZStyleSheet sheet = LoadStyleSheet(*STYLES[style] != '\0' ? STYLES[style] : "light").value();
         if (*STYLES[style] == '\0')
             sheet.text.clear();
-        ApplyStyleSheet(sheet);
+        sheet.apply();
     }
 
     static void ShowAndCheck(Backdrop& backdrop, QWidget& widget, bool showsSomething)

@@ -1,6 +1,5 @@
 #include <Catalogue/Scene.h>
-
-#include <Gallery/StyleSheet.h>
+#include <Examples/Support/BuiltInStyleSheets.h>
 
 #include <Support/Census.h>
 #include <Support/LinkTrap.h>
@@ -14,7 +13,8 @@
 
 #include <deque>
 
-using namespace Zelkor::Gallery;
+using namespace Zelkor::Catalogue;
+using Zelkor::Examples::LoadStyleSheet;
 
 namespace {
 
@@ -201,11 +201,7 @@ class tst_HostileApplication : public Support::TestCase
 
 private Q_SLOTS:
     // Without a sheet: most of the time would go into applying it to each of the many widgets.
-    void initTestCase()
-    {
-        QString error;
-        ApplyStyleSheet({QString(), LoadStyleSheet("dark", error)->iconFolder});
-    }
+    void initTestCase() { ZStyleSheet{QString(), LoadStyleSheet("dark")->iconFolder}.apply(); }
 
     void worksAfterAttackInSlot_data()
     {

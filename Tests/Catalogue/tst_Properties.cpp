@@ -1,6 +1,6 @@
-#include <Gallery/Catalogue.h>
-#include <Gallery/SignalLog.h>
-#include <Gallery/StyleSheet.h>
+#include <Catalogue/Catalogue.h>
+#include <Examples/Support/BuiltInStyleSheets.h>
+#include <Gallery/Inspector/SignalLog.h>
 
 #include <Support/TestCase.h>
 
@@ -18,7 +18,9 @@
 #include <sys/resource.h>
 #endif
 
+using namespace Zelkor::Catalogue;
 using namespace Zelkor::Gallery;
+using Zelkor::Examples::LoadStyleSheet;
 
 namespace {
 
@@ -232,8 +234,7 @@ private Q_SLOTS:
         const rlimit enough{rlim_t(4) << 30, rlim_t(4) << 30};
         QCOMPARE(setrlimit(RLIMIT_AS, &enough), 0);
 #endif
-        QString error;
-        ApplyStyleSheet(LoadStyleSheet("dark", error).value());
+        LoadStyleSheet("dark")->apply();
     }
 
     void takesWhateverItIsTold_data()

@@ -1,5 +1,5 @@
-#include <Gallery/Catalogue.h>
-#include <Gallery/StyleSheet.h>
+#include <Catalogue/Catalogue.h>
+#include <Examples/Support/BuiltInStyleSheets.h>
 
 #include <Support/TestCase.h>
 
@@ -14,7 +14,8 @@
 
 #include <memory>
 
-using namespace Zelkor::Gallery;
+using namespace Zelkor::Catalogue;
+using Zelkor::Examples::LoadStyleSheet;
 
 namespace {
 
@@ -163,10 +164,10 @@ private Q_SLOTS:
         QVERIFY(!parts.isEmpty());
         // The icons that states ask for, without the look around them.
         QString error;
-        std::optional<StyleSheet> sheet = LoadStyleSheet("dark", error);
+        std::optional<ZStyleSheet> sheet = LoadStyleSheet("dark");
         QVERIFY2(sheet, qPrintable(error));
         sheet->text.clear();
-        ApplyStyleSheet(*sheet);
+        sheet->apply();
     }
 
     void everyEntryHasItsPart()

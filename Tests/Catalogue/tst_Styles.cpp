@@ -1,6 +1,5 @@
-#include <Gallery/Catalogue.h>
-#include <Gallery/StyleSheet.h>
-
+#include <Catalogue/Catalogue.h>
+#include <Examples/Support/BuiltInStyleSheets.h>
 #include <UI/Widgets/HorizontalTabBar.h>
 
 #include <Support/TestCase.h>
@@ -14,7 +13,8 @@
 #include <algorithm>
 #include <cmath>
 
-using namespace Zelkor::Gallery;
+using namespace Zelkor::Catalogue;
+using Zelkor::Examples::LoadStyleSheet;
 
 namespace {
 
@@ -104,10 +104,9 @@ private Q_SLOTS:
         QVERIFY(QImage("vxstyle:mark.svg") == red);
 
         QFETCH_GLOBAL(QString, name);
-        QString error;
-        StyleSheet sheet = *LoadStyleSheet(name.toLower(), error);
+        ZStyleSheet sheet = *LoadStyleSheet(name.toLower());
         sheet.text += "\nQLabel { background-image: url(vxstyle:mark.svg); }";
-        ApplyStyleSheet(sheet);
+        sheet.apply();
         QLabel label;
         label.resize(16, 16);
         // Qt says for each attempt that there is no such icon.
@@ -116,15 +115,14 @@ private Q_SLOTS:
         QVERIFY(label.grab().toImage().pixelColor(8, 8) != Qt::red);
         // Qt prefers the icons for dense screens, and the sheet may lack some.
         QVERIFY(!qApp->styleSheet().contains("vxstyle:"));
-        QVERIFY(StyleIcon("mark").pixmap(16).isNull());
+        QVERIFY(ZStyleSheet::icon("mark").pixmap(16).isNull());
         QVERIFY(QDir::setCurrent(previous));
     }
 
     void disabledTabLooksDisabled()
     {
         QFETCH_GLOBAL(QString, name);
-        QString error;
-        ApplyStyleSheet(*LoadStyleSheet(name.toLower(), error));
+        LoadStyleSheet(name.toLower())->apply();
         Zelkor::Vx::HorizontalTabBar bar(nullptr);
         bar.addTab("l");
         bar.addTab("l");
@@ -145,7 +143,7 @@ private Q_SLOTS:
     {
         QFETCH_GLOBAL(QString, name);
         QString error;
-        const auto sheet = LoadStyleSheet(name.toLower(), error);
+        const auto sheet = LoadStyleSheet(name.toLower());
         QVERIFY2(sheet, qPrintable(error));
         static const QRegularExpression PLACEHOLDER("@[a-z-]+@");
         QVERIFY(!sheet->text.contains(PLACEHOLDER));
@@ -157,7 +155,7 @@ private Q_SLOTS:
             urls.append("vxstyle:" + entry.icon + ".svg");
         }
         // A mistake in the sheet would be a warning, which fails the test.
-        ApplyStyleSheet(*sheet);
+        sheet->apply();
         QCOMPARE(qApp->styleSheet(), sheet->text);
         QWidget().ensurePolished();
         for (const QString& url : urls) {

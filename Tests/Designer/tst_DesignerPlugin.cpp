@@ -1,4 +1,4 @@
-#include <Gallery/Catalogue.h>
+#include <Catalogue/Catalogue.h>
 
 #include <Support/TestCase.h>
 
@@ -15,7 +15,7 @@
 
 #include <memory>
 
-using namespace Zelkor::Gallery;
+using namespace Zelkor::Catalogue;
 
 namespace {
 

@@ -1,18 +1,17 @@
-#include <Gallery/Catalogue.h>
-#include <Gallery/Inspector.h>
-#include <Gallery/ObjectTree.h>
-#include <Gallery/PropertyPanel.h>
-#include <Gallery/PropertyValue.h>
-#include <Gallery/SignalLog.h>
-#include <Gallery/StateCard.h>
-#include <Gallery/StyleSheet.h>
-#include <Gallery/StyleSheetLine.h>
-#include <Gallery/WidgetPage.h>
-
-#include <Support/TestCase.h>
-
+#include <Catalogue/Catalogue.h>
+#include <Examples/Support/BuiltInStyleSheets.h>
+#include <Gallery/Browser/StateCard.h>
+#include <Gallery/Browser/WidgetPage.h>
+#include <Gallery/Inspector/Inspector.h>
+#include <Gallery/Inspector/ObjectTree.h>
+#include <Gallery/Inspector/PropertyPanel.h>
+#include <Gallery/Inspector/PropertyValue.h>
+#include <Gallery/Inspector/SignalLog.h>
+#include <Gallery/Inspector/StyleSheetLine.h>
 #include <UI/Kit/ZLineEdit.h>
 #include <UI/Widgets/ColorButton.h>
+
+#include <Support/TestCase.h>
 
 #include <QAbstractSpinBox>
 #include <QCheckBox>
@@ -30,7 +29,9 @@
 #include <memory>
 
 using namespace Zelkor;
+using namespace Zelkor::Catalogue;
 using namespace Zelkor::Gallery;
+using Zelkor::Examples::LoadStyleSheet;
 
 namespace {
 
@@ -144,8 +145,7 @@ class tst_Inspector : public Support::TestCase
 private Q_SLOTS:
     void initTestCase()
     {
-        QString error;
-        ApplyStyleSheet(LoadStyleSheet("dark", error).value());
+        LoadStyleSheet("dark")->apply();
         QImage image(3, 2, QImage::Format_ARGB32);
         image.fill(Qt::red);
         picture = folder.filePath("a picture.png");

@@ -1,11 +1,10 @@
-#include <Gallery/Catalogue.h>
-#include <Gallery/SignalLog.h>
-#include <Gallery/StateCard.h>
-#include <Gallery/WidgetPage.h>
+#include <Catalogue/Catalogue.h>
+#include <Gallery/Browser/StateCard.h>
+#include <Gallery/Browser/WidgetPage.h>
+#include <Gallery/Inspector/SignalLog.h>
+#include <UI/Widgets/ColorButton.h>
 
 #include <Support/TestCase.h>
-
-#include <UI/Widgets/ColorButton.h>
 
 #include <QCheckBox>
 #include <QPlainTextEdit>
@@ -13,6 +12,7 @@
 #include <QRegularExpression>
 #include <QToolButton>
 
+using namespace Zelkor::Catalogue;
 using namespace Zelkor::Gallery;
 
 namespace {

@@ -4,7 +4,7 @@
 # cast or search finds nothing. Classes of Qt, exported classes, object names and properties work across the edge.
 set -euo pipefail
 cd "$1"
-folders=(Gallery Designer Tests/Consumer)
+folders=(Catalogue Examples Gallery Designer Tests/Consumer)
 
 classes=$(sed -nE 's/^class ([A-Za-z]+)( final)? : .*/\1/p' Lib/UI/Kit/*.h Lib/UI/Kit/*/*.h | sort -u | paste -sd'|')
 [ -n "$classes" ] || { echo "no classes in Lib/UI/Kit"; exit 1; }

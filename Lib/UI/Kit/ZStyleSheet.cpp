@@ -1,4 +1,4 @@
-#include "StyleSheet.h"
+#include <UI/Kit/ZStyleSheet.h>
 
 #include <UI/Kit/StyleSheetEditor/StyleSheetFile.h>
 
@@ -11,39 +11,22 @@
 #include <QStyleFactory>
 #include <QUuid>
 
-// A resource in a static library has to be registered by hand, from outside of any namespace.
-static void RegisterStyles()
-{
-    Q_INIT_RESOURCE(Styles);
-}
-
-namespace Zelkor::Gallery {
-
 namespace {
 
 const QString SEARCH_PATH = QStringLiteral("vxstyle");
 
-QString FileOf(const QString& nameOrFile)
-{
-    if (nameOrFile == "dark")
-        return ":/Styles/Dark.qss";
-    if (nameOrFile == "light")
-        return ":/Styles/Light.qss";
-    return nameOrFile;
-}
+int appliedSheets = 0;     ///< counts calls of apply(); icons loaded before the last one are out of date
+QString currentIconFolder; ///< of the sheet applied last
 
-int appliedSheets = 0; ///< how many there were; icons of an earlier one are out of date
-QString iconFolder;    ///< of the last one
-
-// Qt looks for a file that a search path lacks, an icon for a dense screen for instance, in the current folder. Where
-// that holds a file of such a name, the sheet goes by a search path of a name that no file has.
+// Qt falls back to the current folder for files that a search path lacks, for instance icons for dense screens. Where
+// that folder holds files with such names, the sheet uses a search path with a name that no file has.
 QString WithoutFilesOfCurrentFolder(const QString& text)
 {
     const QString prefix = SEARCH_PATH + ":";
     if (QDir::current().entryList({prefix + "*"}).isEmpty())
         return text;
     const QString path = SEARCH_PATH + QUuid::createUuid().toString(QUuid::Id128);
-    QDir::setSearchPaths(path, {iconFolder});
+    QDir::setSearchPaths(path, {currentIconFolder});
     return QString(text).replace(prefix, path + ":");
 }
 
@@ -56,7 +39,7 @@ QIcon LoadTinted(const QString& stem, const QString& tint)
     return icon;
 }
 
-// An icon that is always the one of the style sheet that is applied, so that nobody has to set it again.
+// An icon of the sheet applied last, so that widgets keep theirs when another sheet is applied.
 class TintedIconEngine : public QIconEngine
 {
 public:
@@ -83,7 +66,7 @@ private:
     const QIcon& Current()
     {
         if (loadedFor != appliedSheets) {
-            icon = LoadTinted(QDir(iconFolder).filePath(name), tint);
+            icon = LoadTinted(QDir(currentIconFolder).filePath(name), tint);
             loadedFor = appliedSheets;
         }
         return icon;
@@ -97,44 +80,40 @@ private:
 
 } // namespace
 
-std::optional<StyleSheet> LoadStyleSheet(const QString& nameOrFile, QString& error)
+std::optional<ZStyleSheet> ZStyleSheet::load(const QString& fileName, QString* error)
 {
-    RegisterStyles();
-    const QFileInfo info(FileOf(nameOrFile));
-    namespace StyleSheetFile = Vx::UI::Kit::StyleSheetFile;
+    namespace StyleSheetFile = Zelkor::Vx::UI::Kit::StyleSheetFile;
     StyleSheetFile::Error why;
-    const auto contents = StyleSheetFile::Read(info.filePath(), why);
+    const auto contents = StyleSheetFile::Read(fileName, why);
     if (!contents) {
-        error = why.describe();
+        if (error)
+            *error = why.describe();
         return std::nullopt;
     }
-    return StyleSheet{contents->text, info.dir().filePath(info.completeBaseName())};
+    const QFileInfo info(fileName);
+    return ZStyleSheet{contents->text, info.dir().filePath(info.completeBaseName())};
 }
 
-void ApplyStyleSheet(const StyleSheet& sheet)
+void ZStyleSheet::apply() const
 {
-    iconFolder = QDir(sheet.iconFolder).absolutePath();
-    QDir::setSearchPaths(SEARCH_PATH, {iconFolder});
+    currentIconFolder = QDir(iconFolder).absolutePath();
+    QDir::setSearchPaths(SEARCH_PATH, {currentIconFolder});
     ++appliedSheets;
     QApplication::setStyle(QStyleFactory::create("Fusion"));
-    qApp->setStyleSheet(WithoutFilesOfCurrentFolder(sheet.text));
+    qApp->setStyleSheet(WithoutFilesOfCurrentFolder(text));
 }
 
-QIcon BuiltInIcon(const QString& sheet, const QString& name)
+QIcon ZStyleSheet::ownIcon(const QString& name) const
 {
-    RegisterStyles();
-    const QFileInfo file(FileOf(sheet));
-    return LoadTinted(file.path() + "/" + file.completeBaseName() + "/" + name, QString());
+    return LoadTinted(QDir(iconFolder).filePath(name), QString());
 }
 
-QIcon StyleIcon(const QString& name)
+QIcon ZStyleSheet::icon(const QString& name)
 {
     return QIcon(new TintedIconEngine(name, QString()));
 }
 
-QIcon StyleIconOnAccent(const QString& name)
+QIcon ZStyleSheet::iconOnAccent(const QString& name)
 {
     return QIcon(new TintedIconEngine(name, "-on-accent"));
 }
-
-} // namespace Zelkor::Gallery

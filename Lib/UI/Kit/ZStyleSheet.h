@@ -5,29 +5,25 @@
 
 #include <optional>
 
-namespace Zelkor::Gallery {
-
-/// Where a style sheet and its icons come from.
-struct StyleSheet
+/// A style sheet with its icons, which it names as `url(vxstyle:NAME.svg)`. GUI thread.
+struct ZStyleSheet
 {
     QString text;
-    QString iconFolder;
+    QString iconFolder; ///< where NAME.svg is looked for; a folder or a resource path
+
+    /// Reads a sheet from a file or a resource. Its icons are in the folder of the same name beside it: `Dark/` for
+    /// `Dark.qss`. Returns nothing and sets `error` when the sheet cannot be read.
+    static std::optional<ZStyleSheet> load(const QString& fileName, QString* error = nullptr);
+
+    /// Sets the sheet and its icons for the application, above the style "Fusion", which draws alike everywhere.
+    void apply() const;
+
+    /// The icon NAME of this sheet in its plain and its disabled tint (NAME-disabled.svg).
+    QIcon ownIcon(const QString& name) const;
+
+    /// The icon NAME of the sheet applied last. It follows when another one is applied.
+    static QIcon icon(const QString& name);
+
+    /// As icon(), in the tint for accent-coloured backgrounds (NAME-on-accent.svg).
+    static QIcon iconOnAccent(const QString& name);
 };
-
-/// Reads a style sheet: "dark" and "light" are the built-in ones, anything else is a file whose icons lie in a folder
-/// beside it that is named like it. Nothing, and why in `error`, when it cannot be read.
-std::optional<StyleSheet> LoadStyleSheet(const QString& nameOrFile, QString& error);
-
-/// Gives the application this look: the sheet, its icons, and a basic style that draws alike everywhere.
-void ApplyStyleSheet(const StyleSheet& sheet);
-
-/// The icon `name` of the style sheet, in its plain and its disabled tint. It follows when another one is applied.
-QIcon StyleIcon(const QString& name);
-
-/// The same in the tint that goes with the accent.
-QIcon StyleIconOnAccent(const QString& name);
-
-/// The icon `name` of the built-in style sheet "dark" or "light", whatever is applied.
-QIcon BuiltInIcon(const QString& sheet, const QString& name);
-
-} // namespace Zelkor::Gallery

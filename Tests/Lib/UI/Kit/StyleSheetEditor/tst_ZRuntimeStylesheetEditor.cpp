@@ -283,10 +283,10 @@ private Q_SLOTS:
 
     void pickedWidgetStillLives()
     {
-        ZWidgetPicker picker(nullptr);
-        QSignalSpy picked(&picker, &ZWidgetPicker::picked);
+        WidgetPicker picker(nullptr);
+        QSignalSpy picked(&picker, &WidgetPicker::picked);
         QPointer<QWidget> widget = new QWidget;
-        connect(&picker, &ZWidgetPicker::stopped, widget, [widget] { delete widget; });
+        connect(&picker, &WidgetPicker::stopped, widget, [widget] { delete widget; });
         picker.start();
         QTest::mousePress(widget, Qt::LeftButton);
         QVERIFY(!widget);

@@ -7,25 +7,25 @@ class QWidget;
 
 namespace Zelkor::Gallery {
 
-/// The texts of the controls for properties, for translation.
+/// Translates the texts of the property controls.
 class Editors
 {
     Q_DECLARE_TR_FUNCTIONS(Editors)
 };
 
-/// Of a number that need not be whole.
+/// Decimals of a floating-point property.
 constexpr int DECIMALS = 4;
 
-/// A spin box of the kit for the list of properties, owned by the parent.
+/// A spin box for the list of properties, owned by `parent`.
 template<class SpinBox>
 SpinBox* CreateSpinBox(QWidget* parent, double smallest, double largest)
 {
     auto* box = new SpinBox(parent);
     box->setRange(smallest, largest);
-    // In a list that scrolls, the wheel is for the list; and half a number is no value.
+    // The wheel scrolls the list, and a number that is still being typed is not a value yet.
     box->setEditableInFocus(true);
     box->setKeyboardTracking(false);
-    // Numbers of any length are shorter than the range.
+    // The hint covers the whole range, which no value in use needs.
     box->setMinimumWidth(0);
     box->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     return box;

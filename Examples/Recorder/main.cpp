@@ -1,0 +1,151 @@
+#include "FittingScrollArea.h"
+#include "Preferences.h"
+#include "RecorderModel.h"
+#include "RecorderWindow.h"
+#include "TrimPage.h"
+
+#include <Examples/Support/Appearance.h>
+#include <Examples/Support/Offscreen.h>
+#include <Examples/Support/ScreenFit.h>
+#include <UI/Kit/ZRuntimeStylesheetEditor.h>
+#include <UI/Kit/ZStyleSheet.h>
+
+#include <Zelkor/StandIn/DeviceList.h>
+
+#include <QAction>
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QSettings>
+#include <QTimer>
+
+#include <cstdio>
+
+using namespace Zelkor::Recorder;
+using Zelkor::Examples::Appearance;
+using Zelkor::StandIn::DeviceList;
+
+namespace {
+
+constexpr int HINT_DELAY_MS = 800; ///< until the window system has placed the window
+const QString HINT_SHOWN = QStringLiteral("firstHintShown");
+
+void Complain(const QString& text)
+{
+    std::fprintf(stderr, "VxRecorder: %s\n", qPrintable(text));
+}
+
+void Declare(QCommandLineParser& parser)
+{
+    parser.setApplicationDescription("A small screen recorder made of VxUiWidgets. It shows a live picture; nothing is "
+                                     "recorded.");
+    parser.addOptions({
+        {{"h", "help"}, "Shows this help."},
+        {"style", "Uses the style sheet dark, light, or a file.", "FILE", "dark"},
+        {"language", "Uses the translations of a language, for instance de.", "L"},
+        {"rtl", "Lays out from right to left."},
+        {"trimmer", "Opens the trimmer instead of the recorder."},
+        {"shot", "Writes a picture of the window as PNG and exits.", "FILE"},
+        {"size", "Width and height of the window in pixels, for instance 900x640.", "WxH"},
+        {"after", "Time before the picture, in milliseconds.", "MS", "800"},
+    });
+}
+
+// The hint is shown once for each user.
+void GreetOnce(RecorderWindow& window)
+{
+    QTimer::singleShot(HINT_DELAY_MS, &window, [&window] {
+        QSettings settings("VxUiWidgets", QApplication::applicationName());
+        if (!window.isVisible() || settings.value(HINT_SHOWN).toBool())
+            return;
+        settings.setValue(HINT_SHOWN, true);
+        window.ShowFirstHint();
+    });
+}
+
+void Raise(QWidget& window)
+{
+    window.show();
+    window.raise();
+    window.activateWindow();
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    QStringList arguments;
+    for (int i = 0; i < argc; ++i)
+        arguments.append(QString::fromLocal8Bit(argv[i]));
+    // Qt has an option --style as well, and would take ours out of the arguments.
+    int programOnly = 1;
+    QApplication application(programOnly, argv);
+    QApplication::setApplicationName("VxRecorder");
+    Zelkor::Examples::AdaptToOffscreen();
+    QCommandLineParser parser;
+    Declare(parser);
+    if (!parser.parse(arguments) || !parser.positionalArguments().isEmpty()) {
+        Complain(parser.errorText().isEmpty() ? "takes options only" : parser.errorText());
+        return 2;
+    }
+    if (parser.isSet("help")) {
+        std::puts(qPrintable(parser.helpText().trimmed()));
+        return EXIT_SUCCESS;
+    }
+
+    Appearance appearance("VxRecorder");
+    QString error;
+    if (!appearance.SetStyle(parser.value("style"), &error)) {
+        Complain(error);
+        return 2;
+    }
+    if (parser.isSet("language") && !appearance.SetLanguage(parser.value("language")))
+        Complain(QString("there are no translations for '%1'; continuing in English").arg(parser.value("language")));
+    if (parser.isSet("rtl"))
+        QApplication::setLayoutDirection(Qt::RightToLeft);
+    QApplication::setWindowIcon(ZStyleSheet::icon("app"));
+
+    Preferences preferences;
+    DeviceList devices;
+    RecorderModel model;
+    QObject::connect(&devices, &DeviceList::Changed, &model, [&] { model.SetDevices(devices.GetDevices()); });
+    model.SetDevices(devices.GetDevices());
+    RecorderWindow recorder(&model, &preferences, &appearance);
+    recorder.resize(recorder.sizeHint());
+    FittingScrollArea trimmer(new TrimPage);
+    trimmer.setWindowTitle(TrimPage::tr("Trimmer"));
+    ZRuntimeStylesheetEditor styleEditor;
+    QAction editStyle;
+    editStyle.setShortcut(Qt::Key_F12);
+    editStyle.setShortcutContext(Qt::ApplicationShortcut);
+    recorder.addAction(&editStyle);
+    for (QWidget* window : {static_cast<QWidget*>(&trimmer), static_cast<QWidget*>(&styleEditor)})
+        window->setAttribute(Qt::WA_QuitOnClose, false);
+    QObject::connect(&editStyle, &QAction::triggered, &styleEditor, [&] { Raise(styleEditor); });
+    QObject::connect(&recorder, &RecorderWindow::StyleEditorRequested, &styleEditor, [&] { Raise(styleEditor); });
+    QObject::connect(&recorder, &RecorderWindow::TrimmerRequested, &trimmer, [&] { Raise(trimmer); });
+
+    QWidget* window = &recorder;
+    if (parser.isSet("trimmer")) {
+        window = &trimmer;
+        window->setAttribute(Qt::WA_QuitOnClose);
+    }
+    const QStringList sides = parser.value("size").split('x');
+    const QSize size(sides.value(0).toInt(), sides.value(1).toInt());
+    if (!size.isEmpty())
+        window->resize(size);
+    Zelkor::Examples::FitToScreen(window);
+    window->show();
+    if (!parser.isSet("shot")) {
+        GreetOnce(recorder);
+        return QApplication::exec();
+    }
+    QTimer::singleShot(parser.value("after").toInt(), window, [&] {
+        const bool written = window->grab().save(parser.value("shot"), "PNG");
+        if (!written)
+            Complain(QString("cannot write the picture '%1'").arg(parser.value("shot")));
+        QApplication::exit(written ? EXIT_SUCCESS : EXIT_FAILURE);
+    });
+    return QApplication::exec();
+}

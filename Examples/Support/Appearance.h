@@ -1,0 +1,42 @@
+#pragma once
+
+#include "Translations.h"
+
+#include <QObject>
+#include <QString>
+
+namespace Zelkor::Examples {
+
+/// Language and style sheet of the application, switched at run time. GUI thread.
+class Appearance : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// `program` is the base name of the program's own translation files: "VxGallery" for VxGallery_de.qm.
+    explicit Appearance(const QString& program, QObject* parent = nullptr);
+
+    /// The code of a language, see `AllLanguages`.
+    QString Language() const { return language; }
+
+    /// Returns false and falls back to English when there are no translations for `code`.
+    bool SetLanguage(const QString& code);
+
+    /// "dark", "light", or empty for a style sheet from a file.
+    QString StyleName() const { return styleName; }
+
+    /// Applies a style sheet, see `LoadStyleSheet`. Returns false, sets `error` and keeps the current one when it
+    /// cannot be read.
+    bool SetStyle(const QString& nameOrFile, QString* error = nullptr);
+
+Q_SIGNALS:
+    void LanguageChanged(const QString& code);
+    void StyleNameChanged(const QString& name);
+
+private:
+    Translations translations;
+    QString language;
+    QString styleName;
+};
+
+} // namespace Zelkor::Examples

@@ -1,0 +1,26 @@
+#include "BuiltInStyleSheets.h"
+
+// Resources of a static library have to be registered by name, outside of any namespace.
+static void RegisterStyles()
+{
+    Q_INIT_RESOURCE(Styles);
+}
+
+namespace Zelkor::Examples {
+
+bool IsBuiltInStyleSheet(const QString& name)
+{
+    return name == "dark" || name == "light";
+}
+
+std::optional<ZStyleSheet> LoadStyleSheet(const QString& nameOrFile, QString* error)
+{
+    RegisterStyles();
+    if (nameOrFile == "dark")
+        return ZStyleSheet::load(":/Styles/Dark.qss", error);
+    if (nameOrFile == "light")
+        return ZStyleSheet::load(":/Styles/Light.qss", error);
+    return ZStyleSheet::load(nameOrFile, error);
+}
+
+} // namespace Zelkor::Examples

@@ -1,0 +1,289 @@
+#include <Examples/Recorder/AudioPanel.h>
+#include <Examples/Recorder/Preferences.h>
+#include <Examples/Recorder/RecorderModel.h>
+#include <Examples/Recorder/RecorderWindow.h>
+#include <Examples/Recorder/SettingsDialog.h>
+#include <Examples/Recorder/TrimPage.h>
+#include <Examples/Support/Appearance.h>
+#include <UI/Kit/ZSliderThumb.h>
+#include <UI/Kit/ZTimeEdit.h>
+#include <UI/Kit/ZTimelineSlider.h>
+#include <UI/Widgets/ButtonWithPopUpList.h>
+#include <UI/Widgets/CountdownIndicatorWidget.h>
+#include <UI/Widgets/MaskedToolTip.h>
+#include <UI/Widgets/SliderWithTickLabels.h>
+#include <UI/Widgets/VideoPreviewWidget.h>
+#include <UI/Widgets/VolumeSlider.h>
+
+#include <Support/FocusWalk.h>
+#include <Support/Input.h>
+#include <Support/TestCase.h>
+
+#include <Zelkor/StandIn/CaptureEngine.h>
+
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QSignalSpy>
+
+#include <memory>
+
+using namespace Zelkor;
+using namespace Zelkor::Recorder;
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr int CAMERA_TIMEOUT_MS = 10000; ///< the stream tries a device seven times, 200 ms apart
+
+/// A camera in use by another application.
+class BusyCamera : public StandIn::CaptureDevice
+{
+public:
+    explicit BusyCamera(const Modes& modes) : CaptureDevice(Kind::Camera, "busy", "Busy camera", modes) {}
+    std::unique_ptr<StandIn::CaptureSource> CreateSource(const StandIn::VideoMode&) const override { return nullptr; }
+};
+
+void Choose(QComboBox* combo, int index)
+{
+    combo->setCurrentIndex(index);
+    Q_EMIT combo->activated(index);
+}
+
+} // namespace
+
+class tst_Recorder : public Support::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        appearance = std::make_unique<Examples::Appearance>("VxRecorder");
+        QVERIFY(appearance->SetStyle("dark"));
+        preferences = {};
+        model = std::make_unique<RecorderModel>();
+        model->SetDevices({StandIn::CreateTestPictureDevice()});
+        window = std::make_unique<RecorderWindow>(model.get(), &preferences, appearance.get());
+        window->resize(1400, 640);
+        window->show();
+    }
+
+    void cleanup()
+    {
+        window.reset();
+        QVERIFY(StandIn::WaitForEngineIdle(20s));
+    }
+
+    void busyCameraShowsAnErrorUntilAnotherDeviceIsChosen()
+    {
+        const auto test = StandIn::CreateTestPictureDevice();
+        const QImage idle = Picture();
+        model->SetDevices({new BusyCamera(test->GetModes()), test});
+        model->ChooseDevice("busy");
+        auto* banner = Child<QWidget>("errorBanner");
+        QTRY_VERIFY_WITH_TIMEOUT(banner->isVisible(), CAMERA_TIMEOUT_MS);
+        QCOMPARE(Child<QAbstractButton>("runButton")->accessibleName(), QString("Start"));
+        auto* devices = Child<QComboBox>("deviceCombo");
+        Choose(devices, devices->findText("Test picture"));
+        QVERIFY(!banner->isVisible());
+        QTRY_VERIFY_WITH_TIMEOUT(Picture() != idle, CAMERA_TIMEOUT_MS);
+    }
+
+    void pictureRunsWhileTheWindowIsVisible()
+    {
+        const QImage idle = Picture();
+        QTRY_VERIFY_WITH_TIMEOUT(Picture() != idle, CAMERA_TIMEOUT_MS);
+        Choose(Child<QComboBox>("modeCombo"), 1);
+        QTRY_VERIFY_WITH_TIMEOUT(Picture() != idle, CAMERA_TIMEOUT_MS);
+        window->hide();
+        QTRY_COMPARE(Picture(), idle);
+        QCOMPARE(model->GetStatus(), RecorderModel::Status::Running);
+    }
+
+    void unpluggedDeviceResumesWhenItReturns()
+    {
+        const double slowest = model->FrameRates().constFirst();
+        model->ChooseFrameRate(slowest);
+        model->SetDevices({});
+        QVERIFY(Child<QComboBox>("deviceCombo")->currentText().contains("not connected"));
+        model->ReportFailure();
+        QCOMPARE(model->GetStatus(), RecorderModel::Status::Failed);
+        QSignalSpy restart(model.get(), &RecorderModel::RestartNeeded);
+        model->SetDevices({StandIn::CreateTestPictureDevice()});
+        QCOMPARE(restart.size(), 1);
+        QCOMPARE(model->CurrentFrameRate(), slowest);
+        QCOMPARE(model->GetStatus(), RecorderModel::Status::Running);
+    }
+
+    void shortcutChoosesTheRecordingModeEverywhere()
+    {
+        QVERIFY(QTest::qWaitForWindowActive(window.get()));
+        QTest::keyClick(window.get(), Qt::Key_2, Qt::ControlModifier);
+        QCOMPARE(model->CurrentRecordingMode(), RecorderModel::RecordingMode::Window);
+        QCOMPARE(Child<Vx::ButtonWithPopUpList>("recordingModes")->CurrentIndex(), 1);
+        QVERIFY(Button("Window")->isChecked());
+    }
+
+    void recordingCountsDownAndNeedsAPicture()
+    {
+        auto* countdown = window->findChild<Vx::CountdownIndicatorWidget*>();
+        Button("Record")->click();
+        QVERIFY(countdown->isVisible());
+        QCOMPARE(countdown->GetSeconds(), 3ULL);
+        model->Stop();
+        QVERIFY(!countdown->isVisible());
+        QVERIFY(!Button("Record")->isEnabled());
+        model->Start();
+        preferences.countdownSeconds = 0;
+        Button("Record")->click();
+        QVERIFY(Child<QLabel>("statusText")->property("originalText").toString().startsWith("Recording"));
+    }
+
+    void tabReachesEveryControl()
+    {
+        QVERIFY(QTest::qWaitForWindowActive(window.get()));
+        const QStringList forwards = Support::NamesOnTheWay(*window, Qt::Key_Tab);
+        for (const char* name : {"Record", "Source", "Audio", "Settings", "Close", "Pointer", "Click sound"})
+            QVERIFY2(forwards.contains(name), name);
+        QVERIFY(!forwards.contains(QString()));
+        QCOMPARE(forwards, Support::NamesOnTheWay(*window, Qt::Key_Backtab));
+    }
+
+    void settingsTakeEffectAtOnce()
+    {
+        Button("Settings")->click();
+        Button("Settings")->click();
+        QCOMPARE(window->findChildren<SettingsDialog*>().size(), 1);
+        Child<Vx::SliderWithTickLabels>("countdown")->SetCurrentIndex(3);
+        QCOMPARE(preferences.countdownSeconds, 10);
+        auto* style = Child<QComboBox>("styleCombo");
+        Choose(style, style->findData("light"));
+        QCOMPARE(appearance->StyleName(), QString("light"));
+    }
+
+    void languageSwitchesAtRunTime_data()
+    {
+        QTest::addColumn<QString>("record");
+        QTest::addColumn<QString>("device");
+        QTest::addColumn<QString>("hours");
+        QTest::newRow("de") << "Aufnehmen"
+                            << "Testbild"
+                            << "Std";
+        QTest::newRow("fr") << "Enregistrer"
+                            << "Mire"
+                            << "h";
+        QTest::newRow("ja") << QString::fromUtf8("録画") << QString::fromUtf8("テスト映像") << QString::fromUtf8("時");
+    }
+
+    void languageSwitchesAtRunTime()
+    {
+        QFETCH(QString, record);
+        QVERIFY(appearance->SetLanguage(QTest::currentDataTag()));
+        QTRY_VERIFY(Button(record));
+        QTEST(Child<QComboBox>("deviceCombo")->currentText(), "device");
+        QTEST(Child<QLabel>("caption1Label")->text(), "hours");
+        QVERIFY(!appearance->SetLanguage("xx"));
+        QTRY_VERIFY(Button("Record"));
+    }
+
+    void hintDisappearsWhenItsButtonIsClicked()
+    {
+        window->ShowFirstHint();
+        const auto hint = [&] { return window->findChild<Vx::UI::MaskedToolTip*>(); };
+        QVERIFY(hint()->isVisible());
+        QTest::mouseClick(Button("Source"), Qt::LeftButton);
+        QTRY_VERIFY(!hint());
+    }
+
+    void levelsMoveWhileTheirPanelIsVisible()
+    {
+        window->hide();
+        AudioPanel panel;
+        panel.show();
+        auto* slider = panel.findChildren<Vx::VolumeSlider*>().last();
+        const QImage silent = slider->grab().toImage();
+        QTRY_VERIFY(slider->grab().toImage() != silent);
+        panel.hide();
+        QVERIFY(StandIn::WaitForEngineIdle(20s));
+        QCOMPARE(slider->grab().toImage(), silent);
+    }
+
+    void escapeCancelsTheDragOfABracket()
+    {
+        TrimPage page;
+        page.resize(900, 500);
+        page.show();
+        ZSliderThumb* start = page.findChild<ZTimelineSlider*>("timeline")->thumb("left");
+        const QPoint grip = start->rect().center();
+        QTest::mousePress(start, Qt::LeftButton, {}, grip);
+        for (int i = 0; i < 10; ++i)
+            Support::MoveMouse(start, grip + QPoint(10, 0));
+        QVERIFY(start->value() > 0);
+        QTest::keyClick(&page, Qt::Key_Escape);
+        Support::MoveMouse(start, grip + QPoint(10, 0));
+        QTest::mouseRelease(start, Qt::LeftButton, {}, grip);
+        QCOMPARE(start->value(), 0);
+    }
+
+    void keyboardTrimsCutsAndUndoes()
+    {
+        TrimPage page;
+        page.resize(900, 500);
+        page.show();
+        QVERIFY(QTest::qWaitForWindowActive(&page));
+        auto* timeline = page.findChild<ZTimelineSlider*>("timeline");
+        auto* field = page.findChild<ZTimeEdit*>("startField");
+        field->setFocus();
+        field->findChild<QLineEdit*>()->setCursorPosition(1);
+        QTest::keyClick(field, Qt::Key_1);
+        QCOMPARE(timeline->thumb("left")->value(), timeline->valueOf(60000));
+
+        timeline->setFocus();
+        for (const int time : {150000, 300000}) {
+            timeline->setTime(time);
+            QTest::keyClick(timeline, Qt::Key_X);
+        }
+        QCOMPARE(timeline->segments().size(), 1);
+        QCOMPARE(timeline->segments().constFirst().to, timeline->valueOf(150000));
+        QTest::keySequence(&page, QKeySequence::Undo);
+        QTest::keySequence(&page, QKeySequence::Undo);
+        QCOMPARE(timeline->thumb("left")->value(), 0);
+    }
+
+    void cutsOutsideTheKeptRangeReturnWithIt()
+    {
+        TrimModel trim(1000);
+        trim.CutOut(250, 400);
+        trim.SetStart(350);
+        QCOMPARE(trim.ResultDuration(), 600);
+        trim.SetStart(0);
+        QCOMPARE(trim.ResultDuration(), 850);
+    }
+
+private:
+    template<class Widget>
+    Widget* Child(const char* name) const
+    {
+        return window->findChild<Widget*>(name);
+    }
+
+    QAbstractButton* Button(const QString& name) const
+    {
+        for (auto* button : window->findChildren<QAbstractButton*>()) {
+            if (button->accessibleName() == name)
+                return button;
+        }
+        return nullptr;
+    }
+
+    QImage Picture() const { return window->findChild<Vx::UI::VideoPreviewWidget*>()->grab().toImage(); }
+
+    std::unique_ptr<Examples::Appearance> appearance;
+    Preferences preferences;
+    std::unique_ptr<RecorderModel> model;
+    std::unique_ptr<RecorderWindow> window;
+};
+
+VX_TEST_MAIN(tst_Recorder)
+#include "tst_Recorder.moc"
