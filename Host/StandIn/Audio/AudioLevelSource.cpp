@@ -1,6 +1,6 @@
 #include <Zelkor/StandIn/AudioLevelSource.h>
 
-#include <StandIn/Audio/AudioLevelRun.h>
+#include <StandIn/Audio/AudioLevelWorker.h>
 
 #include <QTimer>
 
@@ -13,17 +13,19 @@ namespace Zelkor::StandIn {
 
 namespace {
 
-using Peak = AudioLevelRun::Peak;
+using Peak = AudioLevelWorker::Peak;
 
-/// The highest peak that the thread of one run has measured since the source looked last.
+/// The highest peak that a worker has measured since the last `Take`.
 class Mailbox
 {
 public:
     void Put(const Peak& newPeak)
     {
         const std::lock_guard<std::mutex> lock(mutex);
-        const double before = peak ? peak->decibels : AudioLevelSource::SILENCE_DB;
-        peak = {std::max(newPeak.decibels, before), newPeak.isTestSignal};
+        const double previous = peak ? peak->decibels : AudioLevelSource::SILENCE_DB;
+        // A value that is not a number counts as silence.
+        const double highest = newPeak.decibels > previous ? newPeak.decibels : previous;
+        peak = {std::min(highest, 0.0), newPeak.isTestSignal};
     }
 
     std::optional<Peak> Take()
@@ -42,17 +44,17 @@ private:
 struct AudioLevelSource::Impl
 {
     Input input;
-    std::shared_ptr<AudioLevelRun> run; ///< null while the source does not run
-    std::shared_ptr<Mailbox> mailbox;   ///< of this run
+    std::shared_ptr<AudioLevelWorker> worker; ///< null while the source is stopped
+    std::shared_ptr<Mailbox> mailbox;         ///< filled by the worker
     bool isTestSignal = false;
-    QTimer timer; ///< looks into the mailbox; a posted event could be swallowed, a timer's comes again
+    QTimer timer; ///< polls the mailbox: an event filter can drop a posted event for good, but not a timer
 };
 
 AudioLevelSource::AudioLevelSource(Input input, QObject* parent) : QObject(parent), impl(std::make_unique<Impl>())
 {
     impl->input = input;
     impl->timer.setTimerType(Qt::PreciseTimer);
-    impl->timer.setInterval(AudioLevelRun::INTERVAL);
+    impl->timer.setInterval(AudioLevelWorker::INTERVAL);
     connect(&impl->timer, &QTimer::timeout, this, &AudioLevelSource::EmitPeak);
 }
 
@@ -63,21 +65,21 @@ AudioLevelSource::~AudioLevelSource()
 
 void AudioLevelSource::Start()
 {
-    if (impl->run)
+    if (impl->worker)
         return;
     impl->mailbox = std::make_shared<Mailbox>();
-    impl->run = std::make_shared<AudioLevelRun>(impl->input == Input::Microphone,
-                                                [mailbox = impl->mailbox](const Peak& peak) { mailbox->Put(peak); });
-    impl->run->Start();
+    impl->worker = std::make_shared<AudioLevelWorker>(
+        impl->input == Input::Microphone, [mailbox = impl->mailbox](const Peak& peak) { mailbox->Put(peak); });
+    impl->worker->Start();
     impl->timer.start();
 }
 
 void AudioLevelSource::Stop()
 {
-    if (!impl->run)
+    if (!impl->worker)
         return;
-    impl->run->End();
-    impl->run = nullptr;
+    impl->worker->RequestStop();
+    impl->worker = nullptr;
     impl->timer.stop();
 }
 

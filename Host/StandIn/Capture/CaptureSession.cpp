@@ -26,12 +26,11 @@ std::unique_ptr<CaptureSource> CreateSource(const CaptureDevice& device, const V
 CaptureSession::CaptureSession(const boost::intrusive_ptr<const CaptureDevice>& device,
                                const boost::intrusive_ptr<const VideoMode>& mode,
                                const std::shared_ptr<const Time::IChronometer>& chronometer)
-    : device(device), mode(mode), chronometer(chronometer), calls(std::make_shared<ObserverCalls>(*this))
+    : device(device), mode(mode), chronometer(chronometer), control(std::make_shared<SessionControlBlock>(*this))
 {}
 
 CaptureSession::~CaptureSession()
 {
-    calls->ForgetSession();
     Stop();
 }
 
@@ -41,26 +40,26 @@ void CaptureSession::Start(const std::shared_ptr<Acquis::ICaptureSessionObserver
         LOG(ERROR) << "A capture session needs an observer";
         return;
     }
-    std::shared_ptr<CaptureRun> former;
+    std::shared_ptr<CaptureWorker> previous; // released after the lock
     const std::lock_guard<std::mutex> lock(mutex);
-    if (run && !run->HasEnded())
+    if (worker && !worker->HasEnded())
         return;
-    // Made here and not on the engine's thread: the rate that counts is the one that is set now.
-    auto next = std::make_shared<CaptureRun>(CreateSource(*device, *mode), chronometer, observer, calls);
-    former = std::exchange(run, std::move(next));
-    run->Start();
+    // Created here and not on the worker's thread, so that the frame rate set now is the one that counts.
+    auto next = std::make_shared<CaptureWorker>(CreateSource(*device, *mode), chronometer, observer, queue, control);
+    previous = std::exchange(worker, std::move(next));
+    worker->Start();
 }
 
 void CaptureSession::Stop()
 {
-    std::shared_ptr<CaptureRun> stopped;
+    std::shared_ptr<CaptureWorker> stopped;
     {
         const std::lock_guard<std::mutex> lock(mutex);
-        stopped = std::exchange(run, nullptr);
+        stopped = std::exchange(worker, nullptr);
     }
     if (stopped)
         stopped->Stop();
-    calls->WaitForSilence();
+    queue->WaitUntilIdle();
 }
 
 void CaptureSession::GetDeviceSettings(std::vector<boost::intrusive_ptr<Acquis::IDeviceSettings>>& handles) const
@@ -70,30 +69,10 @@ void CaptureSession::GetDeviceSettings(std::vector<boost::intrusive_ptr<Acquis::
         handles.push_back(std::move(settings));
 }
 
-void CaptureSession::AddRef() const noexcept
-{
-    count.fetch_add(1, std::memory_order_relaxed);
-}
-
 void CaptureSession::Release() const noexcept
 {
-    if (count.fetch_sub(1, std::memory_order_acq_rel) == 1)
+    if (control->Release())
         delete this;
-}
-
-int CaptureSession::GetRefCount() const noexcept
-{
-    return count.load(std::memory_order_relaxed);
-}
-
-boost::intrusive_ptr<CaptureSession> CaptureSession::TryReference()
-{
-    int seen = count.load(std::memory_order_relaxed);
-    while (seen > 0) {
-        if (count.compare_exchange_weak(seen, seen + 1, std::memory_order_acq_rel))
-            return boost::intrusive_ptr<CaptureSession>(this, false);
-    }
-    return nullptr;
 }
 
 } // namespace Zelkor::StandIn

@@ -1,16 +1,13 @@
 #pragma once
 
-#include <StandIn/Capture/CaptureRun.h>
-
-#include <Zelkor/StandIn/CaptureDevice.h>
-#include <Zelkor/Time/IChronometer.h>
+#include <StandIn/Capture/CaptureWorker.h>
 
 namespace Zelkor::StandIn {
 
-/// Captures one device of this engine in one of its modes.
+/// Captures one device of the stand-in in one of its modes.
 ///
-/// The session counts its references itself: the engine's threads take one for the length of an observer call, but
-/// only as long as there is another one. Nothing of the engine keeps a session beyond that.
+/// A worker references the session only during an observer call, and only while there is another reference. So the
+/// engine never keeps a session alive.
 class CaptureSession : public virtual Acquis::ICaptureSession
 {
 public:
@@ -25,22 +22,19 @@ public:
     void Stop() override;
     void GetDeviceSettings(std::vector<boost::intrusive_ptr<Acquis::IDeviceSettings>>& handles) const override;
 
-    void AddRef() const noexcept override;
+    void AddRef() const noexcept override { control->AddRef(); }
     void Release() const noexcept override;
-    int GetRefCount() const noexcept override;
-
-    /// A reference to the session; null when its last one was released. The object must not be destroyed meanwhile.
-    boost::intrusive_ptr<CaptureSession> TryReference();
+    int GetRefCount() const noexcept override { return control->GetRefCount(); }
 
 private:
     const boost::intrusive_ptr<const CaptureDevice> device;
     const boost::intrusive_ptr<const VideoMode> mode;
     const std::shared_ptr<const Time::IChronometer> chronometer;
-    const std::shared_ptr<ObserverCalls> calls;
-    mutable std::atomic<int> count{0};
+    const std::shared_ptr<SessionControlBlock> control;
+    const std::shared_ptr<ObserverQueue> queue = std::make_shared<ObserverQueue>();
 
-    std::mutex mutex; ///< guards what follows
-    std::shared_ptr<CaptureRun> run;
+    std::mutex mutex; ///< guards `worker`
+    std::shared_ptr<CaptureWorker> worker;
 };
 
 } // namespace Zelkor::StandIn

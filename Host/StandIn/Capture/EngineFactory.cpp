@@ -18,8 +18,9 @@ namespace {
 using Device = boost::intrusive_ptr<const CaptureDevice>;
 using Mode = boost::intrusive_ptr<const VideoMode>;
 
-/// Why the engine cannot capture this; null when it can.
-const char* Objection(const Acquis::CaptureSessionInitializer& initializer, const Device& device, const Mode& mode)
+/// Returns why the engine cannot capture this, or null when it can.
+const char* UnsupportedReason(const Acquis::CaptureSessionInitializer& initializer, const Device& device,
+                              const Mode& mode)
 {
     if (initializer.GetUnits().size() != 1)
         return "it captures exactly one device";
@@ -48,45 +49,45 @@ public:
             device = dynamic_cast<const CaptureDevice*>(unit.GetDevice().get());
             mode = dynamic_cast<const VideoMode*>(unit.GetSettings().get());
         }
-        const char* objection = implName.empty() || implName == Proc::ImplNames::DEFAULT
-                                    ? Objection(initializer, device, mode)
-                                    : "there is no implementation of this name";
-        if (objection)
-            LOG(ERROR) << "The capture engine makes no session (" << implName << "): " << objection;
+        const char* reason = implName.empty() || implName == Proc::ImplNames::DEFAULT
+                                 ? UnsupportedReason(initializer, device, mode)
+                                 : "there is no implementation of this name";
+        if (reason)
+            LOG(ERROR) << "The capture engine makes no session (" << implName << "): " << reason;
         else
             session = new CaptureSession(device, mode, initializer.GetChronometer());
     }
 };
 
-/// The factory that `Create` gives. Never destroyed: threads may ask for it while the process exits.
-struct Choice
+/// The factory that `Create` returns. Never destroyed: threads may call `Create` while the process exits.
+struct Factories
 {
     const boost::intrusive_ptr<Acquis::ICaptureFactory> own{new EngineFactory};
     std::mutex mutex;
     boost::intrusive_ptr<Acquis::ICaptureFactory> current = own;
 };
 
-Choice& TheChoice()
+Factories& TheFactories()
 {
-    static auto& choice = *new Choice;
-    return choice;
+    static auto& factories = *new Factories;
+    return factories;
 }
 
 } // namespace
 
 boost::intrusive_ptr<Acquis::ICaptureFactory> CurrentCaptureFactory()
 {
-    auto& choice = TheChoice();
-    const std::lock_guard<std::mutex> lock(choice.mutex);
-    return choice.current;
+    auto& factories = TheFactories();
+    const std::lock_guard<std::mutex> lock(factories.mutex);
+    return factories.current;
 }
 
 void OverrideCaptureFactory(const boost::intrusive_ptr<Acquis::ICaptureFactory>& factory)
 {
-    auto& choice = TheChoice();
-    auto next = factory ? factory : choice.own;
-    const std::lock_guard<std::mutex> lock(choice.mutex);
-    choice.current.swap(next);
+    auto& factories = TheFactories();
+    auto next = factory ? factory : factories.own;
+    const std::lock_guard<std::mutex> lock(factories.mutex);
+    factories.current.swap(next);
 }
 
 } // namespace Zelkor::StandIn

@@ -1,6 +1,6 @@
 #include <Zelkor/StandIn/DeviceList.h>
 
-#include <StandIn/Devices/DeviceSearch.h>
+#include <StandIn/Devices/DeviceMonitor.h>
 
 #include <QGuiApplication>
 #include <QTimer>
@@ -16,14 +16,14 @@ namespace {
 
 constexpr std::chrono::milliseconds LOOK_INTERVAL(100);
 
-/// What the search's thread has found since the list looked last.
+/// The latest report of the monitor, until the list takes it.
 struct Mailbox
 {
     std::mutex mutex;
-    std::optional<DeviceSearch::Found> found; ///< guarded by `mutex`
+    std::optional<DeviceMonitor::Found> found; ///< guarded by `mutex`
 };
 
-// An X server that a Wayland session keeps for old programs has no picture of the screen.
+// The X server of a Wayland session does not show the screen.
 bool MayHaveX11Screen()
 {
     return !QGuiApplication::platformName().startsWith(QLatin1String("wayland"));
@@ -33,44 +33,44 @@ bool MayHaveX11Screen()
 
 struct DeviceList::Impl
 {
-    void Take(DeviceList* list, const DeviceSearch::Found& newFound)
+    void Take(DeviceList* list, const DeviceMonitor::Found& newFound)
     {
-        const bool isOther = newFound.cameras != found.cameras || newFound.screen != found.screen;
+        const bool isChanged = newFound.cameras != found.cameras || newFound.screen != found.screen;
         const bool wasComplete = std::exchange(isComplete, true);
         found = newFound;
-        // The end of the first search is news, even if it found nothing: it is known now that there is nothing.
-        if (isOther || !wasComplete)
+        // The first search makes the list complete, even if it found nothing.
+        if (isChanged || !wasComplete)
             Q_EMIT list->Changed();
     }
 
     const Device testPicture = CreateTestPictureDevice();
     const std::shared_ptr<Mailbox> mailbox = std::make_shared<Mailbox>();
-    std::shared_ptr<DeviceSearch> search;
-    DeviceSearch::Found found;
+    std::shared_ptr<DeviceMonitor> monitor;
+    DeviceMonitor::Found found;
     bool isComplete = false;
-    QTimer timer; ///< looks into the mailbox; a posted event could be swallowed, a timer's comes again
+    QTimer timer; ///< polls the mailbox: an event filter can drop a posted event for good, but not a timer
 };
 
 DeviceList::DeviceList(QObject* parent) : QObject(parent), impl(std::make_unique<Impl>())
 {
-    const auto report = [mailbox = impl->mailbox](const DeviceSearch::Found& found) {
+    const auto report = [mailbox = impl->mailbox](const DeviceMonitor::Found& found) {
         const std::lock_guard<std::mutex> lock(mailbox->mutex);
         mailbox->found = found;
     };
     connect(&impl->timer, &QTimer::timeout, this, &DeviceList::Look);
     impl->timer.start(LOOK_INTERVAL);
-    impl->search = std::make_shared<DeviceSearch>(MayHaveX11Screen(), report);
-    impl->search->Start();
+    impl->monitor = std::make_shared<DeviceMonitor>(MayHaveX11Screen(), report);
+    impl->monitor->Start();
 }
 
 DeviceList::~DeviceList()
 {
-    impl->search->End();
+    impl->monitor->RequestStop();
 }
 
 void DeviceList::Look()
 {
-    std::optional<DeviceSearch::Found> found;
+    std::optional<DeviceMonitor::Found> found;
     {
         const std::lock_guard<std::mutex> lock(impl->mailbox->mutex);
         found.swap(impl->mailbox->found);

@@ -36,12 +36,12 @@ public:
 
     std::unique_ptr<CaptureSource> CreateSource(const VideoMode& mode) const override
     {
-        return std::make_unique<GStreamerSource>(makeElement, mode, use);
+        return std::make_unique<GStreamerSource>(makeElement, mode, access);
     }
 
 private:
     const GStreamerSource::MakeElement makeElement;
-    const std::shared_ptr<DeviceUse> use = std::make_shared<DeviceUse>();
+    const std::shared_ptr<DeviceAccess> access = std::make_shared<DeviceAccess>();
 };
 
 GstElement* Parse(const std::string& description)

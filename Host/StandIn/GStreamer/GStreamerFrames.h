@@ -1,6 +1,6 @@
 #pragma once
 
-#include <StandIn/GStreamer/GStreamerPointers.h>
+#include <StandIn/GStreamer/GStreamerPtr.h>
 
 #include <Zelkor/StandIn/VideoFrame.h>
 

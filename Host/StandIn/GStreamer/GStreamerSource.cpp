@@ -34,7 +34,7 @@ GstElement* Add(GstBin* pipeline, const char* name)
 
 } // namespace
 
-bool DeviceUse::Begin(SourceChannel& channel)
+bool DeviceAccess::Acquire(SourceChannel& channel)
 {
     const auto isEnding = [](const SourceChannel* user) { return user->IsEnding(); };
     while (!channel.IsEnding()) {
@@ -50,15 +50,15 @@ bool DeviceUse::Begin(SourceChannel& channel)
     return false;
 }
 
-void DeviceUse::End(SourceChannel& channel)
+void DeviceAccess::Release(SourceChannel& channel)
 {
     const std::lock_guard<std::mutex> lock(mutex);
     users.remove(&channel);
 }
 
-GStreamerSource::GStreamerSource(MakeElement makeElement, const VideoMode& mode, std::shared_ptr<DeviceUse> use)
+GStreamerSource::GStreamerSource(MakeElement makeElement, const VideoMode& mode, std::shared_ptr<DeviceAccess> access)
     : makeElement(std::move(makeElement)), format(mode.GetFormat()), detail(mode.GetDetail()),
-      rate(mode.GetFrameRate()), use(std::move(use))
+      rate(mode.GetFrameRate()), access(std::move(access))
 {}
 
 GStreamerSource::~GStreamerSource() = default;
@@ -67,7 +67,7 @@ CaptureError GStreamerSource::Run(SourceChannel& runChannel)
 {
     if (!LoadGStreamer())
         return CaptureError::CannotOpen;
-    if (!use->Begin(runChannel))
+    if (!access->Acquire(runChannel))
         return CaptureError::None;
     channel = &runChannel;
     if (const auto pipeline = BuildPipeline()) {
@@ -80,7 +80,7 @@ CaptureError GStreamerSource::Run(SourceChannel& runChannel)
     } else {
         channel->Fail(CaptureError::CannotOpen);
     }
-    use->End(runChannel);
+    access->Release(runChannel);
     return CaptureError::None;
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <StandIn/GStreamer/GStreamerPointers.h>
+#include <StandIn/GStreamer/GStreamerPtr.h>
 
 #include <Zelkor/StandIn/CaptureDevice.h>
 
@@ -13,14 +13,14 @@
 
 namespace Zelkor::StandIn {
 
-/// Who uses a device. One that is asked to open while an ended run still closes it would be found busy, so the new
-/// run waits for that here. Shared by the sources of one device; any thread.
-class DeviceUse
+/// Coordinates the sources of one device. A device that an earlier source is still closing would be busy, so a new
+/// source waits here. Any thread may call.
+class DeviceAccess
 {
 public:
-    /// Waits for those that are ending, and joins the users. False when `channel` has to end before that.
-    bool Begin(SourceChannel& channel);
-    void End(SourceChannel& channel);
+    /// Blocks until no other user is ending. Returns false when `channel` has to end before that.
+    bool Acquire(SourceChannel& channel);
+    void Release(SourceChannel& channel);
 
 private:
     std::mutex mutex;
@@ -34,7 +34,7 @@ public:
     /// Makes the first part of the pipeline, which may be a bin; null when that is not possible.
     using MakeElement = std::function<GstElement*()>;
 
-    GStreamerSource(MakeElement makeElement, const VideoMode& mode, std::shared_ptr<DeviceUse> use);
+    GStreamerSource(MakeElement makeElement, const VideoMode& mode, std::shared_ptr<DeviceAccess> access);
     ~GStreamerSource() override;
 
     CaptureError Run(SourceChannel& channel) override;
@@ -52,7 +52,7 @@ private:
     const FrameFormat format;
     const std::string detail;
     const Acquis::Rational rate;
-    const std::shared_ptr<DeviceUse> use;
+    const std::shared_ptr<DeviceAccess> access;
 
     SourceChannel* channel = nullptr; ///< set before the pipeline runs
     std::atomic<bool> hasFrames{false};

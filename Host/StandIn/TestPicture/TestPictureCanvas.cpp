@@ -65,7 +65,7 @@ TestPictureCanvas::TestPictureCanvas(const FrameFormat& format, const std::array
     : format(format), data(data), strides(strides)
 {}
 
-void TestPictureCanvas::Run(int y, double left, double right, const Ink& ink)
+void TestPictureCanvas::DrawSpan(int y, double left, double right, const Ink& ink)
 {
     if (y < 0 || y >= format.height || right <= left)
         return;

@@ -30,7 +30,7 @@ public:
     ColorMatrix Matrix() const { return format.matrix; }
 
     /// From `left` to `right` in row `y`; the ends may lie within a pixel and are drawn softly.
-    void Run(int y, double left, double right, const Ink& ink);
+    void DrawSpan(int y, double left, double right, const Ink& ink);
 
     /// Makes what is there brighter, by so much of the brightness range as `amount` of 255 is.
     void Brighten(int y, int left, int right, int amount);

@@ -159,7 +159,7 @@ void TestPictureScene::DrawSky(TestPictureCanvas& canvas, double time) const
     for (int y = 0; y < height; ++y) {
         const double depth = std::min(y / (height * SKY_HEIGHT), 1.0);
         const Color color = depth < 0.5 ? Mix(zenith, dusk, 2 * depth) : Mix(dusk, horizon, 2 * depth - 1);
-        canvas.Run(y, 0, width, InkOf(color, matrix));
+        canvas.DrawSpan(y, 0, width, InkOf(color, matrix));
     }
 }
 
@@ -175,7 +175,7 @@ void TestPictureScene::DrawSun(TestPictureCanvas& canvas, double time) const
         });
     }
     const Ink ink = InkOf(SUN, matrix);
-    ForDisc(x, y, radius, height, [&](int row, double left, double right) { canvas.Run(row, left, right, ink); });
+    ForDisc(x, y, radius, height, [&](int row, double left, double right) { canvas.DrawSpan(row, left, right, ink); });
 }
 
 void TestPictureScene::DrawClouds(TestPictureCanvas& canvas, double time) const
@@ -188,7 +188,7 @@ void TestPictureScene::DrawClouds(TestPictureCanvas& canvas, double time) const
         const double size = height * cloud.size;
         for (const auto& puff : PUFFS)
             ForDisc(x + puff.x * size, y + puff.y * size, puff.radius * size, y + CLOUD_BASE * size,
-                    [&](int row, double left, double right) { canvas.Run(row, left, right, ink); });
+                    [&](int row, double left, double right) { canvas.DrawSpan(row, left, right, ink); });
     }
 }
 
@@ -198,8 +198,8 @@ void TestPictureScene::DrawHills(TestPictureCanvas& canvas, const Hills& chain, 
     const double offset = std::floor(width * Fraction(chain.speed * time));
     for (int y = 0; y < height; ++y) {
         for (const auto& [left, right] : chain.rows[std::size_t(y)]) {
-            canvas.Run(y, left - offset, right - offset, chain.ink);
-            canvas.Run(y, left - offset + width, right - offset + width, chain.ink);
+            canvas.DrawSpan(y, left - offset, right - offset, chain.ink);
+            canvas.DrawSpan(y, left - offset + width, right - offset + width, chain.ink);
         }
     }
 }
@@ -225,14 +225,14 @@ void TestPictureScene::DrawText(TestPictureCanvas& canvas, const std::string& te
     const Ink ink = InkOf(TEXT, matrix);
     const int boxWidth = (int(text.size()) * GLYPH_STEP + 3) * dot;
     for (int y = 0; y < (GLYPH_HEIGHT + 4) * dot; ++y)
-        canvas.Run(top + y, left, left + boxWidth, background);
+        canvas.DrawSpan(top + y, left, left + boxWidth, background);
     for (std::size_t i = 0; i < text.size(); ++i) {
         const Glyph& glyph = GlyphOf(text[i]);
         for (int y = 0; y < GLYPH_HEIGHT * dot; ++y) {
             for (int column = 0; column < GLYPH_WIDTH; ++column) {
                 const int x = left + (2 + int(i) * GLYPH_STEP + column) * dot;
                 if (glyph[std::size_t(y / dot)] & (1 << (GLYPH_WIDTH - 1 - column)))
-                    canvas.Run(top + 2 * dot + y, x, x + dot, ink);
+                    canvas.DrawSpan(top + 2 * dot + y, x, x + dot, ink);
             }
         }
     }

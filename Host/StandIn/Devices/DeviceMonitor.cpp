@@ -1,9 +1,9 @@
-#include <StandIn/Devices/DeviceSearch.h>
+#include <StandIn/Devices/DeviceMonitor.h>
 
-#include <StandIn/Capture/EngineThreads.h>
+#include <StandIn/Capture/ThreadGroup.h>
 
 #if defined(VX_WITH_GSTREAMER)
-#include <StandIn/GStreamer/CameraWatch.h>
+#include <StandIn/GStreamer/CameraMonitor.h>
 #include <StandIn/GStreamer/GStreamerDevices.h>
 #include <StandIn/GStreamer/GStreamerFrames.h>
 #endif
@@ -14,74 +14,75 @@
 
 namespace Zelkor::StandIn {
 
-void DeviceSearch::Start()
+void DeviceMonitor::Start()
 {
     const auto self = shared_from_this();
     try {
-        EngineThreads::OfSearches().Spawn([self] { self->Run(); }, [self] { self->End(); });
+        ThreadGroup::ForDeviceMonitors().Spawn([self] { self->Run(); }, [self] { self->RequestStop(); });
     } catch (const std::system_error& error) {
         LOG(ERROR) << "No thread to look for devices: " << error.what();
         report(Found());
     }
 }
 
-void DeviceSearch::End()
+void DeviceMonitor::RequestStop()
 {
     {
         const std::lock_guard<std::mutex> lock(mutex);
-        isEnded = true;
+        isStopping = true;
     }
     changed.notify_all();
 }
 
-bool DeviceSearch::HasEnded() const
+bool DeviceMonitor::IsStopping() const
 {
     const std::lock_guard<std::mutex> lock(mutex);
-    return isEnded;
+    return isStopping;
 }
 
-void DeviceSearch::Wake()
+void DeviceMonitor::RequestSearch()
 {
     {
         const std::lock_guard<std::mutex> lock(mutex);
-        isAwake = true;
+        isSearchRequested = true;
     }
     changed.notify_all();
 }
 
-bool DeviceSearch::WaitForChange()
+/// Blocks until a search is requested, or returns false when the thread must end.
+bool DeviceMonitor::WaitForRequest()
 {
     std::unique_lock<std::mutex> lock(mutex);
-    changed.wait(lock, [this] { return isAwake || isEnded; });
-    isAwake = false;
-    return !isEnded;
+    changed.wait(lock, [this] { return isSearchRequested || isStopping; });
+    isSearchRequested = false;
+    return !isStopping;
 }
 
 #if defined(VX_WITH_GSTREAMER)
 
-void DeviceSearch::Run()
+void DeviceMonitor::Run()
 {
     Found found;
-    if (HasEnded())
+    if (IsStopping())
         return;
     if (!LoadGStreamer()) {
         report(found);
         return;
     }
-    if (withScreen && !HasEnded())
+    if (withScreen && !IsStopping())
         found.screen = CreateScreen();
-    if (HasEnded())
+    if (IsStopping())
         return;
-    CameraWatch watch([this] { Wake(); });
+    CameraMonitor monitor([this] { RequestSearch(); });
     do {
-        found.cameras = watch.Cameras();
+        found.cameras = monitor.Cameras();
         report(found);
-    } while (WaitForChange());
+    } while (WaitForRequest());
 }
 
 #else
 
-void DeviceSearch::Run()
+void DeviceMonitor::Run()
 {
     report(Found());
 }

@@ -1,8 +1,6 @@
-#include <StandIn/Audio/AudioLevelRun.h>
+#include <StandIn/Audio/AudioLevelWorker.h>
 
-#include <StandIn/Capture/EngineThreads.h>
-
-#include <Zelkor/StandIn/AudioLevelSource.h>
+#include <StandIn/Capture/ThreadGroup.h>
 
 #if defined(VX_WITH_GSTREAMER)
 #include <StandIn/GStreamer/GStreamerFrames.h>
@@ -11,7 +9,6 @@
 
 #include <glog/logging.h>
 
-#include <algorithm>
 #include <chrono>
 #include <cmath>
 #include <system_error>
@@ -24,7 +21,7 @@ using Clock = std::chrono::steady_clock;
 
 constexpr double PI = 3.14159265358979323846;
 
-// Phrases of somewhat less than three seconds with a breath between them; syllables of changing weight.
+// Phrases of 2.8 s with a pause between them, each a series of syllables of varying loudness.
 double SpeechPeak(double seconds)
 {
     constexpr double PHRASE = 3.7;
@@ -41,28 +38,28 @@ double SpeechPeak(double seconds)
 
 } // namespace
 
-void AudioLevelRun::Start()
+void AudioLevelWorker::Start()
 {
     const auto self = shared_from_this();
     try {
-        EngineThreads::OfSessions().Spawn([self] { self->Run(); }, [self] { self->End(); });
+        ThreadGroup::ForSessions().Spawn([self] { self->Run(); }, [self] { self->RequestStop(); });
     } catch (const std::system_error& error) {
         LOG(ERROR) << "No thread to measure levels: " << error.what();
     }
 }
 
-void AudioLevelRun::End()
+void AudioLevelWorker::RequestStop()
 {
     {
         const std::lock_guard<std::mutex> lock(mutex);
-        isEnded = true;
+        isStopping = true;
     }
     changed.notify_all();
 }
 
 #if defined(VX_WITH_GSTREAMER)
 
-void AudioLevelRun::Run()
+void AudioLevelWorker::Run()
 {
     if (withMicrophone && LoadGStreamer()) {
         for (const char* element : MicrophoneLevel::Elements()) {
@@ -73,20 +70,16 @@ void AudioLevelRun::Run()
     RunTestSignal();
 }
 
-/// True when the run is over; false when this microphone cannot be opened or has gone.
-bool AudioLevelRun::RunMicrophone(const char* element)
+/// Returns true when the worker was stopped, false when this microphone cannot be opened or has failed.
+bool AudioLevelWorker::RunMicrophone(const char* element)
 {
     {
         const std::lock_guard<std::mutex> lock(mutex);
-        if (isEnded)
+        if (isStopping)
             return true;
         hasFailed = false;
     }
-    const auto take = [this](double decibels) {
-        // Also what is not a number is silence.
-        const double limited = decibels > AudioLevelSource::SILENCE_DB ? decibels : AudioLevelSource::SILENCE_DB;
-        report({std::min(limited, 0.0), false});
-    };
+    const auto take = [this](double decibels) { report({decibels, false}); };
     const auto fail = [this] {
         {
             const std::lock_guard<std::mutex> lock(mutex);
@@ -98,30 +91,30 @@ bool AudioLevelRun::RunMicrophone(const char* element)
     if (!microphone.Open(element, INTERVAL))
         return false;
     std::unique_lock<std::mutex> lock(mutex);
-    changed.wait(lock, [this] { return isEnded || hasFailed; });
-    return isEnded;
+    changed.wait(lock, [this] { return isStopping || hasFailed; });
+    return isStopping;
 }
 
 #else
 
-void AudioLevelRun::Run()
+void AudioLevelWorker::Run()
 {
     RunTestSignal();
 }
 
 #endif
 
-void AudioLevelRun::RunTestSignal()
+void AudioLevelWorker::RunTestSignal()
 {
     const Clock::time_point start = Clock::now();
-    // Two sources at a time are not to move as one.
+    // Two sources that run at the same time do not move in step.
     const double offset = withMicrophone ? 0.0 : 1.6;
     std::unique_lock<std::mutex> lock(mutex);
-    for (Clock::time_point now = start; !isEnded; now = Clock::now()) {
+    for (Clock::time_point now = start; !isStopping; now = Clock::now()) {
         lock.unlock();
         report({SpeechPeak(std::chrono::duration<double>(now - start).count() + offset), true});
         lock.lock();
-        changed.wait_until(lock, now + INTERVAL, [this] { return isEnded; });
+        changed.wait_until(lock, now + INTERVAL, [this] { return isStopping; });
     }
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <StandIn/GStreamer/GStreamerPointers.h>
+#include <StandIn/GStreamer/GStreamerPtr.h>
 
 #include <Zelkor/StandIn/CaptureDevice.h>
 
@@ -12,16 +12,16 @@
 namespace Zelkor::StandIn {
 
 /// Knows the cameras that are plugged in. One thread; making one and destroying it may take its time.
-class CameraWatch
+class CameraMonitor
 {
 public:
     using Camera = boost::intrusive_ptr<CaptureDevice>;
 
     /// `changed` is called on a thread of GStreamer's whenever cameras come or go.
-    explicit CameraWatch(std::function<void()> changed);
-    ~CameraWatch();
-    CameraWatch(const CameraWatch&) = delete;
-    CameraWatch& operator=(const CameraWatch&) = delete;
+    explicit CameraMonitor(std::function<void()> changed);
+    ~CameraMonitor();
+    CameraMonitor(const CameraMonitor&) = delete;
+    CameraMonitor& operator=(const CameraMonitor&) = delete;
 
     /// The cameras that are there now. One that was there before is the same object.
     std::vector<Camera> Cameras();

@@ -1,4 +1,4 @@
-#include <StandIn/Capture/FrameSlot.h>
+#include <StandIn/Capture/FrameProvider.h>
 
 #include <glog/logging.h>
 
@@ -8,18 +8,18 @@ namespace Zelkor::StandIn {
 
 namespace {
 
-/// An output and its reader in one object, so that either keeps the other alive.
+/// An output and its reader in one object, so that each keeps the other alive.
 class Output : public RefCounted<Acquis::ICaptureOutput, Acquis::IFrameReader>
 {
 public:
-    explicit Output(std::shared_ptr<const FrameSlot> slot) : slot(std::move(slot)) {}
+    explicit Output(std::shared_ptr<const LatestFrame> latest) : latest(std::move(latest)) {}
 
     void SetTimeShift(const boost::intrusive_ptr<Acquis::TimeShift>& newShift) override
     {
-        // The former one is destroyed after the lock.
-        auto former = newShift;
+        // The previous shift is released after the lock.
+        auto previous = newShift;
         const std::lock_guard<std::mutex> lock(mutex);
-        former.swap(shift);
+        previous.swap(shift);
         source = nullptr;
         shifted = nullptr;
     }
@@ -28,7 +28,7 @@ public:
 
     void ReadLatestFrame(boost::intrusive_ptr<Proc::IDataVideo>& frame) override
     {
-        const auto newest = slot->Get();
+        const auto newest = latest->Get();
         boost::intrusive_ptr<Acquis::TimeShift> current;
         {
             const std::lock_guard<std::mutex> lock(mutex);
@@ -42,8 +42,9 @@ public:
     }
 
 private:
-    /// The frame under the time that `current` gives it. It is kept, so that the same frame comes again as the same.
-    FrameSlot::Frame Shifted(const FrameSlot::Frame& newest, const boost::intrusive_ptr<Acquis::TimeShift>& current)
+    /// Returns the frame with its time mapped by `current`. Caches it, so that the same frame is returned as the same
+    /// object.
+    LatestFrame::Frame Shifted(const LatestFrame::Frame& newest, const boost::intrusive_ptr<Acquis::TimeShift>& current)
     {
         const std::int64_t time = current->MapTime(newest->GetTime());
         auto result = time == newest->GetTime() ? newest : newest->WithTime(time);
@@ -55,17 +56,17 @@ private:
         return result;
     }
 
-    const std::shared_ptr<const FrameSlot> slot;
-    std::mutex mutex; ///< guards all that follows
+    const std::shared_ptr<const LatestFrame> latest;
+    std::mutex mutex; ///< guards all members below
     boost::intrusive_ptr<Acquis::TimeShift> shift;
-    FrameSlot::Frame source; ///< the frame that was shifted last
-    FrameSlot::Frame shifted;
+    LatestFrame::Frame source; ///< the last frame that was shifted
+    LatestFrame::Frame shifted;
 };
 
 class Provider : public RefCounted<Acquis::IFrameProvider>
 {
 public:
-    explicit Provider(std::shared_ptr<const FrameSlot> slot) : slot(std::move(slot)) {}
+    explicit Provider(std::shared_ptr<const LatestFrame> latest) : latest(std::move(latest)) {}
 
     void CreateOutput(boost::intrusive_ptr<Acquis::ICaptureOutput>& output, const std::string& name, int index) override
     {
@@ -74,40 +75,18 @@ public:
             LOG(ERROR) << "There is no picture number " << index << " for output " << name;
             return;
         }
-        output = new Output(slot);
+        output = new Output(latest);
     }
 
 private:
-    const std::shared_ptr<const FrameSlot> slot;
+    const std::shared_ptr<const LatestFrame> latest;
 };
 
 } // namespace
 
-void FrameSlot::Put(Frame frame)
+boost::intrusive_ptr<Acquis::IFrameProvider> CreateFrameProvider(std::shared_ptr<const LatestFrame> latest)
 {
-    // The former frame is released after the lock.
-    const std::lock_guard<std::mutex> lock(mutex);
-    if (!closed)
-        newest.swap(frame);
-}
-
-FrameSlot::Frame FrameSlot::Get() const
-{
-    const std::lock_guard<std::mutex> lock(mutex);
-    return newest;
-}
-
-void FrameSlot::Close()
-{
-    Frame last;
-    const std::lock_guard<std::mutex> lock(mutex);
-    closed = true;
-    last.swap(newest);
-}
-
-boost::intrusive_ptr<Acquis::IFrameProvider> CreateFrameProvider(const std::shared_ptr<const FrameSlot>& slot)
-{
-    return new Provider(slot);
+    return new Provider(std::move(latest));
 }
 
 } // namespace Zelkor::StandIn

@@ -1,4 +1,4 @@
-#include <StandIn/GStreamer/CameraWatch.h>
+#include <StandIn/GStreamer/CameraMonitor.h>
 
 #include <StandIn/GStreamer/CameraModes.h>
 #include <StandIn/GStreamer/GStreamerDevices.h>
@@ -44,15 +44,16 @@ std::vector<GStreamerPtr<GstDevice>> DevicesOf(GstDeviceMonitor* monitor)
 
 } // namespace
 
-CameraWatch::CameraWatch(std::function<void()> changed) : changed(std::move(changed)), monitor(gst_device_monitor_new())
+CameraMonitor::CameraMonitor(std::function<void()> changed)
+    : changed(std::move(changed)), monitor(gst_device_monitor_new())
 {
     gst_device_monitor_add_filter(monitor.get(), "Video/Source", nullptr);
     const GStreamerPtr<GstBus> bus(gst_device_monitor_get_bus(monitor.get()));
-    gst_bus_set_sync_handler(bus.get(), &CameraWatch::HandleMessage, this, nullptr);
+    gst_bus_set_sync_handler(bus.get(), &CameraMonitor::HandleMessage, this, nullptr);
     isRunning = gst_device_monitor_start(monitor.get());
 }
 
-CameraWatch::~CameraWatch()
+CameraMonitor::~CameraMonitor()
 {
     if (isRunning)
         gst_device_monitor_stop(monitor.get());
@@ -60,7 +61,7 @@ CameraWatch::~CameraWatch()
     gst_bus_set_sync_handler(bus.get(), nullptr, nullptr, nullptr);
 }
 
-std::vector<CameraWatch::Camera> CameraWatch::Cameras()
+std::vector<CameraMonitor::Camera> CameraMonitor::Cameras()
 {
     std::vector<Known> current;
     std::set<std::string> identities;
@@ -85,7 +86,7 @@ std::vector<CameraWatch::Camera> CameraWatch::Cameras()
 
 /// A new object for the device; null when it is no camera. `identities` are those in use: a camera with several
 /// pictures is there several times.
-CameraWatch::Camera CameraWatch::CameraOf(GstDevice* device, std::set<std::string>& identities) const
+CameraMonitor::Camera CameraMonitor::CameraOf(GstDevice* device, std::set<std::string>& identities) const
 {
     const GStreamerPtr<GstStructure> properties(gst_device_get_properties(device));
     const std::string identity = properties ? IdentityOf(*properties) : std::string();
@@ -102,9 +103,9 @@ CameraWatch::Camera CameraWatch::CameraOf(GstDevice* device, std::set<std::strin
     return CreateCamera(device, unique, name.get(), std::move(modes));
 }
 
-GstBusSyncReply CameraWatch::HandleMessage(GstBus*, GstMessage* message, gpointer watch)
+GstBusSyncReply CameraMonitor::HandleMessage(GstBus*, GstMessage* message, gpointer watch)
 {
-    static_cast<CameraWatch*>(watch)->changed();
+    static_cast<CameraMonitor*>(watch)->changed();
     gst_message_unref(message);
     return GST_BUS_DROP;
 }
