@@ -19,10 +19,10 @@ const QString MAIL_TO = QStringLiteral("mailto:support@example.com");
 
 constexpr qreal PRODUCT_FONT_SCALE = 1.5;
 
-// A label whose link has the focus as soon as the Tab key reaches the label, not one press later.
+// A label that focuses its link as soon as it receives focus by Tab. QLabel needs a second Tab.
 class LinkLabel : public QLabel
 {
-    // The label finds its one link again and again when it looks backwards, and would never let go.
+    // Searching backwards, QLabel finds the same link again and would keep the focus.
     bool focusNextPrevChild(bool next) override
     {
         return hasSelectedText() ? QWidget::focusNextPrevChild(next) : QLabel::focusNextPrevChild(next);
@@ -45,7 +45,7 @@ QLabel* MakeLabel(const char* objectName, const QString& text)
     return label;
 }
 
-// A heading is larger than the dialog's own text. What the font does not set, the label takes over from the dialog.
+// Larger than the text of the dialog. The label inherits the attributes that are not set here.
 QFont HeadingFont(const QFont& textFont)
 {
     QFont font;
@@ -109,7 +109,7 @@ AboutBoxDialog::AboutBoxDialog(const QString& product, const QString& version, c
     parts->mailTo = StandIn::MakeLinkLabel("mailToLabel");
     parts->custom = StandIn::MakeLinkLabel("customURL");
     parts->custom->hide();
-    // A button of our own: the box translates its standard buttons itself, by whatever translation Qt has.
+    // Not a standard button, because Qt translates those on its own.
     auto* buttons = new QDialogButtonBox;
     parts->ok = buttons->addButton(QString(), QDialogButtonBox::AcceptRole);
     parts->ok->setDefault(true);
@@ -127,7 +127,7 @@ AboutBoxDialog::AboutBoxDialog(const QString& product, const QString& version, c
     layout->addWidget(legalLabel);
     layout->addSpacing(space);
     layout->addWidget(buttons);
-    // The dialog always has the size of its texts, in whatever language and font.
+    // Follows the size of the texts in any language and font.
     layout->setSizeConstraint(QLayout::SetFixedSize);
     Retranslate();
 }
@@ -150,14 +150,14 @@ void AboutBoxDialog::changeEvent(QEvent* event)
     QDialog::changeEvent(event);
 }
 
-// A dialog that is shown again begins at its button, whichever link had the focus last.
+// Focuses the button again when the dialog is reopened after a link had the focus.
 void AboutBoxDialog::showEvent(QShowEvent* event)
 {
     parts->ok->setFocus();
     QDialog::showEvent(event);
 }
 
-// Styles and windows that drag by their empty areas look for presses that nobody took.
+// Some styles and windows start a drag on ignored presses.
 void AboutBoxDialog::mousePressEvent(QMouseEvent* event)
 {
     event->accept();

@@ -8,7 +8,7 @@ namespace Zelkor::StandIn {
 
 namespace {
 
-// The share of the colour's opacity at `r` radii from the centre.
+// Returns the opacity at `r` radii from the centre, from 0 to 1.
 double Opacity(double r)
 {
     return r < 1 ? 1 - r * r * r : 0;
@@ -24,7 +24,7 @@ QImage ImageGenerator::CreateCircleWithAlphaGradientCubic(const QSize& size, con
 {
     if (size.isEmpty())
         return QImage();
-    std::array<QRgb, 256> shades; // by alpha
+    std::array<QRgb, 256> shades; // indexed by alpha
     for (int alpha = 0; alpha < int(shades.size()); ++alpha)
         shades[alpha] = qPremultiply((color.rgb() & RGB_MASK) | QRgb(alpha) << 24);
     QImage image(size, QImage::Format_ARGB32_Premultiplied);
@@ -32,7 +32,7 @@ QImage ImageGenerator::CreateCircleWithAlphaGradientCubic(const QSize& size, con
     const int height = image.height();
     const double radius = std::min(width, height) / 2.0;
     const double steps = 255 * color.alphaF();
-    // One quarter, the middle row and column of odd sides included; the others mirror it.
+    // Computes one quarter, including the middle row and column of odd sizes, and mirrors it.
     for (int y = 0; y < (height + 1) / 2; ++y) {
         auto* row = reinterpret_cast<QRgb*>(image.scanLine(y));
         const double dy = y + 0.5 - height / 2.0;

@@ -13,14 +13,14 @@ namespace {
 
 constexpr QImage::Format FORMAT = QImage::Format_RGB32;
 
-void LetGo(void* frame)
+void ReleaseFrame(void* frame)
 {
     intrusive_ptr_release(static_cast<const VideoFrame*>(frame));
 }
 
-// An image's rows go downwards. Qt's vector code steps through them by whole pixels and expects them at addresses that
-// whole pixels have.
-bool IsImageMemory(const Plane& plane)
+// Returns true when an image can refer to the plane. Images are top-down, and Qt's vector code requires rows that are
+// aligned to pixels.
+bool CanWrap(const Plane& plane)
 {
     constexpr std::uintptr_t PIXEL = sizeof(QRgb);
     return plane.stride > 0 && reinterpret_cast<std::uintptr_t>(plane.data) % PIXEL == 0 && plane.stride % PIXEL == 0;
@@ -60,9 +60,10 @@ QImage ImageUtils::FrameToImage(const boost::intrusive_ptr<Proc::IDataVideo>& fr
 
     const StandIn::Plane& plane = source->GetPlanes()[0];
     const StandIn::FrameFormat& format = source->GetFormat();
-    if (!StandIn::IsImageMemory(plane))
+    if (!StandIn::CanWrap(plane))
         return StandIn::Copy(plane, format);
-    QImage image(plane.data, format.width, format.height, plane.stride, StandIn::FORMAT, StandIn::LetGo, source.get());
+    QImage image(plane.data, format.width, format.height, plane.stride, StandIn::FORMAT, StandIn::ReleaseFrame,
+                 source.get());
     if (!image.isNull())
         source.detach();
     return image;

@@ -13,7 +13,7 @@ void ApplyWidgetStyle(QWidget* widget, const QString& value, const char* name)
     widget->setProperty(name, value);
     widget->style()->unpolish(widget);
     widget->style()->polish(widget);
-    // The new rules may have other distances and other paint.
+    // The new rules may change the size hint and the painting.
     widget->updateGeometry();
     widget->update();
 }

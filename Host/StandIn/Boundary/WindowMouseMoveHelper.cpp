@@ -47,10 +47,10 @@ void WindowMouseMoveHelper::Press(const QMouseEvent& event)
     drag = Drag::Pressed;
 }
 
-// True when the motion belongs to a drag.
+// Returns true when the event is part of a drag.
 bool WindowMouseMoveHelper::Move(const QMouseEvent& event)
 {
-    // Without the left button alone, the release went elsewhere: to the window system, which ends its own moves.
+    // The release was delivered elsewhere, for example to the window system when it ends a system move.
     if (!window || event.buttons() != Qt::LeftButton)
         drag = Drag::None;
     if (drag == Drag::Pressed && event.globalPos() != pressPosition)

@@ -8,7 +8,7 @@
 
 #include <cstddef>
 
-// The library names layouts by the 32-bit word on a little-endian machine: its ARGB is our BGRA, its RAW our RGB24.
+// libyuv names layouts after the little-endian 32-bit word: its ARGB is our BGRA, its RAW our RGB24.
 
 namespace Zelkor::StandIn {
 
@@ -50,8 +50,8 @@ int ConvertPacked(const VideoFrame& frame, const Target& target, PackedToBgra co
                    frame.GetFormat().height);
 }
 
-// The library converts packed 4:2:2 at once for limited BT.601 only. For the others each row is sorted into one of luma
-// and one of chroma pairs, which stay in the innermost cache until they are converted like a row of NV12.
+// libyuv converts packed 4:2:2 directly for limited BT.601 only. Otherwise each row is split into luma and chroma
+// pairs, which remain in the L1 cache until they are converted like a row of NV12.
 int ConvertPacked422(const VideoFrame& frame, const Target& target, std::vector<std::uint8_t>& scratch,
                      PackedToBgra convert, bool lumaFirst)
 {
@@ -89,7 +89,7 @@ int ConvertGrey(const VideoFrame& frame, const Target& target)
                                     &YuvMatrix(format.matrix, format.range), format.width, format.height);
 }
 
-// Makes whatever the fourth byte is 255: adds opaque black to each row, with saturation.
+// Sets the fourth byte to 255 by adding opaque black with saturation.
 int ConvertBgrx(const VideoFrame& frame, const Target& target, std::vector<std::uint8_t>& scratch)
 {
     constexpr std::uint8_t OPAQUE_BLACK[] = {0, 0, 0, 255};

@@ -8,24 +8,25 @@
 
 namespace Zelkor::StandIn {
 
-/// Memory for pictures of one size at a time, which is used again when its last reader lets go.
+/// Recycles picture buffers of one size.
 ///
-/// Buffers may come back on any thread and long after the pool's user is gone: each keeps the pool alive. Few idle
-/// buffers are kept, none of another size than was asked for last, and none once the pool is closed.
+/// A buffer returns to the pool when its last owner releases it, on any thread and even after the user of the pool is
+/// destroyed: each buffer keeps the pool alive. The pool keeps up to MAX_IDLE idle buffers of the size that was
+/// requested last.
 class BufferPool : public std::enable_shared_from_this<BufferPool>
 {
 public:
     static std::shared_ptr<BufferPool> Create();
     ~BufferPool();
 
-    /// `size` bytes, aligned to 64, whose contents are left over from whatever. Throws `std::bad_alloc`.
+    /// Returns `size` uninitialized bytes, aligned to 64. Throws `std::bad_alloc`.
     std::shared_ptr<std::uint8_t> Take(std::size_t size);
 
-    /// Frees what is idle now, and from now on what comes back.
+    /// Frees the idle buffers, and from now on all that are returned.
     void Close() noexcept;
 
 private:
-    // A reader each for the picture that shows, the one that waits and the one that is computed.
+    // For the picture that is shown, the one that is next and the one that is converted.
     static constexpr std::size_t MAX_IDLE = 3;
 
     BufferPool() = default;
@@ -36,7 +37,7 @@ private:
     std::mutex mutex;
     std::array<std::uint8_t*, MAX_IDLE> idle{};
     std::size_t idleCount = 0;
-    std::size_t bufferSize = 0; ///< of the idle buffers; 0 in a closed pool, to which no buffer belongs
+    std::size_t bufferSize = 0; ///< of the idle buffers; 0 in a closed pool
 };
 
 } // namespace Zelkor::StandIn

@@ -17,7 +17,7 @@ namespace {
 constexpr Proc::PixFmt ONLY_TARGET = Proc::PixFmt::BGRA;
 constexpr int BYTES_PER_PIXEL = 4;
 
-// The conversion and whoever paints the picture count its bytes by int.
+// libyuv and QImage count bytes by int.
 constexpr std::int64_t MAX_BYTES = std::numeric_limits<int>::max();
 
 } // namespace
@@ -68,7 +68,7 @@ void ColorspaceConverter::ApplySettings(const Proc::IEffectSettings& newSettings
     settings = *own;
 }
 
-// Null when there is no conversion or no memory for the picture.
+// Returns null when there is no conversion or no memory for the picture.
 boost::intrusive_ptr<Proc::IDataVideo> ColorspaceConverter::Convert(const VideoFrame& source)
 {
     FrameFormat format = source.GetFormat();

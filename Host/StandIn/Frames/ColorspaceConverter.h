@@ -12,15 +12,14 @@ namespace Zelkor::StandIn {
 
 class VideoFrame;
 
-/// Brings frames of the stand-in into BGRA, the one target it has. Until it is told otherwise, frames that are BGRA
-/// already pass through.
+/// Converts frames of the stand-in to BGRA, the only target it supports. By default BGRA frames pass through.
 ///
-/// The frames that come out have their rows without gaps. Their memory is used again for later frames once nobody
-/// holds them any more; they may outlive the converter.
+/// The rows of converted frames are not padded. Their memory is reused for later frames when they are released. They
+/// may outlive the converter.
 class ColorspaceConverter : public RefCounted<Proc::IEffect>
 {
 public:
-    /// `owner` is held as long as the converter lives; it may be null.
+    /// Keeps `owner` alive, which may be null.
     explicit ColorspaceConverter(boost::intrusive_ptr<IRefCountable> owner);
     ~ColorspaceConverter() override;
 
@@ -34,7 +33,7 @@ private:
     Proc::SettingsColorspaceConverter settings;
     std::shared_ptr<BufferPool> pool;
     std::vector<std::uint8_t> scratch;
-    bool refusing = false; ///< the last frame was refused, which has been logged
+    bool refusing = false; ///< whether the last frame was unreadable and logged
 };
 
 } // namespace Zelkor::StandIn

@@ -7,15 +7,14 @@
 
 namespace Zelkor::StandIn {
 
-/// How one plane is sampled: a row is a sequence of equal steps, each of which covers 2^widthShift columns of the
-/// picture and takes `bytesPerStep` bytes; the plane has one row for 2^heightShift rows of the picture.
+/// The sampling of one plane.
 struct PlaneLayout
 {
-    int bytesPerStep = 0;
+    int bytesPerStep = 0; ///< a step covers 2^widthShift columns of the picture
     int widthShift = 0;
-    int heightShift = 0;
+    int heightShift = 0; ///< a row covers 2^heightShift rows of the picture
 
-    /// Bytes that a row needs. An odd last column takes a whole step.
+    /// Rounds up to whole steps.
     constexpr std::int64_t RowBytes(int width) const { return Steps(width, widthShift) * bytesPerStep; }
 
     constexpr std::int64_t Rows(int height) const { return Steps(height, heightShift); }
@@ -33,7 +32,7 @@ struct PixelLayout
     std::array<PlaneLayout, 3> planes;
 };
 
-/// Without planes for a format that is not known.
+/// Returns a layout without planes for an unknown format.
 constexpr PixelLayout LayoutOf(Proc::PixFmt format)
 {
     constexpr PlaneLayout FULL{1, 0, 0};

@@ -11,21 +11,21 @@ namespace Zelkor::StandIn {
 
 namespace {
 
-// Rows that begin on a cache line let vector code load and store whole lines.
+// Rows start on a cache line, so that vector code loads and stores whole lines.
 constexpr std::int64_t ROW_ALIGNMENT = 64;
 
-bool Holds(const Plane& plane, const PlaneLayout& layout, int width, int height)
+bool IsLargeEnough(const Plane& plane, const PlaneLayout& layout, int width, int height)
 {
     const std::int64_t rowBytes = layout.RowBytes(width);
     const std::int64_t distance = std::abs(std::int64_t{plane.stride});
     if (!plane.data || distance < rowBytes)
         return false;
-    // The row with the highest address needs its own bytes alone: what pads it to the stride may lie beyond the plane.
+    // The padding of the row with the highest address may be missing.
     const std::int64_t needed = distance * (layout.Rows(height) - 1) + rowBytes;
     return plane.size >= static_cast<std::uint64_t>(needed);
 }
 
-// Memory that is not written here, null when there is none.
+// Returns uninitialized memory, or null.
 std::shared_ptr<std::uint8_t> Allocate(std::size_t size)
 {
     constexpr std::align_val_t ALIGNMENT{ROW_ALIGNMENT};
@@ -92,7 +92,7 @@ bool VideoFrame::IsReadable() const
     if (layout.planeCount == 0 || format.width <= 0 || format.height <= 0)
         return false;
     for (int i = 0; i < layout.planeCount; ++i) {
-        if (!Holds(planes[i], layout.planes[i], format.width, format.height))
+        if (!IsLargeEnough(planes[i], layout.planes[i], format.width, format.height))
             return false;
     }
     return true;

@@ -9,9 +9,9 @@ namespace Zelkor::StandIn {
 
 namespace {
 
-// The library caps the share of U in blue at 128 / 64 = 2, although the limited ranges need 2.017 and 2.112: saturated
-// blue of BT.709 comes out up to 15 levels wrong. Its Intel code computes with the true coefficient just as well, so a
-// capped one is replaced; where the constants are laid out differently or not capped, they stay as they are.
+// libyuv caps the coefficient of U in blue at 128 / 64 = 2, but the limited ranges need 2.017 and 2.112: saturated blue
+// of BT.709 is up to 15 levels off. Its x86 code supports the true coefficient, so a capped one is replaced. On other
+// architectures the constants have a different layout.
 libyuv::YuvConstants WithUncappedBlue(libyuv::YuvConstants constants, [[maybe_unused]] std::uint8_t blue)
 {
 #if defined(__x86_64__) || defined(__i386__) || defined(_M_X64) || defined(_M_IX86)
@@ -25,8 +25,7 @@ libyuv::YuvConstants WithUncappedBlue(libyuv::YuvConstants constants, [[maybe_un
 
 const libyuv::YuvConstants& YuvMatrix(ColorMatrix matrix, ColorRange range)
 {
-    // Blue is the coefficient times 64, rounded: 2.017 for BT.601, 2.112 for BT.709. The library's vector code loads
-    // the constants by aligned instructions.
+    // 129 and 135 are the coefficients of blue times 64, rounded. libyuv's vector code uses aligned loads.
     alignas(32) static const libyuv::YuvConstants LIMITED_601 = WithUncappedBlue(libyuv::kYuvI601Constants, 129);
     alignas(32) static const libyuv::YuvConstants LIMITED_709 = WithUncappedBlue(libyuv::kYuvH709Constants, 135);
     if (range == ColorRange::Full)

@@ -6,7 +6,7 @@
 
 namespace Zelkor::StandIn {
 
-/// The coefficients that turn YUV samples of this matrix and range into RGB.
+/// Returns the coefficients that convert YUV samples with this matrix and range to RGB.
 const libyuv::YuvConstants& YuvMatrix(ColorMatrix matrix, ColorRange range);
 
 } // namespace Zelkor::StandIn

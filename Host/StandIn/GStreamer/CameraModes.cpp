@@ -26,16 +26,16 @@ struct Size
 constexpr Size USUAL_SIZES[] = {{320, 240},  {640, 360},   {640, 480},  {800, 600},
                                 {1280, 720}, {1920, 1080}, {3840, 2160}};
 
-// High definition pictures have the newer matrix, unless the frames say otherwise.
+// The usual matrix of high-definition video. The caps of the frames may override it.
 constexpr int LOWEST_BT709_HEIGHT = 720;
 
-// What a JPEG picture of a camera is decoded to.
+// The result of decoding JPEG and of converting other raw formats.
 constexpr PixFmt DECODED = PixFmt::I420;
 
 struct Mode
 {
     std::string media;  ///< "video/x-raw" or "image/jpeg"
-    std::string format; ///< GStreamer's name; "MJPEG" for JPEG
+    std::string format; ///< as GStreamer names it; "MJPEG" for JPEG
     PixFmt pixFmt;
     Size size;
     std::vector<Rational> rates;
@@ -70,6 +70,16 @@ void ForEach(const GValue* value, Handle handle)
         handle(gst_value_list_get_value(value, i));
 }
 
+/// Removes invalid rates and duplicates, and sorts the rest.
+void Normalize(std::vector<Rational>& rates)
+{
+    rates.erase(std::remove_if(rates.begin(), rates.end(),
+                               [](const Rational& rate) { return rate.numerator <= 0 || rate.denominator <= 0; }),
+                rates.end());
+    std::sort(rates.begin(), rates.end(), IsSlower);
+    rates.erase(std::unique(rates.begin(), rates.end(), IsSame), rates.end());
+}
+
 void AddRates(const GValue* value, std::vector<Rational>& rates)
 {
     ForEach(value, [&](const GValue* entry) {
@@ -82,11 +92,7 @@ void AddRates(const GValue* value, std::vector<Rational>& rates)
                          [&](const Rational& rate) { return !IsSlower(rate, least) && !IsSlower(most, rate); });
         }
     });
-    rates.erase(std::remove_if(rates.begin(), rates.end(),
-                               [](const Rational& rate) { return rate.numerator <= 0 || rate.denominator <= 0; }),
-                rates.end());
-    std::sort(rates.begin(), rates.end(), IsSlower);
-    rates.erase(std::unique(rates.begin(), rates.end(), IsSame), rates.end());
+    Normalize(rates);
 }
 
 bool Allows(const GValue* value, int number)
@@ -118,7 +124,7 @@ std::vector<Size> SizesOf(const GstStructure* structure)
     return sizes;
 }
 
-/// Adds the mode, or its rates to the same mode from another part of the caps.
+/// Adds a mode. Merges the rates if another structure of the caps has described the same mode.
 void AddMode(std::vector<Mode>& modes, const Mode& added)
 {
     const auto key = [](const Mode& mode) {
@@ -128,7 +134,7 @@ void AddMode(std::vector<Mode>& modes, const Mode& added)
         std::find_if(modes.begin(), modes.end(), [&](const Mode& mode) { return key(mode) == key(added); });
     Mode& mode = known == modes.end() ? modes.emplace_back(added) : *known;
     mode.rates.insert(mode.rates.end(), added.rates.begin(), added.rates.end());
-    AddRates(nullptr, mode.rates);
+    Normalize(mode.rates);
 }
 
 void AddStructure(std::vector<Mode>& modes, const GstStructure* structure, bool readsJpeg)
@@ -150,13 +156,13 @@ void AddStructure(std::vector<Mode>& modes, const GstStructure* structure, bool 
         const char* name = G_VALUE_HOLDS_STRING(value) ? g_value_get_string(value) : nullptr;
         const GstVideoFormat format = name ? gst_video_format_from_string(name) : GST_VIDEO_FORMAT_UNKNOWN;
         const PixFmt pixFmt = PixFmtOf(format);
-        // Other raw formats are converted on the way.
+        // Other raw formats are converted by the pipeline.
         if (format != GST_VIDEO_FORMAT_UNKNOWN && format != GST_VIDEO_FORMAT_ENCODED)
             add(name, pixFmt == PixFmt::None ? DECODED : pixFmt);
     });
 }
 
-/// Cheaper formats have smaller numbers.
+/// Returns the relative cost of reading the mode: 0 for no conversion.
 int CostOf(const Mode& mode)
 {
     if (mode.media != "video/x-raw")
@@ -192,7 +198,7 @@ CaptureDevice::Modes CameraModes(const GstCaps* caps, bool readsJpeg)
 {
     std::vector<Mode> modes;
     for (guint i = 0; i < gst_caps_get_size(caps); ++i) {
-        // Pictures in the memory of a graphics card cannot be read here.
+        // Frames in GPU memory cannot be read.
         const GstCapsFeatures* features = gst_caps_get_features(caps, i);
         if (!features || gst_caps_features_is_equal(features, GST_CAPS_FEATURES_MEMORY_SYSTEM_MEMORY))
             AddStructure(modes, gst_caps_get_structure(caps, i), readsJpeg);

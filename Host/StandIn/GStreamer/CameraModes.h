@@ -6,9 +6,9 @@
 
 namespace Zelkor::StandIn {
 
-/// The modes of a camera that offers `caps`: the largest picture first, among equals the fastest, then the one that
-/// costs least to read. Sizes and rates that are given as ranges are replaced by the usual ones within. Formats that
-/// nothing here reads are left out, JPEG unless `readsJpeg`.
+/// Returns the modes of a camera with `caps`, sorted by size (largest first), frame rate (highest first) and conversion
+/// cost (lowest first). Ranges of sizes and rates are replaced by the usual values within them. Unsupported formats are
+/// omitted, and so is JPEG unless `readsJpeg`.
 CaptureDevice::Modes CameraModes(const GstCaps* caps, bool readsJpeg);
 
 } // namespace Zelkor::StandIn

@@ -21,8 +21,8 @@ std::string StringOf(const GstStructure& properties, const char* field)
     return value ? value : "";
 }
 
-/// What the camera is told by, wherever it is numbered in; empty for what is no camera. The place it is plugged into
-/// belongs to it, since two cameras of a kind seldom have serial numbers of their own.
+/// Returns an id that does not depend on the order of detection, or an empty string when the device is not a camera. It
+/// includes the port, because cameras of the same model rarely have distinct serial numbers.
 std::string IdentityOf(const GstStructure& properties)
 {
     const std::string place = StringOf(properties, "v4l2.device.bus_info");
@@ -84,8 +84,8 @@ std::vector<CameraMonitor::Camera> CameraMonitor::Cameras()
     return cameras;
 }
 
-/// A new object for the device; null when it is no camera. `identities` are those in use: a camera with several
-/// pictures is there several times.
+/// Creates the camera for a device. Returns null when it is not a camera. `identities` are the ids in use: a camera
+/// with several streams is detected several times.
 CameraMonitor::Camera CameraMonitor::CameraOf(GstDevice* device, std::set<std::string>& identities) const
 {
     const GStreamerPtr<GstStructure> properties(gst_device_get_properties(device));

@@ -11,19 +11,19 @@
 
 namespace Zelkor::StandIn {
 
-/// Knows the cameras that are plugged in. One thread; making one and destroying it may take its time.
+/// Lists the connected cameras and watches for changes. Not thread-safe. The constructor and the destructor may block.
 class CameraMonitor
 {
 public:
     using Camera = boost::intrusive_ptr<CaptureDevice>;
 
-    /// `changed` is called on a thread of GStreamer's whenever cameras come or go.
+    /// `changed` is called on a thread of GStreamer when a camera is plugged in or unplugged.
     explicit CameraMonitor(std::function<void()> changed);
     ~CameraMonitor();
     CameraMonitor(const CameraMonitor&) = delete;
     CameraMonitor& operator=(const CameraMonitor&) = delete;
 
-    /// The cameras that are there now. One that was there before is the same object.
+    /// Returns the connected cameras. A camera that was returned before is the same object.
     std::vector<Camera> Cameras();
 
 private:
@@ -38,7 +38,7 @@ private:
     struct Known
     {
         GStreamerPtr<GstDevice> device;
-        Camera camera; ///< null for what is no camera
+        Camera camera; ///< null when the device is not a camera
         bool wasLookedAt;
     };
     std::vector<Known> known;

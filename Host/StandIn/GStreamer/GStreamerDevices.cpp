@@ -25,7 +25,7 @@ const std::vector<Acquis::Rational>& ScreenRates()
     return rates;
 }
 
-/// A device whose pictures come from the element that `makeElement` makes.
+/// A device that captures from the element that `makeElement` creates.
 class Device : public CaptureDevice
 {
 public:
@@ -61,7 +61,7 @@ boost::intrusive_ptr<VideoMode> ScreenMode(int width, int height)
     return new VideoMode(std::to_string(width) + "×" + std::to_string(height), format, ScreenRates());
 }
 
-/// The size of the X11 screen; false when there is none to capture.
+/// Reads the size of the X11 screen. Returns false when there is none to capture.
 bool FindScreenSize(int& width, int& height)
 {
     const GStreamerPtr<GstElement> element(gst_element_factory_make(SCREEN_SOURCE, nullptr));
@@ -69,7 +69,7 @@ bool FindScreenSize(int& width, int& height)
         return false;
     gst_object_ref_sink(element.get());
     bool found = false;
-    // The display is opened on the way to this state; before, the element does not know the size.
+    // The element opens the display and learns its size on the transition to this state.
     if (gst_element_set_state(element.get(), GST_STATE_READY) == GST_STATE_CHANGE_SUCCESS) {
         const GStreamerPtr<GstPad> pad(gst_element_get_static_pad(element.get(), "src"));
         const GStreamerPtr<GstCaps> caps(gst_pad_query_caps(pad.get(), nullptr));
@@ -100,7 +100,7 @@ boost::intrusive_ptr<CaptureDevice> CreateScreen()
     if (!FindScreenSize(width, height))
         return nullptr;
     CaptureDevice::Modes modes{ScreenMode(width, height)};
-    // Halves are even, as encoders want them.
+    // Even sizes, as encoders require them.
     if (width >= 4 && height >= 4)
         modes.push_back(ScreenMode(width / 4 * 2, height / 4 * 2));
     return new Device(CaptureDevice::Kind::Screen, SCREEN_ID, SCREEN_NAME, std::move(modes),

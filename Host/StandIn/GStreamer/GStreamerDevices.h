@@ -6,11 +6,12 @@
 
 namespace Zelkor::StandIn {
 
-/// The camera that `device` is.
+/// Creates the capture device for a camera.
 boost::intrusive_ptr<CaptureDevice> CreateCamera(GstDevice* device, const std::string& id, const std::string& name,
                                                  CaptureDevice::Modes modes);
 
-/// The whole X11 screen; null when there is no X display or no element that captures it. Opens the display.
+/// Creates the device that captures the X11 screen. Returns null when there is no X display or no element that captures
+/// it. Opens the display.
 boost::intrusive_ptr<CaptureDevice> CreateScreen();
 
 } // namespace Zelkor::StandIn

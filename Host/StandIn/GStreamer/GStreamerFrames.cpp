@@ -27,7 +27,7 @@ constexpr FormatPair FORMATS[] = {
     {PixFmt::GRAY8, GST_VIDEO_FORMAT_GRAY8}, {PixFmt::BGRX, GST_VIDEO_FORMAT_BGRx},
 };
 
-/// A buffer that is mapped for reading, until it is destroyed.
+/// A buffer that is mapped for reading.
 struct MappedFrame
 {
     MappedFrame(GstVideoInfo* info, GstBuffer* buffer)
@@ -45,7 +45,7 @@ struct MappedFrame
     const bool isMapped;
 };
 
-/// The bytes of the memory that a plane's top row lies in, as `Plane::size` counts them.
+/// Returns `Plane::size`: the bytes of the memory that contains the plane.
 std::size_t BytesOf(const Plane& plane, const GstVideoFrame& frame)
 {
     for (const auto& map : frame.map) {
@@ -127,7 +127,7 @@ boost::intrusive_ptr<VideoFrame> WrapSample(GstSample* sample, std::int64_t time
     if (!mapped->isMapped)
         return nullptr;
 
-    // GStreamer counts the planes in memory order, as frames do.
+    // In memory order, like the planes of a `VideoFrame`.
     const GstVideoFrame& frame = mapped->frame;
     Planes planes;
     for (guint i = 0; i < GST_VIDEO_FRAME_N_PLANES(&frame) && i < planes.size(); ++i) {

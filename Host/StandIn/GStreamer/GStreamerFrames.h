@@ -8,21 +8,21 @@
 
 namespace Zelkor::StandIn {
 
-/// Loads GStreamer at the first call. False when it cannot be loaded. Any thread.
+/// Loads GStreamer on the first call. Returns false when it cannot be loaded. Any thread may call.
 bool LoadGStreamer();
 
-/// `None` for formats that frames cannot have.
+/// Returns `None` for unsupported formats.
 Proc::PixFmt PixFmtOf(GstVideoFormat format);
-/// `GST_VIDEO_FORMAT_UNKNOWN` for `None` and for formats that GStreamer does not have.
+/// Returns `GST_VIDEO_FORMAT_UNKNOWN` for `None` and unknown formats.
 GstVideoFormat GStreamerFormatOf(Proc::PixFmt pixFmt);
 
-/// Raw video in any format that frames can have.
+/// Returns the caps of raw video in any supported format.
 GStreamerPtr<GstCaps> FrameCaps();
-/// Raw video of this format and size, at any rate.
+/// Returns the caps of raw video in this format and size, at any rate.
 GStreamerPtr<GstCaps> CapsOf(const FrameFormat& format);
 
-/// A frame over the sample's buffer, which is mapped and kept as long as the frame lives. Null when the sample has no
-/// picture in a format that frames can have.
+/// Creates a frame that refers to the sample's buffer and keeps it mapped. Returns null when the sample contains no
+/// picture in a supported format.
 boost::intrusive_ptr<VideoFrame> WrapSample(GstSample* sample, std::int64_t time);
 
 } // namespace Zelkor::StandIn

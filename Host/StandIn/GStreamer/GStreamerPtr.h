@@ -13,7 +13,7 @@ struct GStreamerRelease
     void operator()(GstStructure* structure) const { gst_structure_free(structure); }
     void operator()(GError* error) const { g_error_free(error); }
     void operator()(gchar* text) const { g_free(text); }
-    // Objects proper: elements, pads, buses, devices.
+    // Elements, pads, buses, devices.
     template<class Object>
     void operator()(Object* object) const
     {
@@ -21,7 +21,7 @@ struct GStreamerRelease
     }
 };
 
-/// Owns one reference of a GStreamer object, or a GLib value.
+/// Owns a reference to a GStreamer object, or a GLib value.
 template<class T>
 using GStreamerPtr = std::unique_ptr<T, GStreamerRelease>;
 

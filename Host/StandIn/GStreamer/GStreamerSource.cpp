@@ -21,7 +21,7 @@ std::int64_t Now()
     return std::chrono::duration_cast<std::chrono::nanoseconds>(time).count();
 }
 
-/// Adds a new element to the pipeline, which owns it; null, logged, when there is none of this name.
+/// Adds a new element to the pipeline, which owns it. Logs an error and returns null when there is no such element.
 GstElement* Add(GstBin* pipeline, const char* name)
 {
     GstElement* element = gst_element_factory_make(name, nullptr);
@@ -75,7 +75,7 @@ CaptureError GStreamerSource::Run(SourceChannel& runChannel)
             channel->Fail(CaptureError::CannotOpen);
         while (!channel->WaitForEnd(std::chrono::steady_clock::now() + LONG_TIME)) {
         }
-        // Returns when the streaming threads have left, so none of them calls any more.
+        // Blocks until the streaming threads have ended. No callback runs afterwards.
         gst_element_set_state(pipeline.get(), GST_STATE_NULL);
     } else {
         channel->Fail(CaptureError::CannotOpen);
@@ -98,7 +98,7 @@ GStreamerPtr<GstElement> GStreamerSource::BuildPipeline()
     return pipeline;
 }
 
-/// Adds and links what turns the pictures of the first element into frames.
+/// Adds and links the elements that convert the output of `first` to frames.
 bool GStreamerSource::Link(GstBin* pipeline, GstElement* first)
 {
     const auto modeCaps = ModeCaps();
@@ -107,7 +107,7 @@ bool GStreamerSource::Link(GstBin* pipeline, GstElement* first)
     GstElement* filter = Add(pipeline, "capsfilter");
     const bool isJpeg = gst_structure_has_name(gst_caps_get_structure(modeCaps.get(), 0), JPEG);
     GstElement* decoder = isJpeg ? Add(pipeline, "jpegdec") : filter;
-    GstElement* converter = Add(pipeline, "videoconvert"); // hands on what is in a format of ours already
+    GstElement* converter = Add(pipeline, "videoconvert"); // passes supported formats through
     GstElement* sink = Add(pipeline, "appsink");
     if (!filter || !decoder || !converter || !sink)
         return false;
@@ -124,7 +124,7 @@ bool GStreamerSource::Link(GstBin* pipeline, GstElement* first)
     return false;
 }
 
-/// What the mode takes from the device; null, logged, when that cannot be said.
+/// Returns the caps of the mode. Logs an error and returns null when the mode has none.
 GStreamerPtr<GstCaps> GStreamerSource::ModeCaps() const
 {
     GStreamerPtr<GstCaps> caps;
@@ -142,7 +142,7 @@ GStreamerPtr<GstCaps> GStreamerSource::ModeCaps() const
     return caps;
 }
 
-/// A streaming thread of the pipeline.
+/// Called on a streaming thread.
 GstFlowReturn GStreamerSource::HandleSample(GstAppSink* sink, gpointer source)
 {
     const GStreamerPtr<GstSample> sample(gst_app_sink_pull_sample(sink));
@@ -156,7 +156,7 @@ GstFlowReturn GStreamerSource::HandleSample(GstAppSink* sink, gpointer source)
     return GST_FLOW_OK;
 }
 
-/// Any thread of the pipeline.
+/// Called on any thread of the pipeline.
 GstBusSyncReply GStreamerSource::HandleMessage(GstBus*, GstMessage* message, gpointer source)
 {
     auto* self = static_cast<GStreamerSource*>(source);
@@ -175,7 +175,7 @@ void GStreamerSource::HandleError(GstMessage* message)
     gst_message_parse_error(message, &error, &details);
     const GStreamerPtr<GError> ownedError(error);
     const GStreamerPtr<gchar> ownedDetails(details);
-    // While the pipeline is taken down, parts of it may complain about each other.
+    // Elements may report errors while the pipeline is shut down.
     if (channel->IsEnding())
         return;
     LOG(ERROR) << "GStreamer: " << error->message;

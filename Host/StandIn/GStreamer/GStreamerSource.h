@@ -27,11 +27,11 @@ private:
     std::list<SourceChannel*> users;
 };
 
-/// Runs a pipeline: an element that gives pictures, what turns them into frames, and a sink.
+/// Captures with a GStreamer pipeline of a source element, conversion and a sink.
 class GStreamerSource : public CaptureSource
 {
 public:
-    /// Makes the first part of the pipeline, which may be a bin; null when that is not possible.
+    /// Creates the source element of the pipeline, which may be a bin. Returns null on failure.
     using MakeElement = std::function<GstElement*()>;
 
     GStreamerSource(MakeElement makeElement, const VideoMode& mode, std::shared_ptr<DeviceAccess> access);
@@ -54,7 +54,7 @@ private:
     const Acquis::Rational rate;
     const std::shared_ptr<DeviceAccess> access;
 
-    SourceChannel* channel = nullptr; ///< set before the pipeline runs
+    SourceChannel* channel = nullptr; ///< set before the pipeline starts
     std::atomic<bool> hasFrames{false};
 };
 

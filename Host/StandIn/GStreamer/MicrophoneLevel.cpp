@@ -10,7 +10,7 @@ namespace {
 
 constexpr char LEVEL[] = "level";
 
-/// Adds a new element to the pipeline, which owns it; null when there is none of this name.
+/// Adds a new element to the pipeline, which owns it. Returns null when there is no such element.
 GstElement* Add(GstBin* pipeline, const char* name)
 {
     GstElement* element = gst_element_factory_make(name, nullptr);
@@ -19,7 +19,7 @@ GstElement* Add(GstBin* pipeline, const char* name)
     return element;
 }
 
-// The loudest of all channels.
+// Returns the peak of the loudest channel.
 double PeakOf(const GstStructure* levels)
 {
     double highest = -std::numeric_limits<double>::infinity();
@@ -46,7 +46,7 @@ MicrophoneLevel::MicrophoneLevel(std::function<void(double)> peak, std::function
 
 MicrophoneLevel::~MicrophoneLevel()
 {
-    // Returns when the streaming threads have left, so none of them calls any more.
+    // Blocks until the streaming threads have ended. No callback runs afterwards.
     if (pipeline)
         gst_element_set_state(pipeline.get(), GST_STATE_NULL);
 }
@@ -67,7 +67,7 @@ bool MicrophoneLevel::Open(const char* element, std::chrono::nanoseconds interva
     return gst_element_set_state(pipeline.get(), GST_STATE_PLAYING) != GST_STATE_CHANGE_FAILURE;
 }
 
-/// Any thread of the pipeline.
+/// Called on any thread of the pipeline.
 GstBusSyncReply MicrophoneLevel::HandleMessage(GstBus*, GstMessage* message, gpointer microphone)
 {
     auto* self = static_cast<MicrophoneLevel*>(microphone);

@@ -8,20 +8,20 @@
 
 namespace Zelkor::StandIn {
 
-/// An open microphone of which only the level counts. One thread, apart from the callbacks.
+/// Measures the level of a microphone. Not thread-safe; the callbacks run on threads of GStreamer.
 class MicrophoneLevel
 {
 public:
-    /// Names of the elements that may have a microphone on this kind of machine, the best first.
+    /// Names of the elements that capture from microphones on the supported platforms, by preference.
     static const std::vector<const char*>& Elements();
 
-    /// Both are called on threads of the pipeline, never after the destructor: `peak` with decibels of full scale, and
-    /// `failed` when the microphone cannot go on.
+    /// Calls `peak` with decibels relative to full scale, and `failed` when the microphone fails. Neither is called
+    /// after the destructor.
     MicrophoneLevel(std::function<void(double decibels)> peak, std::function<void()> failed);
     ~MicrophoneLevel();
 
-    /// Opens the element's default microphone; may take its time. False, without a log line, when there is none: that
-    /// is nothing unusual. To be called once.
+    /// Opens the element's default microphone; may block. Returns false when there is none, and does not log that,
+    /// since it is not an error. Call it once.
     bool Open(const char* element, std::chrono::nanoseconds interval);
 
 private:

@@ -11,7 +11,7 @@ using Proc::PixFmt;
 
 namespace {
 
-// What red and blue weigh in the brightness.
+// The weights of red and blue in luma.
 struct Weights
 {
     double red;
@@ -37,7 +37,7 @@ void BrightenBytes(std::uint8_t* bytes, int count, int step, int amount)
         bytes[i * step] = static_cast<std::uint8_t>(std::min(bytes[i * step] + amount, 255));
 }
 
-/// Writes the `size` bytes at `unit` again and again: by doubling, which is as fast as copying.
+/// Repeats the `size` bytes at `unit` by doubling, which is as fast as copying.
 void Repeat(std::uint8_t* to, const std::uint8_t* unit, std::size_t size, int count)
 {
     if (count <= 0)
@@ -89,7 +89,7 @@ void TestPictureCanvas::Fill(int y, int left, int right, const Ink& ink)
         const std::uint8_t pixel[] = {ink.b, ink.g, ink.r, 255};
         Repeat(Row(0, y) + left * 4, pixel, sizeof pixel, count);
     } else if (format.pixFmt == PixFmt::YUY2) {
-        // Two pixels share their chroma; of a pair that is covered by half, only the brightness is written.
+        // Two pixels share their chroma. Only luma is written for a pair that is half covered.
         const std::uint8_t pair[] = {ink.y, ink.u, ink.y, ink.v};
         const int firstPair = (left + 1) / 2;
         Repeat(Row(0, y) + firstPair * 4, pair, sizeof pair, right / 2 - firstPair);
@@ -117,7 +117,7 @@ void TestPictureCanvas::FillChroma(int y, int left, int right, const Ink& ink)
     }
 }
 
-// Chroma is coarser than the edge, so brightness alone is blended.
+// Blends luma only, because chroma has a lower resolution than the edge.
 void TestPictureCanvas::Blend(int y, int x, double share, const Ink& ink)
 {
     std::uint8_t* row = Row(0, y);
@@ -140,7 +140,7 @@ void TestPictureCanvas::Brighten(int y, int left, int right, int amount)
         return;
     std::uint8_t* row = Row(0, y);
     if (format.pixFmt == PixFmt::BGRA)
-        BrightenBytes(row + left * 4, count * 4, 1, amount); // the fourth byte is full already
+        BrightenBytes(row + left * 4, count * 4, 1, amount); // the fourth byte is 255 and saturates
     else if (format.pixFmt == PixFmt::YUY2)
         BrightenBytes(row + left * 2, count, 2, amount);
     else

@@ -7,7 +7,7 @@
 
 namespace Zelkor::StandIn {
 
-/// A colour, as the formats that the canvas knows write it.
+/// A colour in the sample values of the supported formats.
 struct Ink
 {
     /// `red`, `green`, `blue` range from 0 to 1.
@@ -17,8 +17,8 @@ struct Ink
     std::uint8_t r, g, b;
 };
 
-/// Draws horizontal runs of one colour into the planes of a frame, which is what pictures of this size can be drawn
-/// from cheaply in any format. Runs are clipped to the picture. Knows NV12, I420, YUY2 and BGRA.
+/// Draws horizontal spans into the planes of a frame, which is fast in every format. Spans are clipped to the picture.
+/// Supports NV12, I420, YUY2 and BGRA.
 class TestPictureCanvas
 {
 public:
@@ -29,10 +29,10 @@ public:
     int Height() const { return format.height; }
     ColorMatrix Matrix() const { return format.matrix; }
 
-    /// From `left` to `right` in row `y`; the ends may lie within a pixel and are drawn softly.
+    /// Fills row `y` from `left` to `right`. Ends within a pixel are antialiased.
     void DrawSpan(int y, double left, double right, const Ink& ink);
 
-    /// Makes what is there brighter, by so much of the brightness range as `amount` of 255 is.
+    /// Adds `amount`, of 255, to the brightness of row `y` from `left` to `right`.
     void Brighten(int y, int left, int right, int amount);
 
 private:

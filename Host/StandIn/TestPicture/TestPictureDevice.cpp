@@ -33,7 +33,7 @@ constexpr Size SIZES[] = {
     {"1920×1080", PixFmt::NV12, 1920, 1080}, {"320×240", PixFmt::BGRA, 320, 240},
 };
 
-// High definition pictures have the newer matrix, as cameras have it.
+// High-definition video uses BT.709, as with cameras.
 constexpr int LOWEST_BT709_HEIGHT = 720;
 
 CaptureDevice::Modes CreateModes()
@@ -48,7 +48,7 @@ CaptureDevice::Modes CreateModes()
     return modes;
 }
 
-/// Length of `count` frame periods, without the rounding of one adding up.
+/// Returns the length of `count` frame periods, without accumulating rounding errors.
 Clock::duration Periods(const Acquis::Rational& rate, std::int64_t count)
 {
     const double seconds = double(count) * double(rate.denominator) / double(rate.numerator);
@@ -80,7 +80,7 @@ public:
         std::int64_t number = 0;
         while (!channel.WaitForEnd(start + Periods(rate, number))) {
             channel.Deliver(Draw(scene, time, number));
-            // On a machine that is too slow frames are left out, and the rest stays in time.
+            // Skips frames on a slow machine, so that the rest is on time.
             const auto behind = Clock::now() - start - Periods(rate, number + 1);
             const auto period = Periods(rate, 1);
             const std::int64_t passed = 1 + (behind > period ? behind / period : 0);

@@ -15,7 +15,7 @@ struct Color
     double red, green, blue;
 };
 
-// The sky at the top, halfway down and at the horizon, early and late, between which it changes slowly.
+// The sky at the top, halfway down and at the horizon. It fades between early and late colours.
 constexpr Color ZENITH_EARLY{0.16, 0.30, 0.58};
 constexpr Color ZENITH_LATE{0.15, 0.13, 0.38};
 constexpr Color DUSK_EARLY{0.66, 0.58, 0.76};
@@ -30,14 +30,14 @@ constexpr Color NEAR_HILLS{0.13, 0.16, 0.30};
 constexpr Color TEXT_BACKGROUND{0.06, 0.07, 0.12};
 constexpr Color TEXT{0.96, 0.96, 0.96};
 
-constexpr double SKY_HEIGHT = 0.72; // in heights of the picture; below there are hills
+constexpr double SKY_HEIGHT = 0.72; // in picture heights
 constexpr double SKY_PERIOD = 40.0; // seconds
 constexpr double SUN_PERIOD = 24.0;
 constexpr double BAR_PERIOD = 4.0;
 constexpr int GLOW_AMOUNT = 9;
 constexpr int BAR_AMOUNT = 14;
 
-// Lengths are in heights of the picture, except x and the speed: in widths.
+// `x` and `speed` are in picture widths, `y` and `size` in picture heights.
 struct Cloud
 {
     double x, y, size, speed;
@@ -46,7 +46,7 @@ struct Cloud
 constexpr Cloud CLOUDS[] = {
     {0.05, 0.16, 0.050, 0.020}, {0.35, 0.30, 0.070, 0.032}, {0.62, 0.12, 0.040, 0.015}, {0.85, 0.25, 0.060, 0.026}};
 
-// A cloud is a heap of discs on a straight base; lengths in sizes of the cloud.
+// The discs of a cloud, which has a straight base. In units of its size.
 struct Puff
 {
     double x, y, radius;
@@ -54,12 +54,12 @@ struct Puff
 
 constexpr Puff PUFFS[] = {{-1.9, 0.0, 0.7}, {-0.9, -0.35, 1.0}, {0.4, -0.6, 1.25}, {1.5, -0.2, 0.9}, {2.3, 0.0, 0.6}};
 constexpr double CLOUD_BASE = 0.25;
-constexpr double CLOUD_MARGIN = 0.25; // in widths: how far outside a cloud turns up again
+constexpr double CLOUD_MARGIN = 0.25; // beyond the edges where clouds wrap around, in picture widths
 
 constexpr int GLYPH_WIDTH = 5;
 constexpr int GLYPH_HEIGHT = 7;
 constexpr int GLYPH_STEP = GLYPH_WIDTH + 1;
-using Glyph = std::array<unsigned char, GLYPH_HEIGHT>; // one byte for each row, the leftmost dot is 16
+using Glyph = std::array<unsigned char, GLYPH_HEIGHT>; // one byte per row; the leftmost dot is bit 4
 
 constexpr Glyph DIGITS[] = {
     {14, 17, 19, 21, 25, 17, 14}, {4, 12, 4, 4, 4, 4, 14},    {14, 17, 1, 2, 4, 8, 31},   {31, 2, 4, 2, 1, 17, 14},
@@ -194,7 +194,7 @@ void TestPictureScene::DrawClouds(TestPictureCanvas& canvas, double time) const
 
 void TestPictureScene::DrawHills(TestPictureCanvas& canvas, const Hills& chain, double time) const
 {
-    // Whole pixels, so that no seam shows where the hills repeat.
+    // Whole pixels, so that there is no seam where the hills repeat.
     const double offset = std::floor(width * Fraction(chain.speed * time));
     for (int y = 0; y < height; ++y) {
         for (const auto& [left, right] : chain.rows[std::size_t(y)]) {
@@ -207,7 +207,7 @@ void TestPictureScene::DrawHills(TestPictureCanvas& canvas, const Hills& chain, 
 void TestPictureScene::DrawBar(TestPictureCanvas& canvas, double time) const
 {
     const double middle = width * (Fraction(time / BAR_PERIOD) * 1.2 - 0.1);
-    // Three bars in each other make its edges soft.
+    // Three nested bars make the edges soft.
     for (const double half : {0.030, 0.022, 0.014}) {
         const int left = int(std::lround(middle - width * half));
         const int right = int(std::lround(middle + width * half));

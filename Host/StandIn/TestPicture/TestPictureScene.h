@@ -8,26 +8,26 @@
 
 namespace Zelkor::StandIn {
 
-/// What the test picture shows: an evening sky with sun, clouds and hills, all of which move, a bar of light that
-/// sweeps over it, and a counter. Everything that depends on the size alone is worked out once.
+/// The content of the test picture: an evening sky with moving sun, clouds and hills, a sweeping bar of light and a
+/// counter. The constructor computes everything that depends on the size only.
 class TestPictureScene
 {
 public:
     TestPictureScene(int width, int height, ColorMatrix matrix);
 
-    /// Draws the whole picture at `time`, in seconds; `text` (digits, colon, full stop, space) goes into a corner and
-    /// may be empty.
+    /// Draws the picture at `time`, in seconds, with `text` in a corner. The text may contain digits, colons, full
+    /// stops and spaces, and may be empty.
     void Draw(TestPictureCanvas& canvas, double time, const std::string& text) const;
 
 private:
     using Span = std::pair<int, int>;
 
-    /// A chain of hills, which repeats after the width of the picture.
+    /// A chain of hills, which repeats every picture width.
     struct Hills
     {
         Ink ink;
         double speed;                        ///< in picture widths per second
-        std::vector<std::vector<Span>> rows; ///< where there is a hill, for each row from the top
+        std::vector<std::vector<Span>> rows; ///< the parts of each row that hills cover, from the top
     };
 
     Hills MakeHills(const Ink& ink, double base, double amplitude, int waves, double speed) const;

@@ -7,14 +7,14 @@
 
 namespace Zelkor::StandIn {
 
-/// How the test picture moves. The dialog writes, the sources read.
+/// The settings of the test picture. Written by the dialog, read by the sources on their threads.
 struct TestPictureSettings
 {
-    std::atomic<int> speedPercent{100};
-    std::atomic<bool> showsCounter{true};
+    std::atomic<int> speedPercent{100};   ///< 0 to 400, default 100
+    std::atomic<bool> showsCounter{true}; ///< default true
 };
 
-/// The dialog that changes `settings`. At most one is open at a time.
+/// Creates the handle of the dialog that edits `settings`. At most one dialog is open at a time.
 boost::intrusive_ptr<Acquis::IDeviceSettings>
 CreateTestPictureDialog(const std::shared_ptr<TestPictureSettings>& settings);
 

@@ -1,7 +1,8 @@
 #pragma once
 
-// VX_HOST_EXPORT: classes and functions that the host's library defines.
-// VX_HOST_INTERFACE: interfaces that both sides implement or cast to; their type information must be one and the same.
+// VX_HOST_EXPORT marks classes and functions that the host's library defines.
+// VX_HOST_INTERFACE marks interfaces that both sides implement or cast to. Their type information must be unique in the
+// process.
 #if defined(_WIN32)
 #if defined(VX_HOST_BUILD)
 #define VX_HOST_EXPORT __declspec(dllexport)

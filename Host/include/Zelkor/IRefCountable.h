@@ -8,15 +8,17 @@
 
 namespace Zelkor {
 
-/// Base of every object of the media core and of the capture engine.
+/// Base class of all objects of the media core and the capture engine.
 ///
-/// Such objects count their references themselves and are held by `boost::intrusive_ptr`. A new object has no
-/// reference; releasing the last one destroys it, on whatever thread that happens. Counting is atomic.
+/// The objects count their references atomically and are held by `boost::intrusive_ptr`. A new object has no
+/// references. Releasing the last reference destroys the object on the calling thread.
 class VX_HOST_INTERFACE IRefCountable
 {
 public:
     virtual void AddRef() const noexcept = 0;
+    /// Destroys the object when this was the last reference.
     virtual void Release() const noexcept = 0;
+    /// The number of references now; another thread may change it at any time.
     virtual int GetRefCount() const noexcept = 0;
 
 protected:
@@ -33,7 +35,7 @@ inline void intrusive_ptr_release(const IRefCountable* object) noexcept
     object->Release();
 }
 
-/// Implements the counting for a class that offers the given interfaces.
+/// Implements reference counting for a class that derives from the given interfaces.
 template<class... Interfaces>
 class RefCounted : public virtual Interfaces...
 {

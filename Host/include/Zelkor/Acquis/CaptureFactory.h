@@ -5,25 +5,25 @@
 
 namespace Zelkor::Acquis {
 
-/// Makes capture sessions. Any thread may call.
+/// Creates capture sessions. Any thread may call.
 ///
-/// This and all that the engine gives out (sessions, outputs, readers, devices) may throw a `std::exception` from any
-/// function that is not `noexcept`. Exceptions pass through `SetDevice` and `StartStream` of a preview stream to the
-/// caller. Elsewhere the stream logs them: one from a retry, an output, a reader or a conversion means that the session
-/// is lost.
+/// The factory and the objects of the engine (sessions, outputs, readers, devices) may throw a `std::exception` from
+/// any function that is not `noexcept`. `SetDevice` and `StartStream` of a preview stream pass such exceptions to their
+/// caller. Elsewhere the stream logs them; an exception from a retry, an output, a reader or a conversion ends the
+/// session.
 class VX_HOST_INTERFACE ICaptureFactory : public virtual IRefCountable
 {
 public:
-    /// Sets `session` to a new, stopped session; to null, with a log line, when the engine cannot capture what the
-    /// initializer describes. Does not open a device.
+    /// Sets `session` to a new session that is not started. Logs an error and sets it to null when the engine cannot
+    /// capture what `initializer` describes, or has no implementation `implName`. Does not open a device.
     virtual void CreateSession(boost::intrusive_ptr<ICaptureSession>& session,
                                const CaptureSessionInitializer& initializer, const std::string& implName) = 0;
 };
 
-/// Where the capture engine begins.
+/// Entry point of the capture engine.
 struct VX_HOST_EXPORT CaptureFactory
 {
-    /// The engine's factory, never null. Any thread may call.
+    /// Returns the engine's factory, never null. Any thread may call.
     static boost::intrusive_ptr<ICaptureFactory> Create();
 };
 

@@ -8,14 +8,15 @@
 
 namespace Zelkor::Acquis {
 
-/// Describes what a capture session is to capture.
+/// Describes what a capture session captures.
 class VX_HOST_EXPORT CaptureSessionInitializer
 {
 public:
     using Unit = CaptureUnit<ICaptureDevice, ICaptureSettings>;
 
-    /// `effects` makes what the session needs to process frames. An empty `chronometer` means the engine's own clock.
-    /// `pixFmt` is the format asked for, `PixFmt::None` for whatever the device gives.
+    /// `units` are the devices to capture. `effects` creates the effects that process frames. `chronometer` is the
+    /// clock of the session, or null for the engine's own. `pixFmt` is the requested pixel format, or `PixFmt::None`
+    /// for that of the device.
     CaptureSessionInitializer(const std::vector<Unit>& units,
                               const boost::intrusive_ptr<const Proc::IEffectFactory>& effects,
                               const std::shared_ptr<const Time::IChronometer>& chronometer, Proc::PixFmt pixFmt);

@@ -9,13 +9,13 @@
 
 namespace Zelkor::Acquis {
 
-/// A device together with the settings to capture it in.
+/// A device together with the settings to capture it with.
 template<class Device, class Settings>
 class CaptureUnit
 {
 public:
-    /// Either pointer may be null. Throws `std::logic_error` when both are given and the settings are neither generic
-    /// nor among the device's own.
+    /// Either pointer may be null. Throws `std::logic_error` when both are set and the settings are neither generic nor
+    /// among those of the device.
     CaptureUnit(const boost::intrusive_ptr<Device>& device, const boost::intrusive_ptr<Settings>& settings)
         : device(device), settings(settings)
     {

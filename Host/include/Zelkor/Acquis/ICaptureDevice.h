@@ -4,11 +4,12 @@
 
 namespace Zelkor::Acquis {
 
-/// Something that can be captured: a camera, a screen, a generated picture.
+/// A video source: a camera, a screen or a generated picture.
 class VX_HOST_INTERFACE ICaptureDevice : public virtual IRefCountable
 {
 public:
-    /// Replaces `settings` by the device's modes of one kind, always the same objects. Does not open the device.
+    /// Replaces `settings` with the device's modes of one `SettingsKind`. Returns the same objects each time. Does not
+    /// open the device.
     virtual void GetSettings(std::vector<boost::intrusive_ptr<ICaptureSettings>>& settings, unsigned kind) const = 0;
 };
 

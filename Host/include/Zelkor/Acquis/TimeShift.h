@@ -6,12 +6,12 @@
 
 namespace Zelkor::Acquis {
 
-/// Maps the time stamps of captured frames onto the time line of an output.
+/// Maps the timestamps of captured frames to the timeline of an output.
 class VX_HOST_INTERFACE TimeShift : public RefCounted<IRefCountable>
 {
 public:
-    /// The time on the output's time line for the captured `time`, both in nanoseconds. Called on
-    /// the thread that reads the frame.
+    /// Returns the time on the output's timeline for the captured `time`, both in nanoseconds. Called on the thread
+    /// that reads the frame.
     virtual std::int64_t MapTime(std::int64_t time) const = 0;
 
 protected:

@@ -10,22 +10,23 @@ class QUrl;
 
 namespace Zelkor::App {
 
-/// The application's about dialog: product, version, legal text and three links.
+/// The about dialog of the application, with product, version, legal text and up to three links.
 ///
-/// Object names of the parts: "productLabel", "versionLabel", "legalLabel", and for the links, whose texts are
-/// rich-text anchors, "homePageLabel", "mailToLabel" and "customURL". Links open through the desktop's handler, and
-/// only http, https and mailto; the Tab key reaches them. A mouse press beside the links closes nothing and drags
-/// nothing.
+/// The object names of the labels are "productLabel", "versionLabel" and "legalLabel", and for the links
+/// "homePageLabel", "mailToLabel" and "customURL". The links are rich-text anchors and can be reached by Tab. They open
+/// with `QDesktopServices`, and only if the scheme is http, https or mailto. The dialog accepts mouse presses beside
+/// the links, so that they neither close nor drag it.
 class VX_HOST_EXPORT AboutBoxDialog : public QDialog
 {
     Q_OBJECT
 
 public:
-    /// `product` is the product's name, `version` the version text, `legal` the copyright line.
+    /// `product` is the name of the product, `version` the version text and `legal` the copyright line, all in plain
+    /// text.
     AboutBoxDialog(const QString& product, const QString& version, const QString& legal, QWidget* parent);
     ~AboutBoxDialog() override;
 
-    /// A third link below the two that are always there, none by default: its label hides while `url` is empty.
+    /// Sets the third link, shown below the other two. An empty `url`, the default, hides its label.
     void SetCustomUrl(const QUrl& url);
 
 protected:

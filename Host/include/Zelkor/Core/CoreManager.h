@@ -4,14 +4,14 @@
 
 namespace Zelkor::Core {
 
-/// The process-wide media core.
+/// The media core of the process.
 class VX_HOST_EXPORT CoreManager
 {
 public:
-    /// The one instance, made at the first call. Any thread may call; it lives until the process ends.
+    /// Returns the only instance. Created on the first call, destroyed when the process exits. Any thread may call.
     static CoreManager& Instance();
 
-    /// The factory of the core's effects, never null. Any thread may call.
+    /// Returns the factory of the effects, never null. Any thread may call.
     boost::intrusive_ptr<Proc::IEffectFactory> GetEffectFactory() const;
 
     CoreManager(const CoreManager&) = delete;

@@ -5,7 +5,7 @@
 
 namespace Zelkor::Proc {
 
-/// One video frame. A frame never changes after it was published, so any thread may read it without a lock.
+/// A video frame. Frames are immutable once published, so any thread may read them without a lock.
 class VX_HOST_INTERFACE IDataVideo : public virtual IRefCountable
 {
 public:

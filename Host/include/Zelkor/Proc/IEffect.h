@@ -4,22 +4,22 @@
 
 namespace Zelkor::Proc {
 
-/// What an effect can be told; each effect accepts its own kind.
+/// Base class of the settings of an effect. Each effect accepts one subclass.
 class VX_HOST_INTERFACE IEffectSettings
 {
 public:
     virtual ~IEffectSettings() = default;
 };
 
-/// A step that turns one frame into another. An effect serves one thread at a time, not always the same one.
+/// Converts frames, one at a time. Calls may come from different threads, but not at the same time.
 class VX_HOST_INTERFACE IEffect : public virtual IRefCountable
 {
 public:
-    /// Replaces `frame` by the processed one. A frame that the effect cannot read (null, unknown format, planes too
-    /// small) is replaced by null; the host logs the first of a row of such frames.
+    /// Replaces `frame` with the processed frame, or with null when the effect cannot read it (null, unknown format,
+    /// planes too small). The host logs the first of consecutive failures.
     virtual void Process(boost::intrusive_ptr<IDataVideo>& frame) = 0;
 
-    /// Takes a copy of `settings` for the frames to come. Settings of another kind of effect are logged and ignored.
+    /// Copies `settings` and applies them to later frames. Logs an error and ignores settings of another effect.
     virtual void ApplySettings(const IEffectSettings& settings) = 0;
 };
 

@@ -2,7 +2,7 @@
 
 namespace Zelkor::Proc::ImplNames {
 
-/// Asks a factory for its own choice among several implementations.
+/// Lets a factory choose the implementation.
 inline constexpr char DEFAULT[] = "Default";
 
 } // namespace Zelkor::Proc::ImplNames

@@ -2,25 +2,24 @@
 
 namespace Zelkor::Proc {
 
-/// Layout of a frame's samples in memory. The numbers are those of FFmpeg's `AVPixelFormat`, component orders are
-/// byte orders. `BGRA` (28) is what `QImage::Format_RGB32` reads on a little-endian machine.
-/// Layouts for which that numbering has no value of their own start at 0x1000.
+/// The memory layout of a frame's samples. The values are those of FFmpeg's `AVPixelFormat`; layouts that it does not
+/// distinguish start at 0x1000. Component orders are byte orders.
 enum class PixFmt : int {
-    None = -1,
-    I420 = 0,
-    YUY2 = 1,
-    RGB24 = 2,
-    BGR24 = 3,
-    GRAY8 = 8,
-    UYVY = 15,
-    NV12 = 23,
-    NV21 = 24,
-    ARGB = 25,
-    RGBA = 26,
-    ABGR = 27,
-    BGRA = 28,
-    YV12 = 0x1000, ///< `I420` with the two chroma planes exchanged
-    BGRX = 0x1001, ///< `BGRA` whose fourth byte has no meaning
+    None = -1,     ///< no or any format
+    I420 = 0,      ///< planes Y, U, V; chroma halved in both directions
+    YUY2 = 1,      ///< packed Y U Y V; chroma halved horizontally
+    RGB24 = 2,     ///< packed R G B
+    BGR24 = 3,     ///< packed B G R
+    GRAY8 = 8,     ///< one plane Y
+    UYVY = 15,     ///< packed U Y V Y; chroma halved horizontally
+    NV12 = 23,     ///< planes Y and U V; chroma halved in both directions
+    NV21 = 24,     ///< planes Y and V U; chroma halved in both directions
+    ARGB = 25,     ///< packed A R G B
+    RGBA = 26,     ///< packed R G B A
+    ABGR = 27,     ///< packed A B G R
+    BGRA = 28,     ///< packed B G R A: `QImage::Format_RGB32` on little-endian machines
+    YV12 = 0x1000, ///< planes Y, V, U; chroma halved in both directions
+    BGRX = 0x1001, ///< `BGRA` with an undefined fourth byte
 };
 
 } // namespace Zelkor::Proc

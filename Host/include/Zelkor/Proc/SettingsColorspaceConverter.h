@@ -4,15 +4,15 @@
 
 namespace Zelkor::Proc {
 
-/// Settings of the colour-space converter, the effect that brings frames into one pixel format.
+/// Settings of the colour-space converter, the effect that converts frames to one pixel format.
 class VX_HOST_EXPORT SettingsColorspaceConverter : public IEffectSettings
 {
 public:
-    /// Class id under which the effect factory makes the converter.
+    /// The class id of the converter for `IEffectFactory::CreateEffect`.
     static constexpr char CLASS_ID[] = "ColorspaceConverter";
 
-    /// `target` is the format of the frames that come out. With `passThrough` a frame that has it already comes out
-    /// as it went in; without, it is copied.
+    /// `target` is the format of the converted frames. A frame that has this format already is returned as it is when
+    /// `passThrough` is true, and copied otherwise.
     SettingsColorspaceConverter(PixFmt target, bool passThrough);
     ~SettingsColorspaceConverter() override;
 

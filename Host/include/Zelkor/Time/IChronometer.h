@@ -6,13 +6,13 @@
 
 namespace Zelkor::Time {
 
-/// A clock that a capture session may be given, so that several sessions share one time line.
+/// A clock that several capture sessions can share as their timeline.
 class VX_HOST_INTERFACE IChronometer
 {
 public:
     virtual ~IChronometer() = default;
 
-    /// Nanoseconds since an origin of the clock's own; never goes backwards. Any thread may call.
+    /// Returns nanoseconds since an arbitrary origin. Monotonic. Any thread may call.
     virtual std::int64_t Now() const = 0;
 };
 

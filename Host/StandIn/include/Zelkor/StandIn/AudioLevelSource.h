@@ -8,36 +8,38 @@
 
 namespace Zelkor::StandIn {
 
-/// Measures how loud something is, about thirty times a second.
+/// Measures the audio level of the microphone about thirty times a second.
 ///
-/// A microphone is opened on a thread of the source's own, so nothing waits for it. Where there is none, a signal with
-/// the loudness of speech takes its place. The source may be stopped or destroyed at any moment. GUI thread.
+/// The microphone is opened on a worker thread, so no call blocks. A generated signal with the dynamics of speech
+/// replaces a microphone that is missing or fails. The source can be stopped or destroyed at any time. GUI thread only.
 class VX_HOST_EXPORT AudioLevelSource : public QObject
 {
     Q_OBJECT
 
 public:
+    /// What is measured.
     enum class Input {
-        Microphone, ///< the default one, else the signal
-        TestSignal, ///< always the signal
+        Microphone, ///< the default microphone, or the generated signal when there is none
+        TestSignal, ///< the generated signal
     };
 
-    /// What counts as silence; no peak is lower.
+    /// The lowest peak, in decibels relative to full scale.
     static constexpr double SILENCE_DB = -100;
 
     explicit AudioLevelSource(Input input, QObject* parent = nullptr);
     ~AudioLevelSource() override;
 
-    /// A source that is new does not run. One that runs is not started again.
+    /// Starts to measure. A new source is stopped. Does nothing while the source runs.
     void Start();
-    /// After this, no peak comes any more. The microphone is closed soon.
+    /// Stops at once: no peak is emitted afterwards. The microphone is closed in the background.
     void Stop();
 
-    /// True when the last peak was one of the signal and not of a microphone.
+    /// Returns true when the last peak was one of the generated signal. False before the first peak.
     bool IsTestSignal() const;
 
 Q_SIGNALS:
-    /// The highest peak since the last one, in decibels of full scale, from `SILENCE_DB` to 0.
+    /// Emitted with the highest peak since the last emission, in decibels relative to full scale, from `SILENCE_DB` to
+    /// 0.
     void PeakMeasured(double decibels);
 
 private:

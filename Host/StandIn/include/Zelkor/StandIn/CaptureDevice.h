@@ -11,52 +11,54 @@
 
 namespace Zelkor::StandIn {
 
-/// Codes that `ICaptureSessionObserver::handleError` gets from this engine.
+/// The codes that this engine passes to `ICaptureSessionObserver::handleError`.
 enum class CaptureError : int {
-    None = 0,
-    CannotOpen = 1, ///< the device is not there, is in use, or refuses the mode
-    Lost = 2,       ///< the device was unplugged or went silent for good
-    Failed = 3,     ///< anything else that broke down while running
+    None = 0,       ///< no error; never passed to an observer
+    CannotOpen = 1, ///< the device is missing, busy, or rejects the mode
+    Lost = 2,       ///< the device was unplugged or stopped delivering
+    Failed = 3,     ///< any other failure while running
 };
 
-/// What a source is given while it runs: where its frames go, and when it has to end. Any thread may call.
+/// The connection of a running source to its session. Any thread may call.
 class VX_HOST_INTERFACE SourceChannel
 {
 public:
-    /// Publishes the newest frame. The first call has the observer told that the session has started; it does not
-    /// wait for that. A session with a clock of its own stamps the frame with its time now.
+    /// Publishes a frame. Ignores null. The first frame starts the session, of which the observer is notified on
+    /// another thread. A session that was created with a chronometer replaces the frame's time by the current one. Does
+    /// not block.
     virtual void Deliver(const boost::intrusive_ptr<VideoFrame>& frame) = 0;
 
-    /// Ends the run from any thread, with the given error; `None` is a regular end. The first call counts.
+    /// Ends the run with an error, or regularly with `None`. Later calls are ignored.
     virtual void Fail(CaptureError error) = 0;
 
-    /// True from the moment the run has to end: the session was stopped, or `Fail` was called.
+    /// Returns true once the run has to end: the session was stopped, or `Fail` was called.
     virtual bool IsEnding() const = 0;
 
-    /// Waits until the run has to end or `deadline` is there. True when it has to end.
+    /// Blocks until the run has to end or `deadline` is reached. Returns true when the run has to end.
     virtual bool WaitForEnd(std::chrono::steady_clock::time_point deadline) = 0;
 
 protected:
     ~SourceChannel() = default;
 };
 
-/// One run of a device in one mode. A new source is made for each start of a session.
+/// One run of a device in one mode. Each start of a session creates a new source.
 class VX_HOST_INTERFACE CaptureSource
 {
 public:
     virtual ~CaptureSource() = default;
 
-    /// Opens the device, delivers frames until `channel.IsEnding()`, and closes the device before returning. Runs on a
-    /// thread of the session's own and may take its time to open; a session that was stopped meanwhile does not wait.
-    /// Returns `None` after a regular end, also when the source ran out of pictures by itself.
+    /// Opens the device, delivers frames until `channel.IsEnding()`, and closes the device before it returns. Called on
+    /// a worker thread and may block: a session that is stopped meanwhile does not wait. Returns `None` after a regular
+    /// end, which includes the end of the source's material. An exception ends the session with `Failed`.
     virtual CaptureError Run(SourceChannel& channel) = 0;
 };
 
-/// A mode of a device of this engine: a picture format and the rates it comes in.
+/// A mode of a device of this engine: a frame format and its frame rates.
 class VX_HOST_EXPORT VideoMode : public RefCounted<Acquis::IVideoCaptureSettings>
 {
 public:
-    /// `name` is what the person sees, "1280×720" for instance; `detail` is the device's own word for the mode.
+    /// `name` is shown to the user, for example "1280×720". `rates` are in frames per second, the last one is the
+    /// default. `detail` identifies the mode to the device, see `CreateGStreamerDevice`.
     VideoMode(std::string name, const FrameFormat& format, std::vector<Acquis::Rational> rates,
               std::string detail = std::string());
     ~VideoMode() override;
@@ -65,12 +67,13 @@ public:
     bool IsGeneric() const override { return false; }
     std::string GetName() const override { return name; }
     void GetFrameRates(std::vector<Acquis::Rational>& rates) const override;
+    /// Logs an error and ignores a rate of 0 or less. Any thread may call.
     void SetFrameRate(const Acquis::Rational& rate) override;
 
     const FrameFormat& GetFormat() const { return format; }
     const std::string& GetDetail() const { return detail; }
 
-    /// The rate set last, else the mode's last one. Any thread may call.
+    /// Returns the rate that was set last, or the last one of the mode. Any thread may call.
     Acquis::Rational GetFrameRate() const;
 
 private:
@@ -83,15 +86,22 @@ private:
     std::unique_ptr<ChosenRate> chosen;
 };
 
-/// What a device of this engine is, beside what the boundary asks of it. Write a subclass to capture something else.
+/// Base class of the devices that this engine captures. Subclass it to capture from your own source.
 class VX_HOST_EXPORT CaptureDevice : public RefCounted<Acquis::ICaptureDevice>
 {
 public:
-    enum class Kind { Camera, Screen, TestPicture, Other };
+    /// What the device captures.
+    enum class Kind {
+        Camera,      ///< a camera
+        Screen,      ///< the whole screen
+        TestPicture, ///< the built-in test picture
+        Other,       ///< any other source
+    };
 
     using Modes = std::vector<boost::intrusive_ptr<VideoMode>>;
 
-    /// `id` identifies the device across restarts and re-plugging; `name` is for people. Both UTF-8.
+    /// `id` identifies the device across restarts and after it was unplugged. `name` is shown to the user. Both are
+    /// UTF-8.
     CaptureDevice(Kind kind, std::string id, std::string name, Modes modes);
     ~CaptureDevice() override;
 
@@ -103,11 +113,11 @@ public:
     const std::string& GetName() const { return name; }
     const Modes& GetModes() const { return modes; }
 
-    /// A source for one run in `mode`, at the rate that is set on it now; null when the device is gone. Called on the
-    /// thread that starts the session, so it opens nothing.
+    /// Creates a source for one run in `mode`, at its current rate. Returns null when the device is gone. Called on the
+    /// thread that starts the session, so it must not open the device.
     virtual std::unique_ptr<CaptureSource> CreateSource(const VideoMode& mode) const = 0;
 
-    /// The device's own settings dialog, null where it has none.
+    /// Returns the settings dialog of the device, or null, the default, when it has none.
     virtual boost::intrusive_ptr<Acquis::IDeviceSettings> GetDeviceSettings() const;
 
 private:
@@ -117,8 +127,8 @@ private:
     Modes modes;
 };
 
-/// The built-in moving test picture. It needs no device and no other library. Its settings dialog changes how the
-/// picture moves.
+/// Creates the built-in moving test picture, which needs neither a device nor another library. Its settings dialog
+/// changes the speed and shows or hides a counter.
 VX_HOST_EXPORT boost::intrusive_ptr<CaptureDevice> CreateTestPictureDevice();
 
 } // namespace Zelkor::StandIn

@@ -6,11 +6,12 @@
 
 namespace Zelkor::StandIn {
 
-/// Has `Acquis::CaptureFactory::Create` return `factory` from now on, the engine's own again when null. For engines
-/// that are scripted to fail.
+/// Makes `Acquis::CaptureFactory::Create` return `factory`, or the engine's own factory when null. For tests that
+/// replace the engine. Any thread may call.
 VX_HOST_EXPORT void OverrideCaptureFactory(const boost::intrusive_ptr<Acquis::ICaptureFactory>& factory);
 
-/// Waits until no session thread is left that still closes its device. False when the time ran out before.
+/// Blocks until all threads of the engine have ended, including those that still close a device. Returns false on
+/// timeout.
 VX_HOST_EXPORT bool WaitForEngineIdle(std::chrono::milliseconds timeout);
 
 } // namespace Zelkor::StandIn

@@ -9,10 +9,10 @@
 
 namespace Zelkor::StandIn {
 
-/// The devices that can be captured now: cameras, the screen, and always the test picture, in this order.
+/// Lists the devices that can be captured now: the cameras, the screen and the test picture, in this order.
 ///
-/// Cameras are looked for on a thread of the list's own: a new list has the devices that need no search, and tells by
-/// `Changed` when cameras were found, plugged in or unplugged. GUI thread.
+/// Cameras and the screen are searched on a worker thread. A new list contains the test picture only and emits
+/// `Changed` when the first search ends and when a camera is plugged in or unplugged. GUI thread only.
 class VX_HOST_EXPORT DeviceList : public QObject
 {
     Q_OBJECT
@@ -25,14 +25,14 @@ public:
 
     QList<Device> GetDevices() const;
 
-    /// The device with this identity, or null.
+    /// Returns the device with this id, or null.
     Device FindDevice(const QString& id) const;
 
-    /// True once the first search for cameras is over.
+    /// Returns true once the first search has ended.
     bool IsComplete() const;
 
 Q_SIGNALS:
-    /// The list is another than before. A device that is still there keeps its object.
+    /// Emitted when the list has changed or is complete. A device that is still present is the same object as before.
     void Changed();
 
 private:

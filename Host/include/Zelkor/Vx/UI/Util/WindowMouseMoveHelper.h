@@ -12,18 +12,18 @@ class QWidget;
 
 namespace Zelkor::Vx::UI::Util {
 
-/// Moves a window with the left mouse button on its handles.
+/// Moves a window when its handles are dragged with the left mouse button.
 ///
-/// On the first motion the window system takes over where it can move windows itself; elsewhere the helper moves the
-/// window by the distance the mouse has gone. A second button or a double press ends the drag; a window that is
-/// maximised or fills the screen stays where it is. Handles get their presses and releases as ever, and no motion
-/// while the window is dragged. The helper is a child of the window and dies with it; handles may die before.
+/// On the first mouse move the drag is handed to the window system, or, where that is not supported, the helper moves
+/// the window. A second button or a double click ends the drag. Maximised and full-screen windows are not moved.
+/// Handles receive mouse presses and releases as usual, but no mouse moves during a drag. The helper is a child of the
+/// window and is deleted with it. Handles may be deleted earlier.
 class VX_HOST_EXPORT WindowMouseMoveHelper : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Null handles are passed over. A null window makes a helper without effect, which the caller owns.
+    /// Ignores null handles. With a null window the helper has no effect and is owned by the caller.
     WindowMouseMoveHelper(QWidget* window, const QList<QWidget*>& handles);
     ~WindowMouseMoveHelper() override;
 
@@ -37,8 +37,8 @@ private:
     Drag StartDrag();
 
     QPointer<QWidget> window;
-    QPoint pressPosition; ///< global, where the button went down
-    QPoint windowOrigin;  ///< where the window was then, as `QWidget::pos` has it
+    QPoint pressPosition; ///< of the last press, in global coordinates
+    QPoint windowOrigin;  ///< `QWidget::pos` of the window at the last press
     Drag drag = Drag::None;
 };
 
