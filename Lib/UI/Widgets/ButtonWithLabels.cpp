@@ -12,16 +12,16 @@ namespace Zelkor::Vx::UI {
 
 namespace {
 
-/// A part of the face. In a narrow button a text keeps its beginning, and the others all of their width.
-class FaceLabel : public ZLabel
+/// A label on the button. With `keepsBeginning` it may shrink to its first letters, otherwise it keeps its width.
+class ButtonLabel : public ZLabel
 {
 public:
-    FaceLabel(const QString& objectName, bool keepsBeginning, QWidget* parent)
+    ButtonLabel(const QString& objectName, bool keepsBeginning, QWidget* parent)
         : ZLabel(parent), keepsBeginning(keepsBeginning)
     {
         setObjectName(objectName);
         setOriginalText(QString());
-        // Presses on the face are the button's.
+        // The button handles the presses.
         setAttribute(Qt::WA_TransparentForMouseEvents);
     }
 
@@ -49,9 +49,9 @@ QString NameOf(const ZLabel& label)
 } // namespace
 
 ButtonWithLabels::ButtonWithLabels(Qt::Orientation orientation, QWidget* parent)
-    : QPushButton(parent), textLabel(new FaceLabel(Common::TEXT_LABEL, true, this)),
-      hotKeyLabel(new FaceLabel(Common::HOT_KEY_LABEL, false, this)),
-      iconLabel(new FaceLabel(Common::ICON_LABEL, false, this)), orientation(orientation)
+    : QPushButton(parent), textLabel(new ButtonLabel(Common::TEXT_LABEL, true, this)),
+      hotKeyLabel(new ButtonLabel(Common::HOT_KEY_LABEL, false, this)),
+      iconLabel(new ButtonLabel(Common::ICON_LABEL, false, this)), orientation(orientation)
 {
     Common::FollowLayoutDirection();
     QBoxLayout* texts = nullptr;
@@ -73,7 +73,7 @@ void ButtonWithLabels::SetLabelText(const QString& text)
     const QString previous = NameOf(*textLabel);
     textLabel->setOriginalText(text);
     layout()->activate();
-    // A name that the application gave stays.
+    // Keeps a name that the application has set.
     if (accessibleName().isEmpty() || accessibleName() == previous)
         setAccessibleName(NameOf(*textLabel));
 }
@@ -84,7 +84,7 @@ void ButtonWithLabels::SetHotkeyText(const QString& text)
     layout()->activate();
 }
 
-// QPushButton would reckon with its own text, which is empty.
+// QPushButton measures its own text, which is empty.
 QSize ButtonWithLabels::sizeHint() const
 {
     ensurePolished();

@@ -8,11 +8,11 @@ class ZLabel;
 
 namespace Zelkor::Vx::UI {
 
-/// A push button whose face is made of an icon, a text and a hot key, each with a look of its own.
+/// A push button that shows an icon, a text and a hot key in labels that are styled separately.
 ///
-/// A text that does not fit is elided and shown whole as the tool tip of its label. The icon has no setter: the style
-/// sheet draws it. Text and hot key stand beside each other or, in a vertical button, one above the other. The button
-/// owns its labels. GUI thread only.
+/// A text that does not fit is elided; the tool tip of its label then shows the whole text. The icon has no setter: it
+/// comes from the style sheet. Text and hot key are side by side or, in a vertical button, one above the other. The
+/// button owns its labels. GUI thread only.
 ///
 /// Object names for style sheets: "IconLabel", "TextLabel" and "HotKeyLabel", all of them `ZLabel`s.
 class VX_WIDGETS_EXPORT ButtonWithLabels : public QPushButton
@@ -20,20 +20,21 @@ class VX_WIDGETS_EXPORT ButtonWithLabels : public QPushButton
     Q_OBJECT
 
 public:
-    /// A horizontal button, as code that is generated from a form makes it.
+    /// Creates a horizontal button. Called from code that uic generates.
     explicit ButtonWithLabels(QWidget* parent) : ButtonWithLabels(Qt::Horizontal, parent) {}
 
-    /// Any orientation but `Qt::Horizontal` counts as vertical.
+    /// Treats any orientation other than `Qt::Horizontal` as vertical.
     ButtonWithLabels(Qt::Orientation orientation, QWidget* parent);
     ~ButtonWithLabels() override;
 
+    /// Sets the text, and the accessible name unless the application has set one.
     void SetLabelText(const QString& text);
     void SetHotkeyText(const QString& text);
 
-    /// Room for both texts as a whole.
+    /// Fits both texts without eliding.
     QSize sizeHint() const override;
 
-    /// Room for the hot key and the beginning of the text.
+    /// Fits the whole hot key and the beginning of the text.
     QSize minimumSizeHint() const override;
 
 protected:

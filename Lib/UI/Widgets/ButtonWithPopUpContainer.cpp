@@ -247,7 +247,7 @@ void ButtonWithPopUpContainer::nextCheckState()
     QToolButton::nextCheckState();
 }
 
-// By these keys, which open combo boxes and menu buttons too, a click.
+// Clicks the button by the keys that open combo boxes and menu buttons.
 void ButtonWithPopUpContainer::keyPressEvent(QKeyEvent* event)
 {
     if (!Common::OpensPopUp(*event))

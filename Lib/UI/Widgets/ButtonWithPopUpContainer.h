@@ -8,12 +8,12 @@ namespace Zelkor::Vx::UI {
 
 class PopUpWindow;
 
-/// A tool button that opens a floating panel of the application's widgets beside itself.
+/// A tool button that opens a pop-up panel of the application's widgets.
 ///
-/// A click, Down, Alt+Down, F4 or the menu key opens the panel, and a press outside closes it, as does hiding or
-/// disabling the button; while it is open the button is checked, and the panel follows it. The panel grows in one of
-/// six directions from one of six points of the button, its anchor, and is kept inside the button's screen. The button
-/// owns the panel and the widgets in it. GUI thread only.
+/// A click, Down, Alt+Down, F4 or the menu key opens the panel. A press outside, hiding the button or disabling it
+/// closes the panel. The button is checked while the panel is open, so `toggled()` reports both. The panel grows in one
+/// of six directions from one of six anchors on the button, is kept on the button's screen and follows the button. The
+/// button owns the panel and the widgets in it. A slot may delete the button. GUI thread only.
 ///
 /// Object names for style sheets: "popUpWindow", the transparent window, and "popUpContainer", the panel in it. Both
 /// are `ZFrame`s, whose margins and spacing are properties.
@@ -24,91 +24,94 @@ class VX_WIDGETS_EXPORT ButtonWithPopUpContainer : public QToolButton
     Q_ENUMS(PreferredPopupAnchor)
     Q_ENUMS(LayoutDirection)
     Q_PROPERTY(LayoutDirection layoutDirection READ GetLayoutDirection WRITE SetLayoutDirection)
+    ///< order of the widgets in the panel; default top to bottom
     Q_PROPERTY(PreferredPopupDirection preferredPopupDirection READ GetPreferredPopupDirection WRITE
                    SetPreferredPopupDirection)
+    ///< direction in which the panel grows; default down and to the right
     Q_PROPERTY(PreferredPopupAnchor preferredPopupAnchor READ GetPreferredPopupAnchor WRITE SetPreferredPopupAnchor)
+    ///< point of the button that the panel is attached to; default bottom left
     Q_PROPERTY(bool popupCanOverlapButton READ GetPopupCanOverlapButton WRITE SetPopupCanOverlapButton)
+    ///< whether the panel may cover the button; default true
     Q_PROPERTY(bool showPopupOnClick READ GetShowPopupOnClick WRITE SetShowPopupOnClick)
+    ///< whether a click opens the panel; default true
     Q_PROPERTY(int popupHOffset READ GetPopupHOffset WRITE SetPopupHOffset)
+    ///< horizontal distance from the button in pixels; default 0
     Q_PROPERTY(int popupVOffset READ GetPopupVOffset WRITE SetPopupVOffset)
+    ///< vertical distance from the button in pixels; default 0
 
 public:
-    /// The way in which the panel grows from its anchor.
+    /// The direction in which the panel grows from its anchor.
     enum PreferredPopupDirection : int {
-        DIRECTION_DOWN_RIGHT,
-        DIRECTION_DOWN_CENTER,
-        DIRECTION_DOWN_LEFT,
-        DIRECTION_UP_RIGHT,
-        DIRECTION_UP_CENTER,
-        DIRECTION_UP_LEFT,
+        DIRECTION_DOWN_RIGHT,  ///< the top left corner is at the anchor; the default
+        DIRECTION_DOWN_CENTER, ///< the middle of the top edge is at the anchor
+        DIRECTION_DOWN_LEFT,   ///< the top right corner is at the anchor
+        DIRECTION_UP_RIGHT,    ///< the bottom left corner is at the anchor
+        DIRECTION_UP_CENTER,   ///< the middle of the bottom edge is at the anchor
+        DIRECTION_UP_LEFT,     ///< the bottom right corner is at the anchor
     };
 
     /// The point of the button that the panel is attached to.
     enum PreferredPopupAnchor : int {
-        ANCHOR_TOP_LEFT,
-        ANCHOR_TOP_CENTER,
-        ANCHOR_TOP_RIGHT,
-        ANCHOR_BOTTOM_LEFT,
-        ANCHOR_BOTTOM_CENTER,
-        ANCHOR_BOTTOM_RIGHT,
+        ANCHOR_TOP_LEFT,      ///< top left corner
+        ANCHOR_TOP_CENTER,    ///< middle of the top edge
+        ANCHOR_TOP_RIGHT,     ///< top right corner
+        ANCHOR_BOTTOM_LEFT,   ///< bottom left corner; the default
+        ANCHOR_BOTTOM_CENTER, ///< middle of the bottom edge
+        ANCHOR_BOTTOM_RIGHT,  ///< bottom right corner
     };
 
-    /// The way in which the widgets of the panel follow each other.
+    /// The order of the widgets in the panel.
     enum LayoutDirection : int {
-        LAYOUT_LEFT_TO_RIGHT,
-        LAYOUT_RIGHT_TO_LEFT,
-        LAYOUT_TOP_TO_BOTTOM,
-        LAYOUT_BOTTOM_TO_TOP,
+        LAYOUT_LEFT_TO_RIGHT, ///< a row that starts at the left
+        LAYOUT_RIGHT_TO_LEFT, ///< a row that starts at the right
+        LAYOUT_TOP_TO_BOTTOM, ///< a column that starts at the top; the default
+        LAYOUT_BOTTOM_TO_TOP, ///< a column that starts at the bottom
     };
 
     explicit ButtonWithPopUpContainer(QWidget* parent = nullptr);
     ~ButtonWithPopUpContainer() override;
 
-    /// Top to bottom by default; a value outside the enumeration means left to right.
+    /// A value outside the enumeration counts as left to right.
     LayoutDirection GetLayoutDirection() const;
     void SetLayoutDirection(LayoutDirection direction);
 
-    /// Where the panel opens: below the button, with the left edges aligned, by default. These and the offsets take
-    /// effect when the panel opens next.
+    /// Direction, anchor and offsets take effect when the panel opens next.
     PreferredPopupDirection GetPreferredPopupDirection() const;
     void SetPreferredPopupDirection(PreferredPopupDirection direction);
     PreferredPopupAnchor GetPreferredPopupAnchor() const;
     void SetPreferredPopupAnchor(PreferredPopupAnchor anchor);
 
-    /// Whether the panel may cover the button, as it does by default where the screen ends. When not, it opens at the
-    /// mirrored place where it does not cover the button, if there is one.
+    /// When false, a panel that would cover the button opens on its opposite side, if it fits there.
     bool GetPopupCanOverlapButton() const;
     void SetPopupCanOverlapButton(bool canOverlap);
 
-    /// Whether a click opens the panel, on by default. When off, a click leaves the button unchecked.
+    /// When false, a click emits `clicked()` and leaves the button unchecked.
     bool GetShowPopupOnClick() const;
     void SetShowPopupOnClick(bool show);
 
-    /// Distances in pixels by which the anchor is pushed away from the button, 0 by default. Centre anchors take no
-    /// horizontal one.
+    /// Distances by which the anchor moves away from the button. Centre anchors ignore the horizontal one.
     int GetPopupHOffset() const;
     void SetPopupHOffset(int offset);
     int GetPopupVOffset() const;
     void SetPopupVOffset(int offset);
 
-    /// Adds a widget at the end of the panel, which owns it from now on. A null widget is logged and ignored; one that
-    /// holds the button or the panel is ignored with a warning, here and in the next two.
+    /// Appends a widget to the panel, which takes ownership. Logs and ignores null. Warns about and ignores a widget
+    /// that contains the button or the panel, as do the functions below.
     void AppendWidget(QWidget* widget);
 
-    /// The same, before the widget at `index`; at the end for a negative index.
+    /// Inserts a widget before the one at `index`; appends it for a negative index.
     void InsertWidget(QWidget* widget, int index);
 
-    /// Takes the widget out of the panel and deletes it with the next pass of the event loop. A null widget and an
-    /// index without a widget are logged and ignored.
+    /// Removes a widget from the panel and deletes it later. Logs and ignores null and an index out of range.
     void RemoveWidget(QWidget* widget);
     void RemoveWidget(int index);
 
-    /// The widget at `index`; null, with a log line, where there is none.
+    /// Returns the widget at `index`. Returns null and logs an index out of range.
     QWidget* GetWidget(int index) const;
 
     int WidgetsCount() const;
 
-    /// Opens the panel, also when `showPopupOnClick` is off.
+    /// Opens the panel, regardless of `showPopupOnClick`.
     void ShowPopup();
 
     void setVisible(bool visible) override;

@@ -18,8 +18,8 @@ namespace Zelkor::Vx {
 
 namespace Common = UI::Common;
 
-/// Watches the menu: tells assistive technology when it opens and closes, and highlights the current choice of a menu
-/// that was opened by a key.
+/// Filters the events of the menu: notifies assistive technology when it opens and closes, and highlights the current
+/// item of a menu that was opened by a key.
 struct ButtonWithPopUpList::Impl : public QObject
 {
     class AccessibleButton;
@@ -51,11 +51,11 @@ struct ButtonWithPopUpList::Impl : public QObject
         return found == items.end() ? -1 : int(found - items.begin());
     }
 
-    // One that a removed item has left in the menu moves to its end, else a new one.
+    // Reuses a separator that a removed item has left in the menu, and creates one if there is none.
     QPointer<QAction> AppendSeparator()
     {
-        while (!leftSeparators.isEmpty()) {
-            const QPointer<QAction> separator = leftSeparators.takeLast();
+        while (!orphanedSeparators.isEmpty()) {
+            const QPointer<QAction> separator = orphanedSeparators.takeLast();
             if (!separator)
                 continue;
             if (menu) {
@@ -84,11 +84,11 @@ struct ButtonWithPopUpList::Impl : public QObject
 
     ButtonWithPopUpList* button;
     QVector<Item> items;
-    QVector<QPointer<QAction>> leftSeparators;
-    QPointer<QMenu> menu; ///< which the application can delete
+    QVector<QPointer<QAction>> orphanedSeparators;
+    QPointer<QMenu> menu; ///< the application may delete it
     int currentIndex = -1;
     bool isOpenedByKey = false;
-    QString describedAs; ///< the description that was set last; the application may have set another one
+    QString describedAs; ///< the accessible description set last; the application may have replaced it
 };
 
 class ButtonWithPopUpList::Impl::AccessibleButton : public UI::AccessiblePopUpButton
@@ -139,7 +139,7 @@ void ButtonWithPopUpList::AppendItem(const QString& text, const QVariant& data)
     auto* action = new QAction(text, this);
     action->setCheckable(true);
     connect(action, &QAction::triggered, this, [this, action] { ActionTriggered(action); });
-    // The application reaches the actions through the menu, and may delete one.
+    // The application has access to the actions through the menu, and may delete one.
     connect(action, &QObject::destroyed, impl.get(), [this](QObject* deleted) {
         const int index = impl->IndexOf([=](const Impl::Item& item) { return item.action == deleted; });
         if (index < 0)
@@ -151,7 +151,7 @@ void ButtonWithPopUpList::AppendItem(const QString& text, const QVariant& data)
     if (impl->menu)
         impl->menu->addAction(action);
     impl->items.append({action, impl->AppendSeparator(), data});
-    // The others stay as they are, however many they are.
+    // Checks only the new action, since updating all of them makes appending quadratic.
     if (impl->currentIndex < 0)
         UpdateSelectionState();
     else
@@ -171,7 +171,7 @@ void ButtonWithPopUpList::RemoveItem(int index)
 
 void ButtonWithPopUpList::ForgetItem(int index)
 {
-    impl->leftSeparators.append(impl->items[index].separator);
+    impl->orphanedSeparators.append(impl->items[index].separator);
     impl->items.removeAt(index);
     if (impl->currentIndex == index)
         impl->currentIndex = -1;
@@ -195,10 +195,10 @@ void ButtonWithPopUpList::Clear()
     for (const Impl::Item& item : qAsConst(impl->items))
         item.action->deleteLater();
     impl->items.clear();
-    impl->leftSeparators.clear();
+    impl->orphanedSeparators.clear();
     impl->currentIndex = -1;
     CheckCurrentAction();
-    // Last, as a slot of the menu may delete the button.
+    // Closed last, since a slot of the menu may delete the button.
     if (impl->menu)
         impl->menu->close();
 }
@@ -254,7 +254,7 @@ void ButtonWithPopUpList::UpdateSelectionState()
     CheckCurrentAction();
 }
 
-/// Sets and tells the current index. False when a slot has deleted the button.
+/// Sets the current index and emits the signal. Returns false if a slot has deleted the button.
 bool ButtonWithPopUpList::Announce(int index)
 {
     const QPointer<ButtonWithPopUpList> self(this);
@@ -267,7 +267,7 @@ void ButtonWithPopUpList::CheckCurrentAction()
 {
     for (int i = 0; i < impl->items.size(); ++i)
         impl->items[i].action->setChecked(i == impl->currentIndex);
-    // What a screen reader says beside the button's own name, unless the application gave it something else to say.
+    // Describes the current item to assistive technology, unless the application has set a description.
     if (accessibleDescription() != impl->describedAs)
         return;
     impl->describedAs = impl->Has(impl->currentIndex)
@@ -282,7 +282,7 @@ void ButtonWithPopUpList::keyPressEvent(QKeyEvent* event)
         return QToolButton::keyPressEvent(event);
     event->accept();
     impl->isOpenedByKey = true;
-    // Runs an event loop, in which the button may go.
+    // Runs an event loop, in which the button may be deleted.
     showMenu();
 }
 

@@ -9,12 +9,12 @@
 
 namespace Zelkor::Vx {
 
-/// A tool button with a menu of choices, of which one is current.
+/// A tool button with a menu of items, one of which is current.
 ///
-/// Each choice is a text with a value of the application's. The menu opens from the arrow part of the button, by
-/// keyboard with Down, Alt+Down, F4 or the menu key, and shows a check mark at the current choice; a click on the main
-/// part is the application's. Text and icon of the button are the application's too. The button owns the menu and its
-/// actions. GUI thread only.
+/// An item is a text with a value. The arrow part of the button, Down, Alt+Down, F4 and the menu key open the menu,
+/// which shows a check mark at the current item. The application handles clicks on the main part of the button and sets
+/// its text and icon. The button owns the menu and its actions; an action may be deleted, which removes its item. A
+/// slot may delete the button. GUI thread only.
 class VX_WIDGETS_EXPORT ButtonWithPopUpList : public QToolButton
 {
     Q_OBJECT
@@ -23,37 +23,35 @@ public:
     explicit ButtonWithPopUpList(QWidget* parent = nullptr);
     ~ButtonWithPopUpList() override;
 
-    /// Adds a choice at the end. The first one of an empty list becomes current.
+    /// Appends an item. The first item of an empty list becomes current.
     void AppendItem(const QString& text, const QVariant& data);
 
-    /// Removes a choice, as the deletion of its action does; nothing for an index or a value that no item has. When the
-    /// current one goes, item 0 becomes current; when one before it goes, the current index falls by one, without a
-    /// signal.
+    /// Removes an item. Ignores an index or a value that no item has. When the current item is removed, item 0 becomes
+    /// current; when an earlier one is, the current index decreases by one without a signal.
     void RemoveItem(int index);
     void RemoveItem(const QVariant& data);
 
-    /// Removes all choices, without a signal.
+    /// Removes all items, without a signal.
     void Clear();
 
     int Count() const;
 
-    /// The index set last, -1 for an empty list.
+    /// Returns the index set last, or -1 for an empty list.
     int CurrentIndex() const;
 
-    /// Makes a choice current and emits `CurrentIndexChanged`, also when it is current already. An index past the end
-    /// is kept as it is and leaves no choice checked; after a negative one item 0 becomes current, with a second
-    /// signal.
+    /// Makes an item current and emits `CurrentIndexChanged`, also when it is current already. An index past the end is
+    /// kept and leaves no item checked. A negative index makes item 0 current, with a second signal.
     void SetCurrentIndex(int index);
 
-    /// The value of the current item or of the one at `index`; invalid where there is none.
+    /// Returns the value of the current item or of the one at `index`, or an invalid `QVariant`.
     QVariant CurrentData() const;
     QVariant ItemData(int index) const;
 
-    /// The first index with this value, or -1.
+    /// Returns the index of the first item with this value, or -1.
     int ItemIndex(const QVariant& data) const;
 
 Q_SIGNALS:
-    /// A choice was made, by a person or by the application; also the one that was current already.
+    /// Emitted when the user or the application chooses an item, also when it is current already.
     void CurrentIndexChanged(int index);
 
 protected:

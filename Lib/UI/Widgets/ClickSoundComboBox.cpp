@@ -10,12 +10,12 @@ namespace Zelkor::Vx::UI {
 
 namespace {
 
-// Kept for the arrow and the margins, whatever the style makes of them.
+// Pixels for the arrow and the margins, in any style.
 constexpr int ARROW_SPACE = 30;
 
-// Of the text, in average characters; where items are longer, the box elides them.
-constexpr int LEAST_SHOWN = 5;
-constexpr int MOST_PREFERRED = 40;
+// In average characters. Longer items are elided.
+constexpr int MINIMUM_LENGTH = 5;
+constexpr int MAXIMUM_LENGTH = 40;
 
 int WidthFor(const QWidget& box, int characters)
 {
@@ -35,7 +35,7 @@ ClickSoundComboBox::~ClickSoundComboBox() = default;
 QSize ClickSoundComboBox::sizeHint() const
 {
     QSize size = QComboBox::sizeHint();
-    size.setWidth(qMax(qMin(size.width(), WidthFor(*this, MOST_PREFERRED)), minimumSizeHint().width()));
+    size.setWidth(qMax(qMin(size.width(), WidthFor(*this, MAXIMUM_LENGTH)), minimumSizeHint().width()));
     return size;
 }
 
@@ -43,13 +43,13 @@ QSize ClickSoundComboBox::minimumSizeHint() const
 {
     // Qt keeps the least height of the old font when the font changes.
     QSize size(QComboBox::minimumSizeHint().width(), QComboBox::sizeHint().height());
-    // With a minimum length, which the application chose, the base class asks for no more.
+    // The base class fits a minimum length that the application has set.
     if (minimumContentsLength() == 0)
-        size.setWidth(qMin(size.width(), WidthFor(*this, LEAST_SHOWN)));
+        size.setWidth(qMin(size.width(), WidthFor(*this, MINIMUM_LENGTH)));
     return size;
 }
 
-// In styles whose list is no menu, Qt makes it as wide as the box.
+// Qt makes the list as wide as the box, except in styles that show it as a menu.
 void ClickSoundComboBox::showPopup()
 {
     QComboBox::showPopup();
@@ -58,7 +58,7 @@ void ClickSoundComboBox::showPopup()
     const int whole = view()->sizeHintForColumn(modelColumn()) + surroundings;
     const QRect available = screen()->availableGeometry();
     QRect place = list->geometry();
-    const int wider = qMin(qMin(whole, WidthFor(*this, MOST_PREFERRED)), available.width()) - place.width();
+    const int wider = qMin(qMin(whole, WidthFor(*this, MAXIMUM_LENGTH)), available.width()) - place.width();
     if (!list->isVisible() || wider <= 0)
         return;
     isRightToLeft() ? place.setLeft(place.left() - wider) : place.setRight(place.right() + wider);

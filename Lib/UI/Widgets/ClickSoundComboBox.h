@@ -6,10 +6,10 @@
 
 namespace Zelkor::Vx::UI {
 
-/// A combo box that elides texts too long for it, on its face and in its list, instead of growing with them.
+/// A combo box that elides long texts, in the box and in its list, instead of growing with them.
 ///
-/// `currentText()` and assistive technology have the whole text. Items, data and signals are those of `QComboBox`. GUI
-/// thread only.
+/// `currentText()` and the accessible value return the whole text. Items, data and signals are those of `QComboBox`.
+/// GUI thread only.
 class VX_WIDGETS_EXPORT ClickSoundComboBox : public QComboBox
 {
     Q_OBJECT
@@ -18,13 +18,13 @@ public:
     explicit ClickSoundComboBox(QWidget* parent = nullptr);
     ~ClickSoundComboBox() override;
 
-    /// The width for the longest item, up to about 40 characters.
+    /// Fits the longest item, up to about 40 characters.
     QSize sizeHint() const override;
 
-    /// The width for the longest item, up to about 5 characters; for `minimumContentsLength` when that is set.
+    /// Fits the longest item, up to about 5 characters, or `minimumContentsLength` characters if set.
     QSize minimumSizeHint() const override;
 
-    /// Opens the list as wide as the box or, up to about 40 characters, its longest item.
+    /// Opens the list, as wide as the box or its longest item, up to about 40 characters.
     void showPopup() override;
 
 protected:

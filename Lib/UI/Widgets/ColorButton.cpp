@@ -17,7 +17,7 @@ namespace Zelkor::Vx {
 
 namespace {
 
-// The square ends 16 pixels before the right edge; 6 pixels are above and 8 below it.
+// Pixels between the square and the edges of the button: 16 at the right, 6 above, 8 below.
 constexpr int RIGHT_SPACE = 16;
 constexpr int TOP_SPACE = 6;
 constexpr int VERTICAL_SPACE = 14;
@@ -28,17 +28,17 @@ QRect DefaultColorRect(const QSize& button)
     return QRect(button.width() - RIGHT_SPACE - side, TOP_SPACE, side, side);
 }
 
-constexpr int TEXT_SPACE = 4; ///< at least, between the text and the square
+constexpr int TEXT_SPACE = 4; ///< minimum distance between text and square
 
-// A colour keeps its alpha in 16 bits, so quotients may lie a little above 1.
+// Clamps, since QColor stores alpha in 16 bits and a quotient may exceed 1 by rounding.
 QColor WithAlpha(QColor color, double alpha)
 {
     color.setAlphaF(qBound(0.0, alpha, 1.0));
     return color;
 }
 
-// A modal dialog closes the open pop-ups when it is shown. Those that hold its parent go before: what they do when they
-// close may not reach a dialog that is half shown.
+// Qt closes open pop-ups while it shows a modal dialog. Closing them earlier keeps their handlers from reaching a
+// dialog that is half shown.
 void ClosePopUps()
 {
     while (QWidget* popUp = QApplication::activePopupWidget()) {
@@ -60,7 +60,7 @@ struct ColorButton::Impl
             color = WithAlpha(color, MaximumAlpha());
     }
 
-    // The dialog's whole range stands for 0 to the maximum. With a maximum of 0 there is nothing to choose.
+    // Scales 0..maximum to the whole range of the dialog.
     QColor ToDialog() const
     {
         if (!IsLimited())
@@ -73,8 +73,8 @@ struct ColorButton::Impl
         return IsLimited() ? WithAlpha(chosen, chosen.alphaF() * MaximumAlpha()) : chosen;
     }
 
-    // Returns whether the dialog was accepted. It is shown before its event loop is entered: what closes or deletes it
-    // before that would not end the loop.
+    // Returns whether the dialog was accepted. Shows the dialog before entering its event loop, since closing or
+    // deleting it earlier would not end the loop.
     static bool RunDialog(ColorButton& button)
     {
         const QPointer<ColorButton> self(&button);
@@ -84,7 +84,7 @@ struct ColorButton::Impl
         if (!self || !dialog)
             return false;
         if (!dialog->isVisible() || !dialog->isEnabled()) {
-            // Its window is mapped all the same, and blocks the others.
+            // Its window is mapped nevertheless, and blocks the other windows.
             delete dialog;
             return false;
         }
@@ -102,8 +102,8 @@ struct ColorButton::Impl
     double maximumAlpha = 1.0;
     QColor borderNormal = Qt::darkGray;
     QColor borderDisabled = Qt::lightGray;
-    QPointer<QColorDialog> dialog; ///< from the click until it is closed
-    bool isDialogShown = false;    ///< hiding or disabling the button closes it
+    QPointer<QColorDialog> dialog; ///< from the click until it has closed
+    bool isDialogShown = false;    ///< if so, hiding or disabling the button closes it
 };
 
 ColorButton::ColorButton(QWidget* parent) : QPushButton(parent), impl(std::make_unique<Impl>())
@@ -216,7 +216,7 @@ void ColorButton::ChooseColor()
     }
 }
 
-// As wide as to keep the text clear of the square. A square that the application placed is its own matter.
+// Keeps the text clear of the square, unless the application has placed the square.
 QSize ColorButton::sizeHint() const
 {
     const QSize hint = QPushButton::sizeHint();
@@ -231,7 +231,7 @@ QSize ColorButton::sizeHint() const
         width += iconSize().width() + TEXT_SPACE;
     const int textRight = contents.center().x() + (width + 1) / 2;
     const int covered = textRight + TEXT_SPACE - DefaultColorRect(hint).left();
-    // The text is centred: of what the button grows, half is to the right of it.
+    // Text is centred, so only half of the extra width is to its right.
     return covered > 0 ? hint + QSize(2 * covered, 0) : hint;
 }
 
@@ -256,7 +256,7 @@ void ColorButton::hideEvent(QHideEvent*)
     CloseDialog();
 }
 
-// The dialog is disabled with its parent. It would block the application, and not take a key or a click to end that.
+// A dialog is disabled with its parent. It would block the application without accepting the input that closes it.
 void ColorButton::changeEvent(QEvent* event)
 {
     if (event->type() == QEvent::EnabledChange && !isEnabled())

@@ -10,55 +10,60 @@
 
 namespace Zelkor::Vx {
 
-/// A push button that shows a colour as a square at its right end, and opens a colour dialog when clicked.
+/// A push button that shows a colour as a square at its right edge and opens a colour dialog when clicked.
 ///
-/// With alpha enabled the colour may be translucent, up to a maximum opacity; the dialog's whole alpha range then means
-/// 0 to that maximum. While the dialog is open the button may be hidden, which cancels the dialog, or destroyed. Open
-/// pop-ups close before the dialog opens, also one that holds the button: the dialog opens without it. GUI thread only.
+/// With alpha enabled, the colour may be translucent up to a maximum opacity, and the dialog maps its whole alpha range
+/// to 0 to that maximum. Hiding or disabling the button cancels an open dialog; deleting the button deletes the dialog.
+/// Open pop-ups close before the dialog opens, even one that contains the button. GUI thread only.
 class VX_WIDGETS_EXPORT ColorButton : public QPushButton
 {
     Q_OBJECT
     Q_PROPERTY(QRect colorRect READ GetColorRect WRITE SetColorRect)
+    ///< the square in widget coordinates; follows the size of the button until it is set
     Q_PROPERTY(QColor colorRectBorderNormal READ GetColorRectBorderNormal WRITE SetColorRectBorderNormal)
+    ///< outline of the square in an enabled button; default dark grey
     Q_PROPERTY(QColor colorRectBorderDisabled READ GetColorRectBorderDisabled WRITE SetColorRectBorderDisabled)
+    ///< outline of the square in a disabled button; default light grey
 
 public:
     explicit ColorButton(QWidget* parent = nullptr);
     ~ColorButton() override;
 
-    /// Opaque red by default. Setting another colour emits `ColorChanged`; its alpha is cut to the maximum.
+    /// The chosen colour, opaque red by default. Setting a different colour clamps its alpha to the maximum, repaints
+    /// and emits `ColorChanged`.
     QColor GetColor() const;
     void SetColor(const QColor& color);
 
-    /// Whether the dialog offers alpha and the maximum holds; off by default.
+    /// Whether the dialog offers alpha and the maximum alpha applies; false by default.
     bool IsAlphaEnabled() const;
     void SetAlphaEnabled(bool enabled);
 
-    /// The highest opacity, 0 to 1; 1 by default. Takes effect with the next colour. Other values are kept and count
-    /// as the nearest of these, what is not a number as 1.
+    /// The highest opacity, 0 to 1; 1 by default. Takes effect with the next colour. Values out of range are returned
+    /// unchanged but clamped when used; NaN counts as 1.
     double GetMaximumAlpha() const;
     void SetMaximumAlpha(double alpha);
 
-    /// Where the square is, in pixels of the widget. It follows the button's size until it is set once.
+    /// Setting the square repaints it and detaches it from the size of the button.
     QRect GetColorRect() const;
     void SetColorRect(const QRect& rect);
 
-    /// The square's outline, dark grey, and of a disabled button, light grey. Shows with the next repaint.
+    /// The setters of the outline do not repaint.
     QColor GetColorRectBorderNormal() const;
     void SetColorRectBorderNormal(const QColor& color);
     QColor GetColorRectBorderDisabled() const;
     void SetColorRectBorderDisabled(const QColor& color);
 
-    /// Room for the text and, unless it was placed, the square beside it.
+    /// Fits the text and the square side by side, unless `colorRect` has been set.
     QSize sizeHint() const override;
 
 Q_SIGNALS:
-    /// The colour is another one; after the dialog was accepted also when it is the same.
+    /// Emitted when `SetColor` changes the colour, and whenever the dialog is accepted.
     void ColorChanged(const QColor& color);
 
-    /// Come before and after each colour dialog, accepted or not. The dialog is cancelled when the button is hidden or
-    /// disabled.
+    /// Emitted before the colour dialog opens.
     void ColorDialogWillBeOpened();
+
+    /// Emitted after the dialog has closed, accepted or not, and after `ColorChanged`.
     void ColorDialogClosed();
 
 protected:

@@ -43,10 +43,10 @@ constexpr Unit UNITS[] = {
     {1, QT_TRANSLATE_NOOP3("CountdownIndicatorWidget", "sec", "short seconds (max 3 letters)")},
 };
 
-// A mode is a window of three units; each step up moves it one unit towards the years.
+// A mode selects three consecutive units; the next mode starts one unit larger.
 constexpr quint32 LARGEST_MODE = 3;
 
-// The smallest units whose first number has two digits. A year goes before months that would have.
+// Returns the mode with the smallest units whose first number has two digits; more than a year is shown in years.
 quint32 ModeFor(quint64 seconds)
 {
     if (seconds > YEAR)
@@ -73,19 +73,19 @@ Numbers Split(quint64 seconds, quint32 mode)
     return numbers;
 }
 
-// There is room for two digits. Of more the first ones show, which concerns 100 years and above.
+// A label has room for two digits, so 100 years and more lose the last ones.
 QString TwoDigits(quint64 number)
 {
     return QString::number(number).rightJustified(DIGITS, QLatin1Char('0'), true);
 }
 
-// The context is the bare class name, which `tr` would not take.
+// tr() would use the qualified class name as context.
 QString Caption(const Unit& unit)
 {
     return QCoreApplication::translate("CountdownIndicatorWidget", unit.caption.text, unit.caption.comment, -1);
 }
 
-// True when the text is another one. The same again would lay out and paint the label once more.
+// Returns whether the text changed. Setting the same text would lay out and repaint the label.
 bool Show(QLabel* label, const QString& text)
 {
     if (label->text() == text)
@@ -113,8 +113,7 @@ ZFrame* CreateRow(const QString& objectName, QWidget* parent)
 {
     auto* row = new ZFrame(parent);
     row->setObjectName(objectName);
-    // Digits of a clock run from left to right in every script, larger units first. Mirrored, 01:02:03 would read as
-    // another time; and the captions have to stay under their numbers.
+    // Clocks are left-to-right in every script: mirrored, 01:02:03 would read as another time.
     row->setLayoutDirection(Qt::LeftToRight);
     return row;
 }
@@ -136,7 +135,7 @@ struct CountdownIndicatorWidget::Impl
                         CreateLabel(QStringLiteral("caption3Label"), captionsFrame)}
     {}
 
-    // Both are true when something changed.
+    // Both return whether a text changed.
     bool ShowNumbers()
     {
         bool changed = false;
@@ -162,8 +161,8 @@ struct CountdownIndicatorWidget::Impl
     quint32 mode = 0;
 };
 
-/// For assistive technology the countdown is one text, "1 hr 2 min 3 sec", after the name that the application gave it.
-/// Eight labels, two of them colons, would make no sense one by one. The numbers are whole here.
+/// Exposes the countdown as one text, "1 hr 2 min 3 sec", after the accessible name that the application has set. Eight
+/// single labels, two of them colons, would make no sense to a screen reader. Numbers are not shortened here.
 class CountdownIndicatorWidget::Impl::Accessible : public QAccessibleWidget
 {
 public:
@@ -245,7 +244,7 @@ void CountdownIndicatorWidget::changeEvent(QEvent* event)
     QFrame::changeEvent(event);
 }
 
-// Some assistive technology keeps names and would go on telling the old one.
+// Some screen readers cache names.
 void CountdownIndicatorWidget::TellNewName()
 {
     if (!isVisible())

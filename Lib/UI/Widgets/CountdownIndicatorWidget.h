@@ -7,12 +7,12 @@
 
 namespace Zelkor::Vx {
 
-/// Shows a remaining time as three numbers of two digits, with a short caption under each.
+/// Shows a remaining time as three two-digit numbers with short captions.
 ///
-/// The three units suit the size of the value: hours, minutes and seconds up to 99 hours; days, hours and minutes up to
-/// 99 days; months, days and hours up to a year; and years, months and days beyond. A month has 30 days and a year 365.
-/// The widget does not count by itself: the application sets what remains, once a second, say. Both rows run from left
-/// to right in every language. GUI thread only.
+/// The value selects the units: hours, minutes and seconds up to 99 hours; days, hours and minutes up to 99 days;
+/// months, days and hours up to a year; years, months and days above. A month has 30 days, a year 365. The widget has
+/// no timer: the application sets the remaining time, for instance once a second. Both rows are left-to-right in every
+/// locale. GUI thread only.
 ///
 /// Object names for style sheets: "numbersFrame" with "number1Label", "number2Label" and "number3Label", between them
 /// two "numbersSeparator", and "captionsFrame" with "caption1Label", "caption2Label" and "caption3Label".
@@ -24,11 +24,11 @@ public:
     explicit CountdownIndicatorWidget(QWidget* parent);
     ~CountdownIndicatorWidget() override;
 
-    /// Shows that many seconds; 0 at first. Of a number with more than two digits, which only years can have, the first
-    /// two show.
+    /// Sets the remaining time in seconds, 0 by default. A number of years above 99 shows its first two
+    /// digits.
     void SetSeconds(unsigned long long seconds);
 
-    /// What was set last.
+    /// Returns the remaining time in seconds.
     unsigned long long GetSeconds() const;
 
 protected:

@@ -14,11 +14,11 @@ namespace {
 constexpr int SIDE = 84;
 constexpr int SQUARE = 6;
 
-// The corners of the preview are 60 pixels from the centre. That is an eighth of this radius, where a cubic has fallen
-// by a five hundredth: less than one of 255 steps, so a larger disc would look the same. It could be gigabytes, though.
+// The corners of the preview are 60 pixels from the centre, an eighth of this radius. There the cubic gradient has
+// fallen by 1/500, which is below one of 255 steps. A larger disc would look the same but could take gigabytes.
 constexpr int LARGEST_RADIUS = 512;
 
-// Beyond these, the widget would have a size that Qt does not take.
+// Limits of the widget sizes that Qt supports.
 constexpr int SMALLEST_BORDER = -SIDE / 2;
 constexpr int LARGEST_BORDER = (QWIDGETSIZE_MAX - SIDE) / 2;
 
@@ -37,8 +37,8 @@ void PaintCheckerboard(QPainter& painter, const QPoint& corner, const QSize& siz
     }
 }
 
-// Filled and not drawn with a pen: that would round the corners of a thick frame, miss the edge at some device pixel
-// ratios, and draw a line even for a width of 0. `width` may be negative, then there is nothing to fill.
+// Fills the frame, since a pen rounds the corners of thick frames, misses the edge at some device pixel ratios, and
+// draws a line for a width of 0. Fills nothing for a negative width.
 void PaintFrame(QPainter& painter, const QRect& outside, int width, const QColor& color)
 {
     for (const QRect& part : QRegion(outside) - outside.adjusted(width, width, -width, -width))
@@ -134,8 +134,7 @@ void CursorHighlightPreviewWidget::paintEvent(QPaintEvent* event)
     QPainter painter(this);
     const int border = UsableBorder(borderWidth);
     PaintCheckerboard(painter, QPoint(border, border), previewSize);
-    // The disc has a pixel per pixel of the widget. Where the screen has more, they are blended, which suits its soft
-    // edge as well as a larger disc would.
+    // The disc has one pixel per logical pixel. Smooth scaling is good enough for its soft edge at other ratios.
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     const int place = border + (previewSize.width() - image.width()) / 2;
     painter.drawImage(place, place, image);

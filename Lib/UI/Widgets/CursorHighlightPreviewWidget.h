@@ -9,41 +9,43 @@
 
 namespace Zelkor::Vx::UI {
 
-/// Shows how the highlight around the mouse cursor will look: a disc with a soft edge on a checkerboard that makes its
-/// transparency visible, in a frame.
+/// Previews the highlight around the mouse cursor: a disc with a soft edge, on a framed checkerboard.
 ///
-/// The size is fixed to that of the checkerboard and the frame. The disc lies in the centre at its own size; one that
-/// is larger is cut by the widget. There is none before the first call of a slot. GUI thread only.
+/// The widget has a fixed size, that of the checkerboard and the frame. The disc is centred and clipped; before the
+/// first call of a slot there is none. Setting the value that is already set does not repaint. GUI thread only.
 class VX_WIDGETS_EXPORT CursorHighlightPreviewWidget : public QWidget
 {
     Q_OBJECT
     Q_PROPERTY(int borderWidth READ GetBorderWidth WRITE SetBorderWidth)
+    ///< width of the frame in pixels; default 1
     Q_PROPERTY(QColor borderColor READ GetBorderColor WRITE SetBorderColor)
+    ///< colour of the frame; default dark grey
 
 public:
-    /// The checkerboard in pixels.
+    /// The size of the checkerboard, 84 by 84 pixels.
     static const QSize previewSize;
 
     explicit CursorHighlightPreviewWidget(QWidget* parent);
     ~CursorHighlightPreviewWidget() override;
 
-    /// The disc's radius in pixels, 0 by default, and its colour, black by default, whose alpha is that of the centre.
+    /// The radius of the disc in pixels, 0 by default.
     int GetRadius() const;
+
+    /// The colour of the disc, black by default. Its alpha is the opacity at the centre.
     QColor GetColor();
 
-    /// The frame's width in pixels, 1 by default, and its colour, dark grey. With a width of 0 there is none; a
-    /// negative one cuts as much from the checkerboard.
+    /// A width of 0 removes the frame. A negative one crops the checkerboard.
     int GetBorderWidth() const;
     void SetBorderWidth(int width);
     QColor GetBorderColor() const;
     void SetBorderColor(const QColor& color);
 
 public Q_SLOTS:
-    /// Any number is kept. With 0 and less there is no disc. Above 512 the disc is so large that its edge and its
-    /// fading are far outside, so it is not made larger.
+    /// Sets the radius in pixels. Values up to 0 show no disc; values above 512 look like 512, since fading and edge
+    /// are outside the widget.
     void SetRadius(int radius);
 
-    /// Sets the radius to half of this, rounded toward zero.
+    /// Sets the radius to half the diameter, rounded towards zero.
     void SetDiameter(int diameter);
 
     void SetColor(const QColor& color);

@@ -6,7 +6,7 @@
 
 namespace Zelkor::Vx {
 
-/// A tab widget whose tab bar is a `HorizontalTabBar`, which it owns and `tabBar` returns. GUI thread only.
+/// A tab widget that owns a `HorizontalTabBar` as its `tabBar()`. GUI thread only.
 class VX_WIDGETS_EXPORT CustomTabWidget : public QTabWidget
 {
     Q_OBJECT

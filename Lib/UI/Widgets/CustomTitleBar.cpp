@@ -23,16 +23,16 @@ namespace Zelkor::Vx::UI {
 
 namespace {
 
-// More than any title bar is high. An icon that is drawn from shapes would otherwise be made as large as asked for.
+// Limits the memory of icons that are rendered from vector graphics.
 constexpr qreal MAXIMUM_ICON_PIXELS = 1024;
 
-/// A title that does not fit ends in an ellipsis, and never keeps the window from being made narrower.
+/// Elides a title that does not fit, and does not limit the width of the window.
 class TitleLabel : public QLabel
 {
 public:
     explicit TitleLabel(QWidget* parent) : QLabel(parent)
     {
-        // A title may be the name of any file, and a file may be called "<b>".
+        // A title may contain a file name such as "<b>".
         setTextFormat(Qt::PlainText);
         setIndent(0);
         setMinimumWidth(1);
@@ -49,7 +49,7 @@ protected:
         }
         QPainter painter(this);
         drawFrame(&painter);
-        // A title runs by its own letters, whatever the direction of the window.
+        // The text determines its own direction, independent of the window's.
         const bool fromRight = text().isRightToLeft();
         const auto flags = QStyle::visualAlignment(fromRight ? Qt::RightToLeft : Qt::LeftToRight, alignment()) |
                            (fromRight ? Qt::TextForceRightToLeft : Qt::TextForceLeftToRight);
@@ -57,11 +57,11 @@ protected:
     }
 };
 
-/// Keeps presses that a child of the content frame did not want from counting as presses on the frame itself.
-class ContentGuard : public QObject
+/// Prevents a drag by presses that a child of the content frame has ignored.
+class ChildPressFilter : public QObject
 {
 public:
-    ContentGuard(QWidget* frame, QObject* parent) : QObject(parent) { frame->installEventFilter(this); }
+    ChildPressFilter(QWidget* frame, QObject* parent) : QObject(parent) { frame->installEventFilter(this); }
 
     bool eventFilter(QObject* watched, QEvent* event) override
     {
@@ -77,7 +77,7 @@ public:
             return false;
         }
         if (fromChild)
-            event->ignore(); // it goes on to the window, as from any frame
+            event->ignore(); // propagates to the window
         return fromChild;
     }
 
@@ -93,8 +93,8 @@ Part* MakePart(const char* objectName, Parent* parent)
     return part;
 }
 
-// The title as the frame of a window shows it: the last "[*]" of an odd number of them in a row marks the place of the
-// asterisk of changed content, and two of them stand for one that is shown.
+// Returns the title as a window frame shows it: "[*]" marks the position of the modified asterisk, "[*][*]" stands for
+// a literal "[*]".
 QString ShownTitle(const QWidget* window)
 {
     static const QRegularExpression PLACES(QStringLiteral("(?:\\[\\*\\])+"));
@@ -116,10 +116,10 @@ QString ShownTitle(const QWidget* window)
     return shown + title.midRef(end);
 }
 
-// A pixmap that shows `edge` pixels wide on a screen of this ratio, or less if the icon has no more.
+// Returns a pixmap that is `edge` logical pixels wide, or less if the icon is smaller.
 QPixmap MakePixmap(const QIcon& icon, int edge, qreal ratio, QWindow* window)
 {
-    // With this attribute Qt counts in pixels of the widget, as we do.
+    // With this attribute, QIcon takes logical pixels.
     if (QCoreApplication::testAttribute(Qt::AA_UseHighDpiPixmaps))
         ratio = 1;
     const int pixels = qRound(qBound(0.0, edge * ratio, MAXIMUM_ICON_PIXELS));
@@ -151,8 +151,8 @@ struct CustomTitleBar::Impl
             MakePixmap(icon, windowIconSize, iconLabel->devicePixelRatioF(), iconLabel->window()->windowHandle()));
     }
 
-    QPointer<QWidget> window;       ///< the parent at first; the bar serves it also after it is given another parent
-    ZFrame* contentFrame = nullptr; ///< the window's
+    QPointer<QWidget> window;       ///< the parent at construction
+    ZFrame* contentFrame = nullptr; ///< owned by the window
     QLabel* iconLabel;
     QLabel* titleLabel;
     ZFrame* userWidgetsFrame;
@@ -184,10 +184,10 @@ CustomTitleBar::CustomTitleBar(QWidget* parent) : ZFrame(parent), impl(std::make
     Common::FollowLayoutDirection();
     Common::AccessibleFactory<CustomTitleBar, Common::AccessibleAs<QAccessible::TitleBar>>::Install();
     setObjectName(QStringLiteral("CustomTitleBar"));
-    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed); // height to spare belongs to the content
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed); // the content takes extra height
     Retranslate();
     if (qobject_cast<QMainWindow*>(parent)) {
-        // Its layout takes the widget that it lies on for a main window.
+        // The layout of a main window casts its parent to QMainWindow.
         qWarning("CustomTitleBar: a QMainWindow cannot part with its layout");
         hide();
     } else if (parent) {
@@ -203,7 +203,7 @@ void CustomTitleBar::AddWidget(QWidget* widget)
     if (!Common::CanBeParentOf(impl->userWidgetsFrame, widget))
         return;
     impl->userWidgetsFrame->layout()->addWidget(widget);
-    // Tab visits the bar as it stands: what takes the keyboard in the widget, then the buttons.
+    // Keeps the tab order in visual order: the widget's focusable parts before the buttons.
     QWidget* last = nullptr;
     QWidget* part = widget;
     do {
@@ -241,10 +241,10 @@ void CustomTitleBar::RebuildWindow(QWidget* window)
     QLayout* content = window->layout();
     impl->contentFrame = MakePart<ZFrame>("contentFrame", window);
     impl->contentFrame->setLayout(content);
-    // What floats in the window, such as a dialog's size grip, stays on top.
+    // Keeps floating children, such as the size grip of a dialog, on top.
     impl->contentFrame->lower();
     auto* layout = Common::MakeBoxLayout<QVBoxLayout>(window);
-    // A layout that keeps its window at a fixed size does it for the window, and that has grown by the bar.
+    // The size constraint applies to the window, which includes the bar now.
     if (content) {
         layout->setSizeConstraint(content->sizeConstraint());
         content->setSizeConstraint(QLayout::SetDefaultConstraint);
@@ -253,8 +253,8 @@ void CustomTitleBar::RebuildWindow(QWidget* window)
     layout->addWidget(impl->contentFrame);
 
     auto* helper = new Util::WindowMouseMoveHelper(window, DragHandles(this, impl->contentFrame));
-    // Made after the helper, so that it sees the presses first; and it stays for as long.
-    new ContentGuard(impl->contentFrame, helper);
+    // Installed after the helper, so that it filters first; the helper owns it.
+    new ChildPressFilter(impl->contentFrame, helper);
 }
 
 void CustomTitleBar::SetUpWindow(QWidget* window)
@@ -263,11 +263,11 @@ void CustomTitleBar::SetUpWindow(QWidget* window)
     const bool wasVisible = window->isVisible();
     if (wasVisible) {
         window->hide();
-        // Children that are made in a visible window stay hidden, and would leave the layout empty.
+        // Children created in a visible window are hidden, and the layout would ignore them.
         show();
         impl->contentFrame->show();
     }
-    // Of flags that are said to be customised, Qt would take buttons to mean a frame.
+    // With CustomizeWindowHint, Qt adds a frame for the button hints.
     window->setWindowFlags((flags & ~Qt::CustomizeWindowHint) | Qt::FramelessWindowHint);
     if (wasVisible)
         window->show();
@@ -282,7 +282,7 @@ void CustomTitleBar::SetUpWindow(QWidget* window)
 
     ShowTitle();
     connect(window, &QWidget::windowTitleChanged, this, &CustomTitleBar::ShowTitle);
-    window->installEventFilter(this); // there is no signal for changed content
+    window->installEventFilter(this); // QWidget has no signal for the modified state
     connect(window, &QWidget::windowIconChanged, this, [this](const QIcon& icon) { impl->ShowIcon(icon); });
 }
 
@@ -312,11 +312,11 @@ bool CustomTitleBar::eventFilter(QObject* watched, QEvent* event)
 
 bool CustomTitleBar::event(QEvent* event)
 {
-    // On another screen the icon may have another size, in another style other colours.
+    // The icon depends on the screen's device pixel ratio and on the style.
     const bool isOutdated = event->type() == QEvent::ScreenChangeInternal || event->type() == QEvent::StyleChange;
     if (isOutdated && impl->window && !impl->iconLabel->pixmap(Qt::ReturnByValue).isNull())
         impl->ShowIcon(impl->window->windowIcon());
-    // A label without a picture takes its size from its font, and keeps it when that changes.
+    // An empty label derives its size hint from its font and caches it.
     if (event->type() == QEvent::FontChange && impl->iconLabel->pixmap(Qt::ReturnByValue).isNull())
         impl->iconLabel->clear();
     return ZFrame::event(event);

@@ -7,16 +7,17 @@
 
 namespace Zelkor::Vx::UI {
 
-/// A title bar that the application draws itself, with the window's icon, its title, widgets of the application, and
-/// buttons to minimise and close.
+/// A title bar inside a frameless window: the window's icon and title, widgets of the application, and buttons to
+/// minimise and close.
 ///
-/// Made on a window that has its layout, it rebuilds the window: the window loses its frame, its layout moves into a
-/// content frame, and above that lies the title bar. The left mouse button drags the window by the bar, by the free
-/// area of the content frame, and by the labels that lie directly in it. A window that could not be minimised or closed
-/// by its frame has no such button here. The window owns the title bar; one that goes before its window leaves the
-/// window frameless, with its content, and one that is given another parent serves its window from there. Without a
-/// window it is a bar with nothing to do; so it is, hidden, in a `QMainWindow`, which cannot part with its layout. GUI
-/// thread only.
+/// Create it when the window has its layout. The constructor makes the window frameless, moves its layout into a
+/// content frame and puts the title bar above. The left mouse button drags the window by the bar, by free areas of the
+/// content frame and by labels that are its direct children. The bar has a minimise or close button only if the
+/// window's flags allow it. It follows title, icon and modified state of the window.
+///
+/// The window owns the title bar. Deleting the bar leaves the window frameless, with its content; a bar with a new
+/// parent still serves its window. A null parent is allowed. In a `QMainWindow`, which cannot give up its layout, the
+/// bar warns and hides. GUI thread only.
 ///
 /// Object names for style sheets: "CustomTitleBar", in it "iconLabel", "titleLabel", "userWidgetsFrame" with each
 /// "separator", "minimizeButton" and "closeButton"; beside it in the window "contentFrame".
@@ -24,20 +25,19 @@ class VX_WIDGETS_EXPORT CustomTitleBar : public ZFrame
 {
     Q_OBJECT
     Q_PROPERTY(int WindowIconSize READ GetWindowIconSize WRITE SetWindowIconSize)
+    ///< edge length of the icon in pixels; default 0, which shows none
 
 public:
-    /// `parent` is the window. One that is visible is hidden and shown again, as windows are that lose their frame.
+    /// `parent` is the window. A visible one is hidden and shown again, since its window flags change.
     explicit CustomTitleBar(QWidget* parent);
     ~CustomTitleBar() override;
 
-    /// Puts a widget after those that were added before, ahead of the buttons. The title bar owns it. Null, the title
-    /// bar itself and its parents are ignored.
+    /// Appends a widget before the buttons and takes ownership. Ignores null, the title bar itself and its parents.
     void AddWidget(QWidget* widget);
 
-    /// Adds a line between widgets. Its size and look come from the style sheet.
+    /// Appends a separator, which the style sheet sizes and draws.
     void AddSeparator();
 
-    /// The edge of the icon in pixels of the widget, 0 by default: no icon.
     int GetWindowIconSize() const;
     void SetWindowIconSize(int size);
 

@@ -14,8 +14,8 @@ namespace {
 constexpr char PRESET_TYPE[] = "PresetType";
 constexpr char TAG[] = "Tag";
 
-// What the label has of the action's text: line feeds, only if it wraps words.
-QString FaceText(const QAction& action, const ZLabel& label)
+// Returns the action's text, with line feeds only if the label wraps words.
+QString ButtonText(const QAction& action, const ZLabel& label)
 {
     QString text = action.text();
     if (!label.wordWrap())
@@ -49,7 +49,7 @@ FastPresetButton::FastPresetButton(QAction* action, const QString& name, QWidget
             action->setParent(this);
         connect(action, &QAction::changed, this, &FastPresetButton::Refresh);
     }
-    // The mark before a letter of the action's text underlines it, and the letter with Alt presses the button.
+    // Makes mnemonics in the label press the button.
     TextLabel()->setBuddy(this);
     TextLabel()->installEventFilter(this);
     TextLabel()->ensurePolished();
@@ -60,15 +60,15 @@ FastPresetButton::~FastPresetButton() = default;
 
 bool FastPresetButton::eventFilter(QObject* watched, QEvent* event)
 {
-    // A style sheet may have changed whether the label wraps words, and with it what becomes of line feeds. Nothing
-    // else changes with the style: a name or a tool tip that the application gave the button stays.
+    // A style sheet may change the label's word wrap, and with it the line feeds. Refreshing only then keeps a name or
+    // a tool tip that the application has set.
     const bool isStyle = event->type() == QEvent::Polish || event->type() == QEvent::StyleChange;
-    if (isStyle && impl->action && TextLabel()->originalText() != FaceText(*impl->action, *TextLabel()))
+    if (isStyle && impl->action && TextLabel()->originalText() != ButtonText(*impl->action, *TextLabel()))
         Refresh();
     return ButtonWithLabels::eventFilter(watched, event);
 }
 
-// The signal and not QAction::trigger(), which would toggle a checkable action.
+// Emits the signal, since QAction::trigger() would toggle a checkable action.
 void FastPresetButton::Trigger()
 {
     const QPointer<FastPresetButton> self(this);
@@ -84,10 +84,10 @@ void FastPresetButton::Refresh()
     const QAction* action = impl->action;
     if (!action)
         return;
-    SetLabelText(FaceText(*action, *TextLabel()));
+    SetLabelText(ButtonText(*action, *TextLabel()));
     SetHotkeyText(action->shortcut().toString(QKeySequence::PortableText));
     setToolTip(action->toolTip());
-    // The application may disable the button itself; only a change of the action undoes that.
+    // Keeps the button disabled if the application disabled it, until the action changes its state.
     if (impl->isActionEnabled != action->isEnabled()) {
         impl->isActionEnabled = action->isEnabled();
         setEnabled(impl->isActionEnabled);

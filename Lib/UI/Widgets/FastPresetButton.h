@@ -8,27 +8,28 @@ class QAction;
 
 namespace Zelkor::Vx::UI {
 
-/// A labelled button for an action: it shows the action's text, shortcut and tool tip, is enabled with it, follows
-/// changes of these and triggers the action when clicked. A mnemonic in the text works as in other buttons.
+/// A button that shows and triggers an action.
 ///
-/// The button owns an action that has no parent, no other. When the action dies first, the button keeps its texts and
-/// does nothing any more. GUI thread only.
+/// It follows the action's text, shortcut, tool tip and enabled state. A mnemonic in the text works as in other
+/// buttons. The button takes ownership of an action without a parent. After the action has been deleted, the button
+/// keeps its texts and ignores clicks. GUI thread only.
 ///
-/// Object names for style sheets: the action's dynamic property "PresetType", "FastCaptureButton" and the given name,
-/// joined, for the button; "TextFastPresetLabel" and "HotKeyFastPresetLabel" with the name for the labels. The dynamic
-/// property "Tag" is the preset type on the button, and on the labels their object name without the given one.
+/// Object names for style sheets: the action's dynamic property "PresetType" + "FastCaptureButton" + `name` for the
+/// button, "TextFastPresetLabel" + `name` and "HotKeyFastPresetLabel" + `name` for its labels. The dynamic property
+/// "Tag" is the preset type on the button, and "TextFastPresetLabel" or "HotKeyFastPresetLabel" on the labels.
 class VX_WIDGETS_EXPORT FastPresetButton : public ButtonWithLabels
 {
     Q_OBJECT
 
 public:
+    /// `action` may be null.
     FastPresetButton(QAction* action, const QString& name, QWidget* parent);
     ~FastPresetButton() override;
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 Q_SIGNALS:
-    /// The button was clicked; comes after the action's `triggered(false)`. The action's checked state is left alone.
+    /// Emitted on a click, after the action's `triggered(false)`. The action is not toggled.
     void Clicked(QAction* action);
 
 private:

@@ -17,15 +17,15 @@ using UI::Common::ClampToWidgetSize;
 
 const QLatin1Char PATH_SEPARATOR(';');
 
-// Asking first spares the warning that the reader of SVG files gives.
+// Checks for the file first, since the SVG reader warns about a missing one.
 QIcon LoadIcon(const QString& path)
 {
-    // A name with a null in it is none, and Qt warns of it.
+    // QFileInfo warns about names with a null character.
     const bool isName = !path.contains(QChar());
     return isName && QFileInfo::exists(path) ? QIcon(path) : QIcon();
 }
 
-// Leads from a tab's face, on which text is level and the origin is the top left corner, to the tab in its bar.
+// Transforms from tab coordinates, with horizontal text and the origin at the top left, to those of the bar.
 QTransform FaceToBar(const QRect& tab, bool turned, bool atEast)
 {
     if (!turned)
@@ -37,16 +37,15 @@ QTransform FaceToBar(const QRect& tab, bool turned, bool atEast)
 
 QString Elided(const QString& text, const QFontMetrics& metrics, Qt::TextElideMode mode, int width)
 {
-    // A text of several lines that fits stays as it is.
+    // elidedText() joins the lines of a multi-line text.
     if (mode == Qt::ElideNone || metrics.size(0, text).width() <= width)
         return text;
     return metrics.elidedText(text, mode, width);
 }
 
-// QTabBar takes "&" for the mark of a mnemonic and makes no room for it. The text, which shows it, gets that room from
-// the paddings, first from the one at its free end.
-QRect WithRoomForMarks(QRect place, const QString& text, const QFontMetrics& metrics, Qt::Alignment alignment,
-                       const QRect& face)
+// Takes room for "&" from the paddings, since QTabBar treats it as a mnemonic marker when it computes the tab size.
+QRect WithRoomForAmpersands(QRect place, const QString& text, const QFontMetrics& metrics, Qt::Alignment alignment,
+                            const QRect& face)
 {
     const int width = metrics.size(0, text).width();
     const int missing = qMin(width - place.width(), width - metrics.size(Qt::TextShowMnemonic, text).width());
@@ -58,7 +57,7 @@ QRect WithRoomForMarks(QRect place, const QString& text, const QFontMetrics& met
     return room;
 }
 
-// What is left of a text's place beside a button, on the side with more room.
+// Returns the part of the text area beside a button, on the side with more room.
 QRect Beside(const QRect& button, QRect text)
 {
     if (!button.intersects(text))
@@ -75,7 +74,7 @@ QRect Beside(const QRect& button, QRect text)
 HorizontalTabBar::HorizontalTabBar(QWidget* parent) : QTabBar(parent)
 {
     connect(this, &QTabBar::currentChanged, this, &HorizontalTabBar::UpdateIcons);
-    // Icons belong to positions, and a tab that moves takes its own along.
+    // Icons belong to positions, but QTabBar moves them with their tabs.
     connect(this, &QTabBar::tabMoved, this, &HorizontalTabBar::UpdateIcons);
     setAttribute(Qt::WA_Hover);
 }
@@ -118,7 +117,7 @@ void HorizontalTabBar::UpdateIcons()
         auto icon = icons.find(paths[i]);
         if (icon == icons.end())
             icon = icons.insert(paths[i], LoadIcon(paths[i]));
-        // Setting an icon may lay out the whole bar.
+        // setTabIcon() may lay out the whole bar.
         if (icon->cacheKey() != tabIcon(i).cacheKey())
             setTabIcon(i, *icon);
     }
@@ -139,7 +138,7 @@ void HorizontalTabBar::tabRemoved(int index)
 bool HorizontalTabBar::event(QEvent* event)
 {
     const bool handled = QTabBar::event(event);
-    // Tabs and their buttons may have been laid out before the style sheet applied.
+    // Tabs and their buttons may have been laid out before polishing.
     if (event->type() == QEvent::Polish) {
         QEvent change(QEvent::StyleChange);
         changeEvent(&change);
@@ -150,14 +149,13 @@ bool HorizontalTabBar::event(QEvent* event)
 void HorizontalTabBar::changeEvent(QEvent* event)
 {
     QTabBar::changeEvent(event);
-    // A style that has a hover look for tabs takes the attribute away as it goes.
+    // A style that sets the attribute for its own hover effect clears it when it is replaced.
     if (event->type() == QEvent::StyleChange)
         setAttribute(Qt::WA_Hover);
 }
 
-// While a tab is dragged, QTabBar shows a picture of it in a child widget. That picture is the style's, with text and
-// icon where the style has them, and it is QTabBar's paint event that moves it. So we paint and move that widget as
-// well.
+// During a drag, QTabBar renders the tab into a child widget with the text and icon of the style, and moves that widget
+// in its paint event. The functions below paint and move it instead.
 
 void HorizontalTabBar::mousePressEvent(QMouseEvent* event)
 {
@@ -169,7 +167,7 @@ void HorizontalTabBar::mousePressEvent(QMouseEvent* event)
 void HorizontalTabBar::mouseMoveEvent(QMouseEvent* event)
 {
     {
-        // The drag starts with the child; nothing else makes one before signals go out.
+        // QTabBar creates the child at the start of a drag, before it emits signals.
         QScopedValueRollback<bool> awaits(awaitsDraggedTab, !draggedTab);
         QTabBar::mouseMoveEvent(event);
     }
@@ -204,7 +202,7 @@ bool HorizontalTabBar::IsVertical() const
     return shape() == RoundedWest || shape() == RoundedEast || shape() == TriangularWest || shape() == TriangularEast;
 }
 
-// Left to itself, QTabBar makes the tabs of a vertical bar for text that runs along them.
+// By default, QTabBar sizes the tabs of a vertical bar for rotated text.
 bool HorizontalTabBar::AreTextsTurned() const
 {
     for (int i = 0; IsVertical() && i < count(); ++i) {
@@ -228,8 +226,8 @@ QRect HorizontalTabBar::TextRect(int index, const QRect& face, const QTransform&
     QRect text = face.adjusted(ClampToWidgetSize(paddingLeft), ClampToWidgetSize(paddingTop),
                                -ClampToWidgetSize(paddingRight), -ClampToWidgetSize(paddingBottom));
     text = QStyle::visualRect(layoutDirection(), face, text);
-    text = WithRoomForMarks(text, tabText(index), fontMetrics(), QStyle::visualAlignment(layoutDirection(), alignText),
-                            face);
+    text = WithRoomForAmpersands(text, tabText(index), fontMetrics(),
+                                 QStyle::visualAlignment(layoutDirection(), alignText), face);
     for (const auto part : {QStyle::SE_TabBarTabLeftButton, QStyle::SE_TabBarTabRightButton}) {
         const QSize& button = part == QStyle::SE_TabBarTabLeftButton ? option.leftButtonSize : option.rightButtonSize;
         if (!button.isEmpty())
@@ -252,7 +250,7 @@ void HorizontalTabBar::paintEvent(QPaintEvent*)
 
 void HorizontalTabBar::PaintTab(QPainter& painter, int index, QStyleOptionTab& option, bool turned) const
 {
-    // The style draws no more than the shape and the focus.
+    // Restricts the style to shape and focus frame.
     option.icon = QIcon();
     option.text = QStringLiteral(" ");
     style()->drawControl(QStyle::CE_TabBarTab, &option, &painter, this);
@@ -269,7 +267,7 @@ void HorizontalTabBar::PaintTab(QPainter& painter, int index, QStyleOptionTab& o
         painter.setPen(option.state & QStyle::State_Selected ? selectedTextColor
                        : hovered                             ? hoverTextColor
                                                              : normalTextColor);
-        // The bar says at which side a text is, the text itself how it runs: dots and brackets stay where they belong.
+        // Aligns by the direction of the bar, but draws in the direction of the text, for its ellipsis and brackets.
         painter.setLayoutDirection(text.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
         painter.drawText(textRect, int(QStyle::visualAlignment(layoutDirection(), alignText)), text);
         painter.restore();
@@ -279,7 +277,7 @@ void HorizontalTabBar::PaintTab(QPainter& painter, int index, QStyleOptionTab& o
                          Qt::AlignTop | Qt::AlignHCenter);
 }
 
-// The widget is wider than the tab by what the style lets neighbours overlap.
+// The child is wider than the tab by the style's tab overlap.
 void HorizontalTabBar::PaintDraggedTab() const
 {
     QPainter painter(draggedTab);

@@ -11,39 +11,47 @@
 
 namespace Zelkor::Vx {
 
-/// A tab bar that draws text and icon of its tabs itself, so that a style sheet can say where they are, in which
-/// colours the text is in each state, and which icon files a tab has while it is selected and while it is not.
+/// A tab bar whose style sheet sets position and colours of the text, and the icon files, of its tabs.
 ///
-/// The shape of a tab comes from the style, its size from `QTabBar` and the rules for `QTabBar::tab`; keep the
-/// distances here in step with the padding there. A text is drawn as it is, "&" included; one
-/// too long for its place is elided as `elideMode` says. It keeps clear of the tab's buttons. Right-to-left, left and
-/// right change places within a tab.
+/// The style draws the shape of a tab; `QTabBar` and the rules for `QTabBar::tab` set its size. Keep the paddings here
+/// consistent with the padding there. Text is drawn without mnemonics, "&" included. It is elided by `elideMode` and
+/// does not overlap the tab's buttons. Right-to-left layout mirrors the content of a tab.
 ///
-/// In a vertical bar the text is level as long as it fits. Where one does not and tabs are higher than wide, all texts
-/// of the bar run along their tabs, upwards in the west and downwards in the east; distances then count in the
-/// direction of reading, and icons stay upright. GUI thread only.
+/// In a vertical bar, text is horizontal if it fits. If one does not and the tabs are higher than wide, all texts of
+/// the bar are rotated: upwards in the west, downwards in the east. Distances then refer to the rotated tab; icons are
+/// never rotated. Setters of colours, paddings, icon position and alignment do not repaint. GUI thread only.
 class VX_WIDGETS_EXPORT HorizontalTabBar : public QTabBar
 {
     Q_OBJECT
     Q_PROPERTY(QColor normalTextColor READ GetNormalTextColor WRITE SetNormalTextColor)
+    ///< text of unselected and of disabled tabs; default black
     Q_PROPERTY(QColor selectedTextColor READ GetSelectedTextColor WRITE SetSelectedTextColor)
+    ///< text of the selected tab, also under the pointer; default black
     Q_PROPERTY(QColor hoverTextColor READ GetHoverTextColor WRITE SetHoverTextColor)
+    ///< text of an enabled, unselected tab under the pointer; default black
     Q_PROPERTY(int paddingLeft READ GetPaddingLeft WRITE SetPaddingLeft)
+    ///< pixels between the tab's left edge and the text area, at the right in right-to-left layout; default 0
     Q_PROPERTY(int paddingRight READ GetPaddingRight WRITE SetPaddingRight)
+    ///< pixels between the text area and the tab's right edge, at the left in right-to-left layout; default 0
     Q_PROPERTY(int paddingTop READ GetPaddingTop WRITE SetPaddingTop)
+    ///< pixels above the text area; default 0
     Q_PROPERTY(int paddingBottom READ GetPaddingBottom WRITE SetPaddingBottom)
+    ///< pixels below the text area; default 0
     Q_PROPERTY(int xPosTabIcon READ GetXPosTabIcon WRITE SetXPosTabIcon)
+    ///< pixels between the leading edges of tab and icon; default 0
     Q_PROPERTY(int yPosTabIcon READ GetYPosTabIcon WRITE SetYPosTabIcon)
+    ///< pixels between the top edges of tab and icon; default 0
     Q_PROPERTY(Qt::Alignment alignText READ GetAlignText WRITE SetAlignText)
+    ///< alignment in the text area; default left and vertically centred
     Q_PROPERTY(QString pathsNormalIcons READ GetPathsNormalIcons WRITE SetPathsNormalIcons)
+    ///< icon files of unselected tabs, by position, separated by ";"; default empty
     Q_PROPERTY(QString pathsSelectedIcons READ GetPathsSelectedIcons WRITE SetPathsSelectedIcons)
+    ///< icon files of the selected tab, by position, separated by ";"; default empty
 
 public:
     explicit HorizontalTabBar(QWidget* parent);
     ~HorizontalTabBar() override;
 
-    /// Colours of the text, black by default. A selected tab under the pointer has the selected colour, a disabled one
-    /// the normal colour. These, the paddings, the icon's position and the alignment show with the next repaint.
     QColor GetNormalTextColor() const { return normalTextColor; }
     void SetNormalTextColor(const QColor& color) { normalTextColor = color; }
     QColor GetSelectedTextColor() const { return selectedTextColor; }
@@ -51,7 +59,6 @@ public:
     QColor GetHoverTextColor() const { return hoverTextColor; }
     void SetHoverTextColor(const QColor& color) { hoverTextColor = color; }
 
-    /// Pixels between the edges of a tab and the place of its text, 0 by default.
     int GetPaddingLeft() const { return paddingLeft; }
     void SetPaddingLeft(const int& padding) { paddingLeft = padding; }
     int GetPaddingRight() const { return paddingRight; }
@@ -61,25 +68,24 @@ public:
     int GetPaddingBottom() const { return paddingBottom; }
     void SetPaddingBottom(const int& padding) { paddingBottom = padding; }
 
-    /// The icon's top left corner in pixels from the tab's, 0 by default. The size is `iconSize`.
+    /// The size of the icon is `iconSize`.
     int GetXPosTabIcon() const { return xPosTabIcon; }
     void SetXPosTabIcon(const int& position) { xPosTabIcon = position; }
     int GetYPosTabIcon() const { return yPosTabIcon; }
     void SetYPosTabIcon(const int& position) { yPosTabIcon = position; }
 
-    /// Where the text lies in its place: at the left and in the middle of the height by default.
     Qt::Alignment GetAlignText() const { return alignText; }
     void SetAlignText(const Qt::Alignment& alignment) { alignText = alignment; }
 
-    /// Icon files, one for each position in the bar, separated by ";". An empty part and a file that is not there mean
-    /// no icon; a tab beyond the list keeps the icon that it has. A file is read once, and again when paths are set.
+    /// An empty path or a missing file shows no icon; a tab past the end of the list keeps its icon. Files are cached
+    /// until paths are set again.
     QString GetPathsNormalIcons() const;
     void SetPathsNormalIcons(const QString& paths);
     QString GetPathsSelectedIcons() const;
     void SetPathsSelectedIcons(const QString& paths);
 
 protected:
-    /// Gives each tab the icon of its position and state.
+    /// Sets the icon of each tab by its position and state.
     void UpdateIcons();
 
     void tabInserted(int index) override;
@@ -114,7 +120,7 @@ private:
     QStringList pathsNormalIcons;
     QStringList pathsSelectedIcons;
     QHash<QString, QIcon> icons;  ///< by path
-    QPointer<QWidget> draggedTab; ///< of `QTabBar`, visible while a tab is dragged
+    QPointer<QWidget> draggedTab; ///< a child of `QTabBar`, visible during a drag
     bool awaitsDraggedTab = false;
     QPoint pressedAt;
     QPoint draggedFrom;

@@ -29,10 +29,10 @@ void SetTextOrHide(QLabel* label, const QString& text)
         label->setText(text);
 }
 
-// Set bits belong to the window: where the image is more opaque than not.
+// Returns a bitmap whose set bits are the pixels of the image with more than half opacity.
 QBitmap OpaquePart(const QImage& image)
 {
-    // A mask counts in the window's pixels, and an image for a dense screen has more of them.
+    // A mask is in logical pixels, so an image with a device pixel ratio is scaled.
     const QSize size = (QSizeF(image.size()) / image.devicePixelRatio()).toSize();
     QImage alpha = (size == image.size() ? image : image.scaled(size)).convertToFormat(QImage::Format_Alpha8);
     alpha.setDevicePixelRatio(1);
@@ -42,7 +42,7 @@ QBitmap OpaquePart(const QImage& image)
     return QBitmap::fromImage(bits);
 }
 
-/// Named after its title, else its text, unless the application gives it a name.
+/// Uses the title, or else the text, as accessible name, unless the application sets one.
 class AccessibleToolTip : public QAccessibleWidget
 {
 public:

@@ -9,55 +9,58 @@ class QLabel;
 
 namespace Zelkor::Vx::UI {
 
-/// A hint in a window of its own, on top of the others: a title, a text, and the shape of an image.
+/// A tool tip window with a title, a text and the shape of an image, on top of other windows.
 ///
-/// It closes after its display time, on a mouse press and, unless that is switched off, when it is no longer the active
-/// window. Closing hides it; whoever made it owns it and may show it again. GUI thread only.
+/// Closes after its display time, on a mouse press and, with `hideOnDeactivate`, when another window becomes active.
+/// Closing hides the window; the parent or the caller owns it, and it may be shown again. Mask, texts, display
+/// time and offsets take effect with the next `Show`. GUI thread only.
 ///
 /// Object names for style sheets: "MaskedToolTip", the window, and in it "titleLabel" and "textLabel".
 class VX_WIDGETS_EXPORT MaskedToolTip : public ZFrame
 {
     Q_OBJECT
     Q_PROPERTY(QImage mask READ GetMask WRITE SetMask)
+    ///< image whose opaque pixels are the shape of the window; default null, for a rectangle
     Q_PROPERTY(QString title READ GetTitle WRITE SetTitle)
+    ///< plain or rich text of the first label; default empty
     Q_PROPERTY(QString text READ GetText WRITE SetText)
+    ///< plain or rich text of the second label; default empty
     Q_PROPERTY(int displayTime READ GetDisplayTime WRITE SetDisplayTime)
+    ///< milliseconds until the window closes, never for values up to 0; default 0
     Q_PROPERTY(bool hideOnDeactivate READ GetHideOnDeactivate WRITE SetHideOnDeactivate)
+    ///< whether the window closes when another one becomes active; default true
     Q_PROPERTY(int offsetX READ GetOffsetX WRITE SetOffsetX)
+    ///< pixels added to the x coordinate of `Show`; default 0
     Q_PROPERTY(int offsetY READ GetOffsetY WRITE SetOffsetY)
+    ///< pixels added to the y coordinate of `Show`; default 0
 
 public:
     explicit MaskedToolTip(QWidget* parent);
     ~MaskedToolTip() override;
 
-    /// What is set here shows with the next `Show`.
-    ///
-    /// The window has the shape of the image's opaque pixels; a null image, the default, leaves it a rectangle.
+    /// Pixels with more than half opacity count as opaque. The device pixel ratio of the image scales the mask.
     QImage GetMask() const { return maskImage; }
     void SetMask(const QImage& image) { maskImage = image; }
 
-    /// Empty by default. A label that was empty once stays hidden.
+    /// `Show` hides a label with an empty text, and never shows it again.
     QString GetTitle() const { return title; }
     void SetTitle(const QString& newTitle) { title = newTitle; }
     QString GetText() const { return text; }
     void SetText(const QString& newText) { text = newText; }
 
-    /// Milliseconds until the window closes by itself; 0, the default, and less mean that it stays.
     int GetDisplayTime() const { return displayTime; }
     void SetDisplayTime(const int& time) { displayTime = time; }
 
-    /// Whether the window closes when another one becomes active; on by default.
     bool GetHideOnDeactivate() const { return hideOnDeactivate; }
     void SetHideOnDeactivate(const bool& hide) { hideOnDeactivate = hide; }
 
-    /// Pixels that are added to the point of `Show`, 0 by default.
     int GetOffsetX() const { return offsetX; }
     void SetOffsetX(const int& offset) { offsetX = offset; }
     int GetOffsetY() const { return offsetY; }
     void SetOffsetY(const int& offset) { offsetY = offset; }
 
-    /// Shows the window with its top left corner at this point of the screen. The point is taken relative to where the
-    /// window stands: one that was shown before moves on from its place.
+    /// Shows the window at `globalPos` plus the offsets. The point is relative to the current position of the window,
+    /// so only the first call uses screen coordinates.
     void Show(const QPoint& globalPos);
 
 protected:

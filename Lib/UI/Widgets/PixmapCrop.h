@@ -5,7 +5,7 @@
 /// Computes which part of a picture a pixmap widget shows, and renders it. Internal.
 namespace Zelkor::Vx::PixmapCrop {
 
-/// Returns the largest part of a picture that has the aspect ratio of `area`, at the given corner or in the centre.
+/// Returns the largest part of a picture with the aspect ratio of `area`, at the given corner or in the centre.
 /// Empty for an empty area.
 QRect CropRect(const QSize& picture, const QSize& area, Qt::Alignment anchor);
 

@@ -9,8 +9,8 @@ namespace Zelkor::Vx {
 
 namespace {
 
-// In pixels of the device. A widget larger than that is never seen whole, and shall not cost gigabytes.
-constexpr QSize LARGEST_PICTURE(8192, 8192);
+// In device pixels. Limits the memory of a widget that is larger than any screen.
+constexpr QSize MAXIMUM_SIZE(8192, 8192);
 
 Qt::Alignment AlignmentOf(PixmapWidget::MaskAnchor anchor)
 {
@@ -36,8 +36,8 @@ struct PixmapWidget::Impl
     MaskMode maskMode = MASK_NONE;
     MaskAnchor maskAnchor = ANCHOR_TOP_LEFT;
     QPixmap source;
-    QImage picture; ///< the source as an image, without a pixel ratio of its own
-    QPixmap scaled; ///< what is drawn, in device pixels; null until the next paint
+    QImage picture; ///< the source as an image, with a device pixel ratio of 1
+    QPixmap scaled; ///< cached for painting, in device pixels; null until the next paint
 };
 
 PixmapWidget::PixmapWidget(QWidget* parent, Qt::WindowFlags f) : QFrame(parent, f), impl(std::make_unique<Impl>())
@@ -101,8 +101,8 @@ void PixmapWidget::paintEvent(QPaintEvent* event)
     if (impl->picture.isNull())
         return;
     QPainter painter(this);
-    // Of what is painted on: the window's own, or a picture of the widget without a window.
-    const QSize target = (QSizeF(size()) * painter.device()->devicePixelRatioF()).toSize().boundedTo(LARGEST_PICTURE);
+    // The ratio of the paint device, which may be an image instead of the window.
+    const QSize target = (QSizeF(size()) * painter.device()->devicePixelRatioF()).toSize().boundedTo(MAXIMUM_SIZE);
     if (impl->scaled.size() != target) {
         const bool isMasked = impl->maskMode != MASK_NONE;
         const QRect crop = isMasked ? PixmapCrop::CropRect(impl->picture.size(), size(), AlignmentOf(impl->maskAnchor))

@@ -9,48 +9,51 @@
 
 namespace Zelkor::Vx {
 
-/// Shows one picture over the whole widget.
+/// Shows a picture that covers the whole widget.
 ///
-/// Without a mask the picture is stretched. With one it is first cut to the widget's shape, at the anchor, so that it
-/// is never distorted, and for the ellipse only what lies inside the inscribed ellipse shows: a round thumbnail. Under
-/// the picture is what the style sheet paints. The picture is scaled once for each size of the widget. GUI thread only.
+/// Without a mask the picture is stretched. With a mask it is cropped to the aspect ratio of the widget instead, and an
+/// elliptical mask makes a round thumbnail. The style sheet paints the background. The scaled picture is cached for
+/// each size of the widget. GUI thread only.
 class VX_WIDGETS_EXPORT PixmapWidget : public QFrame
 {
     Q_OBJECT
     Q_PROPERTY(MaskMode maskMode READ GetMaskMode WRITE SetMaskMode)
+    ///< shape of the picture; default `MASK_NONE`
     Q_PROPERTY(MaskAnchor maskAnchor READ GetMaskAnchor WRITE SetMaskAnchor)
+    ///< part of the picture that cropping keeps; default `ANCHOR_TOP_LEFT`
     Q_PROPERTY(QPixmap pixmap READ GetPixmap WRITE SetPixmap)
+    ///< the picture; default null, which shows none
 
 public:
+    /// The shape of the picture.
     enum MaskMode : int {
-        MASK_NONE,
-        MASK_RECTANGLE,
-        MASK_ELLIPSE,
+        MASK_NONE,      ///< stretched to the widget; the default
+        MASK_RECTANGLE, ///< cropped to the aspect ratio of the widget
+        MASK_ELLIPSE,   ///< cropped likewise, and transparent outside the inscribed ellipse
     };
     Q_ENUM(MaskMode)
 
-    /// The part of the picture that a cut keeps.
+    /// The part of the picture that cropping keeps.
     enum MaskAnchor : int {
-        ANCHOR_CENTER,
-        ANCHOR_TOP_LEFT,
-        ANCHOR_TOP_RIGHT,
-        ANCHOR_BOTTOM_LEFT,
-        ANCHOR_BOTTOM_RIGHT,
+        ANCHOR_CENTER,       ///< the centre
+        ANCHOR_TOP_LEFT,     ///< the top left corner; the default
+        ANCHOR_TOP_RIGHT,    ///< the top right corner
+        ANCHOR_BOTTOM_LEFT,  ///< the bottom left corner
+        ANCHOR_BOTTOM_RIGHT, ///< the bottom right corner
     };
     Q_ENUM(MaskAnchor)
 
     explicit PixmapWidget(QWidget* parent, Qt::WindowFlags f = Qt::WindowFlags());
     ~PixmapWidget() override;
 
-    /// No mask by default.
     MaskMode GetMaskMode() const;
     void SetMaskMode(MaskMode mode);
 
-    /// The top left corner by default.
+    /// Values outside the enumeration count as the top left corner.
     MaskAnchor GetMaskAnchor() const;
     void SetMaskAnchor(MaskAnchor anchor);
 
-    /// The picture as it was set, null by default. Its own device pixel ratio does not count.
+    /// The device pixel ratio of the picture is ignored.
     QPixmap GetPixmap() const;
     void SetPixmap(const QPixmap& pixmap);
 

@@ -5,8 +5,7 @@
 
 namespace {
 
-// Fixes the stack around its page. New limits replace the old ones at once, without a size in between that could be
-// seen.
+// Fixes the size of the stack around its page, in one step without a visible intermediate size.
 void FitAround(QStackedWidget* stack, const QWidget& page)
 {
     const QMargins border = stack->contentsMargins();
@@ -28,7 +27,7 @@ bool ResizableStackedWidget::event(QEvent* event)
     switch (event->type()) {
     case QEvent::Polish:
     case QEvent::Show:
-        // A form adds its pages before it sets their texts.
+        // Code that uic generates adds pages before it sets their texts.
         if (!wasShown)
             OnCurrentChanged(currentIndex());
         wasShown |= event->type() == QEvent::Show;
@@ -36,7 +35,7 @@ bool ResizableStackedWidget::event(QEvent* event)
     case QEvent::FontChange:
     case QEvent::StyleChange:
     case QEvent::LanguageChange:
-        // The page gets its own event before or after this one, and changes its texts in it.
+        // The page may receive its own event later, and change its texts then.
         QMetaObject::invokeMethod(
             this, [this] { OnCurrentChanged(currentIndex()); }, Qt::QueuedConnection);
         break;
@@ -59,7 +58,7 @@ void ResizableStackedWidget::OnCurrentChanged(int index)
     page->setMinimumSize(0, 0);
     page->setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
     page->adjustSize();
-    // The page heard of its new size, and what it made of that may be another page, or its own end.
+    // A resize handler of the page may have deleted it or made another page current.
     if (!page || page != currentWidget())
         return;
     page->setFixedSize(page->size());

@@ -4,12 +4,12 @@
 
 #include <QStackedWidget>
 
-/// A stack of pages that has the size of the page it shows, so that a dialog grows and shrinks with its pages.
+/// A stacked widget with the size of its current page, so that a dialog grows and shrinks with its pages.
 ///
-/// With each change of the current page, that page takes the size its content prefers and is fixed to it, and so is the
-/// stack, with its own border around the page. What the page's content needs later counts the next time the page
-/// becomes current, when the stack is first shown, and with another font, style sheet or language. A stack whose last
-/// page went keeps its size. Pages belong to the stack as to any `QStackedWidget`. GUI thread only.
+/// When a page becomes current, its size and that of the stack are fixed to the page's size hint, plus the stack's
+/// contents margins. Both are updated when the page becomes current again, when the stack is first shown, and after a
+/// change of font, style sheet or language, but not when only the size hint changes. A stack without pages keeps its
+/// last size. The stack owns its pages, as any `QStackedWidget`. GUI thread only.
 class VX_WIDGETS_EXPORT ResizableStackedWidget : public QStackedWidget
 {
     Q_OBJECT

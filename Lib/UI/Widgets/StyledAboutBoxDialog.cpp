@@ -10,7 +10,7 @@ namespace {
 const QString STYLE_START = QStringLiteral("\" style=\"");
 const QString TAG_END = QStringLiteral("\">");
 
-// The first link of `text` with this style in place of the one that it had.
+// Replaces the style of the first link in `text`.
 QString WithLinkStyle(QString text, const QString& style)
 {
     const int oldStyle = text.indexOf(STYLE_START);
@@ -43,7 +43,7 @@ void StyledAboutBoxDialog::ShowAbout(const QString& product, const QString& vers
 bool StyledAboutBoxDialog::event(QEvent* event)
 {
     const bool handled = App::AboutBoxDialog::event(event);
-    // The base has written its links anew.
+    // The base class has rewritten its links.
     if (event->type() == QEvent::LanguageChange && !linkStyle.isNull())
         SetLinkStyle(linkStyle);
     return handled;
