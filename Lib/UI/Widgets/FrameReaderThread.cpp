@@ -11,7 +11,7 @@ namespace Zelkor::Vx {
 
 namespace {
 
-// Whole frames per second, so 29.97 makes 34 ms. A rate above 1000 would leave no time between two frames.
+// Truncates the rate, so 29.97 frames per second become 34 ms. Clamps it to 1000, for a period of at least 1 ms.
 std::chrono::milliseconds FramePeriod(double frameRate)
 {
     return std::chrono::milliseconds(1000 / static_cast<int>(std::clamp(frameRate, 1.0, 1000.0)));
@@ -27,14 +27,14 @@ FrameReaderThread::FrameReaderThread(std::shared_ptr<PreviewGate> gate,
 
 FrameReaderThread::~FrameReaderThread()
 {
-    // Nobody joined, so the last reference was the thread's own and this is its end.
+    // Joinable only on the worker thread itself, which has released the last reference.
     if (thread.joinable())
         thread.detach();
 }
 
-void FrameReaderThread::Start(const std::shared_ptr<FrameReaderThread>& pump)
+void FrameReaderThread::Start(const std::shared_ptr<FrameReaderThread>& self)
 {
-    pump->thread = std::thread([pump] { pump->Run(); });
+    self->thread = std::thread([self] { self->Run(); });
 }
 
 void FrameReaderThread::Stop()

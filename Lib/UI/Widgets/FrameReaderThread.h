@@ -13,26 +13,26 @@ namespace Zelkor::Vx {
 
 class PreviewGate;
 
-/// A thread that shows the newest frame of a reader once per frame period. Internal.
+/// Reads the newest frame once per frame period and shows it in a preview, on a worker thread. Internal.
 ///
-/// It is made for one run: started once, stopped for good. The schedule is absolute, so that the time spent on a frame
-/// does not add up; a late tick is not skipped but follows at once.
+/// Starts and stops once. The schedule is absolute, so the time spent on a frame does not add up; a late read follows
+/// immediately and is not skipped.
 class FrameReaderThread
 {
 public:
-    /// Receives what the reader or the preview threw; called on the pump's thread, at its end.
+    /// Receives the message of an exception of the reader or the preview. Called at the end of the worker thread.
     using FailureHandler = std::function<void(const std::string& what)>;
 
     FrameReaderThread(std::shared_ptr<PreviewGate> gate, boost::intrusive_ptr<Acquis::IFrameReader> reader,
                       double frameRate, FailureHandler onFailure);
     ~FrameReaderThread();
 
-    /// Starts the thread of `pump`, which it keeps alive until it ends. Throws `std::system_error` when there are no
-    /// threads left.
-    static void Start(const std::shared_ptr<FrameReaderThread>& pump);
+    /// Starts the worker thread, which keeps `self` alive until it ends. Throws `std::system_error` if the system
+    /// cannot create a thread.
+    static void Start(const std::shared_ptr<FrameReaderThread>& self);
 
-    /// Ends the thread. Whoever calls waits until it has ended, except the thread itself. Any thread, any number of
-    /// times, once `Start` has returned.
+    /// Ends the worker thread and waits for it, unless called on the worker itself. May be called from any thread and
+    /// repeatedly, after `Start` has returned.
     void Stop();
 
 private:
@@ -40,13 +40,14 @@ private:
     void ShowFrames();
 
     const std::shared_ptr<PreviewGate> gate;
-    boost::intrusive_ptr<Acquis::IFrameReader> reader; ///< released by the thread at its end; it may hold the device
+    boost::intrusive_ptr<Acquis::IFrameReader>
+        reader; ///< released at the end of the thread, since it may own the device
     const std::chrono::milliseconds period;
     const FailureHandler onFailure;
 
     std::mutex mutex;
     std::condition_variable wake;
-    bool stopping = false; ///< guarded by `mutex`; never false again, so that no start can undo a stop
+    bool stopping = false; ///< guarded by `mutex`; never reset, so that no start can undo a stop
 
     std::thread thread;
     std::once_flag joined;

@@ -11,17 +11,17 @@ namespace Zelkor::InnerShadow {
 namespace {
 
 constexpr int FULL = 255;
-// An offset beyond any widget, which fits into an int.
-constexpr double FAR_AWAY = 1e6;
+// Larger than any widget, and in the range of int.
+constexpr double MAXIMUM_OFFSET = 1e6;
 
-// The steps of the ramp are those of integer division. An offset without a whole pixel adds nothing.
-int Share(double divisor)
+// Returns a step of the ramp, which is an integer division. Offsets below one pixel add nothing.
+int RampStep(double divisor)
 {
-    const int whole = int(std::clamp(divisor, -FAR_AWAY, FAR_AWAY));
+    const int whole = int(std::clamp(divisor, -MAXIMUM_OFFSET, MAXIMUM_OFFSET));
     return whole == 0 ? 0 : FULL / whole;
 }
 
-// Pixels of a half that lie inside the band.
+// Returns the number of pixels of a half that the band covers.
 int BandLength(double offset, int half)
 {
     return offset > 0 ? int(std::min(std::ceil(offset), double(half))) : 0;
@@ -39,13 +39,13 @@ QImage MakeImage(int width, int height)
     return image;
 }
 
-// One row of the top half: the given number of columns of each half from the edge inwards.
+// Fills `columns` pixels from both ends of a row in the top half.
 void FillRow(const Input& input, int y, int columns, QRgb* row, int width)
 {
     const int corner = std::min(columns, BandLength(input.offset.x(), columns));
     for (int x = 0; x < corner; ++x)
         row[x] = ColorAt(input, x, y);
-    // Behind the corner a row has one colour.
+    // Outside the corner a row has one colour.
     if (corner < columns)
         std::fill(row + corner, row + columns, ColorAt(input, corner, y));
     std::reverse_copy(row, row + columns, row + width - columns);
@@ -61,9 +61,9 @@ int AlphaAt(const Input& input, int x, int y)
     if (oy > y && ox > x)
         sum = FULL / (x + 1) + FULL / (y + 1);
     else if (x >= ox && oy > y)
-        sum = FULL / (y + 1) + Share(ox);
+        sum = FULL / (y + 1) + RampStep(ox);
     else if (y >= oy && ox > x)
-        sum = FULL / (x + 1) + Share(oy);
+        sum = FULL / (x + 1) + RampStep(oy);
     const double alpha = sum * input.level;
     return alpha > 0 ? int(std::min(alpha, double(FULL))) : 0;
 }
@@ -96,7 +96,7 @@ void DrawBands(QPainter& painter, const Input& input)
     }
     const int between = height - 2 * rows;
     if (columns > 0 && height / 2 > rows) {
-        // All rows between the corners are alike, but for the middle one of an odd height, which stays clear.
+        // All rows between the corners are equal, except the middle row of an odd height, which is transparent.
         std::vector<QRgb> row;
         for (int x = 0; x < columns; ++x)
             row.push_back(ColorAt(input, x, rows));

@@ -5,26 +5,26 @@
 
 class QPainter;
 
-/// The rim of the shadow effect. Internal.
+/// Computes and draws the inner shadow of `ZGraphicsShadowEffect`. Internal.
 namespace Zelkor::InnerShadow {
 
 struct Input
 {
-    QSize size; ///< of the widget, in logical pixels
-    QPointF offset;
+    QSize size;     ///< of the widget, in logical pixels
+    QPointF offset; ///< widths of the vertical and horizontal bands, in logical pixels
     double level = 0;
-    QRgb color = 0; ///< its alpha does not count
+    QRgb color = 0; ///< alpha is ignored
 };
 
-/// The opacity, 0 to 255, at a pixel of the top left quarter; the other quarters mirror it. A middle row or column
-/// belongs to no quarter.
+/// Returns the opacity, 0 to 255, of a pixel in the top left quadrant. The other quadrants mirror it; a middle row or
+/// column belongs to none.
 int AlphaAt(const Input& input, int x, int y);
 
-/// The rim as one image of the widget's size.
+/// Returns the shadow as one image of the widget's size.
 QImage WholeImage(const Input& input);
 
-/// Draws the rim band by band, so that the cost grows with the rim and not with the widget. The same as drawing the
-/// whole image at the origin, where a logical pixel is a whole number of device pixels.
+/// Draws the shadow as four bands, in time proportional to their area. Draws the same pixels as `WholeImage` at the
+/// origin, if the device pixel ratio is an integer.
 void DrawBands(QPainter& painter, const Input& input);
 
 } // namespace Zelkor::InnerShadow

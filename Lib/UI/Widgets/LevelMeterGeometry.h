@@ -2,17 +2,16 @@
 
 #include <QRect>
 
-/// The geometry of the volume slider's meter, on plain values. Internal.
+/// Computes the geometry of the level meter in `VolumeSlider`, from plain values. Internal.
 namespace Zelkor::Vx::LevelMeterGeometry {
 
-/// What the meter is drawn from, in pixels and shares of 1.
 struct Input
 {
-    QSize size; ///< of the slider
-    int offsetX = 0;
-    int offsetY = 0;
-    float volume = 0;
-    float level = 0;
+    QSize size;       ///< of the slider, in pixels
+    int offsetX = 0;  ///< horizontal inset of the bars, in pixels
+    int offsetY = 0;  ///< vertical inset of the bars, in pixels
+    float volume = 0; ///< 0 to 1
+    float level = 0;  ///< 0 to 1
 };
 
 struct Bars
@@ -22,10 +21,9 @@ struct Bars
     QRect volume;
 };
 
-Bars BarsOf(const Input& input);
+Bars ComputeBars(const Input& input);
 
-/// The rows that look different when the bars change from the one to the other, whose corners have this radius; empty
-/// when none does.
-QRect ChangedRows(const Bars& before, const Bars& after, int radius);
+/// Returns the rectangle to repaint when the bars change; empty if nothing does. `radius` is that of the corners.
+QRect DirtyRect(const Bars& before, const Bars& after, int radius);
 
 } // namespace Zelkor::Vx::LevelMeterGeometry

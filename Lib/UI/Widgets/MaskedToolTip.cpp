@@ -87,7 +87,7 @@ void MaskedToolTip::Show(const QPoint& globalPos)
         clearMask();
     else
         setMask(OpaquePart(maskImage));
-    // Labels that are visible only make the window larger. A size that the application set stays.
+    // Visible labels can only enlarge the window. Keeps a size that the application has set.
     if (!testAttribute(Qt::WA_Resized)) {
         adjustSize();
         setAttribute(Qt::WA_Resized, false);

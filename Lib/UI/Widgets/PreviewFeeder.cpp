@@ -17,7 +17,7 @@ struct Entry
     std::weak_ptr<PreviewFeeder> feeder;
 };
 
-// Never destroyed: a preview may be destroyed by a static object, in any order.
+// Never destroyed, since a static object may destroy a preview later.
 std::vector<Entry>& Entries()
 {
     static auto* entries = new std::vector<Entry>;
@@ -32,8 +32,8 @@ void EndAll(const std::vector<Entry>& entries)
     }
 }
 
-// A preview that is leaked, or owned by a static object, outlives the application object. Without that object no
-// thread can make the pixmap of a frame.
+// Stops the feeders of previews that outlive the application object. Without that object, no thread can create the
+// pixmap of a frame.
 void EndWithApplication()
 {
     EndAll(std::exchange(Entries(), {}));
@@ -47,7 +47,7 @@ void PreviewFeeder::Register(const UI::VideoPreviewWidget* preview, const std::w
     const auto isExpired = [](const Entry& entry) { return entry.feeder.expired(); };
     entries.erase(std::remove_if(entries.begin(), entries.end(), isExpired), entries.end());
     entries.push_back({preview, feeder});
-    // Qt calls such a routine once, so a second application object needs it again.
+    // Qt calls a post routine once, so a second application object needs another registration.
     qRemovePostRoutine(EndWithApplication);
     qAddPostRoutine(EndWithApplication);
 }

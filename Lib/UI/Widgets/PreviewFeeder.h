@@ -8,19 +8,19 @@ namespace UI {
 class VideoPreviewWidget;
 }
 
-/// Something that feeds a preview widget from another thread. Internal; GUI thread.
+/// Interface of an object that feeds a preview widget from another thread. GUI thread. Internal.
 class PreviewFeeder
 {
 public:
     virtual ~PreviewFeeder() = default;
 
-    /// Stops feeding: when this returns, no thread uses the preview and none will.
+    /// Stops feeding. After it returns, no thread uses the preview.
     virtual void EndFeeding() = 0;
 
-    /// Has `feeder` end before `preview` is destroyed, and at the latest before the application object is.
+    /// Registers `feeder` to be stopped before `preview` or the application object is destroyed.
     static void Register(const UI::VideoPreviewWidget* preview, const std::weak_ptr<PreviewFeeder>& feeder);
 
-    /// Ends the feeders of `preview`; a direct call, which no event filter can intercept.
+    /// Stops the feeders of `preview`. Called directly, since an event filter could intercept an event.
     static void EndAllOf(const UI::VideoPreviewWidget* preview);
 };
 

@@ -5,8 +5,8 @@
 
 namespace Zelkor::Vx {
 
-/// When a stream tries again after an error: 200 ms after the first of the errors that come together, six times at
-/// most. Knows no clock; time is given. Internal.
+/// Schedules the retries of a stream: 200 ms after an error, six times at most. Has no clock; the caller passes the
+/// time. Internal.
 class RetrySchedule
 {
 public:
@@ -15,13 +15,13 @@ public:
     static constexpr std::chrono::milliseconds DELAY{200};
     static constexpr int MAX_RETRIES = 6;
 
-    /// The application starts: it all begins anew.
+    /// Resets the count, for a start by the application.
     void Restart() { *this = RetrySchedule(); }
 
-    /// The retry that was due does not come.
+    /// Cancels the pending retry.
     void Cancel() { due.reset(); }
 
-    /// An error at `now`. False when it changes nothing: a retry is due already, or there will be none any more.
+    /// Schedules a retry for an error at `now`. Returns false if one is pending, or after giving up.
     bool Request(Time now)
     {
         if (gaveUp || due)
@@ -30,11 +30,16 @@ public:
         return true;
     }
 
+    /// Returns the time of the pending retry.
     std::optional<Time> Due() const { return due; }
 
-    enum class Step { Wait, Retry, GiveUp };
+    enum class Step {
+        Wait,   ///< no retry is due yet
+        Retry,  ///< start once more
+        GiveUp, ///< all retries have failed
+    };
 
-    /// What is to be done at `now`.
+    /// Returns the step to take at `now`, and counts a retry.
     Step Take(Time now)
     {
         if (!due || now < *due)

@@ -22,12 +22,12 @@ namespace Zelkor::Vx::UI {
 
 namespace {
 
-// As wide as Qt lets a scroll area wish to be, in heights of a line of text.
+// Maximum width hint of a QScrollArea, in line heights.
 constexpr int PREFERRED_LINES = 36;
-// In pixels. The layout adds up spacings without looking for an overflow, and this is wider than any screen.
-constexpr int LARGEST_SPACING = 0xffff;
+// In pixels. Wider than any screen, and small enough for the sum of spacings not to overflow.
+constexpr int MAXIMUM_SPACING = 0xffff;
 
-// The scroll value nearest to `value` at which a view of this width shows the item, its beginning before its end.
+// Returns the scroll value nearest to `value` that shows the item, or its beginning if it is wider than the view.
 int ValueToShow(const QRect& item, int value, int viewWidth)
 {
     return qMin(qMax(value, item.x() + item.width() - viewWidth), item.x());
@@ -35,8 +35,8 @@ int ValueToShow(const QRect& item, int value, int viewWidth)
 
 } // namespace
 
-/// The scroll area: moves sideways only, and takes the height of what it holds.
-class Q_DECL_HIDDEN ScrollablePanelWithItem::Strip : public QScrollArea
+/// Scrolls horizontally only. Its height is that of its contents.
+class Q_DECL_HIDDEN ScrollablePanelWithItem::ScrollArea : public QScrollArea
 {
 public:
     using QScrollArea::QScrollArea;
@@ -47,7 +47,7 @@ public:
         return WithFrame({qMin(contents.width(), PREFERRED_LINES * fontMetrics().height()), contents.height()});
     }
 
-    // Room for something like one item.
+    // Fits about one item.
     QSize minimumSizeHint() const override
     {
         const QSize contents = widget()->sizeHint();
@@ -60,8 +60,8 @@ public:
             if (event->type() == QEvent::LayoutRequest)
                 updateGeometry();
         } else if (event->type() == QEvent::FocusIn && watched->parent() == widget()) {
-            // Whoever hears of the new place may delete the panel, and the item with it.
-            const QPointer<Strip> self(this);
+            // A slot may delete the panel, and the item with it.
+            const QPointer<ScrollArea> self(this);
             Show(static_cast<QWidget*>(watched));
             if (!self)
                 return true;
@@ -70,7 +70,7 @@ public:
     }
 
 protected:
-    // A scroll area places its contents when they scroll, and leaves them where they are when they are mirrored.
+    // QScrollArea does not move its contents when the layout direction changes.
     void changeEvent(QEvent* event) override
     {
         QScrollArea::changeEvent(event);
@@ -78,11 +78,11 @@ protected:
             scrollContentsBy(0, 0);
     }
 
-    // A horizontal scroll bar takes either wheel, and leaves alone what would move it beyond its ends.
+    // A horizontal scroll bar handles both wheel axes, and ignores the event at its ends.
     void wheelEvent(QWheelEvent* event) override
     {
         if (isRightToLeft() && qAbs(event->angleDelta().x()) > qAbs(event->angleDelta().y())) {
-            // A bar does not know that its values run to the left.
+            // QScrollBar does not mirror horizontal wheel events.
             QWheelEvent mirrored(event->position(), event->globalPosition(), -event->pixelDelta(), -event->angleDelta(),
                                  event->buttons(), event->modifiers(), event->phase(), event->inverted(),
                                  event->source());
@@ -93,7 +93,7 @@ protected:
         }
     }
 
-    // The scroll area would move to the item by itself, but not from right to left, and not only sideways.
+    // QScrollArea would scroll to the item, but ignores right-to-left layout and scrolls vertically too.
     bool focusNextPrevChild(bool next) override { return QWidget::focusNextPrevChild(next); }
 
 private:
@@ -101,7 +101,7 @@ private:
 
     void Show(QWidget* item)
     {
-        // An item may get the keyboard before it got its place.
+        // An item may receive focus before it is laid out.
         widget()->layout()->activate();
         QScrollBar* bar = horizontalScrollBar();
         const QRect place = QStyle::visualRect(layoutDirection(), widget()->rect(), item->geometry());
@@ -111,23 +111,22 @@ private:
 
 struct ScrollablePanelWithItem::Items
 {
-    // Removes what is no item any more: deleted, given another parent, or about to go, which is a tool button no longer
-    // in the slots of its `destroyed`. Looked at on use, since an event filter may swallow the event of a removed
-    // child.
+    // Removes items that were deleted, have another parent, or are being destroyed, which makes qobject_cast() fail.
+    // Called before each use, since an event filter may swallow the child event.
     void Prune(const QWidget* frame)
     {
         const auto isGone = [=](QObject* item) { return !qobject_cast<QToolButton*>(item) || item->parent() != frame; };
         list.erase(std::remove_if(list.begin(), list.end(), isGone), list.end());
     }
 
-    QList<QPointer<QObject>> list; ///< tool buttons, in order of appending
+    QList<QPointer<QObject>> list; ///< tool buttons, in the order in which they were appended
 };
 
 struct ScrollablePanelWithItem::Parts
 {
     QToolButton* leftScrollButton;
     QToolButton* rightScrollButton;
-    Strip* panelScrollArea;
+    ScrollArea* panelScrollArea;
     QFrame* itemsFrame;
     QHBoxLayout* itemsLayout;
 };
@@ -140,14 +139,14 @@ ScrollablePanelWithItem::ScrollablePanelWithItem(QWidget* parent)
     const auto makeScrollButton = [this](const QString& objectName) {
         auto* button = new QToolButton(this);
         button->setObjectName(objectName);
-        // The keyboard goes to the items, which come into view by themselves.
+        // Keyboard users scroll by focusing items.
         button->setFocusPolicy(Qt::NoFocus);
         return button;
     };
     parts->leftScrollButton = makeScrollButton(QStringLiteral("leftScrollButton"));
     parts->rightScrollButton = makeScrollButton(QStringLiteral("rightScrollButton"));
     Retranslate();
-    Strip* area = parts->panelScrollArea = new Strip(this);
+    ScrollArea* area = parts->panelScrollArea = new ScrollArea(this);
     area->setObjectName(QStringLiteral("panelScrollArea"));
     area->setFocusPolicy(Qt::NoFocus);
     area->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
@@ -181,7 +180,7 @@ ScrollablePanelWithItem::ScrollablePanelWithItem(QWidget* parent)
 
 ScrollablePanelWithItem::~ScrollablePanelWithItem()
 {
-    // While the rest is there, which slots of an item's `destroyed` may use. An item that goes may take others along.
+    // Deletes the items first: slots of their destroyed() may use the panel, and delete further items.
     items->Prune(parts->itemsFrame);
     const auto removed = std::exchange(items->list, {});
     for (const QPointer<QObject>& item : removed)
@@ -196,7 +195,7 @@ int ScrollablePanelWithItem::GetItemsScpacing() const
 
 void ScrollablePanelWithItem::SetItemsSpacing(int spacing)
 {
-    parts->itemsLayout->setSpacing(qMin(spacing, LARGEST_SPACING));
+    parts->itemsLayout->setSpacing(qMin(spacing, MAXIMUM_SPACING));
     parts->panelScrollArea->updateGeometry();
 }
 
@@ -209,7 +208,7 @@ void ScrollablePanelWithItem::Append(QToolButton* item)
     items->list.removeOne(item);
     items->list.append(item);
     Common::AddWithoutDeferredShow(parts->itemsLayout, item);
-    // A layout takes a deleted widget out by an event, which a filter may swallow, and would use it afterwards.
+    // QLayout removes a deleted widget in an event, which a filter may swallow; the layout would then use the widget.
     disconnect(item, nullptr, parts->itemsLayout, nullptr);
     connect(item, &QObject::destroyed, parts->itemsLayout,
             [layout = parts->itemsLayout, item] { layout->removeWidget(item); });

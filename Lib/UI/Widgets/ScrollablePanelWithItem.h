@@ -9,15 +9,14 @@ class QToolButton;
 
 namespace Zelkor::Vx::UI {
 
-/// A strip of tool buttons, the items, that scrolls sideways when they do not fit.
+/// A horizontal panel of tool buttons, the items, with buttons that scroll it when the items do not fit.
 ///
-/// A button at either end scrolls by one visible width; it is disabled where there is nothing to scroll to. The wheel
-/// scrolls as well, and an item that gets the keyboard comes into view. The strip is as high as its items. From right
-/// to left it is mirrored as a whole: the "left" button then stands at the right, where the items begin, and goes
-/// there.
+/// A scroll button scrolls by one visible width and is disabled at its end. The wheel scrolls too, and an item that
+/// receives focus is scrolled into view. The panel is as high as its items. Right-to-left layout mirrors the panel: the
+/// "left" button is then at the right, where the items begin.
 ///
-/// The application makes the items and connects them; they become children of the strip. An item that is deleted, or
-/// given another parent, leaves the strip. GUI thread only.
+/// The application creates and connects the items; the panel takes ownership. An item that is deleted or gets another
+/// parent is removed. A slot of an item may delete the panel. GUI thread only.
 ///
 /// Object names for style sheets: "leftScrollButton" and "rightScrollButton", "panelScrollArea" between them, and in it
 /// "itemsFrame", which is as wide as the items.
@@ -25,30 +24,30 @@ class VX_WIDGETS_EXPORT ScrollablePanelWithItem : public ZFrame
 {
     Q_OBJECT
     Q_PROPERTY(int itemsSpacing READ GetItemsScpacing WRITE SetItemsSpacing)
+    ///< pixels between two items, or the style's spacing if negative; default 0
 
 public:
     explicit ScrollablePanelWithItem(QWidget* parent);
     ~ScrollablePanelWithItem() override;
 
-    /// Pixels between two items, 0 by default; a negative number stands for what the style has between widgets.
     int GetItemsScpacing() const;
     void SetItemsSpacing(int spacing);
 
-    /// Puts an item at the end, also one that is an item already. Null, a scroll button and a parent of
-    /// the panel are ignored.
+    /// Appends an item, or moves one that is in the panel to the end. Ignores null, the scroll buttons and parents of
+    /// the panel.
     void Append(QToolButton* item);
 
-    /// Takes all items out and has them deleted when control returns to the event loop.
+    /// Removes all items and deletes them later.
     void RemoveItems();
 
-    /// Clicks the item, counted from 0; false when there is none. The item, and the panel, may go by its own click.
+    /// Clicks the item at `index`. Returns false for an index out of range. A slot may delete the item or the panel.
     bool SelectItem(int index);
 
 protected:
     void changeEvent(QEvent* event) override;
 
 private:
-    class Strip;
+    class ScrollArea;
     struct Parts;
     struct Items;
 

@@ -20,7 +20,7 @@ namespace {
 constexpr char POSITION[] = "Position";
 constexpr char SUB_STYLE[] = "SubStyle";
 
-// Polishing a label is what costs, so labels that have the value already are left alone.
+// Skips labels that have the value, since polishing is expensive.
 void Mark(ZLabel* label, const char* property, const QString& value)
 {
     const QVariant present = label->property(property);
@@ -66,7 +66,7 @@ SliderWithTickLabels::SliderWithTickLabels(QWidget* parent) : ZFrame(parent), im
     auto* layout = UI::Common::MakeBoxLayout<QVBoxLayout>(this);
     layout->addWidget(impl->labelsFrame);
     layout->addWidget(impl->slider);
-    // As a slider by itself: extra height would part the labels from their ticks.
+    // The size policy of QSlider. Extra height would separate the labels from their ticks.
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     setFocusProxy(impl->slider);
 }
@@ -102,7 +102,7 @@ void SliderWithTickLabels::SetItemText(int index, const QString& text)
     if (!label)
         return;
     label->setOriginalText(text);
-    // Two long texts can look the same while elided, and want different widths.
+    // Two elided texts can be equal and still need different widths.
     impl->labelsLayout->update();
     if (index == CurrentIndex())
         TellCurrentText();
@@ -115,7 +115,7 @@ int SliderWithTickLabels::CurrentIndex() const
 
 void SliderWithTickLabels::SetCurrentIndex(int index)
 {
-    // Whoever hears of the change may delete this.
+    // A slot may delete the widget.
     const QPointer<SliderWithTickLabels> self(this);
     impl->slider->setValue(index);
     if (self)
@@ -137,7 +137,7 @@ int SliderWithTickLabels::FindText(const QString& text) const
     return -1;
 }
 
-// To be called after each item: it changes what the last two labels are, and no other.
+// Call it after each new item, since it updates the last two labels only.
 void SliderWithTickLabels::MarkPositions()
 {
     const int last = impl->labels.size() - 1;
@@ -156,7 +156,7 @@ void SliderWithTickLabels::TellCurrentText()
 {
     const QString text = CurrentText();
     QSlider* slider = impl->slider;
-    // A name that somebody else gave stays.
+    // Keeps a name that the application has set.
     if (slider->accessibleName().isEmpty() || slider->accessibleName() == slider->accessibleDescription())
         slider->setAccessibleName(text);
     slider->setAccessibleDescription(text);

@@ -9,15 +9,15 @@
 
 namespace Zelkor::Vx {
 
-/// A slider for one of a few named values, with a tick for each and the names above the ticks.
+/// A slider that selects one of several labelled items, with a tick and a label for each.
 ///
-/// An item is known by its index, counted from 0 in order of adding. A press on its name chooses it as well. Names that
-/// do not fit are elided. The slider's accessible name is the current text unless the application gives it one, and its
-/// accessible description always is. GUI thread only.
+/// An index counts from 0 in the order in which items were added. Clicking a label selects its item. Labels that do not
+/// fit are elided. The current text is the accessible description of the slider, and its accessible name unless the
+/// application sets one. A slot may delete the widget. GUI thread only.
 ///
 /// Object names for style sheets: "slider", and "labelsFrame" with a `ZLabel` for each item. The dynamic property
-/// "Position" of a label is "First", "Last" or empty; "SubStyle" is "Current" for the item chosen last, else empty, and
-/// not set before an item is chosen.
+/// "Position" of a label is "First", "Last" or empty. "SubStyle" is "Current" for the selected item and otherwise
+/// empty; it is not set before an item is selected.
 class VX_WIDGETS_EXPORT SliderWithTickLabels : public ZFrame
 {
     Q_OBJECT
@@ -26,28 +26,27 @@ public:
     explicit SliderWithTickLabels(QWidget* parent);
     ~SliderWithTickLabels() override;
 
-    /// Adds one item, or several, at the end. The current item stays.
+    /// Appends items. The current item does not change.
     void AddItem(const QString& text);
     void AddItems(const QStringList& texts);
 
-    /// Replaces the text of an item, as after a change of the language. The current item stays. An index that no item
-    /// has is ignored.
+    /// Replaces the text of an item, for instance after a change of language. Ignores an index out of range.
     void SetItemText(int index, const QString& text);
 
-    /// 0 without items.
+    /// Returns the current index, or 0 without items.
     int CurrentIndex() const;
 
-    /// Moves the slider to the item, or to the end that is nearer. An index that no item has leaves no label "Current".
+    /// Selects an item. Clamps an index out of range, and then marks no label as "Current".
     void SetCurrentIndex(int index);
 
-    /// The text of the current item, empty without items.
+    /// Returns the text of the current item, empty without items.
     QString CurrentText() const;
 
-    /// The index of the first item with exactly this text, -1 when there is none.
+    /// Returns the index of the first item with exactly this text, or -1.
     int FindText(const QString& text) const;
 
 Q_SIGNALS:
-    /// There is another current item, by a person or by the application. Comes before the labels are marked.
+    /// Emitted when the user or the application changes the current item, before the labels are marked.
     void CurrentIndexChanged(int index);
 
 private:

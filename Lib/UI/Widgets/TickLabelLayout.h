@@ -9,27 +9,26 @@ namespace Zelkor::Vx {
 
 class TickSlider;
 
-/// The layout of the labels over a slider's ticks: a box of labels with stretches between them.
+/// A box layout that centres labels over the ticks of a slider. Internal.
 ///
-/// Stretches would leave even gaps, and so put labels of different widths beside their ticks. So this layout places
-/// the labels itself: the first one begins at the edge, the last one ends there, and the others have their middle over
-/// the tick. Where two texts do not fit beside each other, the longer one gives way first.
+/// The first label starts at the left edge, the last one ends at the right edge, in right-to-left layout mirrored.
+/// Where two labels do not fit side by side, the wider one shrinks first.
 class TickLabelLayout : public QHBoxLayout
 {
 public:
     struct Extent
     {
-        int from;
-        int width;
+        int from;  ///< pixels from the leading edge
+        int width; ///< pixels
     };
 
-    /// Places labels that want these widths, one over each of evenly spread ticks, in a row from 0 to `rowWidth`.
-    static QVector<Extent> Place(const QVector<int>& wanted, int rowWidth, int firstTick, int lastTick);
+    /// Returns the extents of labels with these preferred widths over evenly spaced ticks, in a row of `rowWidth`.
+    static QVector<Extent> ComputeExtents(const QVector<int>& preferred, int rowWidth, int firstTick, int lastTick);
 
-    /// The width of a row that has room for all of them, whose outer ticks are `inset` away from its ends.
-    static int RoomyWidth(const QVector<int>& wanted, int inset);
+    /// Returns the width of a row that fits all labels, with the outer ticks `inset` pixels away from its ends.
+    static int PreferredWidth(const QVector<int>& preferred, int inset);
 
-    /// On `frame`, which stands over the slider and is as wide.
+    /// Installs the layout on `frame`, which is above the slider and equally wide.
     TickLabelLayout(QWidget* frame, const TickSlider* slider);
 
     QSize sizeHint() const override;

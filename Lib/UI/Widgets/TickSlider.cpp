@@ -17,7 +17,7 @@ TickSlider::TickSlider(std::function<void(int)> listener, QWidget* parent)
 
 void TickSlider::CallListener()
 {
-    const auto copy = listener; // outlives the slider
+    const auto copy = listener; // the call may delete the slider
     copy(value());
 }
 

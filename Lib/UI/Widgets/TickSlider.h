@@ -6,16 +6,15 @@
 
 namespace Zelkor::Vx {
 
-/// A horizontal slider that knows where its handle stands.
+/// A horizontal slider that computes the position of its handle for any value. Internal.
 class TickSlider : public QSlider
 {
 public:
-    /// Calls `listener` with each new value, and after a press only when this is over: unlike a slot of the slider's
-    /// own signals, the listener may delete the slider.
+    /// Calls `listener` with each new value, after a mouse press has been handled. Unlike a slot of `QSlider`'s
+    /// signals, the listener may delete the slider.
     TickSlider(std::function<void(int)> listener, QWidget* parent);
 
-    /// Where the middle of the handle is at this value if the slider were this wide: pixels from the end where the
-    /// values begin, which is the right one from right to left.
+    /// Returns the centre of the handle for a value and a slider width, in pixels from the leading edge.
     int HandleX(int value, int width) const;
 
 protected:

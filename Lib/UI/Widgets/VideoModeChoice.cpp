@@ -13,7 +13,7 @@ double ValueOf(const Acquis::Rational& rate)
 
 bool IsUsable(double frameRate)
 {
-    return frameRate >= 1.0; // which is false for what is not a number, too
+    return frameRate >= 1.0; // false for NaN
 }
 
 VideoSettings ChooseSettings(const Acquis::ICaptureDevice& device, const std::string& name)

@@ -4,17 +4,17 @@
 
 namespace Zelkor::Vx {
 
-/// The mode and the frame rate that a device is captured in. Internal.
+/// The video mode and frame rate in which a device is captured. Internal.
 struct VideoModeChoice
 {
-    boost::intrusive_ptr<Acquis::IVideoCaptureSettings> settings; ///< null when no mode is usable
+    boost::intrusive_ptr<Acquis::IVideoCaptureSettings> settings; ///< null if no mode is usable
     Acquis::Rational rate;
     double frameRate = 1.0;        ///< the value of `rate`
-    bool hasUnusableRates = false; ///< a rate below 1 per second was asked for or offered, and passed over
+    bool hasUnusableRates = false; ///< a rate below 1 per second was requested or offered, and skipped
 };
 
-/// Of the device's video modes the first one of this name, else its first one; in it the first rate that is exactly
-/// `frameRate`, else the last one. Rates below one frame per second are passed over.
+/// Returns the first video mode called `name`, or else the first one; in it the first rate equal to `frameRate`, or
+/// else the last one. Skips rates below one frame per second.
 VideoModeChoice ChooseVideoMode(const Acquis::ICaptureDevice& device, const std::string& name, double frameRate);
 
 } // namespace Zelkor::Vx

@@ -24,7 +24,7 @@ namespace {
 
 constexpr Proc::PixFmt DISPLAY_FORMAT = Proc::PixFmt::BGRA;
 
-// In the middle of the area; what is larger begins at its left and top edges.
+// Returns a rectangle centred in the area, or at its top left corner if larger.
 QRect CenteredRect(const QSize& area, const QSize& size)
 {
     return QRect(QPoint(qMax(0, area.width() - size.width()) / 2, qMax(0, area.height() - size.height()) / 2), size);
@@ -35,7 +35,7 @@ bool Exceeds(const QSize& size, const QSize& area)
     return size.width() > area.width() || size.height() > area.height();
 }
 
-// Makes the picture of a frame opaque: the fourth byte of its pixels has any value, and would make holes in a window
+// Makes the picture of a frame opaque. The fourth byte of its pixels is undefined, and would make holes in a window
 // with a translucent background.
 QImage Opaque(QImage image)
 {
@@ -44,7 +44,7 @@ QImage Opaque(QImage image)
     if (image.format() != QImage::Format_RGB32)
         return image;
     constexpr QRgb ALPHA = 0xff000000;
-    constexpr int STEP = 16; // a fixed number of pixels at a time, for the compiler to use vectors
+    constexpr int STEP = 16; // constant, so that the compiler vectorises the loop
     std::array<QRgb, STEP> common;
     common.fill(ALPHA);
     for (int y = 0; y < image.height(); ++y) {
@@ -57,7 +57,7 @@ QImage Opaque(QImage image)
         for (; x < image.width(); ++x)
             common[0] &= row[x];
     }
-    // As usual; a picture that fits is shown without a copy.
+    // The usual case, in which a picture that fits is not copied.
     if (std::all_of(common.begin(), common.end(), [](QRgb pixels) { return pixels == ALPHA; }))
         return image;
     for (int y = 0; y < image.height(); ++y) {
@@ -95,20 +95,20 @@ struct VideoPreviewWidget::Impl
 
     VideoPreviewWidget* widget;
 
-    mutable std::mutex pictureMutex; ///< guards what follows up to the next mutex
+    mutable std::mutex pictureMutex; ///< guards the members up to the next mutex
     QRect previewRect = QRect(0, 0, 0, 0);
     QPixmap framePixmap;
     QRect frameRect;
-    unsigned revision = 0; ///< changes with each picture and each size
+    unsigned revision = 0; ///< incremented by each picture and each size
 
-    std::mutex converterMutex; ///< one conversion at a time, whoever feeds
+    std::mutex converterMutex; ///< held during a conversion, since several threads may feed
     boost::intrusive_ptr<Proc::IEffect> converter;
     Zelkor::Util::ImageUtils imageUtils;
 
-    QPixmap defaultPixmap; ///< this and the next for the GUI thread alone
+    QPixmap defaultPixmap; ///< this and the members below: GUI thread only
     QRect defaultRect;
 
-    bool awaitsPaint = false; ///< another thread's picture has not been painted yet; GUI thread
+    bool awaitsPaint = false; ///< a picture of another thread has not been painted yet
     Common::GuiThreadCall repaint;
 };
 
@@ -147,7 +147,7 @@ QImage VideoPreviewWidget::Impl::Convert(boost::intrusive_ptr<Proc::IDataVideo> 
 void VideoPreviewWidget::Impl::SetFrame(QPixmap pixmap, const QRect& rect)
 {
     {
-        // The old pixmap leaves by the argument and is freed after the lock.
+        // The argument frees the old pixmap after the lock.
         const std::lock_guard<std::mutex> lock(pictureMutex);
         framePixmap.swap(pixmap);
         frameRect = rect;
@@ -156,8 +156,8 @@ void VideoPreviewWidget::Impl::SetFrame(QPixmap pixmap, const QRect& rect)
     RequestRepaint();
 }
 
-// QWidget::update() is for the GUI thread. Other threads have at most one request pending, so that memory stays flat
-// while the GUI thread is busy.
+// QWidget::update() is limited to the GUI thread. Requests of other threads are merged into one, so that memory does
+// not grow while the GUI thread is busy.
 void VideoPreviewWidget::Impl::RequestRepaint()
 {
     if (QThread::currentThread() == widget->thread())
@@ -166,8 +166,8 @@ void VideoPreviewWidget::Impl::RequestRepaint()
         repaint.Request();
 }
 
-// Qt posts one update request for a window and no other one until it is delivered. When the paint of the last picture
-// has not come by the next one, the request may have been swallowed by an event filter: repaint() needs none.
+// Qt posts no further update request for a window until the last one is delivered. If the last picture has not been
+// painted yet, an event filter may have swallowed that request; repaint() does not need one.
 void VideoPreviewWidget::Impl::Repaint()
 {
     if (std::exchange(awaitsPaint, true))
@@ -245,7 +245,7 @@ void VideoPreviewWidget::UpdateView(const boost::intrusive_ptr<Proc::IDataVideo>
     impl->SetFrame(std::move(pixmap), rect);
 }
 
-/// Another value once the picture or the size of the area has been set. Any thread.
+/// Returns a number that changes with the picture and the size of the area. Any thread.
 unsigned VideoPreviewWidget::GetRevision() const
 {
     const std::lock_guard<std::mutex> lock(impl->pictureMutex);
@@ -256,7 +256,7 @@ void VideoPreviewWidget::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
     impl->awaitsPaint = false;
-    // Held while the picture is drawn: a feeder that replaces it meanwhile waits, and frees it after.
+    // Held while drawing, so that a feeder cannot free the picture.
     const std::lock_guard<std::mutex> lock(impl->pictureMutex);
     if (!impl->framePixmap.isNull())
         painter.drawPixmap(impl->frameRect, impl->framePixmap);

@@ -17,40 +17,43 @@ namespace Zelkor::Vx::UI {
 
 /// Shows live video frames in an area of fixed size.
 ///
-/// A frame larger than the area is shrunk to fit, a smaller one keeps its size; it is drawn in the centre. Without a
-/// frame the default image shows, at its own size, centred or, when it is larger, cut at the right and the bottom.
-/// Around the picture is what the style sheet paints as background; the frame lines of `QFrame` are not drawn.
+/// Frames are centred; one larger than the area is scaled down, keeping its aspect ratio. Without a frame, the default
+/// image is shown at its own size, centred or, if larger, clipped at the right and bottom. The style sheet paints the
+/// background; the frame of `QFrame` is not drawn.
 ///
-/// GUI thread, except `UpdateView` and `ResetPreview`, which any thread may call. A caller on another thread must stop
-/// before the widget and the application object are destroyed; `WebCameraPreviewStream` does.
+/// GUI thread only, except `UpdateView` and `ResetPreview`, which any thread may call. Other threads must stop calling
+/// before the widget or the application object is destroyed, as `WebCameraPreviewStream` does.
 class VX_WIDGETS_EXPORT VideoPreviewWidget : public QFrame
 {
     Q_OBJECT
     Q_PROPERTY(int previewWidth READ GetPreviewWidth WRITE SetPreviewWidth)
+    ///< width of the area in pixels, to which the widget is fixed; default 0
     Q_PROPERTY(int previewHeight READ GetPreviewHeight WRITE SetPreviewHeight)
+    ///< height of the area in pixels, to which the widget is fixed; default 0
     Q_PROPERTY(QImage defaultImage READ GetDefaultImage WRITE SetDefaultImage)
+    ///< image shown without a frame; default null
 
 public:
     explicit VideoPreviewWidget(QWidget* parent);
     ~VideoPreviewWidget() override;
 
-    /// The size of the area in pixels, 0 by default; the widget's own size is fixed to it. A new size holds for the
-    /// frames and default images to come, those that are set stay where they are.
+    /// Clamped to 0..QWIDGETSIZE_MAX. A new size applies to later frames and default images; the current ones keep
+    /// their rectangle.
     int GetPreviewWidth() const;
     void SetPreviewWidth(int width);
     int GetPreviewHeight() const;
     void SetPreviewHeight(int height);
 
-    /// The picture that shows when there is no frame; null by default. Setting it ends the frame that shows.
+    /// Setting the image also resets the preview.
     QImage GetDefaultImage() const;
     void SetDefaultImage(QImage image);
 
-    /// Shows the default image again. Any thread.
+    /// Drops the frame and shows the default image. Any thread.
     void ResetPreview();
 
-    /// Shows one frame; a null frame resets the preview. Any thread; the picture appears with the next paint, and of
-    /// frames that come faster than paints the newest appears. A frame that the media core cannot read shows the
-    /// default image.
+    /// Converts a frame and shows it with the next paint event; a null frame resets the preview. Any thread; blocks
+    /// while another thread's frame is converted. Of frames that arrive faster than paint events, the newest is shown.
+    /// A frame that the host cannot convert shows the default image.
     void UpdateView(const boost::intrusive_ptr<Proc::IDataVideo>& frame);
 
 protected:

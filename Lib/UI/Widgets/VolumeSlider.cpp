@@ -19,7 +19,7 @@ const UI::Common::LogSource LOG_SOURCE("Lib/UI/Widgets/VolumeSlider");
 
 constexpr int MAXIMUM = 100;
 constexpr int TOOL_TIP_TIME_MS = 1000;
-// The handle does not follow a volume that differs by rounding only.
+// Ignores volumes that differ from the value by rounding.
 constexpr int IGNORED_STEP = 1;
 
 } // namespace
@@ -44,20 +44,20 @@ void VolumeSlider::SetVolumes(float newVolume, float newLevel)
         newVolume = 0;
     }
     const auto barsOf = [this](float ofVolume, float ofLevel) {
-        return LevelMeterGeometry::BarsOf({size(), peakValueRectOffsetX, peakValueRectOffsetY, ofVolume, ofLevel});
+        return LevelMeterGeometry::ComputeBars({size(), peakValueRectOffsetX, peakValueRectOffsetY, ofVolume, ofLevel});
     };
     const LevelMeterGeometry::Bars before = barsOf(volume, level);
     volume = newVolume;
     level = newLevel;
     if (std::isfinite(volume)) {
-        // Beyond the range the slider's own limit holds; the bound keeps the conversion defined.
+        // The bound keeps the conversion defined; the slider clamps to its range.
         const int wanted = int(std::fmin(volume * float(MAXIMUM), 1e6F));
         if (qAbs(value() - wanted) > IGNORED_STEP)
             setValue(wanted);
     }
-    const QRect changed = LevelMeterGeometry::ChangedRows(before, barsOf(volume, level), borderRadius);
-    if (!changed.isEmpty())
-        update(changed);
+    const QRect dirty = LevelMeterGeometry::DirtyRect(before, barsOf(volume, level), borderRadius);
+    if (!dirty.isEmpty())
+        update(dirty);
 }
 
 void VolumeSlider::HideToolTip()
@@ -78,7 +78,7 @@ void VolumeSlider::ShowValue(int value)
 void VolumeSlider::paintEvent(QPaintEvent* event)
 {
     const LevelMeterGeometry::Bars bars =
-        LevelMeterGeometry::BarsOf({size(), peakValueRectOffsetX, peakValueRectOffsetY, volume, level});
+        LevelMeterGeometry::ComputeBars({size(), peakValueRectOffsetX, peakValueRectOffsetY, volume, level});
     const auto pick = [this](const QColor& enabled, const QColor& disabled) {
         return isEnabled() ? enabled : disabled;
     };
@@ -86,7 +86,7 @@ void VolumeSlider::paintEvent(QPaintEvent* event)
     gradient.setColorAt(0, pick(colorPeakValueGradientFrom, colorPeakValueGradientDisableFrom));
     gradient.setColorAt(1, pick(colorPeakValueGradientTo, colorPeakValueGradientDisableTo));
 
-    // Ends before the slider's own painting begins.
+    // Scoped, since QSlider::paintEvent() creates another painter.
     {
         QPainter painter(this);
         painter.setRenderHint(QPainter::Antialiasing);

@@ -9,60 +9,74 @@ namespace Zelkor::Vx {
 
 /// A slider for a recording volume, 0 to 100 per cent, with a live meter of the input level behind its handle.
 ///
-/// The meter has three rounded rectangles, one over the other: a background, the input level, and that level times the
-/// volume in a gradient. The bars grow from the bottom, whatever the orientation. The meter keeps what it was given
-/// last: decay and peak hold are the caller's business. While the value changes, a tool tip shows it for a second.
-/// Groove and handle come from the style sheet. Setting a property repaints the slider. GUI thread only.
+/// The meter draws three rounded rectangles on top of each other: a background, the input level, and the product of
+/// level and volume in a gradient. The bars grow from the bottom in both orientations. The meter shows the last level;
+/// the caller implements decay and peak hold. A tool tip shows a changed value for one second. Groove and handle come
+/// from the style sheet. Changing a property repaints the slider. GUI thread only.
 class VX_WIDGETS_EXPORT VolumeSlider : public QSlider
 {
     Q_OBJECT
     Q_PROPERTY(QColor colorPeakValueBorder MEMBER colorPeakValueBorder)
+    ///< outline of the three bars; default transparent
     Q_PROPERTY(QColor colorBackground MEMBER colorBackground)
+    ///< background of the meter; default rgb(28, 32, 43)
     Q_PROPERTY(QColor colorPeakValue MEMBER colorPeakValue)
+    ///< bar of the input level; default rgb(86, 91, 107)
     Q_PROPERTY(QColor colorPeakValueGradientFrom MEMBER colorPeakValueGradientFrom)
+    ///< bar of level times volume, top left; default rgb(37, 127, 101)
     Q_PROPERTY(QColor colorPeakValueGradientTo MEMBER colorPeakValueGradientTo)
+    ///< bar of level times volume, bottom right; default rgb(37, 127, 101)
     Q_PROPERTY(QColor colorBackgroundDisable MEMBER colorBackgroundDisable)
+    ///< background of a disabled meter; default rgb(39, 45, 58)
     Q_PROPERTY(QColor colorPeakValueDisable MEMBER colorPeakValueDisable)
+    ///< bar of the input level, disabled; default rgb(68, 74, 90)
     Q_PROPERTY(QColor colorPeakValueGradientDisableFrom MEMBER colorPeakValueGradientDisableFrom)
+    ///< bar of level times volume, disabled, top left; default rgb(43, 92, 87)
     Q_PROPERTY(QColor colorPeakValueGradientDisableTo MEMBER colorPeakValueGradientDisableTo)
+    ///< bar of level times volume, disabled, bottom right; default rgb(43, 92, 87)
     Q_PROPERTY(int tooltipOffsetX MEMBER tooltipOffsetX)
+    ///< pixels by which the tool tip moves left from the centre of the slider; default 5
     Q_PROPERTY(int peakValueRectOffsetX MEMBER peakValueRectOffsetX)
+    ///< pixels between the meter and the left and right edges; default 5
     Q_PROPERTY(int peakValueRectOffsetY MEMBER peakValueRectOffsetY)
+    ///< pixels between the meter and the top and bottom edges; default 4
     Q_PROPERTY(int borderRadius MEMBER borderRadius)
+    ///< corner radius of the bars in pixels; default 0
 
 public:
-    /// Vertical.
+    /// Creates a vertical slider.
     explicit VolumeSlider(QWidget* parent);
     VolumeSlider(Qt::Orientation orientation, QWidget* parent);
     ~VolumeSlider() override;
 
-    /// Shows a volume and an input level, both 0 to 1. The handle follows the volume when they are more than one step
-    /// apart. A negative volume counts as 0, with a verbose log line; what is not finite moves nothing. Call it as
-    /// often as levels come: only what changes on the screen is painted.
+    /// Sets volume and input level, both 0 to 1, and repaints only the changed rows. The value follows the volume if
+    /// they differ by more than one step, and emits `VolumeChanged`. A negative volume counts as 0, with a verbose log
+    /// line; NaN and infinity leave the value unchanged.
     void SetVolumes(float newVolume, float newLevel);
 
 public Q_SLOTS:
+    /// Hides the tool tip of the application.
     void HideToolTip();
 
 Q_SIGNALS:
-    /// The slider has another value, by a person or by the application. Like all sliders of Qt it is not done yet when
-    /// it tells that: a slot that wants it gone calls deleteLater().
+    /// Emitted when the user or the application changes the value. As with any `QSlider`, a slot must not delete the
+    /// sender; it may call `deleteLater()`.
     void VolumeChanged(int value);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    /// The value of a property; repaints the slider when it changes.
+    /// The value of a property that repaints the slider when it changes.
     template<class Value>
-    class Q_DECL_HIDDEN Look
+    class Q_DECL_HIDDEN PaintedValue
     {
     public:
-        Look(VolumeSlider* slider, const Value& value) : slider(slider), value(value) {}
+        PaintedValue(VolumeSlider* slider, const Value& value) : slider(slider), value(value) {}
 
         operator const Value&() const { return value; }
         bool operator!=(const Value& other) const { return value != other; }
-        Look& operator=(const Value& newValue)
+        PaintedValue& operator=(const Value& newValue)
         {
             value = newValue;
             slider->update();
@@ -76,19 +90,19 @@ private:
 
     void ShowValue(int value);
 
-    Look<QColor> colorPeakValueBorder{this, Qt::transparent};
-    Look<QColor> colorBackground{this, {28, 32, 43}};
-    Look<QColor> colorPeakValue{this, {86, 91, 107}};
-    Look<QColor> colorPeakValueGradientFrom{this, {37, 127, 101}};
-    Look<QColor> colorPeakValueGradientTo{this, {37, 127, 101}};
-    Look<QColor> colorBackgroundDisable{this, {39, 45, 58}};
-    Look<QColor> colorPeakValueDisable{this, {68, 74, 90}};
-    Look<QColor> colorPeakValueGradientDisableFrom{this, {43, 92, 87}};
-    Look<QColor> colorPeakValueGradientDisableTo{this, {43, 92, 87}};
-    Look<int> tooltipOffsetX{this, 5};
-    Look<int> peakValueRectOffsetX{this, 5};
-    Look<int> peakValueRectOffsetY{this, 4};
-    Look<int> borderRadius{this, 0};
+    PaintedValue<QColor> colorPeakValueBorder{this, Qt::transparent};
+    PaintedValue<QColor> colorBackground{this, {28, 32, 43}};
+    PaintedValue<QColor> colorPeakValue{this, {86, 91, 107}};
+    PaintedValue<QColor> colorPeakValueGradientFrom{this, {37, 127, 101}};
+    PaintedValue<QColor> colorPeakValueGradientTo{this, {37, 127, 101}};
+    PaintedValue<QColor> colorBackgroundDisable{this, {39, 45, 58}};
+    PaintedValue<QColor> colorPeakValueDisable{this, {68, 74, 90}};
+    PaintedValue<QColor> colorPeakValueGradientDisableFrom{this, {43, 92, 87}};
+    PaintedValue<QColor> colorPeakValueGradientDisableTo{this, {43, 92, 87}};
+    PaintedValue<int> tooltipOffsetX{this, 5};
+    PaintedValue<int> peakValueRectOffsetX{this, 5};
+    PaintedValue<int> peakValueRectOffsetY{this, 4};
+    PaintedValue<int> borderRadius{this, 0};
     float volume = 0;
     float level = 0;
 };

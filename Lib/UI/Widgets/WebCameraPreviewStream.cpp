@@ -31,11 +31,11 @@ using Clock = std::chrono::steady_clock;
 
 } // namespace
 
-/// What the stream does, with all that the engine's threads may reach.
+/// The state that the stream shares with the engine's threads.
 ///
-/// One mutex guards the state. It is never held while the engine is called or a pump is joined, so neither can wait for
-/// the other; instead, each step that goes on after such a call looks whether what it began with still holds. A session
-/// is current as long as its observer is; each stop makes another epoch, into which nothing of an earlier one gets.
+/// One mutex guards the state. It is not held during calls of the engine and joins of the reader thread, which prevents
+/// deadlocks. Code after such a call therefore checks that its session is still current, which its observer identifies,
+/// and that its epoch, which each stop increments, has not ended.
 class WebCameraPreviewStream::Impl : public PreviewFeeder, public std::enable_shared_from_this<Impl>
 {
 public:
@@ -79,7 +79,7 @@ private:
     QTimer* const retryTimer; ///< a child of the stream; GUI thread only
     UI::Common::GuiThreadCall armRetryTimer;
 
-    mutable std::mutex mutex; ///< guards all that follows
+    mutable std::mutex mutex; ///< guards the members below
     WebCameraPreviewStream* stream;
     boost::intrusive_ptr<Acquis::ICaptureDevice> device;
     boost::intrusive_ptr<Acquis::IVideoCaptureSettings> settings;
@@ -91,7 +91,7 @@ private:
     RetrySchedule retries;
 };
 
-/// Passes on what one session reports, as long as there is somebody to hear it.
+/// Forwards the reports of one session to the stream, if it still exists.
 class WebCameraPreviewStream::Impl::Observer : public Acquis::ICaptureSessionObserver
 {
 public:
@@ -187,7 +187,7 @@ void WebCameraPreviewStream::Impl::Stop()
         ended = readerThread;
     }
     if (stopped.capture) {
-        // Destructors call this, too.
+        // Destructors call this function, so it must not throw.
         if (const auto failure = UI::Common::CatchException([&] { stopped.capture->Stop(); }))
             LOG_SOURCE.Error(133, "Zelkor::Vx::WebCameraPreviewStream::Impl::Stop", failure->c_str());
     }
@@ -195,7 +195,7 @@ void WebCameraPreviewStream::Impl::Stop()
     gate->Reset();
 }
 
-/// The end of a retry's delay: the session is built and started once more. False when that was tried often enough.
+/// Called when the delay of a retry has ended: creates and starts another session. Returns false after the last retry.
 /// GUI thread.
 bool WebCameraPreviewStream::Impl::Retry()
 {
@@ -218,7 +218,7 @@ bool WebCameraPreviewStream::Impl::Retry()
     EndReaderThread(ended);
     failed = Session();
     gate->Reset();
-    // An exception must not reach Qt's event loop, which calls this: it counts as one more failed start.
+    // The caller is Qt's event loop, so an exception counts as one more failed start.
     if (const auto failure = UI::Common::CatchException([&] { BuildSession(forEpoch); }))
         LOG_SOURCE.Error(150, "Zelkor::Vx::WebCameraPreviewStream::Impl::BuildSession", failure->c_str());
 
@@ -228,7 +228,7 @@ bool WebCameraPreviewStream::Impl::Retry()
         if (epoch != forEpoch)
             return true;
         started = session;
-        // Without a session nobody would report the next error.
+        // Without a session there is no error report that would schedule the next retry.
         if (!started.capture)
             RequestRetry();
     }
@@ -267,7 +267,7 @@ boost::intrusive_ptr<Acquis::IDeviceSettings> WebCameraPreviewStream::Impl::Sett
     return settingsHandle;
 }
 
-// A session whose frames cannot be read is as good as lost. The engine, which calls this, must not get the exception.
+// Treats an exception as an error of the session, since the caller is the engine.
 void WebCameraPreviewStream::Impl::HandleStarted(const Observer* from,
                                                  const boost::intrusive_ptr<Acquis::IFrameProvider>& provider)
 {
@@ -295,7 +295,7 @@ void WebCameraPreviewStream::Impl::StartReaderThread(const Observer* from, Acqui
     const std::lock_guard<std::mutex> lock(mutex);
     if (!IsCurrent(from) || readerThread)
         return;
-    // Started under the lock, so that whoever finds the pump finds its thread.
+    // Started under the lock, so that other threads never see a reader thread that they cannot join.
     const auto onFailure = [observer = session.observer](const std::string& what) { observer->HandleReadError(what); };
     auto started = std::make_shared<FrameReaderThread>(gate, std::move(reader), frameRate, onFailure);
     FrameReaderThread::Start(started);
@@ -325,7 +325,7 @@ void WebCameraPreviewStream::Impl::HandleStopped(const Observer* from)
         ended = readerThread;
     }
     EndReaderThread(ended);
-    // Under the lock, which a new session needs to get a pump: its picture shall not be cleared.
+    // A new session needs the lock to start its reader thread, so its picture is not cleared.
     const std::lock_guard<std::mutex> lock(mutex);
     if (IsCurrent(from))
         gate->Reset();
@@ -347,7 +347,7 @@ void WebCameraPreviewStream::Impl::BuildSession(unsigned forEpoch)
         built.capture->GetDeviceSettings(handles);
         built.observer = std::make_shared<Observer>(weak_from_this());
     }
-    // A session that comes too late leaves by `built`, after the lock.
+    // `built` releases an outdated session after the lock.
     const std::lock_guard<std::mutex> lock(mutex);
     if (epoch != forEpoch)
         return;
@@ -369,7 +369,7 @@ void WebCameraPreviewStream::Impl::StartSession(const Session& started)
         started.capture->Stop();
 }
 
-/// Stops a pump and takes it out of the state, unless another one is there already.
+/// Stops a reader thread and clears the member, unless another thread has replaced it.
 void WebCameraPreviewStream::Impl::EndReaderThread(const std::shared_ptr<FrameReaderThread>& ended)
 {
     if (!ended)
@@ -380,7 +380,7 @@ void WebCameraPreviewStream::Impl::EndReaderThread(const std::shared_ptr<FrameRe
         readerThread = nullptr;
 }
 
-/// Schedules a retry for a session that is lost, unless another one has replaced it.
+/// Schedules a retry for a failed session, unless another session has replaced it.
 void WebCameraPreviewStream::Impl::RetryIfCurrent(const Observer* from)
 {
     const std::lock_guard<std::mutex> lock(mutex);
@@ -388,15 +388,15 @@ void WebCameraPreviewStream::Impl::RetryIfCurrent(const Observer* from)
         RequestRetry();
 }
 
-/// Schedules a retry. Called under the lock.
+/// Schedules a retry. Call it under the lock.
 void WebCameraPreviewStream::Impl::RequestRetry()
 {
     if (stream && retries.Request(Clock::now()))
         armRetryTimer.Request();
 }
 
-/// Starts the timer for the retry that is due. A timer whose event an event filter swallows fires again, so the retry
-/// is late and not lost. GUI thread, under the lock.
+/// Starts the timer for the pending retry. An event filter that swallows its event delays the retry but does not
+/// prevent it, since QTimer then fires again. GUI thread, under the lock.
 void WebCameraPreviewStream::Impl::RunRetryTimer()
 {
     if (const auto due = retries.Due()) {

@@ -14,54 +14,53 @@ namespace UI {
 class VideoPreviewWidget;
 }
 
-/// Runs the live picture of a capture device in a `UI::VideoPreviewWidget`.
+/// Streams the live picture of a capture device to a `UI::VideoPreviewWidget`.
 ///
-/// The stream builds a capture session for the device, and while it runs, a thread of the stream's own reads the
-/// newest frame once per frame period and hands it to the preview. When the session reports an error the stream tries
-/// again 200 ms later, six times at most, and then gives up with `WebCameraOpenError`.
+/// The stream creates a capture session for the device. While the session runs, a worker thread reads the newest frame
+/// once per frame period and passes it to the preview. After an error the stream retries 200 ms later, up to six times,
+/// and then emits `WebCameraOpenError`.
 ///
-/// The stream is a child of its preview and dies with it, also while it runs. GUI thread, except `StartStream` and
-/// `StopStream`, which any thread may call.
+/// The preview owns the stream and may be deleted while the stream runs, which blocks until a running conversion has
+/// ended. GUI thread only, except `StartStream` and `StopStream`, which any thread may call.
 class VX_WIDGETS_EXPORT WebCameraPreviewStream : public QObject
 {
     Q_OBJECT
 
 public:
-    /// `preview` takes the frames and owns the stream.
+    /// `preview` shows the frames and owns the stream.
     explicit WebCameraPreviewStream(UI::VideoPreviewWidget* preview);
     ~WebCameraPreviewStream() override;
 
-    /// Stops what runs, and chooses what `StartStream` will show: the device's first mode called `settingsName`, or
-    /// its first one when none is; in this mode the rate that is exactly `frameRate` per second, or the last one when
-    /// none is. A null device leaves the stream without one. Rates below 1 per second are logged and ignored; a device
-    /// without a usable mode is logged and leaves the stream without a session.
+    /// Stops the stream and creates a session for the device's first mode called `settingsName`, or else its first
+    /// mode, at the rate equal to `frameRate` per second, or else the last rate of the mode. A null device removes the
+    /// session. Logs and ignores rates below 1 per second; logs a device without a usable mode, which gets no session.
     ///
-    /// Throws `std::logic_error` when the engine finds the mode incompatible with the device; the stream then has the
-    /// device and no session. In a retry, which Qt's event loop calls and no exception may leave, the error is logged
-    /// and counts as a failed start.
+    /// Throws `std::logic_error` if the engine rejects the mode; the stream then has a device but no session. In a
+    /// retry, which runs in the event loop, the exception is logged and counts as a failed start.
     void SetDevice(const boost::intrusive_ptr<Acquis::ICaptureDevice>& device, const QString& settingsName,
                    double frameRate);
 
-    /// Starts the session; the picture comes when the device is open. Does nothing without a session, so after
-    /// `StopStream` it needs `SetDevice` first.
+    /// Starts the session; frames appear once the device is open. Does nothing without a session, so call `SetDevice`
+    /// again after `StopStream`. Any thread.
     void StartStream();
 
-    /// Stops and drops the session, and clears the preview. A retry that was due does not come.
+    /// Stops and releases the session, cancels a pending retry and resets the preview. Blocks until the worker thread
+    /// has ended. Any thread.
     void StopStream();
 
-    /// Whether the device has a settings dialog of its own.
+    /// Returns whether the device has a settings dialog.
     bool IsWebcameraSettingsAvailable() const;
 
-    /// Opens that dialog; nothing where there is none.
+    /// Opens the settings dialog of the device, if it has one.
     void ShowCurrentDeviceSettings();
 
 Q_SIGNALS:
-    /// The device could not be opened, nor in any of the six retries. Comes once for a start, on the GUI thread.
+    /// Emitted on the GUI thread when the start and six retries have failed, once for each `StartStream`.
     void WebCameraOpenError();
 
 private:
     class Q_DECL_HIDDEN Impl;
-    std::shared_ptr<Impl> impl; ///< the engine's threads may hold on to it for the length of a call
+    std::shared_ptr<Impl> impl; ///< shared with the engine's threads during a call
 };
 
 } // namespace Zelkor::Vx

@@ -88,21 +88,21 @@ void ZGraphicsShadowEffect::SetColor(const QColor& color)
 
 void ZGraphicsShadowEffect::draw(QPainter* painter)
 {
-    if (!(impl->brightnessLevel > 0)) { // nor when it is not a number
+    if (!(impl->brightnessLevel > 0)) { // true for NaN
         drawSource(painter);
         return;
     }
-    // By way of a pixmap: drawSource() paints with a painter of its own, after which this one is of no use any more.
+    // Uses a pixmap, since drawSource() creates another painter, after which this one cannot draw.
     const QPixmap source = sourcePixmap(Qt::LogicalCoordinates, nullptr, QGraphicsEffect::PadToEffectiveBoundingRect);
     const qreal ratio = source.devicePixelRatio();
     const QSize size(qRound(source.width() / ratio), qRound(source.height() / ratio));
-    const InnerShadow::Input rim{size, impl->offset, impl->brightnessLevel, impl->color.rgb()};
+    const InnerShadow::Input shadow{size, impl->offset, impl->brightnessLevel, impl->color.rgb()};
     painter->drawPixmap(QPointF(0, 0), source);
-    // Where logical pixels share device pixels, bands drawn one by one would show seams.
+    // At fractional ratios, logical pixels share device pixels, and separate bands would show seams.
     if (ratio == std::floor(ratio))
-        InnerShadow::DrawBands(*painter, rim);
-    else // over the source to its last pixel, where that was rounded to whole ones
-        painter->drawImage(QRectF(QPointF(0, 0), QSizeF(source.size()) / ratio), InnerShadow::WholeImage(rim));
+        InnerShadow::DrawBands(*painter, shadow);
+    else // covers the last pixel of the source, whose size is rounded to device pixels
+        painter->drawImage(QRectF(QPointF(0, 0), QSizeF(source.size()) / ratio), InnerShadow::WholeImage(shadow));
 }
 
 } // namespace Zelkor

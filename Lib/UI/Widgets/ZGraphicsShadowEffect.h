@@ -10,35 +10,33 @@
 
 namespace Zelkor {
 
-/// Draws a soft dark rim inside the edges of a widget.
+/// A graphics effect that draws a soft inner shadow along the edges of a widget.
 ///
-/// The widget is drawn as it is, and over it bands of colour whose opacity falls off from each edge inwards, in steps
-/// of 1, 1/2, 1/3 and so on. It enlarges nothing and blurs nothing. `QWidget::setGraphicsEffect` makes the widget its
-/// owner. GUI thread only.
-///
-/// Every setter emits its signal and repaints, also with the value that is set already.
+/// It draws bands of colour over the widget whose opacity decreases from each edge inwards, by 1, 1/2, 1/3 and so on.
+/// It does not blur the widget or enlarge its bounding rectangle. `QWidget::setGraphicsEffect` takes ownership. Each
+/// setter emits its signal and repaints, even if the value does not change. GUI thread only.
 class VX_WIDGETS_EXPORT ZGraphicsShadowEffect : public QGraphicsEffect
 {
     Q_OBJECT
     Q_PROPERTY(QPointF offset READ Offset WRITE SetOffset NOTIFY OffsetChanged)
+    ///< widths of the left and right (x) and the top and bottom (y) bands in logical pixels; default (0, 0)
     Q_PROPERTY(qreal xOffset READ XOffset WRITE SetXOffset NOTIFY OffsetChanged)
+    ///< width of the left and right bands in logical pixels; default 0
     Q_PROPERTY(qreal yOffset READ YOffset WRITE SetYOffset NOTIFY OffsetChanged)
+    ///< width of the top and bottom bands in logical pixels; default 0
     Q_PROPERTY(qreal brightnessLevel READ BrightnessLevel WRITE SetBrightnessLevel NOTIFY BrightnessLevelChanged)
+    ///< factor of the opacity, none for values up to 0; default 0
     Q_PROPERTY(QColor color READ Color WRITE SetColor NOTIFY ColorChanged)
+    ///< colour of the bands, alpha ignored; default black
 
 public:
     explicit ZGraphicsShadowEffect(QObject* parent);
     ~ZGraphicsShadowEffect() override;
 
-    /// The widths of the bands in logical pixels: x at the left and right, y at the top and bottom; 0 by default.
     QPointF Offset() const;
     qreal XOffset() const;
     qreal YOffset() const;
-
-    /// Strength of the rim; 0, the default, and less switch it off.
     qreal BrightnessLevel() const;
-
-    /// Black by default. Its own alpha does not count.
     QColor Color() const;
 
 public Q_SLOTS:

@@ -41,7 +41,7 @@ private Q_SLOTS:
         };
         for (const auto& [name, size, offset, volume, level, levelBar, volumeBar] : rows) {
             InRow(name);
-            const auto bars = LevelMeterGeometry::BarsOf({size, offset.x(), offset.y(), volume, level});
+            const auto bars = LevelMeterGeometry::ComputeBars({size, offset.x(), offset.y(), volume, level});
             QCOMPARE(bars.level, levelBar);
             QCOMPARE(bars.volume, volumeBar);
 
