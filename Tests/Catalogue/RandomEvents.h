@@ -2,7 +2,7 @@
 
 #include <Examples/Support/BuiltInStyleSheets.h>
 
-#include <Support/LoopWatch.h>
+#include <Support/ModalWatcher.h>
 
 #include <QEvent>
 #include <QPointer>
@@ -83,5 +83,5 @@ private:
     std::mt19937 nestedRandom; ///< of the events in dialogs and menus, which may open when the clock says
     MarkingTranslator translator;
     bool isTranslated = false;
-    Support::LoopWatch loops;
+    Support::ModalWatcher loops;
 };

@@ -2,11 +2,11 @@
 #include <Catalogue/Scene.h>
 #include <Examples/Support/BuiltInStyleSheets.h>
 
+#include <Support/AnySignalSpy.h>
 #include <Support/Input.h>
-#include <Support/LinkTrap.h>
-#include <Support/LoopWatch.h>
-#include <Support/SignalTap.h>
+#include <Support/ModalWatcher.h>
 #include <Support/TestCase.h>
+#include <Support/UrlHandlerStub.h>
 
 #include <QAbstractItemView>
 #include <QAccessible>
@@ -297,7 +297,7 @@ private Q_SLOTS:
             QVERIFY2(part, "gone after keys for another part");
             part->setFocus(Qt::TabFocusReason);
             int answers = 0;
-            const Support::SignalTap tap(part, [&answers] { ++answers; });
+            const Support::AnySignalSpy tap(part, [&answers] { ++answers; });
             const QString name = QStringLiteral("%1 %2 ").arg(part->metaObject()->className(), part->objectName());
             for (const Qt::Key key : KEYS)
                 answers += HearChanges(*scene, name + QKeySequence(key).toString(), [&] { scene->Type(key); });
@@ -343,8 +343,8 @@ private:
             events.Clear();
             last = now;
         };
-        const Support::LinkTrap links;
-        const Support::LoopWatch loops([&](QWidget* window) {
+        const Support::UrlHandlerStub links;
+        const Support::ModalWatcher loops([&](QWidget* window) {
             opened = true;
             if (QApplication::activePopupWidget() == window)
                 CheckExpanded(scene);

@@ -1,8 +1,8 @@
 #include <Catalogue/Scene.h>
 #include <Examples/Support/BuiltInStyleSheets.h>
 
-#include <Support/Census.h>
-#include <Support/LoopWatch.h>
+#include <Support/LeakCheck.h>
+#include <Support/ModalWatcher.h>
 #include <Support/TestCase.h>
 
 #include <QPixmapCache>
@@ -63,7 +63,7 @@ private Q_SLOTS:
 
     void comesAndGoes()
     {
-        const Support::Census census;
+        const Support::LeakCheck census;
         QFETCH(QString, className);
         QFETCH(bool, shown);
         const Entry& entry = *FindEntry(className);
@@ -88,11 +88,11 @@ private Q_SLOTS:
     // Dialogs and menus that run an event loop lose the widget in the middle of it; other pop-ups stay open with it.
     void goesWithWhatIsOpen()
     {
-        const Support::Census census;
+        const Support::LeakCheck census;
         for (const Qt::Key key : {Qt::Key_Space, Qt::Key_Down, Qt::Key_F4}) {
             const auto scene = SceneOfThisRow();
             scene->Show();
-            const Support::LoopWatch loops([&scene](QWidget*) { delete scene->window; });
+            const Support::ModalWatcher loops([&scene](QWidget*) { delete scene->window; });
             for (const QPointer<QWidget>& part : scene->KeyboardParts()) {
                 if (!part)
                     continue;

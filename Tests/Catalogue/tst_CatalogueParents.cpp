@@ -2,11 +2,11 @@
 #include <Catalogue/Scene.h>
 #include <Examples/Support/BuiltInStyleSheets.h>
 
-#include <Support/Census.h>
-#include <Support/LinkTrap.h>
-#include <Support/LoopWatch.h>
-#include <Support/SignalTap.h>
+#include <Support/AnySignalSpy.h>
+#include <Support/LeakCheck.h>
+#include <Support/ModalWatcher.h>
 #include <Support/TestCase.h>
+#include <Support/UrlHandlerStub.h>
 
 #include <QGraphicsProxyWidget>
 #include <QGraphicsView>
@@ -149,7 +149,7 @@ private:
     const Home& home;
     QStringList answers;
     bool isListening = false; ///< while a press or a key is delivered, and not what leads to it
-    std::deque<Support::SignalTap> taps;
+    std::deque<Support::AnySignalSpy> taps;
 };
 
 // Empty when both lists have the same answers.
@@ -190,7 +190,7 @@ private Q_SLOTS:
 
     void worksWhereItIsMade()
     {
-        const Support::Census census;
+        const Support::LeakCheck census;
         QFETCH(int, home);
         const QStringList expected = AnswersInPlainWindow();
         QWidget window;
@@ -205,7 +205,7 @@ private Q_SLOTS:
 
     void worksWhereItIsMovedTo()
     {
-        const Support::Census census;
+        const Support::LeakCheck census;
         QFETCH(int, home);
         const QStringList expected = AnswersInPlainWindow();
         QWidget plain;
@@ -234,7 +234,7 @@ private Q_SLOTS:
     // As well as one that is made by hand like it.
     void worksInACompiledForm()
     {
-        const Support::Census census;
+        const Support::LeakCheck census;
         QFETCH(QString, className);
         const Entry& entry = *FindEntry(className);
         QWidget window;
@@ -324,8 +324,8 @@ private:
 
     static QStringList Work(QWidget* widget, const Home& home)
     {
-        const Support::LinkTrap links;
-        const Support::LoopWatch loops([&home](QWidget* window) {
+        const Support::UrlHandlerStub links;
+        const Support::ModalWatcher loops([&home](QWidget* window) {
             if (window != home.popUp)
                 Support::Dismiss(window);
         });

@@ -2,9 +2,9 @@
 #include <Catalogue/RandomEvents.h>
 #include <Examples/Support/BuiltInStyleSheets.h>
 
-#include <Support/Census.h>
-#include <Support/LinkTrap.h>
+#include <Support/LeakCheck.h>
 #include <Support/TestCase.h>
+#include <Support/UrlHandlerStub.h>
 
 #include <functional>
 
@@ -57,7 +57,7 @@ private Q_SLOTS:
         qInfo("--seed %llu --events %d --widget %s", seed, eventCount, qPrintable(className));
         const Entry& entry = *FindEntry(className);
         std::mt19937_64 random(SeedOf(className, seed));
-        const Support::Census census;
+        const Support::LeakCheck census;
         for (int sent = 0; sent < eventCount && !QTest::currentTestFailed(); sent += EVENTS_IN_ONE_STATE) {
             const State& state = entry.states[int(random() % quint64(entry.states.size()))];
             InRow(QStringLiteral("%1, events from %2").arg(state.name).arg(sent));
@@ -95,7 +95,7 @@ int main(int argc, char* argv[])
 {
     Support::PrepareProcess(argv[0]);
     QApplication application(argc, argv);
-    const Support::LinkTrap links;
+    const Support::UrlHandlerStub links;
     tst_CatalogueRandomEvents test;
     const QHash<QString, std::function<void(const QString&)>> options{
         {"--seed", [&test](const QString& value) { test.seed = value.toULongLong(); }},

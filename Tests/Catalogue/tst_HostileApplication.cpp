@@ -1,11 +1,11 @@
 #include <Catalogue/Scene.h>
 #include <Examples/Support/BuiltInStyleSheets.h>
 
-#include <Support/Census.h>
-#include <Support/LinkTrap.h>
-#include <Support/LoopWatch.h>
-#include <Support/SignalTap.h>
+#include <Support/AnySignalSpy.h>
+#include <Support/LeakCheck.h>
+#include <Support/ModalWatcher.h>
 #include <Support/TestCase.h>
+#include <Support/UrlHandlerStub.h>
 
 #include <QAbstractSlider>
 #include <QMetaEnum>
@@ -73,7 +73,7 @@ QString NameOf(const QWidget* part, const QMetaMethod& signal)
 PartSignals SignalsOfWork(Scene& scene)
 {
     PartSignals emitted;
-    std::deque<Support::SignalTap> loggers;
+    std::deque<Support::AnySignalSpy> loggers;
     const auto parts = PartsOf(scene.widget);
     for (int i = 0; i < parts.size(); ++i) {
         if (parts[i]->window() != scene.window)
@@ -220,9 +220,9 @@ private Q_SLOTS:
 
     void worksAfterAttackInSlot()
     {
-        const Support::Census census;
-        const Support::LinkTrap links;
-        const Support::LoopWatch loops(Support::Dismiss);
+        const Support::LeakCheck census;
+        const Support::UrlHandlerStub links;
+        const Support::ModalWatcher loops(Support::Dismiss);
         QFETCH(int, attack);
         const bool isDeletion = attack == 0;
         const Calm calm = CalmOfThisRow();
@@ -238,7 +238,7 @@ private Q_SLOTS:
             elsewhere.show();
             {
                 bool isOver = false;
-                const Support::SignalTap tap(sender, {signal}, [&] {
+                const Support::AnySignalSpy tap(sender, {signal}, [&] {
                     if (!std::exchange(isOver, true) && scene->widget)
                         ATTACKS[attack].act(*scene, &elsewhere);
                 });
@@ -261,13 +261,13 @@ private Q_SLOTS:
 
     void worksAfterLosingAnEvent()
     {
-        const Support::LinkTrap links;
+        const Support::UrlHandlerStub links;
         const Calm calm = CalmOfThisRow();
         QStringList deaf;
         for (const QEvent::Type kind : calm.kinds) {
             auto thief = std::make_unique<EventThief>(kind);
             // Sees each event before the thief does, or no dialog would ever close.
-            const Support::LoopWatch loops(Support::Dismiss);
+            const Support::ModalWatcher loops(Support::Dismiss);
             const auto scene = SceneOfThisRow();
             scene->Show();
             Work(*scene);
@@ -292,7 +292,7 @@ private:
         const QString key = QStringLiteral("%1 %2").arg(className).arg(state);
         if (!calms.contains(key)) {
             const EventKinds seen;
-            const Support::LoopWatch loops(Support::Dismiss);
+            const Support::ModalWatcher loops(Support::Dismiss);
             const auto scene = SceneOfThisRow();
             scene->Show();
             const PartSignals first = SignalsOfWork(*scene);

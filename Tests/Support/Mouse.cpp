@@ -1,6 +1,6 @@
 #include <Support/Mouse.h>
 
-#include <Support/EventWatch.h>
+#include <Support/EventSpy.h>
 
 #include <QMouseEvent>
 #include <QProcess>
@@ -65,10 +65,10 @@ void Release(int button)
 struct PointerWatch
 {
     QPoint seen;
-    EventWatch watch{qApp, [this](QEvent::Type type, QEvent* event) {
-                         if (type == QEvent::MouseMove)
-                             seen = static_cast<QMouseEvent*>(event)->globalPos();
-                     }};
+    EventSpy watch{qApp, [this](QEvent::Type type, QEvent* event) {
+                       if (type == QEvent::MouseMove)
+                           seen = static_cast<QMouseEvent*>(event)->globalPos();
+                   }};
 };
 
 } // namespace

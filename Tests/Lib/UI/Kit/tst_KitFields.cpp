@@ -3,7 +3,7 @@
 #include <UI/Kit/ZDoubleSpinBox.h>
 #include <UI/Kit/ZSpinBox.h>
 
-#include <Support/EventWatch.h>
+#include <Support/EventSpy.h>
 #include <Support/TestCase.h>
 
 #include <QAccessible>
@@ -25,7 +25,7 @@ private:
     {
         int count = 0;
         QWidget* window = field->window();
-        const Support::EventWatch watch(window, [&](QEvent::Type type, QEvent*) { count += type == QEvent::Wheel; });
+        const Support::EventSpy watch(window, [&](QEvent::Type type, QEvent*) { count += type == QEvent::Wheel; });
         const QPoint place = field->pos() + QPoint(2, 2);
         QWheelEvent event(place, window->mapToGlobal(place), QPoint(0, pixels), QPoint(0, 120 * notches), Qt::NoButton,
                           Qt::NoModifier, Qt::NoScrollPhase, false);

@@ -1,6 +1,6 @@
 #include <UI/Kit/QLedMatrix.h>
 
-#include <Support/PaintWatch.h>
+#include <Support/PaintSpy.h>
 #include <Support/Picture.h>
 #include <Support/TestCase.h>
 
@@ -103,7 +103,7 @@ private Q_SLOTS:
         matrix.resize(400, 200);
         matrix.show();
         QVERIFY(QTest::qWaitForWindowExposed(&matrix));
-        Support::PaintWatch paints(&matrix);
+        Support::PaintSpy paints(&matrix);
         const auto painted = [&] {
             const QVector<QRegion> regions = paints.Take();
             return regions.size() == 1 ? regions[0].boundingRect() : QRect();

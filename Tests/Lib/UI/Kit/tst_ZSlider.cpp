@@ -3,8 +3,8 @@
 #include <UI/Kit/ZSliderThumb.h>
 #include <UI/Kit/ZTimelineSlider.h>
 
+#include <Support/AnySignalSpy.h>
 #include <Support/Input.h>
-#include <Support/SignalTap.h>
 #include <Support/TestCase.h>
 
 #include <QAccessible>
@@ -314,7 +314,7 @@ private Q_SLOTS:
                 QPointer<Trimmer> slider = new Trimmer;
                 QPointer<Thumb> thumb = slider->add("mark", 20);
                 slider->show();
-                const Support::SignalTap tap(thumb, [&] {
+                const Support::AnySignalSpy tap(thumb, [&] {
                     if (heard++ == moment) {
                         isPulled = true;
                         pull.second(slider, thumb);

@@ -1,6 +1,6 @@
 #include <UI/Widgets/ButtonWithPopUpList.h>
 
-#include <Support/LoopWatch.h>
+#include <Support/ModalWatcher.h>
 #include <Support/TestCase.h>
 
 #include <QAccessible>
@@ -175,7 +175,7 @@ private Q_SLOTS:
         button->show();
         QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(button.get());
         bool isOpened = false;
-        const Support::LoopWatch loops([&](QWidget* menu) {
+        const Support::ModalWatcher loops([&](QWidget* menu) {
             isOpened = true;
             QVERIFY(accessible->state().expanded);
             QTest::keyClick(menu, Qt::Key_Down);
@@ -211,7 +211,7 @@ private Q_SLOTS:
         QCOMPARE(clicked.size(), 1);
         bool isOpened = false;
         connect(button->menu(), &QMenu::aboutToShow, [&] { isOpened = true; });
-        const Support::LoopWatch loops(Support::Dismiss);
+        const Support::ModalWatcher loops(Support::Dismiss);
         actions->doAction(QAccessibleActionInterface::showMenuAction());
         QTRY_VERIFY(isOpened);
     }

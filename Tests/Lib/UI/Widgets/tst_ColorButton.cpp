@@ -1,7 +1,7 @@
 #include <UI/Widgets/ButtonWithPopUpContainer.h>
 #include <UI/Widgets/ColorButton.h>
 
-#include <Support/EventWatch.h>
+#include <Support/EventSpy.h>
 #include <Support/Picture.h>
 #include <Support/TestCase.h>
 
@@ -48,7 +48,7 @@ void LogSignals(const ColorButton* button, QStringList& log)
 
 void WatchAsLongAsItLives(QObject* object, std::function<void(QEvent::Type, QEvent*)> see)
 {
-    (new Support::EventWatch(object, std::move(see)))->setParent(object);
+    (new Support::EventSpy(object, std::move(see)))->setParent(object);
 }
 
 } // namespace

@@ -1,6 +1,6 @@
 #include <UI/Widgets/CountdownIndicatorWidget.h>
 
-#include <Support/EventWatch.h>
+#include <Support/EventSpy.h>
 #include <Support/TestCase.h>
 
 #include <QAccessible>
@@ -59,7 +59,7 @@ private Q_SLOTS:
                                 "#captionsFrame QLabel { min-width: 90px }");
         countdown.resize(400, 100);
         QStringList painted;
-        std::list<Support::EventWatch> watches;
+        std::list<Support::EventSpy> watches;
         for (auto* label : countdown.findChildren<QLabel*>()) {
             watches.emplace_back(label, [&painted, label](QEvent::Type type, auto) {
                 if (type == QEvent::Paint)

@@ -2,7 +2,7 @@
 
 #include <Zelkor/Util/ImageGenerator.h>
 
-#include <Support/PaintWatch.h>
+#include <Support/PaintSpy.h>
 #include <Support/Picture.h>
 #include <Support/TestCase.h>
 
@@ -70,7 +70,7 @@ private Q_SLOTS:
         CursorHighlightPreviewWidget preview(nullptr);
         preview.show();
         QVERIFY(QTest::qWaitForWindowExposed(&preview));
-        Support::PaintWatch watch(&preview);
+        Support::PaintSpy watch(&preview);
         preview.SetDiameter(2 * preview.GetRadius() + 1);
         preview.SetColor(preview.GetColor());
         preview.SetBorderColor(preview.GetBorderColor());

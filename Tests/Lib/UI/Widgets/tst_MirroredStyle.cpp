@@ -1,6 +1,6 @@
 #include <UI/Widgets/ScrollablePanelWithItem.h>
 
-#include <Support/EventWatch.h>
+#include <Support/EventSpy.h>
 #include <Support/Picture.h>
 #include <Support/TestCase.h>
 
@@ -65,8 +65,8 @@ private Q_SLOTS:
         Scene scene;
         qApp->setStyleSheet("QToolButton { background: red }");
         int polished = 0;
-        Support::EventWatch watch(scene.plain,
-                                  [&](QEvent::Type type, QEvent*) { polished += type == QEvent::StyleChange; });
+        Support::EventSpy watch(scene.plain,
+                                [&](QEvent::Type type, QEvent*) { polished += type == QEvent::StyleChange; });
         QApplication::setLayoutDirection(Qt::RightToLeft);
         QCOMPARE(polished, 0);
     }

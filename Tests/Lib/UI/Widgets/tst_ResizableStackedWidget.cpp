@@ -1,6 +1,6 @@
 #include <UI/Widgets/ResizableStackedWidget.h>
 
-#include <Support/EventWatch.h>
+#include <Support/EventSpy.h>
 #include <Support/TestCase.h>
 
 #include <QLabel>
@@ -38,7 +38,7 @@ private Q_SLOTS:
         const QSize around = window.size() - stack.size();
 
         int resized = 0;
-        Support::EventWatch watch(&stack, [&](QEvent::Type type, QEvent*) { resized += type == QEvent::Resize; });
+        Support::EventSpy watch(&stack, [&](QEvent::Type type, QEvent*) { resized += type == QEvent::Resize; });
         for (int i = 1; i <= 100; ++i) {
             stack.setCurrentIndex(i % 2);
             QCoreApplication::processEvents();
@@ -56,7 +56,7 @@ private Q_SLOTS:
         stack.setCurrentIndex(1);
         {
             // This one leads on while it is measured.
-            Support::EventWatch leadOn(pages[0], [&](QEvent::Type, QEvent*) { stack.setCurrentIndex(1); });
+            Support::EventSpy leadOn(pages[0], [&](QEvent::Type, QEvent*) { stack.setCurrentIndex(1); });
             stack.setCurrentIndex(0);
         }
         QCOMPARE(stack.size(), QSize(200, 100));

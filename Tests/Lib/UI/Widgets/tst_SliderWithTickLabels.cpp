@@ -1,6 +1,6 @@
 #include <UI/Widgets/SliderWithTickLabels.h>
 
-#include <Support/EventWatch.h>
+#include <Support/EventSpy.h>
 #include <Support/TestCase.h>
 
 #include <QLabel>
@@ -143,8 +143,8 @@ private Q_SLOTS:
                 widget.resize(width, widget.height());
                 QTest::qWait(0);
                 int requests = 0;
-                const Support::EventWatch watch(widget.findChild<QFrame*>("labelsFrame"),
-                                                [&](auto type, auto) { requests += type == QEvent::LayoutRequest; });
+                const Support::EventSpy watch(widget.findChild<QFrame*>("labelsFrame"),
+                                              [&](auto type, auto) { requests += type == QEvent::LayoutRequest; });
                 QCoreApplication::processEvents();
                 QCOMPARE(requests, 0); // at rest
                 checkPlaces(widget, texts);

@@ -1,7 +1,7 @@
 #include <UI/Widgets/VideoPreviewWidget.h>
 
+#include <Support/EventSpy.h>
 #include <Support/EventSwallower.h>
-#include <Support/EventWatch.h>
 #include <Support/Frames.h>
 #include <Support/LogCapture.h>
 #include <Support/Picture.h>
@@ -147,7 +147,7 @@ private Q_SLOTS:
         scene.Grab();
         QCoreApplication::processEvents();
         QVector<QEvent::Type> events;
-        const Support::EventWatch watch(scene.preview, [&](QEvent::Type type, QEvent*) { events += type; });
+        const Support::EventSpy watch(scene.preview, [&](QEvent::Type type, QEvent*) { events += type; });
         std::vector<boost::intrusive_ptr<StandIn::VideoFrame>> frames;
         for (int grey = 0; grey < 200; ++grey)
             frames.push_back(GreyFrame({64, 48}, grey));
@@ -200,8 +200,8 @@ private Q_SLOTS:
         Scene scene(QSize(64, 48));
         QCoreApplication::processEvents();
         int paints = 0;
-        const Support::EventWatch watch(scene.preview,
-                                        [&](QEvent::Type type, QEvent*) { paints += type == QEvent::Paint; });
+        const Support::EventSpy watch(scene.preview,
+                                      [&](QEvent::Type type, QEvent*) { paints += type == QEvent::Paint; });
         const Support::EventSwallower swallower;
         const auto paintsAfterOneMore = [&] {
             std::thread([&] { scene.preview->UpdateView(GreyFrame({64, 48}, 100)); }).join();

@@ -2,7 +2,7 @@
 #include <UI/Widgets/VolumeSlider.h>
 
 #include <Support/LogCapture.h>
-#include <Support/PaintWatch.h>
+#include <Support/PaintSpy.h>
 #include <Support/Picture.h>
 #include <Support/TestCase.h>
 
@@ -99,7 +99,7 @@ private Q_SLOTS:
         slider.resize(30, 100);
         slider.setProperty("borderRadius", 3);
         slider.setProperty("colorPeakValueBorder", QColor(Qt::red));
-        Support::PaintWatch paints(&slider);
+        Support::PaintSpy paints(&slider);
         slider.SetVolumes(0, 0.9F);
         QVERIFY(paints.Take().isEmpty()); // hidden
         slider.show();
@@ -138,7 +138,7 @@ private Q_SLOTS:
         slider.resize(30, 100);
         slider.show();
         QVERIFY(QTest::qWaitForWindowExposed(&slider));
-        Support::PaintWatch paints(&slider);
+        Support::PaintSpy paints(&slider);
         const bool isColor = property.startsWith("color");
         for (const QVector<QRegion>& expected : {QVector<QRegion>{slider.rect()}, QVector<QRegion>()}) {
             slider.setProperty(property, isColor ? QVariant(QColor(Qt::red)) : QVariant(9));

@@ -1,7 +1,7 @@
 #include <UI/Kit/ZSlider.h>
 #include <UI/Kit/ZSliderThumb.h>
 
-#include <Support/PaintWatch.h>
+#include <Support/PaintSpy.h>
 #include <Support/Picture.h>
 #include <Support/TestCase.h>
 
@@ -88,7 +88,7 @@ private Q_SLOTS:
         slider.defaultThumb()->show();
         slider.show();
         QVERIFY(QTest::qWaitForWindowExposed(&slider));
-        Support::PaintWatch paints(&slider);
+        Support::PaintSpy paints(&slider);
         slider.setValue(91);
         const auto painted = paints.Take();
         QVERIFY(painted.size() == 1 && painted[0].boundingRect().width() < 20);

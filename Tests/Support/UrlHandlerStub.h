@@ -6,13 +6,13 @@
 namespace Support {
 
 /// While it lives, web pages and messages are not opened by another program.
-class LinkTrap : public QObject
+class UrlHandlerStub : public QObject
 {
     Q_OBJECT
 
 public:
-    LinkTrap();
-    ~LinkTrap() override;
+    UrlHandlerStub();
+    ~UrlHandlerStub() override;
 
 private Q_SLOTS:
     void Swallow(const QUrl&) {}

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <Support/EventWatch.h>
+#include <Support/EventSpy.h>
 
 #include <QCoreApplication>
 #include <QPaintEvent>
@@ -13,10 +13,10 @@
 namespace Support {
 
 /// Watches what a widget has to paint while it lives.
-class PaintWatch
+class PaintSpy
 {
 public:
-    explicit PaintWatch(QWidget* widget)
+    explicit PaintSpy(QWidget* widget)
         : watch(widget, [this](QEvent::Type type, QEvent* event) {
               if (type == QEvent::Paint)
                   paints += static_cast<QPaintEvent*>(event)->region();
@@ -35,7 +35,7 @@ public:
 
 private:
     QVector<QRegion> paints;
-    EventWatch watch;
+    EventSpy watch;
 };
 
 } // namespace Support

@@ -6,11 +6,11 @@ namespace Support {
 
 /// Fails the running test when, at its end, there are other widgets or objects of the application than at its
 /// beginning.
-class Census
+class LeakCheck
 {
 public:
-    Census();
-    ~Census();
+    LeakCheck();
+    ~LeakCheck();
 
 private:
     QStringList objects;

@@ -12,13 +12,13 @@ namespace Support {
 QVector<QMetaMethod> SignalsOf(const QObject* object);
 
 /// While it lives, calls `hear` at every signal of `object`, or at those of `heard`, whatever their arguments.
-class SignalTap : public QObject
+class AnySignalSpy : public QObject
 {
     Q_OBJECT
 
 public:
-    SignalTap(const QObject* object, std::function<void()> hear);
-    SignalTap(const QObject* object, const QVector<QMetaMethod>& heard, std::function<void()> hear);
+    AnySignalSpy(const QObject* object, std::function<void()> hear);
+    AnySignalSpy(const QObject* object, const QVector<QMetaMethod>& heard, std::function<void()> hear);
 
 private Q_SLOTS:
     void Hear() { hear(); }

@@ -1,4 +1,4 @@
-#include <Support/SignalTap.h>
+#include <Support/AnySignalSpy.h>
 
 #include <utility>
 
@@ -15,11 +15,11 @@ QVector<QMetaMethod> SignalsOf(const QObject* object)
     return found;
 }
 
-SignalTap::SignalTap(const QObject* object, std::function<void()> hear)
-    : SignalTap(object, SignalsOf(object), std::move(hear))
+AnySignalSpy::AnySignalSpy(const QObject* object, std::function<void()> hear)
+    : AnySignalSpy(object, SignalsOf(object), std::move(hear))
 {}
 
-SignalTap::SignalTap(const QObject* object, const QVector<QMetaMethod>& heard, std::function<void()> hear)
+AnySignalSpy::AnySignalSpy(const QObject* object, const QVector<QMetaMethod>& heard, std::function<void()> hear)
     : hear(std::move(hear))
 {
     const QMetaMethod slot = metaObject()->method(metaObject()->indexOfSlot("Hear()"));

@@ -8,10 +8,10 @@ namespace Support {
 
 /// While it lives, calls `act` for every modal dialog and menu that opens, out of the event loop: from inside the one
 /// that the dialog or menu runs, if it does, so that nobody waits for it.
-class LoopWatch : public QObject
+class ModalWatcher : public QObject
 {
 public:
-    explicit LoopWatch(std::function<void(QWidget*)> act);
+    explicit ModalWatcher(std::function<void(QWidget*)> act);
 
 private:
     bool eventFilter(QObject* object, QEvent* event) override;

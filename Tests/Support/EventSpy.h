@@ -9,10 +9,10 @@
 namespace Support {
 
 /// While it lives, shows `see` each event of `object` before the object gets it.
-class EventWatch : public QObject
+class EventSpy : public QObject
 {
 public:
-    EventWatch(QObject* object, std::function<void(QEvent::Type, QEvent*)> see) : see(std::move(see))
+    EventSpy(QObject* object, std::function<void(QEvent::Type, QEvent*)> see) : see(std::move(see))
     {
         object->installEventFilter(this);
     }

@@ -1,4 +1,4 @@
-#include <Support/Census.h>
+#include <Support/LeakCheck.h>
 
 #include <QApplication>
 #include <QWidget>
@@ -34,9 +34,9 @@ QStringList Objects()
 
 } // namespace
 
-Census::Census() : objects(Objects()) {}
+LeakCheck::LeakCheck() : objects(Objects()) {}
 
-Census::~Census()
+LeakCheck::~LeakCheck()
 {
     // The first one may make objects that want to be deleted as well.
     for (int i = 0; i < 2; ++i) {

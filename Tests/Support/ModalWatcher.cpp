@@ -1,4 +1,4 @@
-#include <Support/LoopWatch.h>
+#include <Support/ModalWatcher.h>
 
 #include <QApplication>
 #include <QDialog>
@@ -10,12 +10,12 @@
 
 namespace Support {
 
-LoopWatch::LoopWatch(std::function<void(QWidget*)> act) : act(std::move(act))
+ModalWatcher::ModalWatcher(std::function<void(QWidget*)> act) : act(std::move(act))
 {
     qApp->installEventFilter(this);
 }
 
-bool LoopWatch::eventFilter(QObject* object, QEvent* event)
+bool ModalWatcher::eventFilter(QObject* object, QEvent* event)
 {
     if (event->type() != QEvent::Show || !object->isWidgetType())
         return false;

@@ -1,4 +1,4 @@
-#include <Support/LinkTrap.h>
+#include <Support/UrlHandlerStub.h>
 
 #include <QDesktopServices>
 
@@ -10,13 +10,13 @@ const char* const SCHEMES[] = {"http", "https", "mailto", "file"};
 
 } // namespace
 
-LinkTrap::LinkTrap()
+UrlHandlerStub::UrlHandlerStub()
 {
     for (const char* scheme : SCHEMES)
         QDesktopServices::setUrlHandler(scheme, this, "Swallow");
 }
 
-LinkTrap::~LinkTrap()
+UrlHandlerStub::~UrlHandlerStub()
 {
     for (const char* scheme : SCHEMES)
         QDesktopServices::unsetUrlHandler(scheme);
