@@ -8,10 +8,10 @@
 
 namespace Support {
 
-/// The signals that the classes below QObject declare.
+/// Returns the signals that the class and its base classes declare, except those of QObject.
 QVector<QMetaMethod> SignalsOf(const QObject* object);
 
-/// While it lives, calls `hear` at every signal of `object`, or at those of `heard`, whatever their arguments.
+/// Calls a function for all signals of `object`, or for the given ones, regardless of their arguments.
 class AnySignalSpy : public QObject
 {
     Q_OBJECT

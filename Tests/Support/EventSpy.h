@@ -8,7 +8,7 @@
 
 namespace Support {
 
-/// While it lives, shows `see` each event of `object` before the object gets it.
+/// Calls a function with each event of `object`, before the object handles it.
 class EventSpy : public QObject
 {
 public:

@@ -9,7 +9,7 @@
 
 namespace Support {
 
-/// While it lives, an event filter of the application that swallows the first event of each type for each object.
+/// An application event filter that swallows the first event of each type for each object.
 class EventSwallower : public QObject
 {
 public:

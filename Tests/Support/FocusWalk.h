@@ -7,8 +7,7 @@
 
 namespace Support {
 
-/// The accessible names of the widgets that get the focus while Tab or Backtab is pressed until the focus is back where
-/// it was; sorted, without duplicates.
+/// Returns the accessible names of all widgets that Tab or Backtab focuses, sorted, without duplicates.
 inline QStringList NamesOnTheWay(const QWidget& window, Qt::Key key)
 {
     constexpr int MOST_STEPS = 500;
@@ -17,7 +16,7 @@ inline QStringList NamesOnTheWay(const QWidget& window, Qt::Key key)
     QStringList names;
     for (int i = 0; i < MOST_STEPS && (i == 0 || window.focusWidget() != start); ++i) {
         QTest::keyClick(window.windowHandle(), key, modifiers);
-        // Qt names a combo box after its current text on some systems, so a name that was set comes first.
+        // On some platforms, Qt uses the current text of a combo box as its name.
         const QString given = window.focusWidget()->accessibleName();
         const auto* accessible = QAccessible::queryAccessibleInterface(window.focusWidget());
         names.append(given.isEmpty() ? accessible->text(QAccessible::Name) : given);

@@ -7,7 +7,7 @@
 
 namespace Support {
 
-/// Turns the wheel over a widget; whether it took that.
+/// Sends a wheel event to a widget. Returns whether the widget accepted it.
 inline bool TurnWheel(QWidget* widget, const QPoint& angle)
 {
     constexpr QPoint PLACE(5, 5);
@@ -16,7 +16,7 @@ inline bool TurnWheel(QWidget* widget, const QPoint& angle)
     return event.isAccepted();
 }
 
-/// Moves the mouse in a widget, with buttons down if that is a part of a drag.
+/// Sends a mouse move event to a widget, by default as part of a drag.
 inline void MoveMouse(QWidget* widget, const QPoint& point, Qt::MouseButtons buttons = Qt::LeftButton)
 {
     QMouseEvent event(QEvent::MouseMove, point, widget->mapToGlobal(point), Qt::NoButton, buttons, {});

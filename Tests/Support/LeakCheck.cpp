@@ -8,8 +8,7 @@ namespace Support {
 
 namespace {
 
-// Without the desktop, which the application makes when it first needs it, and keeps; and without Qt's tool tip, which
-// goes by itself some time after its widget.
+// Omits the desktop widget, which Qt creates on first use and keeps, and tool tips, which Qt deletes with a delay.
 QStringList Widgets()
 {
     QStringList names;
@@ -20,7 +19,7 @@ QStringList Widgets()
     return names;
 }
 
-// Without those of Qt, some of which come when they are first needed, and stay.
+// Omits objects of Qt, some of which are created on first use and kept.
 QStringList Objects()
 {
     QStringList names;
@@ -38,7 +37,7 @@ LeakCheck::LeakCheck() : objects(Objects()) {}
 
 LeakCheck::~LeakCheck()
 {
-    // The first one may make objects that want to be deleted as well.
+    // The first pass may create objects that are deleted later.
     for (int i = 0; i < 2; ++i) {
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         QCoreApplication::processEvents();

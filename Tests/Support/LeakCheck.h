@@ -4,8 +4,7 @@
 
 namespace Support {
 
-/// Fails the running test when, at its end, there are other widgets or objects of the application than at its
-/// beginning.
+/// Fails the running test if widgets, or more objects of the application than at construction, exist at destruction.
 class LeakCheck
 {
 public:

@@ -6,8 +6,8 @@
 
 namespace Support {
 
-/// While it lives, calls `act` for every modal dialog and menu that opens, out of the event loop: from inside the one
-/// that the dialog or menu runs, if it does, so that nobody waits for it.
+/// Calls `act` from the event loop for each modal dialog and menu that opens, so that tests can close it while its
+/// `exec()` blocks.
 class ModalWatcher : public QObject
 {
 public:
@@ -19,7 +19,7 @@ private:
     std::function<void(QWidget*)> act;
 };
 
-/// Closes a dialog without accepting it, a menu without choosing.
+/// Rejects a dialog or closes a menu.
 void Dismiss(QWidget* window);
 
 } // namespace Support

@@ -43,7 +43,7 @@ void RunTool(const QStringList& arguments)
 {
     QProcess tool;
     tool.start(QStringLiteral("xdotool"), arguments);
-    // The window under the pointer may be our own, and the tool waits for nothing that it does.
+    // Processes events, since the window under the pointer may belong to this process.
     while (!tool.waitForFinished(20) && tool.state() != QProcess::NotRunning)
         QCoreApplication::processEvents();
     QVERIFY2(tool.exitStatus() == QProcess::NormalExit && tool.exitCode() == 0, tool.readAllStandardError());
@@ -61,7 +61,7 @@ void Release(int button)
 
 #endif
 
-// Where the pointer was when one of our windows last heard of it.
+// Records the position of the last mouse move event in this process.
 struct PointerWatch
 {
     QPoint seen;
@@ -92,8 +92,8 @@ void Click(const QPoint& global)
 
 #if defined(Q_OS_WIN)
 
-// A move by the window system is a loop of its own inside the handling of an event. Timers go on in it, but whoever
-// processes events there takes the pointer's away from it.
+// Windows moves a window in a modal loop. Timers fire in that loop, but processing events there would take the mouse
+// events away from it.
 bool Drag(const QPoint& global, const QPoint& way, int button)
 {
     const QPoint first = global + QPoint(1, 0);
@@ -122,7 +122,7 @@ bool Drag(const QPoint& global, const QPoint& way, int button)
     PointerWatch pointer;
     MovePointer(global);
     Press(button);
-    // The window system takes the pointer after the first motion, but maybe not at once.
+    // The window manager grabs the pointer after the first motion, possibly with a delay.
     bool taken = false;
     for (int step = 1; step <= FIRST_STEPS && !taken; ++step) {
         const QPoint next = global + QPoint(step, 0);

@@ -12,7 +12,7 @@
 
 namespace Support {
 
-/// Watches what a widget has to paint while it lives.
+/// Records the paint events of a widget.
 class PaintSpy
 {
 public:
@@ -25,7 +25,7 @@ public:
         Take();
     }
 
-    /// The regions of the paint events since it was asked last, those included that are pending.
+    /// Returns the regions of the paint events since the last call, after processing pending events.
     QVector<QRegion> Take()
     {
         QCoreApplication::sendPostedEvents();

@@ -8,16 +8,16 @@
 
 namespace Support {
 
-/// The colour in the middle of a widget's pixel, in a picture of the widget at any device pixel ratio.
+/// Returns the colour at the centre of a logical pixel, for a picture of any device pixel ratio.
 QColor ColorAt(const QImage& picture, const QPoint& pixel);
 
-/// The widget with its children, without a window background, on a backdrop of one colour.
+/// Renders a widget and its children on a plain backdrop, without the window background.
 QImage Render(QWidget& widget, const QColor& backdrop, qreal pixelRatio = 1);
 
-/// The smallest rectangle around all pixels of which `isInk` says so.
+/// Returns the bounding rectangle of all pixels for which `isInk` returns true.
 QRect InkOf(const QImage& picture, const std::function<bool(const QColor&)>& isInk);
 
-/// Of all pixels and channels, up to 255; more for pictures of different sizes.
+/// Returns the largest difference of a channel, 0 to 255, or 256 for pictures of different sizes.
 int LargestDifference(const QImage& a, const QImage& b);
 
 } // namespace Support

@@ -16,15 +16,15 @@ QStringList stray;
 QString row;
 QtMessageHandler previousHandler = nullptr;
 
-// What the platform without a display says of itself, whatever a window does.
-bool IsOfThePlatform(const QString& message)
+// Returns whether a message is one of the limitations of the offscreen platform.
+bool IsPlatformMessage(const QString& message)
 {
     return message.startsWith(QLatin1String("This plugin does not support "));
 }
 
 void HandleMessage(QtMsgType type, const QMessageLogContext& context, const QString& message)
 {
-    if (IsOfThePlatform(message))
+    if (IsPlatformMessage(message))
         return;
     if (type == QtWarningMsg || type == QtCriticalMsg) {
         const std::lock_guard<std::mutex> lock(mutex);

@@ -7,17 +7,16 @@
 
 namespace Support {
 
-/// Base of our test objects: a test function fails when a Qt warning comes that it did not announce, or when an
-/// announced one stays away.
+/// Base class of test objects. A test function fails on an unexpected Qt warning, and on a missing expected one.
 class TestCase : public QObject
 {
     Q_OBJECT
 
 protected:
-    /// Announces one warning that contains `text`. Call it before the code that warns.
+    /// Expects one warning that contains `text`. Call it before the code that warns.
     void ExpectWarning(const QString& text);
 
-    /// Names the row of a table that runs now. A failure tells it.
+    /// Sets the name of a table row, which a failure message then contains. Prefer `_data()` functions.
     void InRow(const QString& name);
 
 private Q_SLOTS:
@@ -25,7 +24,7 @@ private Q_SLOTS:
     void cleanup();
 };
 
-/// What every test program does first: log to the terminal, no settings of the person's desktop.
+/// Logs to the terminal and isolates the test program from the user's settings.
 void PrepareProcess(const char* program);
 
 } // namespace Support

@@ -13,7 +13,7 @@ const char* const SCHEMES[] = {"http", "https", "mailto", "file"};
 UrlHandlerStub::UrlHandlerStub()
 {
     for (const char* scheme : SCHEMES)
-        QDesktopServices::setUrlHandler(scheme, this, "Swallow");
+        QDesktopServices::setUrlHandler(scheme, this, "Ignore");
 }
 
 UrlHandlerStub::~UrlHandlerStub()

@@ -5,7 +5,7 @@
 
 namespace Support {
 
-/// While it lives, web pages and messages are not opened by another program.
+/// Prevents QDesktopServices from opening URLs in other programs.
 class UrlHandlerStub : public QObject
 {
     Q_OBJECT
@@ -15,7 +15,7 @@ public:
     ~UrlHandlerStub() override;
 
 private Q_SLOTS:
-    void Swallow(const QUrl&) {}
+    void Ignore(const QUrl&) {}
 };
 
 } // namespace Support
