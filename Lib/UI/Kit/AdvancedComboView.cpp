@@ -1,7 +1,6 @@
 #include <UI/Kit/AdvancedComboView.h>
 
-#include <UI/Kit/ZComboBox.h>
-
+#include <QComboBox>
 #include <QGuiApplication>
 #include <QLayout>
 #include <QPaintEvent>
@@ -56,7 +55,7 @@ int PopUpLeft(int left, int width, const QRect& screen, bool isRightToLeft)
 
 } // namespace
 
-AdvancedComboView::AdvancedComboView(ZComboBox* combo, bool wide) : combo(combo), wide(wide)
+AdvancedComboView::AdvancedComboView(QComboBox* combo, bool wide) : combo(combo), wide(wide)
 {
     if (wide)
         setTextElideMode(Qt::ElideNone);

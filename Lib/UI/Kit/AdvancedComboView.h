@@ -3,7 +3,7 @@
 #include <QListView>
 #include <QPointer>
 
-class ZComboBox;
+class QComboBox;
 
 /// The list that a `ZComboBox` opens.
 ///
@@ -14,7 +14,7 @@ class AdvancedComboView : public QListView
 {
 public:
     /// Without a parent: `QComboBox::setView` takes it. It serves `combo`, and stays a plain list when that is gone.
-    AdvancedComboView(ZComboBox* combo, bool wide);
+    AdvancedComboView(QComboBox* combo, bool wide);
 
     /// Makes a wide list as wide as its items need by now, by its minimum width.
     void fitToItems();
@@ -35,7 +35,7 @@ private:
     void paintMenuBackground(const QRect& area);
     void keepPopUpOnScreen();
 
-    QPointer<ZComboBox> combo;
+    QPointer<QComboBox> combo;
     const bool wide;
     bool hasNewLayout = false; ///< that updateGeometries() has not seen
     int widestItem = 0;        ///< in pixels, as of the last layout
