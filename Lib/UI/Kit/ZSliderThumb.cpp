@@ -2,13 +2,13 @@
 
 #include <UI/Common/AccessibleFactory.h>
 #include <UI/Common/ClampToWidgetSize.h>
-#include <UI/Kit/Internal/SliderTrack.h>
-#include <UI/Kit/ZSlider.h>
+#include <UI/Kit/Internal/SliderThumbHost.h>
 
 #include <QAccessibleWidget>
 #include <QMetaMethod>
 #include <QMouseEvent>
 #include <QPointer>
+#include <QSlider>
 #include <QStyle>
 #include <QStyleOptionToolButton>
 #include <QStylePainter>
@@ -73,8 +73,8 @@ private:
 
 } // namespace
 
-ZSliderThumb::ZSliderThumb(ZSlider* slider)
-    : QToolButton(slider), slider(slider), currentValue(slider ? slider->minimum() : 0)
+ZSliderThumb::ZSliderThumb(QSlider* slider, Zelkor::Vx::UI::Kit::SliderThumbHost* host)
+    : QToolButton(slider), slider(slider), host(host), currentValue(slider ? slider->minimum() : 0)
 {
     Zelkor::Vx::UI::Common::AccessibleFactory<ZSliderThumb, AccessibleThumb>::Install();
     setCheckable(true);
@@ -86,7 +86,7 @@ ZSliderThumb::ZSliderThumb(ZSlider* slider)
 ZSliderThumb::~ZSliderThumb()
 {
     if (slider)
-        slider->forget(this);
+        host->forget(this);
 }
 
 void ZSliderThumb::setName(const QString& name)
@@ -125,7 +125,7 @@ void ZSliderThumb::setParentMargin(int margin)
 void ZSliderThumb::setZOrder(int order)
 {
     if (slider)
-        slider->setZOrder(*this, order);
+        host->setZOrder(*this, order);
 }
 
 int ZSliderThumb::bounded(int value) const
@@ -163,7 +163,7 @@ void ZSliderThumb::place()
 {
     if (!slider)
         return;
-    const int position = slider->track().pixelOfThumb(currentValue) - ClampToWidgetSize(currentPointOffset);
+    const int position = host->track().pixelOfThumb(currentValue) - ClampToWidgetSize(currentPointOffset);
     const int margin = ClampToWidgetSize(currentParentMargin);
     if (slider->orientation() == Qt::Horizontal)
         move(position, margin);
@@ -234,7 +234,7 @@ bool ZSliderThumb::handleUnchecked(void (ZSliderThumb::*handler)(QMouseEvent*), 
     restore(wasCheckable, wasChecked);
     setUpdatesEnabled(true);
     // Whoever selected another thumb meanwhile could not see that this one was checked.
-    if (wasChecked && slider->selectedThumb() != this)
+    if (wasChecked && !host->isSelected(*this))
         check(false);
     return !self.isNull();
 }
@@ -278,11 +278,10 @@ void ZSliderThumb::mouseMoveEvent(QMouseEvent* event)
     }
     const int offset = ClampToWidgetSize(currentPointOffset);
     const QPoint pointer = mapToParent(event->pos());
-    const int value = slider->valueAt(pointer + QPoint(offset, offset) - pressPosition);
-    setValue(slider->snapped(*this, value));
+    setValue(host->valueForDrag(*this, pointer + QPoint(offset, offset) - pressPosition));
     if (!self)
         return;
-    slider->pointerMoved(pointer);
+    host->pointerMoved(pointer);
     QAbstractButton::mouseMoveEvent(event);
     event->accept();
 }
@@ -307,21 +306,19 @@ void ZSliderThumb::mouseReleaseEvent(QMouseEvent* event)
     if (!self || !isClick)
         return;
     nextCheckState();
-    if (self && !isChecked() && slider->hasOtherThumbAt(place, *this))
+    if (self && !isChecked() && host->hasOtherThumbAt(place, *this))
         lower();
 }
 
 void ZSliderThumb::keyPressEvent(QKeyEvent* event)
 {
-    if (slider->moveFocus(*event, this))
+    if (host->moveFocus(*event, this))
         return;
     const bool isStepped = isSignalConnected(QMetaMethod::fromSignal(&ZSliderThumb::stepped));
-    if (keyStepping && !isStepped && slider->valueThumb == this) {
-        const QPointer<ZSliderThumb> self(this);
-        slider->pressValueKey(*event);
-        if (!self || event->isAccepted())
-            return;
-    }
+    const QPointer<ZSliderThumb> self(this);
+    const bool isHandled = keyStepping && !isStepped && host->stepDefaultThumb(*this, *event);
+    if (isHandled && (!self || event->isAccepted()))
+        return;
     const bool isStep = keyStepping && (IsUpwards(event->key()) || IsDownwards(event->key()));
     if (!isStep) {
         QAbstractButton::keyPressEvent(event);
@@ -352,7 +349,7 @@ void ZSliderThumb::focusInEvent(QFocusEvent* event)
 
 void ZSliderThumb::focusOutEvent(QFocusEvent* event)
 {
-    slider->restack();
+    host->restack();
     QToolButton::focusOutEvent(event);
 }
 
@@ -374,7 +371,7 @@ void ZSliderThumb::paintEvent(QPaintEvent*)
     QStyleOptionToolButton option;
     initStyleOption(&option);
     // The slider itself shows nothing of its focus; the thumb does that its keys go to.
-    if (slider->hasFocus() && slider->keyThumb() == this)
+    if (host->sendsKeysTo(*this))
         option.state |= QStyle::State_HasFocus;
     QStylePainter(this).drawComplexControl(QStyle::CC_ToolButton, option);
 }

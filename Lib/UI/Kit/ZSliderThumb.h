@@ -5,7 +5,13 @@
 
 #include <limits>
 
+class QSlider;
 class ZSlider;
+
+namespace Zelkor::Vx::UI::Kit {
+class SliderThumbController;
+class SliderThumbHost;
+} // namespace Zelkor::Vx::UI::Kit
 
 /// One thumb of a ZSlider, made by `ZSlider::addThumb` and owned by the slider; whoever deletes it does no harm.
 ///
@@ -114,7 +120,9 @@ protected:
     void nextCheckState() override;
 
 private:
-    friend class ZSlider;
+    friend class Zelkor::Vx::UI::Kit::SliderThumbController;
+
+    ZSliderThumb(QSlider* slider, Zelkor::Vx::UI::Kit::SliderThumbHost* host);
 
     int bounded(int value) const;
     void place();
@@ -124,7 +132,8 @@ private:
     void finishDrag();
     void check(bool on);
 
-    QPointer<ZSlider> slider;
+    QPointer<QSlider> slider;
+    Zelkor::Vx::UI::Kit::SliderThumbHost* host; ///< valid as long as the slider exists
     QPoint pressPosition{-1, -1};
     QString key; ///< under which the slider knows it
     QString currentName;
