@@ -14,7 +14,6 @@
 #include <cstdlib>
 
 using namespace Zelkor::Vx::UI::Kit;
-using StyleSheetChecker::Scope;
 
 namespace {
 
@@ -25,13 +24,13 @@ void HandleMessage(QtMsgType, const QMessageLogContext&, const QString& message)
     isRefused = isRefused || message.startsWith("Could not parse");
 }
 
-bool IsTakenByQt(const QString& sheet, Scope scope)
+bool IsTakenByQt(const QString& sheet, StyleSheetScope scope)
 {
     isRefused = false;
     const QtMessageHandler before = qInstallMessageHandler(HandleMessage);
     {
         QLabel label;
-        scope == Scope::APPLICATION ? qApp->setStyleSheet(sheet) : label.setStyleSheet(sheet);
+        scope == StyleSheetScope::APPLICATION ? qApp->setStyleSheet(sheet) : label.setStyleSheet(sheet);
         label.ensurePolished();
         qApp->setStyleSheet(QString());
     }
@@ -107,7 +106,7 @@ int main(int argc, char* argv[])
     StyleSheetTextEdit editor(nullptr);
     int refused = 0;
     for (int i = 0; i < runs; ++i) {
-        const Scope scope = i % 2 ? Scope::WIDGET : Scope::APPLICATION;
+        const StyleSheetScope scope = i % 2 ? StyleSheetScope::WIDGET : StyleSheetScope::APPLICATION;
         const QString sheet = mutator.next();
         editor.loadText(sheet);
         editor.setScope(scope);

@@ -14,7 +14,7 @@ MessageLabel::MessageLabel(QWidget* parent) : QLabel(parent)
     setTextFormat(Qt::PlainText);
 }
 
-void MessageLabel::say(std::function<QString()> newMessage)
+void MessageLabel::setMessage(std::function<QString()> newMessage)
 {
     message = std::move(newMessage);
     setText(message ? message() : QString());

@@ -17,7 +17,7 @@ public:
     explicit MessageLabel(QWidget* parent = nullptr);
 
     /// Shows what `message` returns, and calls it again when the language changes. Without one, shows nothing.
-    void say(std::function<QString()> message);
+    void setMessage(std::function<QString()> message);
 
     QSize minimumSizeHint() const override;
 

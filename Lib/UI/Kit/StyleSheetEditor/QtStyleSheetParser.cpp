@@ -15,7 +15,6 @@ namespace Zelkor::Vx::UI::Kit::QtStyleSheetParser {
 
 namespace {
 
-using StyleSheetChecker::Scope;
 using StyleSheetTokenizer::Kind;
 using StyleSheetTokenizer::Token;
 
@@ -100,14 +99,15 @@ QVector<Cut> Cuts(const QString& sheet)
 // For a widget, Qt takes a sheet that it cannot read as declarations alone. A comment sign of HTML, which Qt skips
 // between rules, keeps it from that; "@charset" and "@import" keep it from that themselves, and the first has to stand
 // at the beginning.
-bool IsAccepted(const QString& sheet, Scope scope)
+bool IsAccepted(const QString& sheet, StyleSheetScope scope)
 {
     const bool beginsWithAt = sheet.startsWith(QLatin1Char('@'));
-    return IsAcceptedForWidget(scope == Scope::WIDGET || beginsWithAt ? sheet : QLatin1String("<!--") + sheet);
+    return IsAcceptedForWidget(scope == StyleSheetScope::WIDGET || beginsWithAt ? sheet
+                                                                                : QLatin1String("<!--") + sheet);
 }
 
 // Once Qt refuses the beginning of a sheet, it refuses every longer one, so the first such cut is found by halves.
-int FindRefused(const QString& sheet, Scope scope)
+int FindRefused(const QString& sheet, StyleSheetScope scope)
 {
     const QVector<Cut> cuts = Cuts(sheet);
     const auto isAccepted = [&](const Cut& cut) {

@@ -25,7 +25,7 @@ SaveChangesBar::SaveChangesBar(QWidget* parent)
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(question);
     layout->addLayout(buttons);
-    connect(saveButton, &QPushButton::clicked, this, &SaveChangesBar::saveWanted);
+    connect(saveButton, &QPushButton::clicked, this, &SaveChangesBar::saveRequested);
     connect(discardButton, &QPushButton::clicked, this, &SaveChangesBar::proceed);
     connect(cancelButton, &QPushButton::clicked, this, &SaveChangesBar::dismiss);
     retranslate();

@@ -30,7 +30,7 @@ public:
 
 Q_SIGNALS:
     /// Save was pressed; call proceed() when that is done.
-    void saveWanted();
+    void saveRequested();
 
 protected:
     void changeEvent(QEvent* event) override;

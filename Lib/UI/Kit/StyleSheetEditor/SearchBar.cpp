@@ -99,7 +99,7 @@ void SearchBar::open()
     const QString selection = editor->textCursor().selectedText();
     if (!selection.isEmpty() && !selection.contains(QChar::ParagraphSeparator))
         searched->setText(selection);
-    messageLabel->say({});
+    messageLabel->setMessage({});
     show();
     searched->setFocus();
     searched->selectAll();
@@ -156,7 +156,7 @@ bool SearchBar::findPrevious()
 
 bool SearchBar::find(const QTextCursor& from, QTextDocument::FindFlags direction)
 {
-    messageLabel->say({});
+    messageLabel->setMessage({});
     const QString text = searched->text();
     if (text.isEmpty())
         return false;
@@ -167,7 +167,7 @@ bool SearchBar::find(const QTextCursor& from, QTextDocument::FindFlags direction
         if (direction)
             end.movePosition(QTextCursor::End);
         place = document->find(text, end, flags() | direction);
-        messageLabel->say([isFound = !place.isNull(), direction] {
+        messageLabel->setMessage([isFound = !place.isNull(), direction] {
             if (!isFound)
                 return tr("Nothing was found.");
             return direction ? tr("Found from the end on.") : tr("Found from the beginning on.");
@@ -210,7 +210,8 @@ int SearchBar::replaceAll()
         place.insertText(replacement->text());
     }
     edit.endEditBlock();
-    messageLabel->say([count] { return count == 0 ? tr("Nothing was found.") : tr("%n replaced.", nullptr, count); });
+    messageLabel->setMessage(
+        [count] { return count == 0 ? tr("Nothing was found.") : tr("%n replaced.", nullptr, count); });
     return count;
 }
 

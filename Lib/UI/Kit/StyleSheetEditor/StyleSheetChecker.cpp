@@ -29,7 +29,7 @@ constexpr QChar END; ///< what stands behind the last token
 class Checker
 {
 public:
-    Checker(const QString& sheet, Scope scope) : sheet(sheet)
+    Checker(const QString& sheet, StyleSheetScope scope) : sheet(sheet)
     {
         bool hasBraces = false;
         for (const Token& token : StyleSheetTokenizer::Tokenize(sheet)) {
@@ -40,7 +40,7 @@ public:
             tokens.append(token);
             hasBraces = hasBraces || symbolAt(tokens.size() - 1) == QLatin1Char('{');
         }
-        if (scope == Scope::WIDGET && !hasBraces)
+        if (scope == StyleSheetScope::WIDGET && !hasBraces)
             declarations(NO_BRACE);
         else
             rules(false);
@@ -358,7 +358,7 @@ private:
 
 } // namespace
 
-QVector<Mistake> Check(const QString& sheet, Scope scope)
+QVector<Mistake> Check(const QString& sheet, StyleSheetScope scope)
 {
     return Checker(sheet, scope).mistakes();
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <UI/Kit/StyleSheetEditor/QtStyleSheetParser.h>
+
 #include <QString>
 #include <QVector>
 
@@ -34,13 +36,10 @@ struct Mistake
     int column;   ///< from 1
 };
 
-/// For whom a sheet is. That of one widget may be declarations alone, without a selector and braces.
-enum class Scope { APPLICATION, WIDGET };
-
 /// The mistakes of `sheet` in the order of their places. A sheet without any is one that Qt accepts; one with some may
 /// be accepted too, without the declarations that have them. Does not check whether there are such properties and
 /// widgets. GUI thread.
-QVector<Mistake> Check(const QString& sheet, Scope scope = Scope::APPLICATION);
+QVector<Mistake> Check(const QString& sheet, StyleSheetScope scope = StyleSheetScope::APPLICATION);
 
 /// What is wrong and what to do, in the language of the application.
 QString Describe(Problem problem);

@@ -5,7 +5,6 @@
 #include <UI/Kit/StyleSheetEditor/SearchBar.h>
 #include <UI/Kit/StyleSheetEditor/StyleSheetTargetComboBox.h>
 #include <UI/Kit/StyleSheetEditor/StyleSheetTextEdit.h>
-#include <UI/Kit/StyleSheetEditor/ZRuntimeStylesheetEditor.h>
 
 #include <QAction>
 #include <QCheckBox>
@@ -28,7 +27,7 @@ constexpr QSize SMALLEST_EDITOR(200, 80);
 constexpr int MARGIN = 8;
 constexpr int SPACING = 6;
 
-// A command of the window and of the menu. Its keys hold within the window alone, which may be part of another one.
+// Adds a command to the window and the menu. Its shortcuts are limited to the window, which may be part of another one.
 QAction* MakeAction(QWidget* window, QMenu* menu, const QList<QKeySequence>& keys)
 {
     auto* action = new QAction(window);
@@ -49,7 +48,7 @@ QHBoxLayout* MakeRow()
 } // namespace
 
 StyleSheetEditorUi::StyleSheetEditorUi(QWidget* window)
-    : editor(new StyleSheetTextEdit(window)), search(new SearchBar(editor)), question(new SaveChangesBar),
+    : editor(new StyleSheetTextEdit(window)), search(new SearchBar(editor)), saveChangesBar(new SaveChangesBar),
       targetBox(new StyleSheetTargetComboBox), pickButton(new QToolButton), typingBox(new QCheckBox),
       revertButton(new QPushButton), applyButton(new QPushButton), messageLabel(new MessageLabel),
       placeLabel(new QLabel), targetLabel(new QLabel)
@@ -106,7 +105,7 @@ void StyleSheetEditorUi::layOut(QWidget* window, QMenuBar* bar)
     rows->addLayout(targetRow);
     rows->addWidget(editor, 1);
     rows->addWidget(search);
-    rows->addWidget(question);
+    rows->addWidget(saveChangesBar);
     rows->addLayout(statusRow);
     rows->addLayout(applyRow);
     auto* layout = new QVBoxLayout(window);
@@ -117,40 +116,72 @@ void StyleSheetEditorUi::layOut(QWidget* window, QMenuBar* bar)
 
 void StyleSheetEditorUi::retranslate()
 {
-    fileMenu->setTitle(ZRuntimeStylesheetEditor::tr("&File"));
-    open->setText(ZRuntimeStylesheetEditor::tr("&Open..."));
-    save->setText(ZRuntimeStylesheetEditor::tr("&Save"));
-    saveAs->setText(ZRuntimeStylesheetEditor::tr("Save &as..."));
-    editMenu->setTitle(ZRuntimeStylesheetEditor::tr("&Edit"));
-    find->setText(ZRuntimeStylesheetEditor::tr("&Find and replace"));
-    findNext->setText(ZRuntimeStylesheetEditor::tr("Find &next"));
-    findPrevious->setText(ZRuntimeStylesheetEditor::tr("Find &previous"));
-    nextMistake->setText(ZRuntimeStylesheetEditor::tr("Next &mistake"));
-    complete->setText(ZRuntimeStylesheetEditor::tr("&Complete"));
-    sheetMenu->setTitle(ZRuntimeStylesheetEditor::tr("Style s&heet"));
-    apply->setText(ZRuntimeStylesheetEditor::tr("&Apply"));
-    revert->setText(ZRuntimeStylesheetEditor::tr("&Revert"));
-    read->setText(ZRuntimeStylesheetEditor::tr("Read &from the target"));
-    pick->setText(ZRuntimeStylesheetEditor::tr("&Pick a widget"));
-    targetLabel->setText(ZRuntimeStylesheetEditor::tr("&Target:"));
-    targetBox->setAccessibleName(ZRuntimeStylesheetEditor::tr("Target"));
-    pickButton->setText(ZRuntimeStylesheetEditor::tr("Pick"));
-    pickButton->setToolTip(ZRuntimeStylesheetEditor::tr("Choose a widget with the mouse"));
-    typingBox->setText(ZRuntimeStylesheetEditor::tr("Apply while t&yping"));
-    revertButton->setText(ZRuntimeStylesheetEditor::tr("&Revert"));
-    applyButton->setText(ZRuntimeStylesheetEditor::tr("&Apply"));
-    editor->setAccessibleName(ZRuntimeStylesheetEditor::tr("Style sheet"));
+    fileMenu->setTitle(tr("&File"));
+    open->setText(tr("&Open..."));
+    save->setText(tr("&Save"));
+    saveAs->setText(tr("Save &as..."));
+    editMenu->setTitle(tr("&Edit"));
+    find->setText(tr("&Find and replace"));
+    findNext->setText(tr("Find &next"));
+    findPrevious->setText(tr("Find &previous"));
+    nextMistake->setText(tr("Next &mistake"));
+    complete->setText(tr("&Complete"));
+    sheetMenu->setTitle(tr("Style s&heet"));
+    apply->setText(tr("&Apply"));
+    revert->setText(tr("&Revert"));
+    read->setText(tr("Read &from the target"));
+    pick->setText(tr("&Pick a widget"));
+    targetLabel->setText(tr("&Target:"));
+    targetBox->setAccessibleName(tr("Target"));
+    pickButton->setText(tr("Pick"));
+    pickButton->setToolTip(tr("Choose a widget with the mouse"));
+    typingBox->setText(tr("Apply while t&yping"));
+    revertButton->setText(tr("&Revert"));
+    applyButton->setText(tr("&Apply"));
+    editor->setAccessibleName(tr("Style sheet"));
 }
 
-// A style sheet tells the two apart by the property "problem".
-void StyleSheetEditorUi::say(std::function<QString()> message, bool isProblem)
+// Style sheets select by the dynamic property "problem".
+void StyleSheetEditorUi::showMessage(std::function<QString()> message, bool isProblem)
 {
-    messageLabel->say(std::move(message));
+    messageLabel->setMessage(std::move(message));
     if (messageLabel->property("problem").toBool() == isProblem)
         return;
     messageLabel->setProperty("problem", isProblem);
     messageLabel->style()->unpolish(messageLabel);
     messageLabel->style()->polish(messageLabel);
+}
+
+void StyleSheetEditorUi::showCursorPosition()
+{
+    const QTextCursor cursor = editor->textCursor();
+    placeLabel->setText(tr("Line %1, column %2").arg(cursor.blockNumber() + 1).arg(cursor.positionInBlock() + 1));
+}
+
+QString StyleSheetEditorUi::mistakeSummary() const
+{
+    const auto& mistakes = editor->mistakes();
+    if (mistakes.isEmpty())
+        return {};
+    const auto& first = mistakes.first();
+    const QString place = tr("Line %1, column %2").arg(first.line).arg(first.column);
+    const QString summary = tr("%1: %2").arg(place, StyleSheetChecker::Describe(first.problem));
+    if (mistakes.size() == 1)
+        return summary;
+    return summary + QLatin1Char(' ') + tr("(and %n more)", nullptr, mistakes.size() - 1);
+}
+
+QFileDialog* StyleSheetEditorUi::makeFileDialog(QWidget* window, QFileDialog::AcceptMode mode,
+                                                const QString& folder) const
+{
+    const bool saves = mode == QFileDialog::AcceptSave;
+    auto* dialog = new QFileDialog(window, saves ? tr("Save the style sheet") : tr("Open a style sheet"), folder,
+                                   tr("Style sheets (*.qss);;All files (*)"));
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setAcceptMode(mode);
+    dialog->setFileMode(saves ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+    dialog->setDefaultSuffix(QStringLiteral("qss"));
+    return dialog;
 }
 
 } // namespace Zelkor::Vx::UI::Kit

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QCoreApplication>
+#include <QFileDialog>
 #include <QString>
 
 #include <functional>
@@ -15,28 +17,39 @@ class QWidget;
 
 namespace Zelkor::Vx::UI::Kit {
 
-class StyleSheetTextEdit;
-class StyleSheetTargetComboBox;
 class MessageLabel;
 class SaveChangesBar;
 class SearchBar;
+class StyleSheetTargetComboBox;
+class StyleSheetTextEdit;
 
-/// The parts of the style sheet editor's window, and where they lie. They do nothing by themselves.
+/// Creates and lays out the widgets and actions of ZRuntimeStylesheetEditor, which connects them.
 class StyleSheetEditorUi
 {
+    Q_DECLARE_TR_FUNCTIONS(ZRuntimeStylesheetEditor)
+
 public:
-    /// The parts belong to the window.
+    /// The window owns all widgets and actions.
     explicit StyleSheetEditorUi(QWidget* window);
 
-    /// Gives every part its text in the language of the application.
+    /// Sets all texts in the language of the application.
     void retranslate();
 
-    /// What the window says; marked when it is about something that is wrong.
-    void say(std::function<QString()> message, bool isProblem);
+    /// Shows what `message` returns, again after a change of the language. `isProblem` highlights it.
+    void showMessage(std::function<QString()> message, bool isProblem);
+
+    /// Shows line and column of the text cursor.
+    void showCursorPosition();
+
+    /// Returns place and description of the first mistake in the text and the number of others; empty without mistakes.
+    QString mistakeSummary() const;
+
+    /// Returns a dialog that deletes itself when it is closed.
+    QFileDialog* makeFileDialog(QWidget* window, QFileDialog::AcceptMode mode, const QString& folder) const;
 
     StyleSheetTextEdit* editor;
     SearchBar* search;
-    SaveChangesBar* question;
+    SaveChangesBar* saveChangesBar;
     StyleSheetTargetComboBox* targetBox;
     QToolButton* pickButton;
     QCheckBox* typingBox;

@@ -67,7 +67,7 @@ void StyleSheetTargetComboBox::watch(QWidget* widget)
     watching = connect(widget, &QObject::destroyed, this, [this] {
         hasChoice = false;
         setCurrentIndex(-1);
-        Q_EMIT gone();
+        Q_EMIT targetDestroyed();
     });
 }
 

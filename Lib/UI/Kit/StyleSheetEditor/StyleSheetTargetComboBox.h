@@ -29,7 +29,7 @@ Q_SIGNALS:
     void chosen(QWidget* widget);
 
     /// The widget that was set or chosen does not exist any more.
-    void gone();
+    void targetDestroyed();
 
 protected:
     void changeEvent(QEvent* event) override;

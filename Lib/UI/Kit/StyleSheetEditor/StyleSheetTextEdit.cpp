@@ -10,7 +10,6 @@
 namespace Zelkor::Vx::UI::Kit {
 
 using StyleSheetChecker::Mistake;
-using StyleSheetChecker::Scope;
 
 namespace {
 
@@ -26,7 +25,7 @@ StyleSheetTextEdit::StyleSheetTextEdit(const QWidget* except, QWidget* parent)
     followColors();
 }
 
-void StyleSheetTextEdit::setScope(Scope newScope)
+void StyleSheetTextEdit::setScope(StyleSheetScope newScope)
 {
     scope = newScope;
     check();
@@ -42,7 +41,7 @@ void StyleSheetTextEdit::check()
     markMistakes();
     // Before the first declaration ends, it could as well be a selector.
     const bool declarationsAlone =
-        scope == Scope::WIDGET && text.contains(QLatin1Char(';')) && !text.contains(QLatin1Char('{'));
+        scope == StyleSheetScope::WIDGET && text.contains(QLatin1Char(';')) && !text.contains(QLatin1Char('{'));
     highlighter->setDeclarationsAlone(declarationsAlone);
     completer->setDeclarationsAlone(declarationsAlone);
 }

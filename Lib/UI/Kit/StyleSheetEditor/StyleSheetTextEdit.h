@@ -18,7 +18,7 @@ public:
     explicit StyleSheetTextEdit(const QWidget* except, QWidget* parent = nullptr);
 
     /// For whom the sheet is; for the application at first.
-    void setScope(StyleSheetChecker::Scope scope);
+    void setScope(StyleSheetScope scope);
 
     /// Looks for mistakes in the text as it is, and marks them.
     void check();
@@ -58,7 +58,7 @@ private:
     StyleSheetHighlighter* highlighter;
     StyleSheetCompleter* completer;
     QString original; ///< the text that was set last
-    StyleSheetChecker::Scope scope = StyleSheetChecker::Scope::APPLICATION;
+    StyleSheetScope scope = StyleSheetScope::APPLICATION;
     QVector<StyleSheetChecker::Mistake> found;
     bool accepted = true;
 };

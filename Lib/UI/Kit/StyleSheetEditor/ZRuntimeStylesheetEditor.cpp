@@ -14,9 +14,7 @@
 #include <QAction>
 #include <QCheckBox>
 #include <QCloseEvent>
-#include <QFileDialog>
 #include <QFileInfo>
-#include <QLabel>
 #include <QPushButton>
 #include <QTimer>
 #include <QToolButton>
@@ -26,20 +24,13 @@
 
 using namespace Zelkor::Vx::UI;
 using namespace Zelkor::Vx::UI::Kit;
-using StyleSheetChecker::Mistake;
-using StyleSheetChecker::Scope;
 
 namespace {
 
 constexpr QSize WINDOW_SIZE(640, 600);
-constexpr int PAUSE = 300; ///< milliseconds without a key before the text is looked at
+constexpr int TYPING_PAUSE = 300; ///< milliseconds without a key before the text is checked
 
-QString Place(int line, int column)
-{
-    return ZRuntimeStylesheetEditor::tr("Line %1, column %2").arg(line).arg(column);
-}
-
-/// The editor may be part of another window.
+/// The editor may be a window or a part of one.
 class AccessibleEditor : public QAccessibleWidget
 {
 public:
@@ -55,46 +46,47 @@ public:
 
 struct ZRuntimeStylesheetEditor::Impl
 {
+    Q_DECLARE_TR_FUNCTIONS(ZRuntimeStylesheetEditor)
+
+public:
     explicit Impl(ZRuntimeStylesheetEditor* window);
 
     void connectParts();
     void connectCommands();
     void retranslate();
 
-    void say(std::function<QString()> message, bool isProblem = false);
-    const QVector<Mistake>& mistakes() const { return view.editor->mistakes(); }
-    QString mistake() const;
-    void showPlace();
+    void showMessage(std::function<QString()> message, bool isProblem = false);
+    bool hasMistakes() const { return !ui.editor->mistakes().isEmpty(); }
     void check();
-    void checkAndFollow();
+    void checkAndApply();
     void goToNextMistake();
 
     void chooseTarget(QWidget* widget);
     void applyText();
-    void readUntouched();
+    void followTarget();
 
-    void settle(const QString& file);
-    void whenSettled(std::function<void()> action);
-    void showFileDialog(bool saving);
-    void saveAgain();
+    void setUnmodified(const QString& file);
+    void afterSaving(std::function<void()> action);
+    void showFileDialog(QFileDialog::AcceptMode mode);
+    void save();
 
     ZRuntimeStylesheetEditor* const window;
-    StyleSheetEditorUi view;
+    StyleSheetEditorUi ui;
     WidgetPicker* const picker;
     StyleSheetTarget target;
     QString fileName;
     bool hasByteOrderMark = false; ///< in the file
-    bool saysMistake = false;
-    int seenRevision = -1; ///< of the text, when it was looked at last
+    bool showsMistake = false;
+    int checkedRevision = -1; ///< revision of the document at the last check
     QTimer pause;
-    QObject context; ///< of all connections to this record, which the window's parts outlive
+    QObject context; ///< of all connections to this record, which is destroyed before the child widgets
 };
 
 ZRuntimeStylesheetEditor::Impl::Impl(ZRuntimeStylesheetEditor* window)
-    : window(window), view(window), picker(new WidgetPicker(window, window))
+    : window(window), ui(window), picker(new WidgetPicker(window, window))
 {
     pause.setSingleShot(true);
-    pause.setInterval(PAUSE);
+    pause.setInterval(TYPING_PAUSE);
     connectParts();
     connectCommands();
 }
@@ -105,156 +97,137 @@ ZRuntimeStylesheetEditor::ZRuntimeStylesheetEditor(QWidget* parent)
     Common::AccessibleFactory<ZRuntimeStylesheetEditor, AccessibleEditor>::Install();
     resize(WINDOW_SIZE);
     impl->retranslate();
-    impl->readUntouched();
+    impl->followTarget();
 }
 
 ZRuntimeStylesheetEditor::~ZRuntimeStylesheetEditor() = default;
 
 void ZRuntimeStylesheetEditor::Impl::connectParts()
 {
-    connect(&pause, &QTimer::timeout, &context, [this] { checkAndFollow(); });
-    // New colours are no new text.
-    connect(view.editor, &QPlainTextEdit::textChanged, &context, [this] {
-        if (view.editor->document()->revision() != seenRevision)
+    connect(&pause, &QTimer::timeout, &context, [this] { checkAndApply(); });
+    // The highlighter changes the document without a new revision.
+    connect(ui.editor, &QPlainTextEdit::textChanged, &context, [this] {
+        if (ui.editor->document()->revision() != checkedRevision)
             pause.start();
     });
-    connect(view.editor, &QPlainTextEdit::modificationChanged, window, &QWidget::setWindowModified);
-    connect(view.editor, &QPlainTextEdit::cursorPositionChanged, &context, [this] { showPlace(); });
-    connect(view.typingBox, &QCheckBox::toggled, &context, [this] { pause.start(); });
-    // Whoever hears of it may delete the window, which the box would not survive before it is done.
-    connect(view.typingBox, &QCheckBox::toggled, window, &ZRuntimeStylesheetEditor::applyingWhileTypingChanged,
+    connect(ui.editor, &QPlainTextEdit::modificationChanged, window, &QWidget::setWindowModified);
+    connect(ui.editor, &QPlainTextEdit::cursorPositionChanged, &context, [this] { ui.showCursorPosition(); });
+    connect(ui.typingBox, &QCheckBox::toggled, &context, [this] { pause.start(); });
+    // Queued, because a slot may delete the window while the check box is still in its own event handler.
+    connect(ui.typingBox, &QCheckBox::toggled, window, &ZRuntimeStylesheetEditor::applyingWhileTypingChanged,
             Qt::QueuedConnection);
-    connect(view.question, &SaveChangesBar::saveWanted, &context, [this] { saveAgain(); });
-    connect(view.targetBox, &StyleSheetTargetComboBox::chosen, &context,
+    connect(ui.saveChangesBar, &SaveChangesBar::saveRequested, &context, [this] { save(); });
+    connect(ui.targetBox, &StyleSheetTargetComboBox::chosen, &context,
             [this](QWidget* widget) { chooseTarget(widget); });
-    connect(view.targetBox, &StyleSheetTargetComboBox::gone, &context, [this] {
-        say([] { return ZRuntimeStylesheetEditor::tr("The widget is gone. Choose another one."); }, true);
-    });
-    connect(view.pickButton, &QToolButton::toggled, &context, [this](bool on) {
+    connect(ui.targetBox, &StyleSheetTargetComboBox::targetDestroyed, &context,
+            [this] { showMessage([] { return tr("The widget is gone. Choose another one."); }, true); });
+    connect(ui.pickButton, &QToolButton::toggled, &context, [this](bool on) {
         if (!on)
             return picker->stop();
         picker->start();
-        say([] { return ZRuntimeStylesheetEditor::tr("Click on a widget of the application, or press Escape."); });
+        showMessage([] { return tr("Click on a widget of the application, or press Escape."); });
     });
-    connect(picker, &WidgetPicker::pointed, &context,
-            [this](QWidget* widget) { say([name = StyleSheetTargetComboBox::nameOf(widget)] { return name; }); });
+    connect(picker, &WidgetPicker::pointed, &context, [this](QWidget* widget) {
+        showMessage([name = StyleSheetTargetComboBox::nameOf(widget)] { return name; });
+    });
     connect(picker, &WidgetPicker::stopped, &context, [this] {
-        view.pickButton->setChecked(false);
-        say({});
+        ui.pickButton->setChecked(false);
+        showMessage({});
     });
     connect(picker, &WidgetPicker::picked, &context, [this](QWidget* widget) {
         window->setTarget(widget);
-        // The click has brought the picked window to the front, and one picks in order to write.
+        // The click raised the window of the picked widget.
         window->window()->raise();
         window->activateWindow();
-        view.editor->setFocus();
+        ui.editor->setFocus();
     });
 }
 
 void ZRuntimeStylesheetEditor::Impl::connectCommands()
 {
     const auto on = [this](QAction* action, auto slot) { connect(action, &QAction::triggered, &context, slot); };
-    on(view.open, [this] { whenSettled([this] { showFileDialog(false); }); });
-    on(view.save, [this] { saveAgain(); });
-    on(view.saveAs, [this] { showFileDialog(true); });
-    on(view.find, [this] { window->openSearch(); });
-    on(view.findNext, [this] { view.search->findNext(); });
-    on(view.findPrevious, [this] { view.search->findPrevious(); });
-    on(view.nextMistake, [this] { goToNextMistake(); });
-    on(view.complete, [this] { view.editor->complete(); });
-    on(view.apply, [this] { window->apply(); });
-    on(view.revert, [this] { window->revert(); });
-    on(view.read, [this] { window->readFromTarget(); });
-    on(view.pick, [this] { view.pickButton->toggle(); });
-    connect(view.applyButton, &QPushButton::clicked, window, &ZRuntimeStylesheetEditor::apply);
-    connect(view.revertButton, &QPushButton::clicked, window, &ZRuntimeStylesheetEditor::revert);
+    on(ui.open, [this] { afterSaving([this] { showFileDialog(QFileDialog::AcceptOpen); }); });
+    on(ui.save, [this] { save(); });
+    on(ui.saveAs, [this] { showFileDialog(QFileDialog::AcceptSave); });
+    on(ui.find, [this] { window->openSearch(); });
+    on(ui.findNext, [this] { ui.search->findNext(); });
+    on(ui.findPrevious, [this] { ui.search->findPrevious(); });
+    on(ui.nextMistake, [this] { goToNextMistake(); });
+    on(ui.complete, [this] { ui.editor->complete(); });
+    on(ui.apply, [this] { window->apply(); });
+    on(ui.revert, [this] { window->revert(); });
+    on(ui.read, [this] { window->readFromTarget(); });
+    on(ui.pick, [this] { ui.pickButton->toggle(); });
+    connect(ui.applyButton, &QPushButton::clicked, window, &ZRuntimeStylesheetEditor::apply);
+    connect(ui.revertButton, &QPushButton::clicked, window, &ZRuntimeStylesheetEditor::revert);
 }
 
 void ZRuntimeStylesheetEditor::Impl::retranslate()
 {
-    view.retranslate();
+    ui.retranslate();
     const QString file = QFileInfo(fileName).fileName();
-    const QString title = (file.isEmpty() ? QString() : file + QStringLiteral(" - ")) +
-                          ZRuntimeStylesheetEditor::tr("Style sheet editor");
+    const QString title = (file.isEmpty() ? QString() : file + QStringLiteral(" - ")) + tr("Style sheet editor");
     window->setWindowTitle(title + QStringLiteral("[*]"));
     window->setAccessibleName(title);
-    showPlace();
+    ui.showCursorPosition();
 }
 
-// What the window says
+// Messages
 
-void ZRuntimeStylesheetEditor::Impl::say(std::function<QString()> message, bool isProblem)
+void ZRuntimeStylesheetEditor::Impl::showMessage(std::function<QString()> message, bool isProblem)
 {
-    saysMistake = false;
-    view.say(std::move(message), isProblem);
-}
-
-QString ZRuntimeStylesheetEditor::Impl::mistake() const
-{
-    if (mistakes().isEmpty())
-        return {};
-    const Mistake& first = mistakes().first();
-    const QString text = ZRuntimeStylesheetEditor::tr("%1: %2").arg(Place(first.line, first.column),
-                                                                    StyleSheetChecker::Describe(first.problem));
-    if (mistakes().size() == 1)
-        return text;
-    return text + QLatin1Char(' ') + ZRuntimeStylesheetEditor::tr("(and %n more)", nullptr, mistakes().size() - 1);
+    showsMistake = false;
+    ui.showMessage(std::move(message), isProblem);
 }
 
 QString ZRuntimeStylesheetEditor::message() const
 {
-    return impl->view.messageLabel->text();
-}
-
-void ZRuntimeStylesheetEditor::Impl::showPlace()
-{
-    const QTextCursor cursor = view.editor->textCursor();
-    view.placeLabel->setText(Place(cursor.blockNumber() + 1, cursor.positionInBlock() + 1));
+    return impl->ui.messageLabel->text();
 }
 
 void ZRuntimeStylesheetEditor::Impl::check()
 {
     pause.stop();
-    const bool isChanged = seenRevision != view.editor->document()->revision();
-    seenRevision = view.editor->document()->revision();
-    view.editor->check();
-    // What was said of an earlier text does not hold for this one; that the target is gone or sought does.
-    if (!mistakes().isEmpty())
-        say([this] { return mistake(); }, true);
-    else if (saysMistake || (isChanged && target.exists() && !picker->isRunning()))
-        say({});
-    saysMistake = !mistakes().isEmpty();
+    const bool isChanged = checkedRevision != ui.editor->document()->revision();
+    checkedRevision = ui.editor->document()->revision();
+    ui.editor->check();
+    // Messages about an earlier text are outdated; those about a missing target or a running picker are not.
+    if (hasMistakes())
+        showMessage([this] { return ui.mistakeSummary(); }, true);
+    else if (showsMistake || (isChanged && target.exists() && !picker->isRunning()))
+        showMessage({});
+    showsMistake = hasMistakes();
 }
 
-void ZRuntimeStylesheetEditor::Impl::checkAndFollow()
+void ZRuntimeStylesheetEditor::Impl::checkAndApply()
 {
     check();
-    if (window->isApplyingWhileTyping() && mistakes().isEmpty() && target.exists() && target.sheet() != window->text())
+    if (window->isApplyingWhileTyping() && !hasMistakes() && target.exists() && target.sheet() != window->text())
         applyText();
 }
 
 void ZRuntimeStylesheetEditor::Impl::goToNextMistake()
 {
     check();
-    if (mistakes().isEmpty())
-        say([] { return ZRuntimeStylesheetEditor::tr("There are no mistakes."); });
-    view.editor->goToNextMistake();
+    if (!hasMistakes())
+        showMessage([] { return tr("There are no mistakes."); });
+    ui.editor->goToNextMistake();
 }
 
 // Target
 
 void ZRuntimeStylesheetEditor::setTarget(QWidget* widget)
 {
-    impl->view.targetBox->setTarget(widget);
+    impl->ui.targetBox->setTarget(widget);
     impl->chooseTarget(widget);
 }
 
 void ZRuntimeStylesheetEditor::Impl::chooseTarget(QWidget* widget)
 {
     target.set(widget);
-    say({});
-    view.editor->setScope(widget ? Scope::WIDGET : Scope::APPLICATION);
-    readUntouched();
+    showMessage({});
+    ui.editor->setScope(widget ? StyleSheetScope::WIDGET : StyleSheetScope::APPLICATION);
+    followTarget();
     check();
 }
 
@@ -270,23 +243,23 @@ bool ZRuntimeStylesheetEditor::hasTarget() const
 
 bool ZRuntimeStylesheetEditor::isApplyingWhileTyping() const
 {
-    return impl->view.typingBox->isChecked();
+    return impl->ui.typingBox->isChecked();
 }
 
 void ZRuntimeStylesheetEditor::setApplyingWhileTyping(bool on)
 {
-    impl->view.typingBox->setChecked(on);
+    impl->ui.typingBox->setChecked(on);
 }
 
 bool ZRuntimeStylesheetEditor::apply()
 {
     impl->check();
     if (!hasTarget()) {
-        impl->say([] { return tr("Not applied: the widget is gone. Choose another one."); }, true);
+        impl->showMessage([] { return tr("Not applied: the widget is gone. Choose another one."); }, true);
         return false;
     }
-    if (!impl->view.editor->isAccepted()) {
-        impl->say([this] { return tr("Not applied. %1").arg(impl->mistake()); }, true);
+    if (!impl->ui.editor->isAccepted()) {
+        impl->showMessage([this] { return tr("Not applied. %1").arg(impl->ui.mistakeSummary()); }, true);
         return false;
     }
     impl->applyText();
@@ -298,23 +271,22 @@ void ZRuntimeStylesheetEditor::Impl::applyText()
     target.apply(window->text());
     const QString name = target.widget() ? StyleSheetTargetComboBox::nameOf(target.widget()) : QString();
     const auto message = [this, name] {
-        const QString done = name.isEmpty() ? ZRuntimeStylesheetEditor::tr("Applied to the application.")
-                                            : ZRuntimeStylesheetEditor::tr("Applied to %1.").arg(name);
-        return (done + QLatin1Char(' ') + mistake()).trimmed();
+        const QString done = name.isEmpty() ? tr("Applied to the application.") : tr("Applied to %1.").arg(name);
+        return (done + QLatin1Char(' ') + ui.mistakeSummary()).trimmed();
     };
-    say(message, !mistakes().isEmpty());
+    showMessage(message, hasMistakes());
     Q_EMIT window->applied();
 }
 
 void ZRuntimeStylesheetEditor::revert()
 {
-    // What was typed last would come back by itself.
+    // Otherwise the pending check would apply the text again.
     impl->pause.stop();
     if (!impl->target.revert()) {
-        impl->say([] { return tr("Nothing was applied that could be reverted."); });
+        impl->showMessage([] { return tr("Nothing was applied that could be reverted."); });
         return;
     }
-    impl->say([] { return tr("Reverted."); });
+    impl->showMessage([] { return tr("Reverted."); });
     Q_EMIT reverted();
 }
 
@@ -322,12 +294,12 @@ void ZRuntimeStylesheetEditor::revert()
 
 QString ZRuntimeStylesheetEditor::text() const
 {
-    return impl->view.editor->source();
+    return impl->ui.editor->source();
 }
 
 void ZRuntimeStylesheetEditor::setText(const QString& text)
 {
-    impl->view.editor->replaceText(text);
+    impl->ui.editor->replaceText(text);
     impl->check();
     if (isApplyingWhileTyping())
         impl->pause.start();
@@ -337,24 +309,24 @@ void ZRuntimeStylesheetEditor::readFromTarget()
 {
     if (!hasTarget())
         return;
-    impl->view.question->dismiss();
-    impl->view.editor->replaceText(impl->target.sheet());
-    impl->settle(QString());
+    impl->ui.saveChangesBar->dismiss();
+    impl->ui.editor->replaceText(impl->target.sheet());
+    impl->setUnmodified(QString());
 }
 
-// An unmodified text follows the target. It becomes the state at which undo ends: the text before it is not user input.
-void ZRuntimeStylesheetEditor::Impl::readUntouched()
+// Replaces an unmodified text by the sheet of the target and clears the undo history, which holds no user input then.
+void ZRuntimeStylesheetEditor::Impl::followTarget()
 {
     if (window->isModified() || !fileName.isEmpty() || !target.exists() || target.sheet() == window->text())
         return;
-    view.question->dismiss();
-    view.editor->loadText(target.sheet());
-    settle(QString());
+    ui.saveChangesBar->dismiss();
+    ui.editor->loadText(target.sheet());
+    setUnmodified(QString());
 }
 
 bool ZRuntimeStylesheetEditor::isModified() const
 {
-    return impl->view.editor->document()->isModified();
+    return impl->ui.editor->document()->isModified();
 }
 
 QString ZRuntimeStylesheetEditor::fileName() const
@@ -367,13 +339,13 @@ bool ZRuntimeStylesheetEditor::load(const QString& fileName)
     StyleSheetFile::Error error;
     const auto contents = StyleSheetFile::Read(fileName, error);
     if (!contents) {
-        impl->say([error] { return error.describe(); }, true);
+        impl->showMessage([error] { return error.describe(); }, true);
         return false;
     }
-    impl->view.question->dismiss();
-    impl->view.editor->loadText(contents->text);
+    impl->ui.saveChangesBar->dismiss();
+    impl->ui.editor->loadText(contents->text);
     impl->hasByteOrderMark = contents->hasByteOrderMark;
-    impl->settle(fileName);
+    impl->setUnmodified(fileName);
     return true;
 }
 
@@ -381,74 +353,65 @@ bool ZRuntimeStylesheetEditor::save(const QString& fileName)
 {
     StyleSheetFile::Error error;
     if (!StyleSheetFile::Write(fileName, {text(), impl->hasByteOrderMark}, error)) {
-        impl->say([error] { return error.describe(); }, true);
+        impl->showMessage([error] { return error.describe(); }, true);
         return false;
     }
-    impl->settle(fileName);
-    impl->say([] { return tr("Saved."); });
-    impl->view.question->proceed();
+    impl->setUnmodified(fileName);
+    impl->showMessage([] { return tr("Saved."); });
+    impl->ui.saveChangesBar->proceed();
     return true;
 }
 
-// Marks the text as unmodified, as that of `file` or, when empty, of no file.
-void ZRuntimeStylesheetEditor::Impl::settle(const QString& file)
+// Marks the text as saved in `file`, or as belonging to no file when that is empty.
+void ZRuntimeStylesheetEditor::Impl::setUnmodified(const QString& file)
 {
     fileName = file;
     hasByteOrderMark = hasByteOrderMark && !file.isEmpty();
-    view.editor->document()->setModified(false);
-    // Loading an empty text, Qt says that it is modified, and not that it is not.
+    ui.editor->document()->setModified(false);
+    // QPlainTextEdit emits modificationChanged(true), but never false, for an empty text.
     window->setWindowModified(false);
     retranslate();
-    say({});
+    showMessage({});
     check();
 }
 
-void ZRuntimeStylesheetEditor::Impl::whenSettled(std::function<void()> action)
+void ZRuntimeStylesheetEditor::Impl::afterSaving(std::function<void()> action)
 {
     if (window->isModified())
-        view.question->ask(std::move(action));
+        ui.saveChangesBar->ask(std::move(action));
     else
         action();
 }
 
-// The dialog stands beside the program and does not hold it up.
-void ZRuntimeStylesheetEditor::Impl::showFileDialog(bool saving)
+// The dialog does not block the application.
+void ZRuntimeStylesheetEditor::Impl::showFileDialog(QFileDialog::AcceptMode mode)
 {
-    auto* dialog = new QFileDialog(window,
-                                   saving ? ZRuntimeStylesheetEditor::tr("Save the style sheet")
-                                          : ZRuntimeStylesheetEditor::tr("Open a style sheet"),
-                                   QFileInfo(fileName).path(),
-                                   ZRuntimeStylesheetEditor::tr("Style sheets (*.qss);;All files (*)"));
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
-    dialog->setAcceptMode(saving ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
-    dialog->setFileMode(saving ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
-    dialog->setDefaultSuffix(QStringLiteral("qss"));
+    QFileDialog* dialog = ui.makeFileDialog(window, mode, QFileInfo(fileName).path());
+    const bool saves = mode == QFileDialog::AcceptSave;
     connect(dialog, &QFileDialog::fileSelected, window,
-            saving ? &ZRuntimeStylesheetEditor::save : &ZRuntimeStylesheetEditor::load);
+            saves ? &ZRuntimeStylesheetEditor::save : &ZRuntimeStylesheetEditor::load);
     dialog->open();
 }
 
-void ZRuntimeStylesheetEditor::Impl::saveAgain()
+void ZRuntimeStylesheetEditor::Impl::save()
 {
     if (fileName.isEmpty())
-        showFileDialog(true);
+        showFileDialog(QFileDialog::AcceptSave);
     else
         window->save(fileName);
 }
 
 void ZRuntimeStylesheetEditor::openSearch()
 {
-    impl->view.search->open();
+    impl->ui.search->open();
 }
-
-// Events
 
 void ZRuntimeStylesheetEditor::changeEvent(QEvent* event)
 {
     QWidget::changeEvent(event);
     if (event->type() == QEvent::LanguageChange) {
         impl->retranslate();
-        impl->view.editor->markMistakes();
+        impl->ui.editor->markMistakes();
     }
 }
 
@@ -457,10 +420,10 @@ void ZRuntimeStylesheetEditor::showEvent(QShowEvent* event)
     QWidget::showEvent(event);
     if (event->spontaneous())
         return;
-    impl->readUntouched();
-    // Qt would give the focus to the first field.
+    impl->followTarget();
+    // Qt would focus the first child.
     if (isWindow() && !focusWidget())
-        impl->view.editor->setFocus();
+        impl->ui.editor->setFocus();
 }
 
 void ZRuntimeStylesheetEditor::hideEvent(QHideEvent* event)
@@ -477,9 +440,9 @@ void ZRuntimeStylesheetEditor::closeEvent(QCloseEvent* event)
         return;
     }
     event->ignore();
-    impl->view.question->ask([this] {
+    impl->ui.saveChangesBar->ask([this] {
         if (isModified())
-            impl->settle(QString()); // discarded
+            impl->setUnmodified(QString()); // discarded
         close();
     });
 }

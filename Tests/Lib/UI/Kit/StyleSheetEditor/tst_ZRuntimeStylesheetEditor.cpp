@@ -31,7 +31,6 @@
 
 using namespace Zelkor::Vx::UI::Kit;
 using StyleSheetChecker::Problem;
-using StyleSheetChecker::Scope;
 
 namespace {
 
@@ -115,7 +114,7 @@ private Q_SLOTS:
             }
         }
         QCOMPARE(StyleSheetChecker::Check("A { b c; d }").size(), 2);
-        QVERIFY(StyleSheetChecker::Check("a: b; c: d", Scope::WIDGET).isEmpty());
+        QVERIFY(StyleSheetChecker::Check("a: b; c: d", StyleSheetScope::WIDGET).isEmpty());
     }
 
     void refusesWhatQtRefuses_data()
@@ -164,8 +163,8 @@ private Q_SLOTS:
     {
         // Qt warns of images that it cannot load and of properties that it cannot set.
         const QString sheet = "* { qproperty-no: 1; image: url(:/no) } *::close-button { background-image: url(:/no) }";
-        QVERIFY(StyleSheetChecker::Check(sheet, Scope::WIDGET).isEmpty());
-        QVERIFY(!StyleSheetChecker::Check("A {{ }", Scope::WIDGET).isEmpty());
+        QVERIFY(StyleSheetChecker::Check(sheet, StyleSheetScope::WIDGET).isEmpty());
+        QVERIFY(!StyleSheetChecker::Check("A {{ }", StyleSheetScope::WIDGET).isEmpty());
         ExpectWarning("heard again");
         qWarning("heard again");
     }
