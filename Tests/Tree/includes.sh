@@ -41,6 +41,13 @@ for file in Host/StandIn/Boundary/*; do
                    /^(static|inline|template|const|constexpr|using) ?/) { print FILENAME ": " $0 }' "$file")"
 done
 
+# Units of Lib (a header with the source of the same name) do not include each other, directly or through others. The
+# tree includes by path only, so that this check sees all of it.
+forbid Lib '[A-Za-z]*\.h"' 'Lib includes by path only'
+circles=$(grep -rE '^#include <UI/' --include='*.h' --include='*.cpp' Lib |
+    sed -E 's/^Lib\/(.*)\.(h|cpp):#include <(.*)\.h>.*/\1 \3/' | awk '$1 != $2' | sort -u | tsort 2>&1 >/dev/null || true)
+[ -z "$circles" ] || { echo "units of Lib include each other:"; echo "$circles"; failed=1; }
+
 # No widget includes another, but for these pairs; what is no class of its own (a placement, a pump) belongs to one.
 allowed='ButtonWithPopUpContainer:AccessiblePopUpButton
 ButtonWithPopUpContainer:PopUpWindow

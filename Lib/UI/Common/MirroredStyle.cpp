@@ -1,4 +1,4 @@
-#include "MirroredStyle.h"
+#include <UI/Common/MirroredStyle.h>
 
 #include <QApplication>
 #include <QEvent>
