@@ -7,23 +7,23 @@
 
 namespace Zelkor::Vx::UI::Common {
 
-/// Has assistive technology meet the objects of the class `Widget`, and of classes derived from it, as `Interface`,
-/// which is made from a `Widget*`. GUI thread only.
+/// Installs `Interface`, which is constructed from a `Widget*`, as the accessible interface of `Widget` and of classes
+/// derived from it. GUI thread only.
 template<class Widget, class Interface>
 class AccessibleFactory
 {
 public:
-    /// To be called by each constructor of `Widget`: Qt takes a factory once, but forgets it with the application
-    /// object, and a program may make another one.
+    /// Called from each constructor of `Widget`. Qt ignores a factory that is installed already, but forgets all of
+    /// them with the application object, of which a test program creates several.
     static void Install()
     {
         QAccessible::installFactory(Create);
-        // Made after Qt's list of factories, so it goes before that.
+        // Constructed after Qt's list of factories and so destroyed before it.
         static const Removal REMOVAL;
     }
 
 private:
-    /// The library may be unloaded, and the factory is part of it.
+    /// Removes the factory when the library is unloaded.
     struct Removal
     {
         ~Removal() { QAccessible::removeFactory(Create); }
@@ -31,13 +31,13 @@ private:
 
     static QAccessibleInterface* Create(const QString& className, QObject* object)
     {
-        // Qt goes up the classes of the object, one by one.
+        // Qt calls this for the class of the object and then for each base class.
         const bool isOurs = className == QLatin1String(Widget::staticMetaObject.className());
         return isOurs ? new Interface(static_cast<Widget*>(object)) : nullptr;
     }
 };
 
-/// A widget of this kind, which has nothing to tell but what each widget has.
+/// The interface of a widget with another role and nothing else to report.
 template<QAccessible::Role ROLE>
 class AccessibleAs : public QAccessibleWidget
 {

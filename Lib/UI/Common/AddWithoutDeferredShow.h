@@ -5,16 +5,16 @@
 
 namespace Zelkor::Vx::UI::Common {
 
-/// Puts `widget` at the end of a widget's layout and shows it, unless somebody hid it.
+/// Appends `widget` to the layout of a widget and shows it, unless it was hidden explicitly.
 ///
-/// Left to itself, a visible layout shows its new widgets later, one by one, and each of them has everything laid out
-/// again: many widgets then take time with their square. Shown before they are in, they are laid out together.
+/// QLayout shows a new widget of a visible parent by a queued call, and each of these calls activates the layout again:
+/// adding many widgets is quadratic. This function shows the widget first, so that all are laid out at once.
 inline void AddWithoutDeferredShow(QBoxLayout* layout, QWidget* widget)
 {
-    const bool isMeantToBeHidden = widget->isHidden() && widget->testAttribute(Qt::WA_WState_ExplicitShowHide);
+    const bool isHiddenExplicitly = widget->isHidden() && widget->testAttribute(Qt::WA_WState_ExplicitShowHide);
     if (widget->parentWidget() != layout->parentWidget())
         widget->setParent(layout->parentWidget());
-    if (!isMeantToBeHidden) {
+    if (!isHiddenExplicitly) {
         layout->setEnabled(false);
         widget->show();
         layout->setEnabled(true);

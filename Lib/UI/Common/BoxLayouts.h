@@ -5,8 +5,8 @@
 
 namespace Zelkor::Vx::UI::Common {
 
-/// Makes a box layout without margins and spacing, on `parent` or, without one, for nesting. All layouts of the
-/// widgets are made here: distances come from style sheets alone.
+/// Returns a box layout without margins and spacing, installed on `parent` or, without one, for nesting. All widgets of
+/// the library use it, so that style sheets alone set distances.
 template<class BoxLayout>
 BoxLayout* MakeBoxLayout(QWidget* parent = nullptr)
 {

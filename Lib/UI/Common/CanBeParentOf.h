@@ -4,13 +4,13 @@
 
 namespace Zelkor::Vx::UI::Common {
 
-/// Returns false for null, for `container`, and for what `container` lies in, also across windows: as a child of
-/// `container`, such a widget would be a parent of its own parent.
-inline bool CanBeParentOf(const QWidget* container, const QWidget* widget)
+/// Returns whether `widget` may become a child of `parent`: not if it is null, `parent` itself or an ancestor of it,
+/// also across windows.
+inline bool CanBeParentOf(const QWidget* parent, const QWidget* widget)
 {
-    while (container && container != widget)
-        container = container->parentWidget();
-    return widget && !container;
+    while (parent && parent != widget)
+        parent = parent->parentWidget();
+    return widget && !parent;
 }
 
 } // namespace Zelkor::Vx::UI::Common

@@ -7,8 +7,8 @@
 
 namespace Zelkor::Vx::UI::Common {
 
-/// Makes a call into the host where an exception has no caller to go to: on a thread, in the event loop, in a
-/// destructor. Returns what was thrown, nothing after a call that succeeded. Internal.
+/// Calls a function of the host where no caller could handle an exception: on a worker thread, from the event loop, in
+/// a destructor. Returns the message of the exception, or nothing.
 template<class Call>
 std::optional<std::string> CatchException(Call&& call)
 {

@@ -4,8 +4,8 @@
 
 namespace Zelkor::Vx::UI::Common {
 
-/// A distance in pixels, cut to what a widget can be wide. Properties keep what they were told; sums of distances that
-/// went through this do not overflow, and look no different.
+/// Clamps a distance in pixels to QWIDGETSIZE_MAX, so that sums of a few distances do not overflow. Properties keep the
+/// value that was set.
 constexpr int ClampToWidgetSize(int pixels)
 {
     return pixels < -QWIDGETSIZE_MAX ? -QWIDGETSIZE_MAX : pixels > QWIDGETSIZE_MAX ? QWIDGETSIZE_MAX : pixels;

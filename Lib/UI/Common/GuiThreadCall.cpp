@@ -26,12 +26,12 @@ public:
 
     ~Carrier() override
     {
-        // Qt's own lock orders the event's memory between the threads, but the thread sanitizer does not see that lock.
+        // Qt's lock orders access to the event between the threads, but ThreadSanitizer does not see that lock.
         isComplete.load(std::memory_order_acquire);
-        // Qt deletes the event on another thread, or without an application, only while the process exits.
+        // On another thread, or without an application, Qt deletes events only while the process exits.
         if (!QCoreApplication::instance() || QThread::currentThread() != state->thread)
             return;
-        // Cleared first: a request that comes during the call leads to another call.
+        // Cleared first, so that a request made during the call leads to another call.
         state->isPending = false;
         if (const auto function = state->function)
             function();

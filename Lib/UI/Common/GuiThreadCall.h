@@ -7,14 +7,14 @@ class QObject;
 
 namespace Zelkor::Vx::UI::Common {
 
-/// Calls a function on the GUI thread at the request of any thread. Requests made while one is pending are merged.
+/// Calls a function on the GUI thread when any thread requests it. Merges requests while one is pending.
 ///
-/// The call is made when the event that carries the request is deleted, so an event filter that swallows the event
-/// does not prevent the call. The function must not rely on `deleteLater()`, which Qt ties to the delivery of events.
+/// The call is made when the event that carries the request is deleted, so that an event filter cannot prevent it. The
+/// function must not rely on `deleteLater()`, which Qt ties to the delivery of events.
 class GuiThreadCall
 {
 public:
-    /// Construct it on the GUI thread. `receiver` lives on that thread and must exist whenever `Request` is called.
+    /// GUI thread. `receiver` lives on that thread and must exist whenever `Request` is called.
     GuiThreadCall(QObject* receiver, std::function<void()> function);
 
     /// Any thread.
@@ -28,7 +28,7 @@ private:
     class Carrier;
 
     QObject* const receiver;
-    const std::shared_ptr<State> state; ///< shared with the event that is under way
+    const std::shared_ptr<State> state; ///< shared with the pending event
 };
 
 } // namespace Zelkor::Vx::UI::Common

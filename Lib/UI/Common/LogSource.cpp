@@ -27,7 +27,7 @@ void LogSource::Verbose(int level, int line, const char* function, const char* m
         google::LogMessage(file, line, google::GLOG_INFO).stream() << function << ": " << message;
 }
 
-// What VLOG_IS_ON does, with the given file. glog keeps the address of the site for good, so it is made once and stays.
+// VLOG_IS_ON for the given file. glog keeps the address of the site, which is therefore never deleted.
 bool LogSource::IsVerbose(int level) const
 {
 #if defined(__GNUC__)

@@ -12,13 +12,13 @@ namespace Zelkor::Vx::UI::Common {
 
 namespace {
 
-// On the application, as the kit may be there twice: in the widget library and in a program that links it.
+// A property of the application, since a process may contain the kit twice: in the widget library and in the program.
 const char* const INSTALLED = "_vxFollowsLayoutDirection";
 
 class DirectionFilter : public QObject
 {
 public:
-    // With a library that is unloaded; the next one to come installs its own.
+    // Destroyed with an unloaded library. The other copy of the kit may then install its own filter.
     ~DirectionFilter() override
     {
         if (qApp)
@@ -34,7 +34,7 @@ public:
             return false;
         const QPointer<QObject> receiver = watched;
         Polish(widget);
-        return !receiver; // the style change may have led to its end
+        return !receiver; // a slot may have deleted it
     }
 
 private:
@@ -49,7 +49,7 @@ private:
         return false;
     }
 
-    // A sheet is long, and all widgets of a window ask about the same one.
+    // Caches the answer: sheets are long, and most widgets share one.
     static bool IsMirrored(const QString& sheet, QString& known, bool& isMirrored)
     {
         if (sheet.isEmpty())
@@ -63,11 +63,11 @@ private:
 
     void Polish(QWidget* widget)
     {
-        // Rules may set the direction themselves, and two of them could take turns without end.
+        // Rules that set the direction could alternate forever.
         if (polishing.contains(widget))
             return;
         polishing.append(widget);
-        // Like Qt after a change of the sheet: polishing matches the rules anew, and the event is for cached sizes.
+        // As Qt does after a change of the sheet: polish() matches the rules again, the event resets cached sizes.
         widget->style()->polish(widget);
         QEvent change(QEvent::StyleChange);
         QCoreApplication::sendEvent(widget, &change);

@@ -4,7 +4,7 @@
 
 namespace Zelkor::Vx::UI::Common {
 
-// Object names by which style sheets address parts that several widgets have.
+// Object names of parts that several widgets have, for selectors of style sheets.
 extern const QString TEXT_LABEL;
 extern const QString HOT_KEY_LABEL;
 extern const QString ICON_LABEL;

@@ -4,7 +4,7 @@
 
 namespace Zelkor::Vx::UI::Common {
 
-/// Whether the key is one of those that open combo boxes and menu buttons: Down, Alt+Down, F4 or the menu key.
+/// Returns whether a key opens combo boxes and menu buttons: Down, Alt+Down, F4 or the menu key.
 inline bool OpensPopUp(const QKeyEvent& event)
 {
     const Qt::KeyboardModifiers modifiers = event.modifiers() & ~Qt::KeypadModifier;

@@ -5,18 +5,16 @@
 
 namespace Zelkor::Vx::UI::Common {
 
-/// Whether `control` takes a wheel event. One that takes the wheel `onlyInFocus` leaves it to its parent while it has
-/// no focus, so that a wheel turned over a panel full of controls scrolls the panel and changes nothing.
+/// Accepts or ignores a wheel event for `control` and returns whether it was accepted. With `onlyInFocus`, a control
+/// without the focus ignores it, so that the wheel scrolls the panel around and does not change values.
 inline bool AcceptWheelEvent(const QWidget& control, QWheelEvent& event, bool onlyInFocus)
 {
-    const bool takes = !onlyInFocus || control.hasFocus();
-    event.setAccepted(takes);
-    return takes;
+    event.setAccepted(!onlyInFocus || control.hasFocus());
+    return event.isAccepted();
 }
 
-/// Whether a turn of the wheel gives `control` the focus, as it does by itself with the fields of Qt that step. One
-/// that takes the wheel only in focus must not get the focus this way. A policy without the wheel that somebody else
-/// chose stays.
+/// Sets whether the wheel gives `control` the focus, as it does by default in spin boxes of Qt. A control that uses the
+/// wheel only in focus must not get the focus this way. Other focus policies are not changed.
 inline void SetWheelFocusEnabled(QWidget& control, bool on)
 {
     if (control.focusPolicy() == (on ? Qt::StrongFocus : Qt::WheelFocus))

@@ -14,8 +14,8 @@
 
 namespace {
 
-// Lays the items of a list out again when it goes. It goes by itself once the event loop is back, when the list has
-// taken whatever change is under way.
+// Lays out the items of a view again when it is destroyed: from the event loop, when the view has handled the current
+// change.
 class DeferredFlow : public QObject
 {
 public:
@@ -23,7 +23,7 @@ public:
 
     ~DeferredFlow() override
     {
-        // A list that is about to die has its children deleted when it is but a widget, or an object, itself.
+        // The destructor of the view deletes its children when it is no QListView any more.
         if (auto* view = qobject_cast<QListView*>(parent()))
             view->setFlow(QListView::TopToBottom);
     }
@@ -37,7 +37,7 @@ QRect ScreenOf(const QWidget& widget)
     return screen->availableGeometry();
 }
 
-// What a pop-up has beside its list.
+// Returns the width of a pop-up that its list does not fill.
 int WidthAround(const QWidget* popUp)
 {
     if (!popUp || !popUp->layout())
@@ -46,7 +46,7 @@ int WidthAround(const QWidget* popUp)
     return margins.left() + margins.right();
 }
 
-// Where a pop-up that would begin at `left` begins, to be on the screen: whole, or at least with its beginning.
+// Moves a pop-up at `left` onto the screen: entirely, or at least its leading edge.
 int PopUpLeft(int left, int width, const QRect& screen, bool isRightToLeft)
 {
     const int last = screen.x() + screen.width() - width;
@@ -74,7 +74,7 @@ void AdvancedComboView::applyWidth()
         return;
     const QScrollBar* bar = verticalScrollBar();
     const int barWidth = bar && bar->maximum() != 0 ? bar->width() : 0;
-    // A style sheet may give the list a border and padding of its own.
+    // A style sheet may add a border and padding.
     const int frame = width() - maximumViewportSize().width();
     const int needed = widestItem + barWidth + frame;
     setMinimumWidth(std::min(needed, ScreenOf(*combo).width() - WidthAround(parentWidget())));
@@ -110,17 +110,17 @@ void AdvancedComboView::updateGeometries()
     QListView::updateGeometries();
 }
 
-// Called right after a layout. In a long list, measuring all items once more would take as long as opening it.
+// Called right after a layout. Measuring all items again would double the time that a long list takes to open.
 int AdvancedComboView::measureItems() const
 {
     const int column = combo->modelColumn();
-    // Rows of a menu differ only in the bold one; QComboBox::showPopup() makes room for the texts.
+    // Rows of a menu differ only in the bold one. QComboBox::showPopup() makes room for the texts.
     if (itemDelegate()->inherits("QComboMenuDelegate"))
         return sizeHintForIndex(model()->index(std::max(0, combo->currentIndex()), column, rootIndex())).width();
-    // The layout measured the items; until scroll bars come, the contents are as wide as the widest one.
+    // Before scroll bars are added, the contents are as wide as the widest item.
     if (itemDelegate()->inherits("QComboBoxDelegate"))
         return contentsSize().width();
-    // What other delegates ask for may depend on the width that the list has already.
+    // Size hints of other delegates may depend on the current width.
     return sizeHintForColumn(column);
 }
 
@@ -139,7 +139,7 @@ void AdvancedComboView::paintEvent(QPaintEvent* event)
     QListView::paintEvent(event);
 }
 
-// Some styles make the list of a combo box a menu.
+// Some styles draw the list of a combo box as a menu.
 void AdvancedComboView::paintMenuBackground(const QRect& area)
 {
     QStyleOptionComboBox comboOption;
@@ -162,7 +162,7 @@ void AdvancedComboView::paintMenuBackground(const QRect& area)
 void AdvancedComboView::changeEvent(QEvent* event)
 {
     if (event->type() == QEvent::LayoutDirectionChange && combo && combo->view()->isVisible()) {
-        // Opened anew, the pop-up stands as the other direction has it.
+        // Reopens the pop-up, because its position depends on the direction.
         combo->hidePopup();
         combo->showPopup();
     } else if (event->type() == QEvent::ParentChange && parent()) {
@@ -173,7 +173,7 @@ void AdvancedComboView::changeEvent(QEvent* event)
     QListView::changeEvent(event);
 }
 
-// The combo box places its pop-up before it is as wide as it gets.
+// QComboBox moves its pop-up before the view has its final width.
 void AdvancedComboView::keepPopUpOnScreen()
 {
     QWidget* popUp = window();

@@ -5,18 +5,18 @@
 
 class QComboBox;
 
-/// The list that a `ZComboBox` opens.
+/// The list view of a `ZComboBox`, drawn with the font of the combo box.
 ///
-/// A wide one shows the texts of its items in full: it makes its pop-up as wide as the widest item, up to the width of
-/// the screen, and keeps it on the screen. Otherwise the list is as wide as the combo box and elides. It is wide or
-/// narrow for life; the combo box replaces its list instead. It is drawn with the font of the combo box.
+/// A wide view makes its pop-up as wide as the widest item, up to the width of the screen, and keeps it on the screen.
+/// A narrow one is as wide as the combo box and elides its items. The combo box replaces the view to switch between
+/// both.
 class AdvancedComboView : public QListView
 {
 public:
-    /// Without a parent: `QComboBox::setView` takes it. It serves `combo`, and stays a plain list when that is gone.
+    /// Has no parent until `QComboBox::setView` takes ownership. Works as a plain QListView after `combo` is destroyed.
     AdvancedComboView(QComboBox* combo, bool wide);
 
-    /// Makes a wide list as wide as its items need by now, by its minimum width.
+    /// Sets the minimum width of a wide view to that of its items.
     void fitToItems();
 
     void doItemsLayout() override;
@@ -37,6 +37,6 @@ private:
 
     QPointer<QComboBox> combo;
     const bool wide;
-    bool hasNewLayout = false; ///< that updateGeometries() has not seen
+    bool hasNewLayout = false; ///< whether items were laid out since updateGeometries()
     int widestItem = 0;        ///< in pixels, as of the last layout
 };

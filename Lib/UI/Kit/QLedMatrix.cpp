@@ -17,7 +17,7 @@ using Kit::LedPixmapCache;
 
 namespace {
 
-// In units of the grid. An LED is a circle in its cell, with an even border around it.
+// In units of the grid. An LED is a circle, centred in its cell.
 constexpr int CELL = 10;
 constexpr double LED = LedPixmapCache::DIAMETER;
 constexpr double BORDER = 1;
@@ -25,7 +25,7 @@ constexpr double BORDER = 1;
 constexpr int MAXIMUM_COUNT = QWIDGETSIZE_MAX / CELL;
 constexpr qint64 MAXIMUM_LEDS = 1 << 24;
 
-// In pixels. Further than this, the raster engine paints nothing.
+// In pixels. The raster engine paints nothing beyond.
 constexpr double LARGEST_LINE = 32767;
 
 bool IsReasonable(qint64 rows, qint64 columns)
@@ -36,10 +36,10 @@ bool IsReasonable(qint64 rows, qint64 columns)
 struct Range
 {
     int first;
-    int last; ///< less than first when there is nothing
+    int last; ///< less than `first` if the range is empty
 };
 
-// The indexes of cells between two coordinates, with one to spare at each end.
+// Returns the indexes of the cells between two coordinates, and one more at each end.
 Range CellsBetween(double begin, double end, int count)
 {
     const auto index = [=](double coordinate) {
@@ -48,8 +48,8 @@ Range CellsBetween(double begin, double end, int count)
     return {qMax(0, index(begin) - 1), qMin(count - 1, index(end) + 1)};
 }
 
-// Whether pixels are painted, upright and square ones. Anything else, a printer or a turned view, is given circles.
-bool TakesStamps(const QPainter& painter, const QRectF& exposed)
+// Returns whether the painter paints square, unrotated pixels, unlike a printer or a rotated view.
+bool CanUseCache(const QPainter& painter, const QRectF& exposed)
 {
     const QTransform transform = painter.deviceTransform();
     const bool isUpright = transform.type() <= QTransform::TxScale && transform.m11() > 0 &&
@@ -82,7 +82,7 @@ struct QLedMatrix::Impl
     void UpdateStale();
     QTransform GridToWidget() const;
     void PaintCircles(QPainter& painter, Range rowRange, Range columnRange) const;
-    void PaintStamps(QPainter& painter, Range rowRange, Range columnRange);
+    void PaintCachedCircles(QPainter& painter, Range rowRange, Range columnRange);
 
     QLedMatrix* owner;
     QBrush background{Qt::black, Qt::SolidPattern};
@@ -95,8 +95,8 @@ struct QLedMatrix::Impl
     double logicalWidth = 0;
     double aspect = 0;
 
-    QRect stale; ///< LEDs that have changed and were not updated, as columns and rows
-    LedPixmapCache stamps;
+    QRect stale; ///< columns and rows of LEDs that changed without an update
+    LedPixmapCache cache;
 };
 
 // New LEDs are off.
@@ -124,7 +124,7 @@ void QLedMatrix::Impl::UpdateAll()
     owner->update();
 }
 
-// A pixel more at each side, for device pixels that lie across the border of two.
+// Includes one more pixel at each side, because device pixels may overlap two logical ones.
 void QLedMatrix::Impl::UpdateStale()
 {
     const QRectF cells(stale.x() * CELL, stale.y() * CELL, stale.width() * CELL, stale.height() * CELL);
@@ -133,7 +133,7 @@ void QLedMatrix::Impl::UpdateStale()
     stale = QRect();
 }
 
-// From units of the grid, whose origin is the first LED. A widget without width or height makes everything a point.
+// Maps units of the grid, with the first LED at the origin, to the widget. Singular if the widget is empty.
 QTransform QLedMatrix::Impl::GridToWidget() const
 {
     const double factor = qMin(owner->width() / logicalWidth, owner->height() / logicalHeight);
@@ -152,26 +152,26 @@ void QLedMatrix::Impl::PaintCircles(QPainter& painter, Range rowRange, Range col
     }
 }
 
-// Row by row by way of an image, in pixels of the device.
-void QLedMatrix::Impl::PaintStamps(QPainter& painter, Range rowRange, Range columnRange)
+// Paints one image per row, in device pixels.
+void QLedMatrix::Impl::PaintCachedCircles(QPainter& painter, Range rowRange, Range columnRange)
 {
     const QTransform transform = painter.deviceTransform();
     painter.setWorldTransform(transform.inverted(), true);
-    stamps.setScale(transform.m11());
+    cache.setScale(transform.m11());
     QVector<LedPixmapCache::SubpixelPosition> places;
     for (int column = columnRange.first; column <= columnRange.last; ++column)
         places.append(LedPixmapCache::SubpixelPosition(transform.dx() + double(column) * CELL * transform.m11()));
     const int left = places.first().pixel;
-    const bool areApart = stamps.areApart(CELL * transform.m11());
-    QImage line = stamps.lineBetween(left, places.last().pixel);
+    const bool areApart = cache.areApart(CELL * transform.m11());
+    QImage pixels = cache.makeRow(left, places.last().pixel);
     for (int row = rowRange.first; row <= rowRange.last; ++row) {
         const LedPixmapCache::SubpixelPosition y(transform.dy() + double(row) * CELL * transform.m22());
-        line.fill(Qt::transparent);
+        pixels.fill(Qt::transparent);
         for (int i = 0; i < places.size(); ++i) {
             const QRgb color = leds.at(columnRange.first + i).at(row);
-            stamps.draw(line, places[i].pixel - left, places[i].phase, y.phase, color, areApart);
+            cache.draw(pixels, places[i].pixel - left, places[i].phase, y.phase, color, areApart);
         }
-        painter.drawImage(left, y.pixel, line);
+        painter.drawImage(left, y.pixel, pixels);
     }
 }
 
@@ -270,7 +270,7 @@ void QLedMatrix::setColorAt(int row, int column, QRgb color, bool update)
         return;
     }
     impl->leds[column][row] = color;
-    // One that is hidden is painted as a whole when it is shown.
+    // A hidden widget is repainted as a whole when it is shown.
     if (isVisible())
         impl->stale |= QRect(column, row, 1, 1);
     if (update && !impl->stale.isNull())
@@ -308,8 +308,8 @@ void QLedMatrix::paintEvent(QPaintEvent* event)
     if (rowRange.last < rowRange.first || columnRange.last < columnRange.first)
         return;
     painter.setTransform(gridToWidget, true);
-    if (TakesStamps(painter, painter.deviceTransform().mapRect(exposed)))
-        impl->PaintStamps(painter, rowRange, columnRange);
+    if (CanUseCache(painter, painter.deviceTransform().mapRect(exposed)))
+        impl->PaintCachedCircles(painter, rowRange, columnRange);
     else
         impl->PaintCircles(painter, rowRange, columnRange);
 }

@@ -5,11 +5,10 @@
 
 #include <memory>
 
-/// A grid of round LEDs, each of a colour of its own, as large as the widget allows at the grid's aspect ratio.
+/// A grid of round LEDs, each with its own colour, scaled to the widget with the aspect ratio of the grid.
 ///
-/// An LED that is off has the dark colour. Colours are 0xAARRGGBB; what is translucent lets the background through.
-/// Rows and columns count from the top left, in right-to-left layouts as well, for they make a picture. A grid has no
-/// rows and columns at first. GUI thread only.
+/// An LED that is off has the dark colour. Colours are 0xAARRGGBB; translucent ones are blended with the background.
+/// Rows and columns count from the top left in every layout direction, because the grid is a picture. GUI thread only.
 class QLedMatrix : public QWidget
 {
     Q_OBJECT
@@ -21,51 +20,53 @@ class QLedMatrix : public QWidget
 
 public:
     enum LEDColor : QRgb {
-        NoColor = 0xFF222222, ///< the dark colour as it is at first
-        Red = 0xFFFF0000,
-        Green = 0xFF00FF00,
-        Blue = 0xFF0000FF,
-        White = 0xFFFFFFFF,
-        Orange = 0xFFFF8800,
-        OrangeRed = 0xFFFF2200,
-        Yellow = 0xFFFFFF00
+        NoColor = 0xFF222222,   ///< dark grey, the default of `darkLedColor`
+        Red = 0xFFFF0000,       ///< pure red
+        Green = 0xFF00FF00,     ///< pure green
+        Blue = 0xFF0000FF,      ///< pure blue
+        White = 0xFFFFFFFF,     ///< full white
+        Orange = 0xFFFF8800,    ///< light orange
+        OrangeRed = 0xFFFF2200, ///< orange that is nearly red
+        Yellow = 0xFFFFFF00     ///< pure yellow
     };
     Q_ENUM(LEDColor)
 
     explicit QLedMatrix(QWidget* parent = nullptr);
     ~QLedMatrix() override;
 
-    /// What is behind the LEDs, black by default; not painted in `Qt::TransparentMode`.
+    /// Colour behind the LEDs, not painted in `Qt::TransparentMode`; black by default.
     QColor backgroundColor() const;
     void setBackgroundColor(const QColor& color);
 
+    /// Whether the background is painted; `Qt::OpaqueMode` by default.
     Qt::BGMode backgroundMode() const;
     void setBackgroundMode(Qt::BGMode mode);
 
-    /// The colour of an LED that is off. LEDs that have it when it changes are off, and take the new one: a style sheet
-    /// may set it after the application has built the grid.
+    /// Colour of an LED that is off; `NoColor` by default. A new colour replaces the old one in all LEDs that have it,
+    /// because a style sheet may set it after the application filled the grid.
     QColor darkLedColor() const;
     void setDarkLedColor(const QColor& color);
 
-    /// The size of the grid. New LEDs are off. A negative count is ignored. So is one, with a warning, by which the
-    /// preferred size would be larger than a widget can be (1677721 rows or columns), or by which the grid would have
-    /// more than 2^24 LEDs: they take 64 MiB, and no screen shows as many.
+    /// Number of rows; 0 by default. New LEDs are off. Ignores a negative count and, with a warning, more than 1677721
+    /// rows (the largest size hint of a widget) or 2^24 LEDs in total (64 MiB).
     int rows() const;
     void setRowCount(int count);
+
+    /// Number of columns; 0 by default. Limits are those of rows.
     int columns() const;
     void setColumnCount(int count);
 
-    /// The colour of an LED. Warns and returns the dark colour when there is no such LED.
+    /// Returns the colour of an LED. Warns and returns the dark colour for coordinates outside the grid.
     QRgb colorAt(int row, int column) const;
 
-    /// Sets the colour of an LED; warns when there is no such LED. Without `update` the change shows with the next one
-    /// that comes with it, or with the next repaint.
+    /// Sets the colour of an LED; warns about coordinates outside the grid. With `update` false, the change is painted
+    /// after the next call with `update` true or with the next repaint.
     void setColorAt(int row, int column, QRgb color, bool update = true);
 
-    /// Switches all LEDs off.
+    /// Switches off all LEDs.
     void clear();
 
-    /// Ten pixels for each LED. Warns when there is none.
+    /// Returns ten pixels for each LED. Warns about an empty grid.
     QSize sizeHint() const override;
 
 protected:

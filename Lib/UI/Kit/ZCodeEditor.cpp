@@ -11,22 +11,22 @@
 
 namespace {
 
-constexpr int MARGIN_PADDING = 6;  ///< pixels at each side of a number
-constexpr int LINE_ALPHA = 20;     ///< of 255, how the colour of the text shows behind the current line
-constexpr int NUMBER_ALPHA = 150;  ///< and in the numbers of the other lines
-constexpr int SMALLEST_DIGITS = 2; ///< so that the margin of a short text does not grow at once
-constexpr int LONGEST_WAVE = 100;  ///< characters under a mark; a longer word is not seen whole
-constexpr QRgb MARK = 0xffe5484d;  ///< a red that shows on dark and on light
+constexpr int MARGIN_PADDING = 6;  ///< pixels at either side of a line number
+constexpr int LINE_ALPHA = 20;     ///< opacity of the highlight of the current line, of 255
+constexpr int NUMBER_ALPHA = 150;  ///< opacity of the numbers of other lines, of 255
+constexpr int SMALLEST_DIGITS = 2; ///< keeps the margin from growing at line 10
+constexpr int LONGEST_WAVE = 100;  ///< maximum number of underlined characters
+constexpr QRgb MARK = 0xffe5484d;  ///< red with enough contrast on dark and light backgrounds
 
-// The leading spaces and tabs of a line.
+// Returns the leading white space of a line.
 QString IndentationOf(const QString& line)
 {
     const auto end = std::find_if(line.begin(), line.end(), [](QChar letter) { return !letter.isSpace(); });
     return line.left(static_cast<int>(end - line.begin()));
 }
 
-// Selects from the position up to a space or a sign that ends things, or LONGEST_WAVE characters; at the end of a line,
-// the letter before it.
+// Selects up to the next space or delimiter, at most LONGEST_WAVE characters. At the end of a line, selects the
+// character before it.
 QTextCursor WordAt(QTextDocument* document, int position)
 {
     static const QString ENDS = QStringLiteral(" \t;,:{}");
@@ -76,8 +76,8 @@ private:
 
 ZCodeEditor::ZCodeEditor(QWidget* parent) : QPlainTextEdit(parent), margin(new Margin(this))
 {
-    // The family alone, so that the size follows the application. Where the desktop names no family that is fixed, the
-    // font system may know one.
+    // Sets the family only, so that the size follows the application. Where the desktop has no fixed-pitch default, the
+    // font system may provide one.
     const QFont fixed = QFontDatabase::systemFont(QFontDatabase::FixedFont);
     QFont family;
     family.setFamily(QFontInfo(fixed).fixedPitch() ? fixed.family() : QStringLiteral("monospace"));
@@ -132,7 +132,7 @@ void ZCodeEditor::applyFontMetrics()
     layOutMargin();
 }
 
-// Setting the viewport's margins adds scroll bars before it removes any, so they are set on change only.
+// Sets the margins on change only: setViewportMargins() may briefly add scroll bars.
 void ZCodeEditor::layOutMargin()
 {
     if (viewportMargins().left() != marginWidth())
@@ -142,7 +142,7 @@ void ZCodeEditor::layOutMargin()
     margin->update();
 }
 
-// The current line, and a wave under what each mark is about.
+// Highlights the current line and underlines the marked words.
 void ZCodeEditor::refreshSelections()
 {
     QList<QTextEdit::ExtraSelection> selections;
@@ -176,13 +176,13 @@ QString ZCodeEditor::messageAt(int y) const
 
 bool ZCodeEditor::event(QEvent* event)
 {
-    // As Tab does what it does in code, another key has to lead on to the next widget.
+    // Tab indents, so Ctrl+Tab moves the focus.
     if (event->type() == QEvent::KeyPress) {
         const auto* press = static_cast<QKeyEvent*>(event);
         const bool isBack = press->key() == Qt::Key_Backtab || press->modifiers().testFlag(Qt::ShiftModifier);
         if (press->modifiers().testFlag(Qt::ControlModifier) &&
             (press->key() == Qt::Key_Tab || press->key() == Qt::Key_Backtab)) {
-            // The text edit itself never lets go: its own function is no more than Tab, which it keeps.
+            // QPlainTextEdit overrides this function and keeps the focus.
             QWidget::focusNextPrevChild(!isBack);
             return true;
         }
@@ -220,7 +220,7 @@ void ZCodeEditor::keyPressEvent(QKeyEvent* event)
         QPlainTextEdit::keyPressEvent(event);
 }
 
-// The lines of the selection, a step each; without one, deeper means up to the next stop from the cursor.
+// Indents or unindents the selected lines. Without a selection, indenting inserts spaces up to the next tab stop.
 void ZCodeEditor::moveLines(bool deeper)
 {
     QTextCursor cursor = textCursor();
@@ -230,7 +230,7 @@ void ZCodeEditor::moveLines(bool deeper)
         return;
     }
     QTextBlock block = document()->findBlock(cursor.selectionStart());
-    // A selection that ends where a line begins has nothing of that line.
+    // A selection that ends at the start of a line does not include that line.
     const int end = std::max(cursor.selectionStart(), cursor.selectionEnd() - 1);
     cursor.beginEditBlock();
     for (; block.isValid() && block.position() <= end; block = block.next()) {

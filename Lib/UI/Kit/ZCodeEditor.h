@@ -3,39 +3,39 @@
 #include <QPlainTextEdit>
 #include <QVector>
 
-/// An editor for code: line numbers in a margin, the current line set off, marks at lines, and indentation with spaces.
+/// A code editor with line numbers, a highlighted current line, marks and indentation by spaces.
 ///
-/// Tab goes to the next stop, or indents the lines of a selection; Shift+Tab takes a step back. Return keeps the
-/// indentation, one step deeper behind a "{"; a "}" that begins a line goes a step back. Ctrl+Tab leaves the editor, as
-/// Tab does elsewhere. Code runs from left to right whatever the direction of the window.
+/// Tab inserts spaces up to the next tab stop or indents the selected lines; Shift+Tab unindents them. Return keeps the
+/// indentation and adds a level after "{"; a "}" at the start of a line removes one. Ctrl+Tab moves the focus. Code is
+/// laid out from left to right in every layout direction. GUI thread only.
 class ZCodeEditor : public QPlainTextEdit
 {
     Q_OBJECT
     Q_PROPERTY(int indentWidth READ indentWidth WRITE setIndentWidth)
 
 public:
-    /// Something to be seen to.
+    /// A message about a place in the text.
     struct Mark
     {
-        int position; ///< characters before it in the text
-        QString message;
+        int position;    ///< character index in the text
+        QString message; ///< tool tip of the mark
     };
 
     explicit ZCodeEditor(QWidget* parent = nullptr);
 
-    /// Characters of one step of indentation, from 1; 4 by default.
+    /// Characters per level of indentation, at least 1; 4 by default.
     int indentWidth() const { return indent; }
     void setIndentWidth(int width);
 
-    /// Marks stand in the margin beside their line, and underline the text where they are. Positions beyond the text
-    /// are taken as its end.
+    /// Marks are shown in the margin beside their line and underline the word at their position. Positions are clamped
+    /// to the text.
     const QVector<Mark>& marks() const { return markList; }
     void setMarks(const QVector<Mark>& marks);
 
-    /// Puts the cursor there and shows it.
+    /// Moves the cursor to a character and scrolls it to the centre.
     void goTo(int position);
 
-    /// Pixels.
+    /// Returns the width of the margin in pixels.
     int marginWidth() const;
 
 protected:

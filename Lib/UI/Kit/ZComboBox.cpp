@@ -9,15 +9,15 @@
 
 namespace {
 
-constexpr int ICON_GAP = 4; ///< which styles leave between the icon and the text
+constexpr int ICON_GAP = 4; ///< pixels between icon and text in styles of Qt
 
 QFontMetrics MetricsOn(const QWidget* widget)
 {
     return QFontMetrics(widget->font(), widget);
 }
 
-// The delegate that QComboBox made for its list, and replaces when the style changes. It draws separators, and the rows
-// as the style or a style sheet draws them in combo boxes. Null when QComboBox::setItemDelegate deleted it.
+// Returns the delegate that QComboBox created, which draws separators and the rows in the style of combo boxes, and
+// which QComboBox replaces when the style changes. Null if QComboBox::setItemDelegate() deleted it.
 QAbstractItemDelegate* ComboDelegateOf(const QAbstractItemView& list)
 {
     for (auto* delegate : list.findChildren<QAbstractItemDelegate*>(QString(), Qt::FindDirectChildrenOnly)) {
@@ -53,8 +53,8 @@ void ZComboBox::setWidePopupEnabled(bool on)
     if (isOpen)
         QComboBox::hidePopup();
     AdvancedComboView* fresh = makeList();
-    // Taken out of the pop-up, which would delete it at once: the change may come from one of its own events. A child
-    // of the combo box would be taken for its list by style sheets.
+    // The pop-up would delete its old view at once, but this may be called from an event of the view. As a child of the
+    // combo box, style sheets would take it for the list.
     old->setParent(nullptr);
     connect(model(), &QObject::destroyed, old, [old] { delete old; });
     old->deleteLater();
@@ -64,7 +64,7 @@ void ZComboBox::setWidePopupEnabled(bool on)
     Q_EMIT widePopupEnabledChanged();
 }
 
-// A list for the place of the present one, whose delegate it takes.
+// Creates a view that takes the delegate of the current one.
 AdvancedComboView* ZComboBox::makeList()
 {
     QAbstractItemView* present = view();
@@ -75,7 +75,7 @@ AdvancedComboView* ZComboBox::makeList()
     if (QAbstractItemDelegate* delegate = ComboDelegateOf(*present)) {
         delegate->setParent(list);
         list->setItemDelegate(delegate);
-        // QComboBox may delete its delegate before the present list goes.
+        // QComboBox may delete its delegate before the old view.
         present->setItemDelegate(new QStyledItemDelegate(present));
     }
     return list;
@@ -101,7 +101,7 @@ void ZComboBox::setDisplayText(const QString& text)
 
 void ZComboBox::setPopupWidget(QWidget* window)
 {
-    // From now on, hiding means the other one: an open list would stay.
+    // hidePopup() will hide the window, so an open list must be closed now.
     if (window && view()->isVisible())
         QComboBox::hidePopup();
     popUp = window;
@@ -110,7 +110,7 @@ void ZComboBox::setPopupWidget(QWidget* window)
 void ZComboBox::showPopup()
 {
     if (!popUp) {
-        // An application may have set a list of its own.
+        // The application may have set another view.
         if (auto* list = dynamic_cast<AdvancedComboView*>(view()))
             list->fitToItems();
         QComboBox::showPopup();
@@ -132,7 +132,7 @@ void ZComboBox::hidePopup()
         QComboBox::hidePopup();
 }
 
-// Qt forgets the minimum size of the old style, but not that of the old font.
+// QComboBox resets the cached minimum size after a change of the style, but not of the font.
 void ZComboBox::changeEvent(QEvent* event)
 {
     QComboBox::changeEvent(event);
@@ -168,7 +168,7 @@ void ZComboBox::paintEvent(QPaintEvent* event)
     initStyleOption(&option);
     style()->drawComplexControl(QStyle::CC_ComboBox, &option, &painter, this);
     if (shownText.isEmpty() && currentIndex() < 0 && !placeholderText().isEmpty()) {
-        // As pale as any combo box has it.
+        // As QComboBox paints it.
         option.palette.setBrush(QPalette::ButtonText, option.palette.placeholderText());
         option.currentText = placeholderText();
     }
@@ -190,7 +190,7 @@ QString ZComboBox::faceText(const QStyleOptionComboBox& option)
         return shownText;
     const QRect edit = style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this);
     const int iconSpace = option.currentIcon.isNull() ? 0 : option.iconSize.width() + ICON_GAP;
-    // The text of the option is the current one, so a tool tip of somebody else does not outlive the painting.
+    // The option contains the current text, so that painting replaces a tool tip of the application.
     const QString tip = currentText() == option.currentText ? QString() : currentText();
     if (toolTip() != tip)
         setToolTip(tip);

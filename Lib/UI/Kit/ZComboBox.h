@@ -5,10 +5,10 @@
 
 class AdvancedComboView;
 
-/// A combo box that can leave the mouse wheel to its panel, show a fixed text whatever is chosen, elide what is too
-/// long for it, open a list as wide as its items, and open a widget of the application in place of the list.
+/// A combo box with a list as wide as its items, elided or fixed text, an optional wheel, and a pop-up window of the
+/// application in place of the list.
 ///
-/// Its list is an `AdvancedComboView`. Items, data, keys and signals are those of `QComboBox`.
+/// Its view is an `AdvancedComboView`. Items, data, keys and signals are those of `QComboBox`. GUI thread only.
 class ZComboBox : public QComboBox
 {
     Q_OBJECT
@@ -21,32 +21,31 @@ class ZComboBox : public QComboBox
 public:
     explicit ZComboBox(QWidget* parent = nullptr);
 
-    /// Whether the wheel changes the current item; on by default. When off, the wheel is the parent's, with focus and
-    /// without. The wheel never gives the focus.
+    /// Whether the wheel changes the current item; true by default. If false, wheel events are left to the parent. The
+    /// wheel never gives the focus.
     bool isMouseWheelEnabled() const { return mouseWheelEnabled; }
     void setMouseWheelEnabled(bool on);
 
-    /// Whether the list is as wide as its widest item, also beyond the combo box; on by default. A change makes a new
-    /// list: what was set on the old one, a delegate for instance, is lost. A list that is open opens again. Styles
-    /// that make the list a menu give it room for its texts in either case.
+    /// Whether the list is as wide as its widest item, even beyond the combo box; true by default. A change replaces
+    /// the view, so that a delegate set on it is lost, and reopens an open list. Styles that draw the list as a menu
+    /// always make room for its texts.
     bool isWidePopupEnabled() const { return widePopupEnabled; }
     void setWidePopupEnabled(bool on);
 
-    /// Whether a current text that does not fit ends in an ellipsis; on by default. The tool tip is then the combo
-    /// box's own, and empty. A change shows at the next repaint.
+    /// Whether a current text that does not fit is elided; true by default. The combo box then clears its tool tip.
+    /// Takes effect with the next repaint.
     bool isEliding() const { return eliding; }
     void setEliding(bool on);
 
-    /// What is shown instead of the current item, unless empty; empty by default. Items are chosen and reported as
-    /// ever, and the minimum width follows this text. The line edit of an editable combo box covers it.
+    /// Text shown instead of the current item; empty, for none, by default. Affects the minimum width, but not the
+    /// current item. Hidden behind the line edit of an editable combo box.
     QString displayText() const { return shownText; }
     void setDisplayText(const QString& text);
 
-    /// A window that is shown in place of the list: above the combo box where the screen has room for it, else below.
-    /// Null, the default, for the list. The window stays the caller's: the combo box shows, moves and hides it, and
-    /// forgets one that is destroyed. It must be a window, of the kind `Qt::Popup` for instance, to stand where it
-    /// shall: a child widget would be moved within its parent. Style sheets take a frame whose parent is a combo box
-    /// for its list and do not style it, so it needs another parent. Setting it closes an open list.
+    /// A window shown in place of the list, above the combo box or, without room there, below it; null by default. The
+    /// caller owns it and may destroy it at any time; the combo box shows, moves and hides it. It must be a window,
+    /// such as a `Qt::Popup`, because a child widget would be moved within its parent. Its parent must not be a combo
+    /// box: style sheets would take a frame there for the list and not style it. Setting it closes an open list.
     QWidget* popupWidget() const { return popUp; }
     void setPopupWidget(QWidget* window);
 

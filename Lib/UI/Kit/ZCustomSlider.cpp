@@ -6,8 +6,8 @@ using namespace Zelkor::Vx::UI;
 
 namespace {
 
-// Swallows what would push the slider beyond its end. A slider without the focus is not pushed at all. Only
-// touch pads and the like tell pixels; the notches of a mouse wheel go on to the panel.
+// Accepts touch pad events that would move a focused slider beyond its end. Events of a mouse wheel have no pixel delta
+// and pass.
 class WheelFilter : public QObject
 {
 public:

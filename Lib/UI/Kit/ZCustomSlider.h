@@ -3,8 +3,8 @@
 #include <QPointer>
 #include <QSlider>
 
-/// A slider that can be told to take the mouse wheel only while it has the focus, so that a wheel turned over a panel
-/// full of sliders scrolls the panel and changes no value.
+/// A slider that can restrict the mouse wheel to when it has the focus, so that the wheel over a panel of sliders
+/// scrolls the panel.
 class ZCustomSlider : public QSlider
 {
     Q_OBJECT
@@ -13,9 +13,8 @@ class ZCustomSlider : public QSlider
 public:
     explicit ZCustomSlider(QWidget* parent = nullptr);
 
-    /// Whether the wheel changes the value only in focus; off by default. When on, a slider that stands at an end
-    /// swallows the scrolling of a touch pad beyond that end: the panel does not run off under a person who pushes the
-    /// slider against its end.
+    /// Whether the wheel changes the value in focus only; false by default. If true, a focused slider at either end
+    /// accepts touch pad scrolling beyond that end, so that the panel does not start to scroll.
     bool isEditableInFocus() const { return editableInFocus; }
     void setEditableInFocus(bool on);
 
@@ -27,5 +26,5 @@ private:
     void removeWheelFilter();
 
     bool editableInFocus = false;
-    QPointer<QObject> wheelFilter; ///< a child; one that is out of use stays until the slider goes
+    QPointer<QObject> wheelFilter; ///< a child; one out of use is kept until the slider is destroyed
 };

@@ -13,7 +13,7 @@ namespace {
 
 constexpr double SMALLEST_MULTIPLIER = 1e-12;
 
-// Qt's own interface of a slider tells the position.
+// The interface of QSlider reports the position.
 class DoubleSliderInterface : public QAccessibleWidget, public QAccessibleValueInterface
 {
 public:
@@ -34,7 +34,7 @@ private:
     }
 
     QVariant currentValue() const override { return Slider().doubleValue(); }
-    // setDoubleValue() rounds negative values towards zero, and never comes to a negative minimum.
+    // setDoubleValue() rounds negative values towards zero and cannot reach a negative minimum.
     void setCurrentValue(const QVariant& value) override
     {
         const double position = std::round(value.toDouble() / Slider().multiplier());
@@ -67,6 +67,6 @@ void ZDoubleSlider::setDoubleValue(double value)
     const double position = value / factor + 0.5;
     if (std::isnan(position))
         return;
-    // What lies beyond the range goes to its end; as an integer it might be anything.
+    // Clamped before the conversion, which is undefined beyond the range of int.
     setValue(int(std::clamp(position, double(minimum()), double(maximum()) + 0.5)));
 }

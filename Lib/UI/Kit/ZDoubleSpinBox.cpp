@@ -11,10 +11,10 @@ using namespace Zelkor::Vx::UI;
 
 namespace {
 
-constexpr double MOST_STEPS = 1LL << 52; ///< from here on, a double has no room for parts of a step
-constexpr double TOLERANCE = 1e-9;       ///< of a step: 0.3 has three steps of 0.1, whatever the binary digits say
+constexpr double MOST_STEPS = 1LL << 52; ///< beyond, a double cannot represent fractions of a step
+constexpr double TOLERANCE = 1e-9;       ///< of a step; 0.3 contains three steps of 0.1 despite binary rounding
 
-// `text` without what a field puts around its number.
+// Returns `text` without prefix, suffix and white space.
 QString Bare(QString text, const QString& prefix, const QString& suffix)
 {
     if (text.startsWith(prefix))
@@ -29,7 +29,7 @@ QString Bare(QString text, const QString& prefix, const QString& suffix)
 ZDoubleSpinBox::ZDoubleSpinBox(QWidget* parent) : QDoubleSpinBox(parent)
 {
     connect(lineEdit(), &QLineEdit::textEdited, this, [this](const QString& text) { typedText = text; });
-    // Made here, the connection comes before those of others: they find the rounded value.
+    // The first connection to the signal, so that other slots see the rounded value.
     connect(this, &QDoubleSpinBox::editingFinished, this, &ZDoubleSpinBox::finishTyping);
 }
 
@@ -58,7 +58,7 @@ void ZDoubleSpinBox::fixup(QString& text) const
 double ZDoubleSpinBox::valueFromText(const QString& text) const
 {
     const double number = QDoubleSpinBox::valueFromText(text);
-    // Without tracking, what was typed is read when the editing is finished.
+    // Without tracking, Qt reads typed text when editing finishes.
     return fixupWithStep && text == typedText && !keyboardTracking() ? roundedToStep(number) : number;
 }
 
@@ -80,13 +80,13 @@ double ZDoubleSpinBox::roundedToStep(double number) const
     const double steps = std::round((number - minimum()) / singleStep());
     if (!(std::abs(steps) < MOST_STEPS))
         return number;
-    // As the field shows it, which has no more decimals.
+    // Rounded to the decimals that the field shows.
     return QString::number(minimum() + std::min(steps, stepsInRange) * singleStep(), 'f', decimals()).toDouble();
 }
 
 void ZDoubleSpinBox::finishTyping()
 {
-    // Code may have set another value since.
+    // Not if code set another value since.
     if (fixupWithStep && !typedText.isEmpty() && value() == QDoubleSpinBox::valueFromText(typedText))
         setValue(roundedToStep(value()));
     typedText.clear();

@@ -2,8 +2,8 @@
 
 #include <QDoubleSpinBox>
 
-/// A field for a floating-point number that can keep what is typed to whole steps, and can be told to take the mouse
-/// wheel only while it has the focus.
+/// A spin box for floating-point numbers that can round typed numbers to whole steps and restrict the mouse wheel to
+/// when it has the focus.
 class ZDoubleSpinBox : public QDoubleSpinBox
 {
     Q_OBJECT
@@ -13,26 +13,26 @@ class ZDoubleSpinBox : public QDoubleSpinBox
 public:
     explicit ZDoubleSpinBox(QWidget* parent = nullptr);
 
-    /// Whether a number that a person typed is rounded when the editing is finished, by Enter or by leaving the field:
-    /// to the nearest whole number of `singleStep` above the minimum that lies within the range. Off by default.
+    /// Whether a typed number is rounded when editing finishes: to the nearest value in the range that is a whole
+    /// number of `singleStep` above the minimum. False by default.
     ///
-    /// The value is rounded before `editingFinished` comes. Values of code, arrows and the wheel stay as they are, and
-    /// so does a field that is left without typing. With `keyboardTracking`, `valueChanged` tells each number on the
-    /// way and the rounded one last; without, the rounded one alone. A number typed below the minimum becomes the
-    /// minimum. Nothing is rounded with a step of 0, or when a double cannot count the steps from the minimum.
+    /// The value is rounded before `editingFinished`. Values set by code, arrows or the wheel are not rounded, nor is a
+    /// field that loses the focus without typing. With `keyboardTracking`, `valueChanged` reports every typed number
+    /// and then the rounded one; without, only the latter. A number below the minimum becomes the minimum. Does nothing
+    /// if the step is 0 or too small to count the steps in a double.
     bool isFixupWithStep() const { return fixupWithStep; }
     void setFixupWithStep(bool on);
 
-    /// Whether the wheel changes the value only in focus; off by default. When on, the wheel does not give the focus
-    /// either, unless a focus policy set later has it so.
+    /// Whether the wheel changes the value in focus only; false by default. If true, the wheel does not give the focus
+    /// either, unless a focus policy set later includes it.
     bool isEditableInFocus() const { return editableInFocus; }
     void setEditableInFocus(bool on);
 
-    /// With `fixupWithStep`, makes a number that is not acceptable the nearest one that is. A text that is no number
-    /// stays; the field then goes back as its `correctionMode` has it.
+    /// With `fixupWithStep`, replaces a number that is not acceptable by the nearest one that is. Other texts are left
+    /// to `correctionMode`.
     void fixup(QString& text) const override;
 
-    /// Rounds what was typed, with `fixupWithStep` and without `keyboardTracking`.
+    /// Rounds typed text with `fixupWithStep` and without `keyboardTracking`.
     double valueFromText(const QString& text) const override;
 
     void stepBy(int steps) override;
@@ -46,5 +46,5 @@ private:
 
     bool fixupWithStep = false;
     bool editableInFocus = false;
-    QString typedText; ///< the latest since the end of editing, prefix and suffix included; empty after a step
+    QString typedText; ///< last typed text with prefix and suffix; empty after editing finished or a step
 };

@@ -9,7 +9,7 @@
 
 namespace {
 
-// Layouts add up margins and spacings without looking for an overflow.
+// Clamped, because layouts add margins and spacing without a check for overflow.
 using Zelkor::Vx::UI::Common::ClampToWidgetSize;
 
 constexpr int NOTHING = -1;
@@ -31,7 +31,7 @@ void SetSide(QLayout* layout, SideSetter side, int margin)
     layout->setContentsMargins(margins);
 }
 
-// Calls `onTable` with a grid or form layout, `onBox` with a box layout that runs along the axis; nothing for others.
+// Calls `onTable` with a grid or form layout and `onBox` with a box layout of the type; ignores other layouts.
 template<class Box, class OnTable, class OnBox>
 void VisitAxis(QLayout* layout, OnTable onTable, OnBox onBox)
 {

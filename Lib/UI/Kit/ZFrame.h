@@ -2,11 +2,10 @@
 
 #include <QFrame>
 
-/// A frame whose layout can be spaced by a style sheet.
+/// A frame that makes the margins and spacing of its layout available to style sheets.
 ///
-/// The properties read and write the layout that is installed on the frame; the frame itself stores nothing. Without a
-/// layout, or with one to which a property does not apply, a property reads -1 and ignores what is written. The frame
-/// owns its layout and children as any widget does.
+/// The properties read and write the installed layout, in pixels; the frame stores nothing. Without a layout, or with
+/// one that a property does not apply to, the property is -1 and writing it is ignored. GUI thread only.
 class ZFrame : public QFrame
 {
     Q_OBJECT
@@ -22,28 +21,27 @@ class ZFrame : public QFrame
 public:
     explicit ZFrame(QWidget* parent = nullptr, Qt::WindowFlags flags = Qt::WindowFlags());
 
-    /// The margin in pixels that all four sides have, -1 when they differ.
-    int layoutMargin() const;
+    int layoutMargin() const; ///< margin of all four sides; -1 if they differ
     void setLayoutMargin(int margin);
 
-    int layoutMarginLeft() const;
+    int layoutMarginLeft() const; ///< left margin
     void setLayoutMarginLeft(int margin);
-    int layoutMarginRight() const;
+    int layoutMarginRight() const; ///< right margin
     void setLayoutMarginRight(int margin);
-    int layoutMarginTop() const;
+    int layoutMarginTop() const; ///< top margin
     void setLayoutMarginTop(int margin);
-    int layoutMarginBottom() const;
+    int layoutMarginBottom() const; ///< bottom margin
     void setLayoutMarginBottom(int margin);
 
-    /// The layout's one spacing in pixels, as `QLayout::spacing` has it.
+    /// Spacing as returned by `QLayout::spacing`.
     int layoutSpacing() const;
     void setLayoutSpacing(int spacing);
 
-    /// The spacing between columns: of a grid, a form or a horizontal box.
+    /// Spacing between the columns of a grid, a form or a horizontal box.
     int layoutHSpacing() const;
     void setLayoutHSpacing(int spacing);
 
-    /// The spacing between rows: of a grid, a form or a vertical box.
+    /// Spacing between the rows of a grid, a form or a vertical box.
     int layoutVSpacing() const;
     void setLayoutVSpacing(int spacing);
 };

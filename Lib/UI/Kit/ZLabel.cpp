@@ -13,8 +13,8 @@ using namespace Zelkor::Vx::UI;
 
 namespace {
 
-// Whether a text is sure to fit, found without laying it out, which takes longer than all the rest of a new text. Qt
-// has the widths of Latin-1 letters at hand; an eighth more is room for kerning. False says nothing.
+// Returns true if a text certainly fits. Avoids the layout of the text, the most expensive step of a new text: Qt
+// caches the widths of Latin-1 characters. One eighth is reserved for kerning.
 bool SurelyFits(const QFont& font, const QString& text, int width)
 {
     if (font.letterSpacing() != 0 || font.wordSpacing() != 0 || font.capitalization() != QFont::MixedCase)
@@ -29,7 +29,7 @@ bool SurelyFits(const QFont& font, const QString& text, int width)
     return sum + sum / 8 < width;
 }
 
-/// Qt's own interface of a label would take the direction marks of an empty text for a name.
+/// The interface of QLabel would report the control characters of an empty text as a name.
 class AccessibleLabel : public QAccessibleWidget
 {
 public:
@@ -70,7 +70,7 @@ void ZLabel::setOriginalText(const QString& text)
         return;
     storedText = Common::Embed(text);
     refreshText();
-    // What is displayed may be the same, where both are elided.
+    // The size hint changes even if the elided texts are equal.
     updateGeometry();
     QAccessibleEvent event(this, QAccessible::NameChanged);
     QAccessible::updateAccessibility(&event);
@@ -110,7 +110,7 @@ void ZLabel::refreshText()
     setToolTip(wholeTextIfElided());
 }
 
-// Qt's hint is for what is displayed: once elided, the label would never ask for the room that it lacks.
+// The hint of QLabel is that of the elided text, with which the label would never grow again.
 QSize ZLabel::sizeHint() const
 {
     QSize hint = QLabel::sizeHint();
@@ -125,14 +125,14 @@ void ZLabel::changeEvent(QEvent* event)
 {
     QLabel::changeEvent(event);
     const bool isStyle = event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange;
-    // Another font changes neither a text nor a tool tip that a style sheet has just set.
+    // A change of the font must not replace a text or tool tip that a style sheet has just set.
     if (!isStyle || text() != displayed || displayed == textThatFits())
         return;
-    const QString given = toolTip();
-    const bool isGiven = given != wholeTextIfElided();
+    const QString tip = toolTip();
+    const bool isCustom = tip != wholeTextIfElided();
     refreshText();
-    if (isGiven)
-        setToolTip(given);
+    if (isCustom)
+        setToolTip(tip);
 }
 
 void ZLabel::mousePressEvent(QMouseEvent* event)

@@ -2,11 +2,10 @@
 
 #include <QLabel>
 
-/// A label for one text that may be too long.
+/// A label that elides its text at the end when it does not fit, and then shows all of it as the tool tip.
 ///
-/// The text is elided at its end when it does not fit, and is then shown whole as the tool tip; assistive technology
-/// always gets it whole. It runs from left to right whatever letters it has. A press on the label can act as a click.
-/// A new label shows "ZLabel".
+/// Assistive technology gets the whole text. The text is laid out from left to right whatever its script. A new label
+/// shows "ZLabel". GUI thread only.
 class ZLabel : public QLabel
 {
     Q_OBJECT
@@ -17,28 +16,28 @@ class ZLabel : public QLabel
 public:
     explicit ZLabel(QWidget* parent = nullptr);
 
-    /// The whole text, without the direction marks that it is shown with.
+    /// The whole text, without the control characters that set its direction; "ZLabel" by default.
     QString originalText() const;
 
-    /// Sets the whole text. Emits `originalTextChanged` unless the label has this text already.
+    /// Sets the whole text. Emits `originalTextChanged` if it differs.
     void setOriginalText(const QString& text);
 
-    /// Whether a text that does not fit is elided; on by default. When off, the label shows its text cut.
+    /// Whether a text that does not fit is elided; true by default. If false, it is clipped.
     bool isEliding() const { return eliding; }
     void setEliding(bool on);
 
-    /// Whether a press of any mouse button emits `clicked`; on by default.
+    /// Whether a press of any mouse button emits `clicked`; true by default.
     bool isClickable() const { return clickable; }
     void setClickable(bool on);
 
-    /// Room for the whole text, also while it is elided.
+    /// Returns the size of the whole text, even while it is elided.
     QSize sizeHint() const override;
 
 Q_SIGNALS:
-    /// A mouse button went down on the clickable label. Comes before the label handles the press itself.
+    /// Emitted when a mouse button is pressed, before the label handles the event. A slot may delete the label.
     void clicked();
 
-    /// The whole text is another one now, given without marks.
+    /// Emitted when the whole text changes; without control characters.
     void originalTextChanged(QString text);
 
 protected:
@@ -51,8 +50,8 @@ private:
     QString wholeTextIfElided() const;
     void refreshText();
 
-    QString storedText = QStringLiteral("ZLabel"); ///< whole, with direction marks once it was set
-    QString displayed = storedText;                ///< what refreshText() showed last
+    QString storedText = QStringLiteral("ZLabel"); ///< whole, with control characters once it was set
+    QString displayed = storedText;                ///< last text set by refreshText()
     bool eliding = true;
     bool clickable = true;
 };

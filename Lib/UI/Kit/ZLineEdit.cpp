@@ -19,13 +19,13 @@ using namespace Zelkor::Vx::UI;
 
 namespace {
 
-// What QLineEdit keeps free around its text, beside the margins of its style.
+// Margins of QLineEdit around its text, in addition to those of the style.
 constexpr int HORIZONTAL_MARGIN = 2;
 constexpr int VERTICAL_MARGIN = 1;
 
-// Whether somebody listens to the application, with a screen reader for instance. Qt asks the platform, which does not
-// know of what the application itself has switched on.
-bool IsReadOut()
+// Returns whether assistive technology is active. QAccessible::isActive() asks the platform, which does not know
+// whether the application activated it.
+bool IsAccessibilityActive()
 {
     struct Observer : QAccessible::ActivationObserver
     {
@@ -51,7 +51,7 @@ int CommonEnd(const QString& a, const QString& b, int longest)
     return int(ends.first - a.rbegin());
 }
 
-// The place in the whole text for one in the text that is shown of it: the ellipsis stands for all that is cut off.
+// Converts a position in the displayed text to one in the whole text. The ellipsis stands for all that is cut off.
 int PlaceInWhole(const QString& shown, const QString& whole, int place)
 {
     const int lead = shown.startsWith(Common::LEFT_TO_RIGHT_EMBEDDING) ? 1 : 0;
@@ -59,7 +59,7 @@ int PlaceInWhole(const QString& shown, const QString& whole, int place)
     return place <= lead + kept ? std::max(0, place - lead) : whole.size();
 }
 
-// The whole text after its shown one was edited, in one place, to be `edited`.
+// Returns the whole text after the displayed one was edited in one place.
 QString WithEdit(const QString& shown, const QString& edited, const QString& whole)
 {
     const int begin = CommonBeginning(shown, edited);
@@ -72,8 +72,8 @@ QString WithEdit(const QString& shown, const QString& edited, const QString& who
 
 ZLineEdit::ZLineEdit(QWidget* parent) : QLineEdit(parent)
 {
-    connect(this, &QLineEdit::textChanged, this, &ZLineEdit::takeForeignChange);
-    connect(this, &QLineEdit::selectionChanged, this, &ZLineEdit::takeSelection);
+    connect(this, &QLineEdit::textChanged, this, &ZLineEdit::handleTextSetByCode);
+    connect(this, &QLineEdit::selectionChanged, this, &ZLineEdit::extendSelection);
 }
 
 QString ZLineEdit::originalText() const
@@ -101,15 +101,15 @@ bool ZLineEdit::event(QEvent* event)
     case QEvent::KeyPress:
     case QEvent::InputMethod:
     case QEvent::DragEnter:
-        showForUse();
+        displayWholeText();
         break;
     case QEvent::DragLeave:
     case QEvent::Drop:
-        refreshLater();
+        refreshTextLater();
         break;
     case QEvent::ToolTip:
-        // A text that was made a password meanwhile must not be told.
-        if (!inUse)
+        // Removes the tool tip if the echo mode changed to a password.
+        if (!isWhole)
             refreshText();
         if (toolTip().isEmpty() && paintsElided(textArea())) {
             QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), storedText, this);
@@ -124,11 +124,11 @@ bool ZLineEdit::event(QEvent* event)
 
 void ZLineEdit::focusInEvent(QFocusEvent* event)
 {
-    // A menu that closes, or a window that is active again, finds all as it was left, cursor and selection too.
-    const bool comesBack =
-        inUse && (event->reason() == Qt::PopupFocusReason || event->reason() == Qt::ActiveWindowFocusReason);
+    // Keeps cursor and selection when a menu closes or the window is activated again.
+    const bool isResumed =
+        isWhole && (event->reason() == Qt::PopupFocusReason || event->reason() == Qt::ActiveWindowFocusReason);
     focused = true;
-    if (!comesBack)
+    if (!isResumed)
         refreshText();
     QLineEdit::focusInEvent(event);
 }
@@ -141,19 +141,19 @@ void ZLineEdit::focusOutEvent(QFocusEvent* event)
     }
     focused = false;
     const QPointer<ZLineEdit> self(this);
-    const bool staysInUse = event->reason() == Qt::ActiveWindowFocusReason;
-    takeTyped(staysInUse);
+    const bool keepWhole = event->reason() == Qt::ActiveWindowFocusReason;
+    commitTypedText(keepWhole);
     if (!self)
         return;
-    // Not now: who takes the text when the editing is finished shall find it whole.
-    if (inUse && !staysInUse)
-        refreshLater();
+    // Queued, so that slots of editingFinished() get the whole text.
+    if (isWhole && !keepWhole)
+        refreshTextLater();
     QLineEdit::focusOutEvent(event);
 }
 
 void ZLineEdit::resizeEvent(QResizeEvent* event)
 {
-    // With the focus, the text is in the hands of a person, and may be typed and not reported yet.
+    // With the focus, the text may contain input that is not reported yet.
     if (!focused)
         refreshText();
     QLineEdit::resizeEvent(event);
@@ -162,29 +162,29 @@ void ZLineEdit::resizeEvent(QResizeEvent* event)
 void ZLineEdit::changeEvent(QEvent* event)
 {
     QLineEdit::changeEvent(event);
-    if (event->type() != QEvent::FontChange || inUse)
+    if (event->type() != QEvent::FontChange || isWhole)
         return;
     const QString shown = text();
     const int place = cursorPosition();
     refreshText();
-    // Where the text is the same in the other font, the cursor stays.
+    // Keeps the cursor if the new font does not change the displayed text.
     if (text() == shown)
         setCursorPosition(place);
 }
 
-// Shows the text as it is shown with, or without, the focus.
+// Displays the text for the current state of the focus.
 void ZLineEdit::refreshText()
 {
     const QString shown =
         focused || !eliding ? storedText : fontMetrics().elidedText(storedText, Qt::ElideRight, width());
-    const bool tellsAll = shown == storedText || echoMode() != Normal;
-    setToolTip(tellsAll ? QString() : storedText);
-    inUse = focused;
-    put(mustHoldWholeText(shown) ? originalText() : shown);
+    const bool needsToolTip = shown != storedText && echoMode() == Normal;
+    setToolTip(needsToolTip ? storedText : QString());
+    isWhole = focused;
+    put(mustContainWholeText(shown) ? originalText() : shown);
     setCursorPosition(0);
 }
 
-void ZLineEdit::refreshLater()
+void ZLineEdit::refreshTextLater()
 {
     QMetaObject::invokeMethod(
         this,
@@ -198,31 +198,31 @@ void ZLineEdit::refreshLater()
 void ZLineEdit::put(const QString& text)
 {
     const QScopedValueRollback<bool> guard(refreshing, true);
-    // The same text set again would forget what can be undone.
+    // Setting an equal text would clear the undo history.
     if (QLineEdit::text() != text)
         setText(text);
     displayedText = QLineEdit::text();
     displayedWithMask = inputMask();
 }
 
-// Has the whole text, without marks, for somebody who is about to take it apart without the focus.
-void ZLineEdit::showForUse()
+// Displays the whole text without control characters, for editing without the focus.
+void ZLineEdit::displayWholeText()
 {
-    if (inUse)
+    if (isWhole)
         return;
-    inUse = true;
+    isWhole = true;
     const int place = PlaceInWhole(displayedText, originalText(), cursorPosition());
     put(originalText());
     setCursorPosition(place);
 }
 
-void ZLineEdit::takeTyped(bool staysInUse)
+void ZLineEdit::commitTypedText(bool keepWhole)
 {
     QString typed = text();
     if (typed == displayedText)
         return;
     if (validator() && !hasAcceptableInput()) {
-        // What QLineEdit is about to do, only that the edit is reported once.
+        // QLineEdit does the same next; doing it here reports the edit once.
         QString fixed = typed;
         int cursor = 0;
         validator()->fixup(fixed);
@@ -232,40 +232,40 @@ void ZLineEdit::takeTyped(bool staysInUse)
     const QString previous = originalText();
     storedText = Common::Embed(typed);
     displayedText = text();
-    if (!staysInUse)
+    if (!keepWhole)
         refreshText();
     if (originalText() != previous)
         Q_EMIT originalTextChanged(originalText());
 }
 
-// What is selected can be copied, so the selection goes over to the whole text.
-void ZLineEdit::takeSelection()
+// Transfers a selection to the whole text, so that a copy contains all of it.
+void ZLineEdit::extendSelection()
 {
-    if (refreshing || inUse || !hasSelectedText())
+    if (refreshing || isWhole || !hasSelectedText())
         return;
     const QString shown = displayedText;
     const QString whole = originalText();
     const bool isBackward = cursorPosition() == selectionStart();
     const int begin = PlaceInWhole(shown, whole, selectionStart());
     const int end = PlaceInWhole(shown, whole, selectionEnd());
-    showForUse();
+    displayWholeText();
     setSelection(isBackward ? end : begin, isBackward ? begin - end : end - begin);
 }
 
-// Without the focus, somebody changed the text of the line edit.
-void ZLineEdit::takeForeignChange(const QString& text)
+// Handles changes of the text by code while the line edit does not have the focus.
+void ZLineEdit::handleTextSetByCode(const QString& text)
 {
     if (refreshing || focused)
         return;
     const bool isEdit = isModified();
     QString whole = Common::WithoutEmbedding(text);
     if (displayedText.size() > maxLength() || displayedWithMask != inputMask())
-        whole = originalText(); // a length or a mask was set, and took what is shown for the text
-    else if (isEdit && !inUse)
+        whole = originalText(); // a new maximum length or mask changed the displayed text
+    else if (isEdit && !isWhole)
         whole = WithEdit(displayedText, text, originalText());
     if (whole == originalText()) {
         refreshText();
-    } else if (isEdit && inUse) {
+    } else if (isEdit && isWhole) {
         // More keys may follow this one.
         storedText = Common::Embed(whole);
         displayedText = text;
@@ -275,20 +275,20 @@ void ZLineEdit::takeForeignChange(const QString& text)
     }
 }
 
-// Marks and an ellipsis would be judged, cut or read out as if they were of the text.
-bool ZLineEdit::mustHoldWholeText(const QString& shown) const
+// Otherwise control characters and the ellipsis would be validated, truncated or read out as part of the text.
+bool ZLineEdit::mustContainWholeText(const QString& shown) const
 {
     return focused || originalText().isEmpty() || echoMode() != Normal || validator() || !inputMask().isEmpty() ||
-           shown.size() > maxLength() || IsReadOut();
+           shown.size() > maxLength() || IsAccessibilityActive();
 }
 
 bool ZLineEdit::paintsElided(const QRect& area) const
 {
-    return eliding && !inUse && echoMode() == Normal && inputMask().isEmpty() && !hasSelectedText() &&
+    return eliding && !isWhole && echoMode() == Normal && inputMask().isEmpty() && !hasSelectedText() &&
            fontMetrics().horizontalAdvance(storedText) > area.width();
 }
 
-// The place for the text, beside the buttons in the line edit.
+// Returns the area of the text, without the buttons in the line edit.
 QRect ZLineEdit::textArea() const
 {
     QStyleOptionFrame option;
@@ -306,8 +306,7 @@ QRect ZLineEdit::textArea() const
     return area.adjusted(HORIZONTAL_MARGIN, VERTICAL_MARGIN, -HORIZONTAL_MARGIN, -VERTICAL_MARGIN);
 }
 
-// The text that the line edit holds is elided to its width, of which frame and buttons take their part; so the picture
-// is elided once more.
+// `text()` is elided to the width of the line edit. Here it is elided again to the area without frame and buttons.
 void ZLineEdit::paintEvent(QPaintEvent* event)
 {
     const QRect area = textArea();
@@ -321,7 +320,7 @@ void ZLineEdit::paintEvent(QPaintEvent* event)
     style()->drawPrimitive(QStyle::PE_PanelLineEdit, &option, &painter, this);
     painter.setClipRect(area);
     painter.setPen(palette().color(QPalette::Text));
-    // Where QLineEdit has its line.
+    // As QLineEdit aligns its line.
     const Qt::Alignment vertical = alignment() & Qt::AlignVertical_Mask;
     const int free = area.height() - fontMetrics().height();
     const int above = vertical == Qt::AlignTop ? 0 : vertical == Qt::AlignBottom ? free : (free + 1) / 2;

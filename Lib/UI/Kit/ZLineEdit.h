@@ -2,18 +2,16 @@
 
 #include <QLineEdit>
 
-/// A line edit for one text that may be too long.
+/// A line edit that elides its text at the end while it does not have the focus.
 ///
-/// Without the focus it shows its text from the beginning, elided at the end when it does not fit and then whole as the
-/// tool tip; the text runs from left to right whatever letters it has. With the focus it has the whole text for
-/// editing, and reports what became of it when the focus leaves.
+/// An elided text is shown whole as the tool tip. Without the focus, the text is laid out from left to right whatever
+/// its script. With the focus, the line edit contains the whole text, and reports a change when the focus leaves.
 ///
-/// `originalText` is the text. What `QLineEdit::text()` and `textChanged` tell without the focus is what is shown: cut,
-/// and between invisible direction marks. Whatever takes the text apart gets it whole and without marks nevertheless: a
-/// selection, the clipboard, a drop, a key that arrives without the focus. Wherever something else judges or reads the
-/// text (a validator, an input mask, a maximum length, assistive technology) or hides it (a password), the line edit
-/// holds it whole all the time, and what is elided is the picture alone. What code does to the text of a line edit
-/// without the focus, with `QLineEdit::setText` or `insert` for instance, is done to the whole text.
+/// `originalText` is the whole text. Without the focus, `QLineEdit::text` and `textChanged` report the displayed text:
+/// elided and between invisible control characters. Selections, the clipboard, drag and drop and keys always work on
+/// the whole text, and so do changes by code, such as `QLineEdit::setText` and `insert`. With a validator, an input
+/// mask, a maximum length, an echo mode or active assistive technology, the line edit contains the whole text all the
+/// time and elides only when it paints. GUI thread only.
 class ZLineEdit : public QLineEdit
 {
     Q_OBJECT
@@ -23,20 +21,21 @@ class ZLineEdit : public QLineEdit
 public:
     explicit ZLineEdit(QWidget* parent = nullptr);
 
-    /// The whole text without marks: the last one that was set or reported. What is typed meanwhile is in `text()`.
+    /// The whole text without control characters, as last set or reported; empty by default. Typed text that is not
+    /// reported yet is in `text()`.
     QString originalText() const;
 
-    /// Sets the text, in the place of what is being typed too. Emits `originalTextChanged` unless the text is this one.
+    /// Sets the whole text and discards typed text. Emits `originalTextChanged` if the text differs.
     void setOriginalText(const QString& text);
 
-    /// Whether a text that does not fit is elided; on by default. A change shows when the line edit is resized, gets
-    /// the focus or loses it.
+    /// Whether a text that does not fit is elided; true by default. Takes effect when the line edit is resized or the
+    /// focus changes.
     bool isEliding() const { return eliding; }
     void setEliding(bool on);
 
 Q_SIGNALS:
-    /// The whole text is another one: it was set, or the focus left after an edit, to another window perhaps. A menu
-    /// that opens, as that of the line edit itself, does not end an edit.
+    /// Emitted when the whole text is set, or when the focus or the active window changes after an edit. Pop-ups, such
+    /// as the context menu, do not end an edit.
     void originalTextChanged(QString text);
 
 protected:
@@ -49,21 +48,21 @@ protected:
 
 private:
     void refreshText();
-    void refreshLater();
+    void refreshTextLater();
     void put(const QString& text);
-    void showForUse();
-    void takeTyped(bool staysInUse);
-    void takeSelection();
-    void takeForeignChange(const QString& text);
-    bool mustHoldWholeText(const QString& shown) const;
+    void displayWholeText();
+    void commitTypedText(bool keepWhole);
+    void extendSelection();
+    void handleTextSetByCode(const QString& text);
+    bool mustContainWholeText(const QString& shown) const;
     bool paintsElided(const QRect& area) const;
     QRect textArea() const;
 
-    QString storedText;    ///< whole, with direction marks once it was set
-    QString displayedText; ///< what `QLineEdit` was last given, as it took it
-    QString displayedWithMask;
+    QString storedText;        ///< whole, with control characters once it was set
+    QString displayedText;     ///< `text()` after the last change by this class
+    QString displayedWithMask; ///< input mask at that time
     bool eliding = true;
-    bool focused = false;    ///< menus that come and go do not count
-    bool inUse = false;      ///< holds the whole text, with the focus or for somebody who takes it apart
-    bool refreshing = false; ///< changes of the text are our own
+    bool focused = false;    ///< also while a pop-up has it
+    bool isWhole = false;    ///< contains the whole text for editing, with or without the focus
+    bool refreshing = false; ///< during changes by this class
 };

@@ -18,7 +18,7 @@ namespace {
 
 const QString DEFAULT_NAME = QStringLiteral("default");
 
-// What the slider would draw itself is there, and transparent.
+// Keeps the geometry of QSlider and makes everything that it draws transparent.
 const QString TRANSPARENT_SHEET =
     QStringLiteral(" ZSlider                      { background:rgba(0,0,0,0); border:none;                    } "
                    " ZSlider::handle              { background:rgba(0,0,0,0); border:none;        image:none; } "
@@ -30,7 +30,7 @@ const QString TRANSPARENT_SHEET =
                    " ZSlider::add-page:vertical   { background:rgba(0,0,0,0); border:none; border-image:none; } "
                    " ZSlider::sub-page:vertical   { background:rgba(0,0,0,0); border:none; border-image:none; } ");
 
-// The key that leads the other way.
+// Returns the key for the opposite direction.
 int Opposite(int key)
 {
     switch (key) {
@@ -90,7 +90,7 @@ void ZSlider::Impl::paintSegments(QPainter& painter)
 {
     const SliderTrack line = track();
     const bool isHorizontal = owner->orientation() == Qt::Horizontal;
-    // The clip cuts at whole pixels of the screen, so that parts of one picture meet without a seam.
+    // Clipping is aligned to device pixels, so that adjacent parts of a pixmap have no seam.
     const auto drawPart = [&](SliderGroove::Part look, int from, int to) {
         painter.setClipRect(isHorizontal ? QRect(from, 0, to - from, owner->height())
                                          : QRect(0, from, owner->width(), to - from));
@@ -109,7 +109,7 @@ void ZSlider::Impl::paintSegments(QPainter& painter)
     }
 }
 
-// The constructor is defined here, where ZSlider is complete. All else in a thumb knows its slider by the host.
+// Defined here because it needs ZSlider complete. The rest of ZSliderThumb uses SliderThumbHost.
 ZSliderThumb::ZSliderThumb(ZSlider* slider) : ZSliderThumb(slider, slider ? slider->impl.get() : nullptr) {}
 
 ZSlider::ZSlider(QWidget* parent) : QSlider(Qt::Vertical, parent), impl(std::make_unique<Impl>(this))
@@ -400,7 +400,7 @@ void ZSlider::changeEvent(QEvent* event)
 
 void ZSlider::sliderChange(SliderChange change)
 {
-    // Most grooves look the same at every value; then only the thumb is painted, which moves.
+    // If the groove does not depend on the value, moving the thumb is enough.
     if (change != SliderValueChange || impl->groove.followsValue())
         QSlider::sliderChange(change);
     if (change == SliderRangeChange || change == SliderOrientationChange)

@@ -119,7 +119,7 @@ private Q_SLOTS:
     void defaultSliderValueChanged(int value);
 
 private:
-    friend class ZSliderThumb; ///< whose constructor takes the slider apart into what a thumb needs
+    friend class ZSliderThumb; ///< its constructor passes `impl` on as the SliderThumbHost
 
     /// Called after a thumb was dragged, with the position of the mouse in the slider.
     virtual void pointerMoved(const QPoint&) {}

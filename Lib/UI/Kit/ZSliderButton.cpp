@@ -27,11 +27,11 @@ namespace {
 
 constexpr char STYLE_TAG[] = "styleTag";
 constexpr int MAXIMUM = 100;
-constexpr int STEP = 25; // levels to a page, behind the one for 0
+constexpr int STEP = 25; // levels per page after that of level 0
 constexpr int VERTICAL_MARGIN = 5;
-constexpr int CLOSING_PRESS_MS = 200; // between the loss of the focus and the press that caused it, at most
+constexpr int CLOSING_PRESS_MS = 200; // maximum delay between the loss of the focus and the press that caused it
 
-// One level step. It has no focus of its own, and shows that of the button.
+// The button of one level step. Shows the focus of the ZSliderButton.
 class LevelButton : public QToolButton
 {
 public:
@@ -64,7 +64,7 @@ public:
 protected:
     void mousePressEvent(QMouseEvent* event) override
     {
-        // A press outside closes the pop-up and is then given to what lies under it. The button would open it again.
+        // A press outside closes the pop-up and is replayed to the widget there. The button would open it again.
         setAttribute(Qt::WA_NoMouseReplay, OnScreen(button).contains(event->globalPos()));
         QFrame::mousePressEvent(event);
     }
@@ -73,7 +73,7 @@ private:
     QWidget* button;
 };
 
-// Above the button with its left edge. Where the screen has no room, below it and moved to the side.
+// Above the button, aligned at the left. Without room there, below it and moved onto the screen.
 QPoint PopUpPosition(const QRect& button, const QSize& popUp, const QRect& screen)
 {
     QRect place(button.topLeft() - QPoint(0, popUp.height()), popUp);
@@ -86,7 +86,7 @@ QPoint PopUpPosition(const QRect& button, const QSize& popUp, const QRect& scree
     return place.topLeft();
 }
 
-// Windows alone has a call for this.
+// Only Windows has an API for this.
 void RemoveShadow([[maybe_unused]] const QWidget* popUp)
 {
 #ifdef Q_OS_WIN
@@ -102,7 +102,7 @@ QString NameOf(const QWidget* button)
     return button->accessibleName().isEmpty() ? ZSliderButton::tr("Level") : button->accessibleName();
 }
 
-// A slider for assistive technology: this is how it works by keyboard, and the pop-up is not needed then.
+// Reports a slider without children, since the keyboard changes the level without the pop-up.
 class AccessibleSliderButton : public QAccessibleWidget, public QAccessibleValueInterface
 {
 public:
@@ -151,7 +151,7 @@ ZSliderButton::ZSliderButton(QWidget* parent) : QWidget(parent)
 
 ZSliderButton::~ZSliderButton()
 {
-    // The slider may be open, and loses the focus now.
+    // An open slider loses the focus during the destruction.
     slider->removeEventFilter(this);
     if (!sliderFrame->parent())
         delete sliderFrame;
@@ -197,7 +197,7 @@ void ZSliderButton::createSlider()
 
     auto* layout = Common::MakeBoxLayout<QHBoxLayout>(sliderFrame);
     layout->setContentsMargins(0, VERTICAL_MARGIN, 0, VERTICAL_MARGIN);
-    // The frame is as wide as the button and as high as it was told, even where the slider would like more.
+    // The frame ignores the size hint of the slider.
     layout->setSizeConstraint(QLayout::SetNoConstraint);
     layout->addStretch();
     layout->addWidget(slider);
@@ -217,7 +217,7 @@ void ZSliderButton::setOnTop(bool isOnTop)
     sliderFrame->hide();
     const Qt::WindowType previous = onTop ? Qt::Popup : Qt::SplashScreen;
     const Qt::WindowType next = onTop ? Qt::SplashScreen : Qt::Popup;
-    // In one step: a change of the parent alone would make the frame a part of it, and no window.
+    // In one call: a change of the parent alone would reset the window flags.
     sliderFrame->setParent(onTop ? nullptr : this, (sliderFrame->windowFlags() ^ previous) | next);
 }
 
@@ -251,9 +251,9 @@ void ZSliderButton::toggle(bool isOn)
 {
     const QPointer<ZSliderButton> self(this);
     if (isOn) {
-        setValue(rememberedValue);
+        setValue(savedValue);
     } else {
-        rememberedValue = slider->value();
+        savedValue = slider->value();
         setValue(0);
     }
     if (!self)
@@ -268,7 +268,7 @@ void ZSliderButton::showSlider()
     sliderFrame->resize(width(), qBound(1, popUpHeight, screenRect.height()));
     sliderFrame->move(PopUpPosition(OnScreen(this), sliderFrame->size(), screenRect));
     slider->setAccessibleName(NameOf(this));
-    // The pop-up grabs the mouse, so the level button would not learn that the pointer left it.
+    // The pop-up grabs the mouse, so the level button gets no leave event.
     stack->currentWidget()->setAttribute(Qt::WA_UnderMouse, false);
     sliderFrame->show();
     if (onTop)
@@ -286,13 +286,13 @@ bool ZSliderButton::eventFilter(QObject* watched, QEvent* event)
         break;
     case QEvent::FocusOut:
         setLevelsChecked(false);
-        // A press on the button activates its window first, and would then open the slider again.
+        // A press on the button activates its window before it is handled, and must not open the slider again.
         if (onTop && sliderFrame->isVisible() && OnScreen(this).contains(QCursor::pos()))
             sinceHidden.start();
         sliderFrame->hide();
         break;
     case QEvent::Hide:
-        // Where no window of ours is active, the slider keeps the focus.
+        // The slider keeps the focus if no window of the application is active.
         setLevelsChecked(false);
         break;
     case QEvent::KeyPress: {
@@ -347,7 +347,7 @@ void ZSliderButton::wheelEvent(QWheelEvent* event)
     if (!Common::AcceptWheelEvent(*this, *event, true))
         return;
     static_cast<QObject*>(slider)->event(event);
-    // At the end of the range as well: the panel around shall not scroll suddenly.
+    // Also at the end of the range, so that the panel around does not start to scroll.
     event->accept();
 }
 

@@ -8,15 +8,15 @@ class QSlider;
 class QStackedWidget;
 class QToolButton;
 
-/// A level button, of the volume kind: it shows one of five level steps, opens a vertical slider from 0 to 100 above
-/// itself when it is clicked, and can be switched off and on by the application, which is to say to 0 and back.
+/// A level button, such as a volume button: shows one of five level steps and opens a vertical slider from 0 to 100
+/// above itself when clicked. The application can toggle it between level 0 and the previous level.
 ///
-/// By keyboard, Space and Enter open the slider, the arrows up and down, Page Up, Page Down, Home and End change the
-/// level at once; the wheel does while the button has the focus. Escape, Space and Enter close the slider.
+/// Keys: Space and Enter open the slider. Up, Down, Page Up, Page Down, Home and End change the level, as does the
+/// wheel while the button has the focus. Escape, Space and Enter close the slider.
 ///
-/// A style sheet addresses the parts by the property `styleTag`: "ZSliderButton0" (level 0) to "ZSliderButton4" (75 and
-/// more) are the tool buttons, of which one shows; they are checked while the slider has the focus, and drawn with the
-/// focus while this widget has it. "ZSliderButtonMain" is the stack that holds them. The pop-up is "#sliderFrame", the
+/// Style sheets select the parts by the property `styleTag`: "ZSliderButton0" (level 0) to "ZSliderButton4" (75 and
+/// more) are tool buttons, one of which is visible. They are checked while the slider has the focus and have `:focus`
+/// while this widget has it. "ZSliderButtonMain" is the stack that contains them. The pop-up is "#sliderFrame", the
 /// slider in it "#slider". GUI thread only.
 class ZSliderButton : public QWidget
 {
@@ -29,46 +29,44 @@ public:
     explicit ZSliderButton(QWidget* parent = nullptr);
     ~ZSliderButton() override;
 
-    /// The level, 0 to 100; 0 at first.
+    /// The level, 0 to 100; 0 by default.
     int value() const;
 
-    /// Whether the button was switched on by `toggle`; off at first, whatever the level is.
+    /// Whether `toggle` switched the button on; false by default, independent of the level.
     bool isOn() const { return on; }
 
-    /// Whether the slider is in a window of its own, which does not belong to this widget's window and lies over
-    /// others; off by default. It has the style sheet of the application alone then. Closes the slider when it changes.
+    /// Whether the pop-up is a top-level window above other windows; false by default. Such a pop-up gets the style
+    /// sheet of the application only. A change closes the slider.
     bool isOnTop() const { return onTop; }
     void setOnTop(bool isOnTop);
 
-    /// Whether the pop-up keeps the shadow that the window system gives it; on by default. It cannot be given back. On
-    /// Windows the shadow goes from all pop-ups of the application, whose windows are of one class. Elsewhere nothing
-    /// happens: X11 and Wayland leave shadows to the compositor.
+    /// Whether the pop-up has the shadow of the window system; true by default. False is final, and on Windows removes
+    /// the shadow of all pop-ups of the application, which share a window class. No effect on X11 and Wayland, where
+    /// the compositor draws shadows.
     bool hasShadow() const { return shadow; }
     void setShadow(bool hasShadow);
 
-    /// The height of the pop-up in pixels, 120 by default. Takes effect when it opens the next time. Less than 1 counts
-    /// as 1, more than the height of the screen as that.
+    /// Height of the pop-up in pixels; 120 by default. Clamped to 1 and the height of the screen when the pop-up opens.
     int sliderHeight() const { return popUpHeight; }
     void setSliderHeight(int height);
 
 Q_SIGNALS:
-    /// The level was set, to another value or the same.
+    /// Emitted when the level is set, even to the same value.
     void valueChanged(int value);
 
-    /// The button was switched. Comes after `valueChanged`.
+    /// Emitted by `toggle`, after `valueChanged`.
     void toggled(bool on);
 
 public Q_SLOTS:
-    /// Sets the level, cut to 0 to 100. The step that shows changes with it, but for 100, which has no step of its own:
-    /// the one of before stays.
+    /// Sets the level, clamped to 0 to 100. Shows the step of the level; 100 has none and keeps the current step.
     void setValue(int newValue);
 
-    /// Switches off, which remembers the level and sets 0, or on, which sets the level that was remembered last.
+    /// Switches off, which saves the level and sets 0, or on, which sets the saved level.
     void toggle();
     void toggle(bool isOn);
 
 protected Q_SLOTS:
-    /// Opens the slider above the button, or where there is room for it on the screen.
+    /// Opens the slider above the button, or where the screen has room for it.
     void showSlider();
 
 protected:
@@ -88,13 +86,13 @@ private:
 
     QToolButton* levelButtons[LEVELS] = {};
     QSlider* slider = nullptr;
-    QFrame* sliderFrame = nullptr; ///< a child, or without a parent when on top
+    QFrame* sliderFrame = nullptr; ///< has no parent if on top
     QStackedWidget* stack = nullptr;
-    int rememberedValue = 0;
+    int savedValue = 0;
     bool on = false;
     bool onTop = false;
     bool shadow = true;
     int popUpHeight = 120;
-    QElapsedTimer sinceHidden; ///< since the slider on top lost the focus with the pointer on the button
+    QElapsedTimer sinceHidden; ///< since a top-level pop-up lost the focus to a press on the button
     bool isClosingPress = false;
 };

@@ -21,7 +21,7 @@ using Zelkor::Vx::UI::Common::ClampToWidgetSize;
 
 constexpr QSize SIZE(14, 14);
 constexpr QPoint NOWHERE(-1, -1);
-constexpr int STEP = 120; // what one notch of a wheel counts
+constexpr int STEP = 120; // units of one notch of a wheel
 
 bool IsUpwards(int key)
 {
@@ -33,7 +33,7 @@ bool IsDownwards(int key)
     return key == Qt::Key_Down || key == Qt::Key_Left;
 }
 
-/// For assistive technology a thumb is a slider of its own rather than a button.
+/// Reports a thumb as a slider rather than a button.
 class AccessibleThumb : public QAccessibleWidget, public QAccessibleValueInterface
 {
 public:
@@ -91,7 +91,7 @@ ZSliderThumb::~ZSliderThumb()
 
 void ZSliderThumb::setName(const QString& name)
 {
-    // A name that somebody else gave stays.
+    // Keeps an accessible name set by the application.
     if (accessibleName().isEmpty() || accessibleName() == currentName)
         setAccessibleName(name);
     currentName = name;
@@ -99,7 +99,7 @@ void ZSliderThumb::setName(const QString& name)
 
 void ZSliderThumb::setStyleTag(const QString& tag)
 {
-    // A style sheet sets it while the thumb is polished.
+    // Style sheets set this property during polish(), which must not polish again.
     if (tag == currentStyleTag)
         return;
     currentStyleTag = tag;
@@ -171,7 +171,7 @@ void ZSliderThumb::place()
         move(margin, position);
 }
 
-// Without a slider it only lives: no input and no painting.
+// Handles no input and paints nothing without a slider.
 bool ZSliderThumb::event(QEvent* event)
 {
     return slider ? QToolButton::event(event) : QObject::event(event);
@@ -179,10 +179,10 @@ bool ZSliderThumb::event(QEvent* event)
 
 QSize ZSliderThumb::sizeHint() const
 {
-    return {1, 1}; // the fixed size governs
+    return {1, 1}; // the fixed size applies
 }
 
-// What setChecked() does, but with the signal last: a slot may delete the thumb, which the button would not survive.
+// As setChecked(), but emits the signal last: a slot may delete the thumb, which QAbstractButton does not allow.
 void ZSliderThumb::check(bool on)
 {
     if (!isCheckable() || on == isChecked())
@@ -214,8 +214,8 @@ void ZSliderThumb::finishDrag()
     Q_EMIT dragFinished();
 }
 
-// A tool button toggles on its own, also at the end of a drag. This has `handler` run while it cannot, and without the
-// look that goes with that. Returns whether the thumb still lives.
+// A tool button toggles on each release, also at the end of a drag. Calls `handler` while the thumb is not checkable,
+// without repainting it. Returns false if the thumb was deleted.
 bool ZSliderThumb::handleUnchecked(void (ZSliderThumb::*handler)(QMouseEvent*), QMouseEvent* event)
 {
     const QPointer<ZSliderThumb> self(this);
@@ -233,7 +233,7 @@ bool ZSliderThumb::handleUnchecked(void (ZSliderThumb::*handler)(QMouseEvent*), 
         return false;
     restore(wasCheckable, wasChecked);
     setUpdatesEnabled(true);
-    // Whoever selected another thumb meanwhile could not see that this one was checked.
+    // If a slot selected another thumb meanwhile, this one was not seen as checked.
     if (wasChecked && !host->isSelected(*this))
         check(false);
     return !self.isNull();
@@ -266,7 +266,7 @@ void ZSliderThumb::mouseMoveEvent(QMouseEvent* event)
         return;
     }
     event->accept();
-    // Window systems tell of moves that are none, and these shall not make a drag of a click.
+    // Window systems send moves to the same position, which do not start a drag.
     if (!dragging && event->pos() == pressPosition)
         return;
     const QPointer<ZSliderThumb> self(this);
@@ -294,11 +294,11 @@ void ZSliderThumb::mouseReleaseEvent(QMouseEvent* event)
     }
     const QPointer<ZSliderThumb> self(this);
     const QPoint place = mapToParent(event->pos());
-    // A press that ended early, as the thumb was hidden or disabled, is no click.
+    // Not a click if the thumb was hidden or disabled since the press.
     const bool isClick = !dragging && pressPosition != NOWHERE;
     pressPosition = NOWHERE;
     const bool isAlive = handleUnchecked(&ZSliderThumb::releaseButton, event);
-    // Qt asks the receiver about an event that nobody took, and a slot may delete it.
+    // Accepted before a slot may delete the receiver, which Qt uses to propagate ignored events.
     event->accept();
     if (!isAlive)
         return;
@@ -342,7 +342,7 @@ void ZSliderThumb::wheelEvent(QWheelEvent* event)
 
 void ZSliderThumb::focusInEvent(QFocusEvent* event)
 {
-    // It may lie under others, where it could be neither seen nor taken.
+    // It may be covered by other thumbs.
     raise();
     QToolButton::focusInEvent(event);
 }
@@ -370,7 +370,7 @@ void ZSliderThumb::paintEvent(QPaintEvent*)
 {
     QStyleOptionToolButton option;
     initStyleOption(&option);
-    // The slider itself shows nothing of its focus; the thumb does that its keys go to.
+    // The slider paints no focus mark; the thumb that its keys act on does.
     if (host->sendsKeysTo(*this))
         option.state |= QStyle::State_HasFocus;
     QStylePainter(this).drawComplexControl(QStyle::CC_ToolButton, option);

@@ -13,16 +13,16 @@ class SliderThumbController;
 class SliderThumbHost;
 } // namespace Zelkor::Vx::UI::Kit
 
-/// One thumb of a ZSlider, made by `ZSlider::addThumb` and owned by the slider; whoever deletes it does no harm.
+/// One thumb of a ZSlider, created by `ZSlider::addThumb` and owned by the slider. It may be deleted at any time.
 ///
-/// A thumb has a value of its own within the slider's range and its own limits. It can be dragged, and a click selects
-/// it, which shows as the checked state. While it has the keyboard, or is selected and the slider has it, the arrow
-/// keys ask its owner for a step by `stepped`; so does the wheel over the selected thumb. The owner decides what a step
-/// is. While nothing is connected to `stepped` of the default thumb, its keys are those of the slider. Where thumbs lie
-/// over one another, a click that leaves its thumb unselected lets the one beneath come up.
+/// A thumb has its own value within the range of the slider and its own limits. It can be dragged. A click selects it,
+/// which is its checked state. Arrow keys emit `stepped` while the thumb has the focus, or while it is selected and the
+/// slider has the focus; so does the wheel over the selected thumb. The owner decides how far a step is. If nothing is
+/// connected to `stepped` of the default thumb, its keys change the value of the slider. If thumbs overlap, a click
+/// that unselects a thumb lowers it below the others.
 ///
-/// A thumb is 14 by 14 pixels unless the style sheet gives it another size, and is selected there by
-/// [styleTag="..."], `:checked` and `:focus`.
+/// A thumb is 14 by 14 pixels unless the style sheet sets another size. Selectors: [styleTag="..."], `:checked` and
+/// `:focus`. GUI thread only.
 class ZSliderThumb : public QToolButton
 {
     Q_OBJECT
@@ -35,74 +35,76 @@ class ZSliderThumb : public QToolButton
     Q_PROPERTY(int zOrder READ zOrder WRITE setZOrder)
 
 public:
-    /// At the slider's minimum. The slider owns the thumb; without one, the thumb shows nothing and takes no input.
+    /// Constructs a thumb at the slider's minimum. The slider owns it; without one, it paints nothing and ignores
+    /// input.
     explicit ZSliderThumb(ZSlider* slider);
     ~ZSliderThumb() override;
 
-    /// What assistive technology calls the thumb, unless it has an accessible name of its own. The slider goes on
-    /// knowing it by the name under which it was added.
+    /// The accessible name, unless another one is set; by default the name given to `ZSlider::addThumb`, under which
+    /// the slider continues to find the thumb.
     QString name() const { return currentName; }
     void setName(const QString& name);
 
+    /// Tag for selectors of style sheets; by default the name given to `ZSlider::addThumb`.
     QString styleTag() const { return currentStyleTag; }
     void setStyleTag(const QString& tag);
 
-    /// Whether a person can select the thumb; on by default.
+    /// Whether the user can select the thumb; true by default.
     bool isSelectable() const { return selectable; }
     void setSelectable(bool on) { selectable = on; }
 
-    /// Whether the thumb can be dragged; on by default.
+    /// Whether the user can drag the thumb; true by default.
     bool isDraggable() const { return draggable; }
     void setDraggable(bool on) { draggable = on; }
 
-    /// Distance in pixels from the thumb's left or upper edge to the spot that points at the value; 7 by default.
+    /// Distance in pixels from the left or top edge of the thumb to the spot that points at the value; 7 by default.
     int pointOffset() const { return currentPointOffset; }
     void setPointOffset(int offset);
 
-    /// Distance in pixels from the slider's upper edge, or left edge when that is vertical; 0 by default.
+    /// Distance in pixels from the top edge of a horizontal slider, or the left edge of a vertical one; 0 by default.
     int parentMargin() const { return currentParentMargin; }
     void setParentMargin(int margin);
 
-    /// Thumbs of a higher order lie above; among equals the later name does. 0 by default.
+    /// Stacking order; 0 by default. The thumb of the highest order is on top, among equals the last one by name.
     int zOrder() const { return currentZOrder; }
     void setZOrder(int order);
 
-    /// Within the slider's range and then within the limits, of which the upper one wins when they cross.
+    /// The value, clamped to the range of the slider and then to the limits. The upper limit wins over the lower one.
     int value() const { return currentValue; }
     void setValue(int value);
 
-    /// Limits of the value, without effect by default. Setting one moves the value into it.
+    /// Limits of the value; those of int by default. Setting one clamps the value.
     int lowerLimit() const { return lowerBound; }
     void setLowerLimit(int limit);
     int upperLimit() const { return upperBound; }
     void setUpperLimit(int limit);
 
-    /// Whether a press on the groove moves this thumb when it is the selected or the default one; on by default.
+    /// Whether a press on the groove moves this thumb if it is the selected or the default one; true by default.
     bool movesOnGrooveClick() const { return followsGroove; }
     void setMovesOnGrooveClick(bool on) { followsGroove = on; }
 
-    /// Whether the wheel over the selected thumb emits `stepped`; on by default.
+    /// Whether the wheel over the selected thumb emits `stepped`; true by default.
     bool isWheelStepping() const { return wheelStepping; }
     void setWheelStepping(bool on) { wheelStepping = on; }
 
-    /// Whether arrow keys emit `stepped`; on by default.
+    /// Whether arrow keys emit `stepped`; true by default.
     bool isKeyStepping() const { return keyStepping; }
     void setKeyStepping(bool on) { keyStepping = on; }
 
     QSize sizeHint() const override;
 
 Q_SIGNALS:
-    /// The thumb has another value. A range that changes moves thumbs without this.
+    /// Emitted when the value changes, except when a new range of the slider clamps it.
     void valueChanged(int value);
 
-    /// The thumb is dragged from now on.
+    /// Emitted with the first mouse move of a drag.
     void dragStarted();
 
-    /// The drag is over; also when the thumb was hidden or disabled meanwhile.
+    /// Emitted at the end of a drag, also when the thumb is hidden or disabled during the drag.
     void dragFinished();
 
-    /// Asks for steps of 120 units each; positive for Up, Right and the wheel turned away. The thumb does not move. The
-    /// values of an upright slider grow downwards: its owner subtracts the steps, so that Up moves the thumb up.
+    /// Requests a move by units of 1/120 step; positive for Up, Right and the wheel turned away. The thumb does not
+    /// move. Values of a vertical slider grow downwards, so its owner subtracts the steps to move the thumb up.
     void stepped(int factor);
 
 protected:
@@ -135,11 +137,11 @@ private:
     QPointer<QSlider> slider;
     Zelkor::Vx::UI::Kit::SliderThumbHost* host; ///< valid as long as the slider exists
     QPoint pressPosition{-1, -1};
-    QString key; ///< under which the slider knows it
+    QString key; ///< name under which the slider finds the thumb
     QString currentName;
     QString currentStyleTag;
-    bool armed = false;    ///< pressed with the left button, and draggable
-    bool dragging = false; ///< the mouse moved since
+    bool armed = false;    ///< pressed with the left button while draggable
+    bool dragging = false; ///< whether the mouse moved since then
     int currentValue;
     int upperBound = std::numeric_limits<int>::max();
     int lowerBound = std::numeric_limits<int>::min();

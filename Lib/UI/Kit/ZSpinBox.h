@@ -2,8 +2,8 @@
 
 #include <QSpinBox>
 
-/// A field for a whole number that can be told to take the mouse wheel only while it has the focus, so that a wheel
-/// turned over a panel full of fields scrolls the panel and changes no value.
+/// A spin box that can restrict the mouse wheel to when it has the focus, so that the wheel over a panel of spin boxes
+/// scrolls the panel.
 class ZSpinBox : public QSpinBox
 {
     Q_OBJECT
@@ -12,8 +12,8 @@ class ZSpinBox : public QSpinBox
 public:
     explicit ZSpinBox(QWidget* parent = nullptr);
 
-    /// Whether the wheel changes the value only in focus; off by default. When on, the wheel does not give the focus
-    /// either, unless a focus policy set later has it so.
+    /// Whether the wheel changes the value in focus only; false by default. If true, the wheel does not give the focus
+    /// either, unless a focus policy set later includes it.
     bool isEditableInFocus() const { return editableInFocus; }
     void setEditableInFocus(bool on);
 

@@ -11,7 +11,7 @@ void ZStackedWidget::setAutoFit(bool on)
     fitToContent();
 }
 
-// The smallest size of the page, not its preferred one: a stack in a panel shall not push its neighbours away.
+// The minimum of the page, so that the stack does not displace its neighbours in a panel.
 QSize ZStackedWidget::sizeHint() const
 {
     return autoFit && currentWidget() ? currentWidget()->minimumSizeHint() : QFrame::sizeHint();

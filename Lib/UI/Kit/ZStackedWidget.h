@@ -2,10 +2,10 @@
 
 #include <QStackedWidget>
 
-/// A stack of pages that takes the size of the page it shows instead of the largest one.
+/// A stacked widget with the size of its current page instead of the largest one.
 ///
-/// Its preferred and its minimum size are the minimum size of the current page. With `autoFit` off it is a plain
-/// stack. Pages belong to the stack as to any `QStackedWidget`.
+/// Size hint and minimum size hint are the minimum size hint of the current page. Without `autoFit`, it behaves like
+/// QStackedWidget.
 class ZStackedWidget : public QStackedWidget
 {
     Q_OBJECT
@@ -14,8 +14,8 @@ class ZStackedWidget : public QStackedWidget
 public:
     explicit ZStackedWidget(QWidget* parent = nullptr);
 
-    /// Whether the stack follows its current page; on by default. Switching it off keeps the size of the moment until
-    /// the layout asks again.
+    /// Whether the size hints are those of the current page; true by default. After a change to false, the size is kept
+    /// until the next layout.
     bool isAutoFit() const { return autoFit; }
     void setAutoFit(bool on);
 
@@ -23,7 +23,7 @@ public:
     QSize minimumSizeHint() const override;
 
 public Q_SLOTS:
-    /// Has the layout ask for the size of the current page; nothing when `autoFit` is off.
+    /// Makes the layout query the size of the current page, with `autoFit` only.
     void fitToContent();
 
 protected:

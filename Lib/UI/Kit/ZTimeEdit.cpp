@@ -17,7 +17,7 @@ namespace {
 
 const QString SHRINK_WIDTH = QStringLiteral("shrinkWidth");
 constexpr char FORCE_MAXIMUM[] = "forceMaxtimeFormat";
-constexpr int TEXT_MARGINS = 4; // what the line edit leaves free on both sides of its text
+constexpr int TEXT_MARGINS = 4; // margins of the line edit at both sides of its text
 constexpr int LAST_MILLISECOND = 24 * 60 * 60 * 1000 - 1;
 constexpr int HALF_DAY_HOURS = 12;
 
@@ -35,14 +35,13 @@ QString WithLatinDigits(QString text)
     return text;
 }
 
-// Two apostrophes in a row stand for one where Qt writes a time, and for nothing where it reads one. The typographic
-// one is the same for both.
+// Qt writes two apostrophes as one, but does not parse them. A typographic apostrophe works both ways.
 QString Readable(QString format)
 {
     return format.replace(QLatin1String("''"), QString(QChar(0x2019)));
 }
 
-/// The text with zeros for digits in a part of it.
+/// Replaces the digits in a part of the text by zeros.
 QString WithZeros(QString text, int position, int length)
 {
     const auto begin = text.begin() + position;
@@ -62,7 +61,7 @@ bool IsDeletion(const QKeyEvent& event)
            event.matches(QKeySequence::DeleteEndOfLine) || event.matches(QKeySequence::DeleteCompleteLine);
 }
 
-/// The digit that a key types, or -1.
+/// Returns the digit that a key types, or -1.
 int TypedDigit(const QKeyEvent& event)
 {
     const bool isCommand = event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
@@ -74,41 +73,41 @@ int TypedDigit(const QKeyEvent& event)
 ZTimeEdit::ZTimeEdit(QWidget* parent) : QTimeEdit(parent)
 {
     watchCursor();
-    // Qt would turn the sections around, and the format with them.
+    // Qt would reverse the sections and the format.
     setLayoutDirection(Qt::LeftToRight);
     connect(this, SIGNAL(dateTimeChanged(const QDateTime&)), this, SLOT(updateStyle()));
     setWrapping(true);
     setFocusPolicy(Qt::StrongFocus);
 }
 
-// A cursor that leaves an unfinished section completes the time, which may choose another format. Only after that does
-// Qt note the section that the cursor came to, and counts it in the old format. So the new one waits: a text field of
-// our own hears us before Qt as well as after it.
+// A cursor that leaves an incomplete section completes the time, which may choose another format. Qt determines the new
+// section only afterwards, by the old format, so the new format is set later. Our own line edit allows connections both
+// before and after that of Qt.
 void ZTimeEdit::watchCursor()
 {
     auto* edit = new QLineEdit(this);
     edit->setObjectName(lineEdit()->objectName());
     connect(edit, &QLineEdit::cursorPositionChanged, this, [this] { ++depthInQt; });
     setLineEdit(edit);
-    connect(edit, &QLineEdit::cursorPositionChanged, this, &ZTimeEdit::leaveQt);
-    // Writes the text into the field.
+    connect(edit, &QLineEdit::cursorPositionChanged, this, &ZTimeEdit::finishHandlingByQt);
+    // Fills the new line edit.
     setDisplayFormat(displayFormat());
 }
 
-void ZTimeEdit::leaveQt()
+void ZTimeEdit::finishHandlingByQt()
 {
-    if (--depthInQt == 0 && std::exchange(formatWaits, false))
+    if (--depthInQt == 0 && std::exchange(formatIsPending, false))
         updateStyle();
 }
 
-// Has Qt handle an event; it counts on the same sections when it is done. False when the field is gone then.
-bool ZTimeEdit::letQt(const std::function<void()>& handle)
+// Lets Qt handle an event without a change of the format. Returns false if the field was deleted.
+bool ZTimeEdit::handleByQt(const std::function<void()>& handle)
 {
     const QPointer<ZTimeEdit> self(this);
     ++depthInQt;
     handle();
     if (self)
-        leaveQt();
+        finishHandlingByQt();
     return self;
 }
 
@@ -122,7 +121,7 @@ void ZTimeEdit::setStyleTag(const QString& tag)
         currentStyleTag = tag;
         style()->unpolish(this);
         style()->polish(this);
-        // A new look may need another size, which the base class keeps until then.
+        // Resets the size cached by the base class.
         QEvent change(QEvent::StyleChange);
         QCoreApplication::sendEvent(this, &change);
         updateGeometry();
@@ -186,7 +185,7 @@ void ZTimeEdit::chooseFormat()
     if (format == displayFormat())
         return;
     if (depthInQt > 0) {
-        formatWaits = true;
+        formatIsPending = true;
         return;
     }
     QLineEdit* edit = lineEdit();
@@ -194,13 +193,13 @@ void ZTimeEdit::chooseFormat()
     const QTime minimum = minimumTime();
     const QTime maximum = maximumTime();
     setDisplayFormat(format);
-    // With a new format, Qt forgets a range of one single time.
+    // A new format makes Qt reset a range of a single time.
     if (minimum != minimumTime() || maximum != maximumTime())
         setTimeRange(minimum, maximum);
     edit->setCursorPosition(qMax(0, edit->text().size() - fromEnd));
 }
 
-// Parts of the time that the format does not show keep their value.
+// Parses a displayed text. Parts that the format does not show are those of the current time.
 QTime ZTimeEdit::read(const QString& text) const
 {
     const QTime shown = locale().toTime(text, displayFormat());
@@ -218,7 +217,7 @@ QTime ZTimeEdit::read(const QString& text) const
                  sections.testFlag(MSecSection) ? shown.msec() : previous.msec());
 }
 
-// Qt writes the digits of every locale but reads only these in all of them.
+// Qt writes native digits but parses Latin digits in every locale.
 QString ZTimeEdit::textFromDateTime(const QDateTime& dateTime) const
 {
     return WithLatinDigits(QTimeEdit::textFromDateTime(dateTime));
@@ -235,7 +234,7 @@ bool ZTimeEdit::event(QEvent* event)
 bool ZTimeEdit::focusNextPrevChild(bool next)
 {
     bool moved = true;
-    letQt([&] { moved = QTimeEdit::focusNextPrevChild(next); });
+    handleByQt([&] { moved = QTimeEdit::focusNextPrevChild(next); });
     return moved;
 }
 
@@ -253,7 +252,7 @@ void ZTimeEdit::keyPressEvent(QKeyEvent* event)
     } else {
         const QString before = lineEdit()->text();
         const QTime timeBefore = time();
-        if (!letQt([&] { QTimeEdit::keyPressEvent(event); }))
+        if (!handleByQt([&] { QTimeEdit::keyPressEvent(event); }))
             return;
         if (IsEnter(*event))
             finish();
@@ -266,10 +265,10 @@ void ZTimeEdit::typeDigit(QKeyEvent& event, int digit)
 {
     const QString before = lineEdit()->text();
     const QTime timeBefore = time();
-    if (!letQt([&] { QTimeEdit::keyPressEvent(&event); }))
+    if (!handleByQt([&] { QTimeEdit::keyPressEvent(&event); }))
         return;
     const QString after = lineEdit()->text();
-    // A digit typed over several ones may leave a time nevertheless, where the format has no leading zeros.
+    // Without leading zeros in the format, a digit typed over several ones may leave a valid time.
     if (after.size() < before.size() && !read(after).isValid())
         fillGap(before, timeBefore);
     else if (after == before && !isReadOnly())
@@ -285,26 +284,27 @@ void ZTimeEdit::finish()
         Q_EMIT EnterPressed();
 }
 
-// What is missing at the cursor comes back, with zeros for digits.
+// Restores the text deleted at the cursor, with zeros for digits.
 void ZTimeEdit::fillGap(const QString& before, const QTime& timeBefore)
 {
     const QString after = lineEdit()->text();
     const int position = lineEdit()->cursorPosition();
     const int length = before.size() - after.size();
     const QString gap = before.mid(position, length);
-    setTimeOf(WithZeros(after.left(position) + gap + after.mid(position), position, length), position, timeBefore);
+    setTimeFromText(WithZeros(after.left(position) + gap + after.mid(position), position, length), position,
+                    timeBefore);
 }
 
-// Qt deletes nothing that reaches over the end of a section.
+// Clears a selection, which Qt does not if it spans several sections.
 void ZTimeEdit::clearSelection(bool toClipboard)
 {
     if (toClipboard)
         lineEdit()->copy();
     const int position = lineEdit()->selectionStart();
-    setTimeOf(WithZeros(lineEdit()->text(), position, lineEdit()->selectionLength()), position, time());
+    setTimeFromText(WithZeros(lineEdit()->text(), position, lineEdit()->selectionLength()), position, time());
 }
 
-void ZTimeEdit::setTimeOf(const QString& text, int position, const QTime& fallback)
+void ZTimeEdit::setTimeFromText(const QString& text, int position, const QTime& fallback)
 {
     const QTime read = this->read(text);
     const QPointer<ZTimeEdit> self(this);
@@ -344,7 +344,7 @@ void ZTimeEdit::overwrite(int digit)
         updateStyle();
         text = lineEdit()->text();
     }
-    // Counted from the end: an hour may have got longer.
+    // Counted from the end, because the hour may have gained a digit.
     const auto next = std::find_if(text.begin() + qMax(0, text.size() - fromEnd + 1), text.end(),
                                    [](QChar character) { return character.isDigit(); });
     lineEdit()->setCursorPosition(int(next - text.begin()));
@@ -354,7 +354,7 @@ void ZTimeEdit::overwrite(int digit)
 void ZTimeEdit::wheelEvent(QWheelEvent* event)
 {
     if (focusPolicy() != Qt::StrongFocus)
-        letQt([&] { QTimeEdit::wheelEvent(event); });
+        handleByQt([&] { QTimeEdit::wheelEvent(event); });
     else
         event->ignore();
 }
@@ -362,14 +362,14 @@ void ZTimeEdit::wheelEvent(QWheelEvent* event)
 void ZTimeEdit::focusInEvent(QFocusEvent* event)
 {
     setFocusPolicy(Qt::WheelFocus);
-    // Before Qt selects the section to begin with.
+    // Before Qt selects the first section.
     updateStyle();
-    letQt([&] { QTimeEdit::focusInEvent(event); });
+    handleByQt([&] { QTimeEdit::focusInEvent(event); });
 }
 
 void ZTimeEdit::focusOutEvent(QFocusEvent* event)
 {
-    if (!letQt([&] { QTimeEdit::focusOutEvent(event); }))
+    if (!handleByQt([&] { QTimeEdit::focusOutEvent(event); }))
         return;
     setFocusPolicy(Qt::StrongFocus);
     updateStyle();

@@ -5,20 +5,18 @@
 
 #include <functional>
 
-/// A field for a time of day, of which the digits are overwritten where they stand: a typed digit replaces the one at
-/// the cursor, and a deleted one leaves a zero. Parts of the time that the format does not show keep their value. What
-/// would be no time is not taken, and beyond the minimum or maximum the time becomes that. Digits are shown as 0 to 9
-/// and can be typed in the digits of any script.
+/// A time edit in overwrite mode: a typed digit replaces the digit at the cursor, a deleted digit becomes 0.
 ///
-/// The display format can be chosen from a list, as the one that loses least: of the time, or of the maximum time while
-/// the field has the focus or its dynamic property "forceMaxtimeFormat" is true. An apostrophe in a format becomes a
-/// typographic one. Keys, buttons and wheel step the
-/// section at the cursor and stop at midnight; on AM/PM, only the keys Up and Down act. The wheel steps in focus only.
+/// Parts of the time that the format does not show keep their value. Input that is not a valid time is ignored; times
+/// are clamped to minimum and maximum. Digits are displayed as 0 to 9 and can be typed in any script.
 ///
-/// It lies from left to right in every layout direction, as times are written. GUI thread only.
+/// The display format can be chosen from a list, as the one that loses least precision: of the time or, while the field
+/// has the focus or its dynamic property "forceMaxtimeFormat" is true, of the maximum time. Apostrophes in a format
+/// become typographic ones. Keys, buttons and the wheel step the section at the cursor and stop at midnight; the AM/PM
+/// section is changed by Up and Down only. The wheel requires the focus.
 ///
-/// As with any field of Qt, a slot of `dateTimeChanged` or `timeChanged` that wants it gone calls deleteLater(): the
-/// field goes on with the key or click that changed the time.
+/// The layout direction is always left-to-right. As with any field of Qt, a slot of `dateTimeChanged` or `timeChanged`
+/// must use deleteLater() to delete it. GUI thread only.
 class ZTimeEdit : public QTimeEdit
 {
     Q_OBJECT
@@ -28,30 +26,30 @@ class ZTimeEdit : public QTimeEdit
 public:
     explicit ZTimeEdit(QWidget* parent = nullptr);
 
-    /// For selectors of a style sheet. With "shrinkWidth" the field is as wide as its text, which leaves no room for
-    /// buttons and a frame.
+    /// Tag for selectors of style sheets; empty by default. "shrinkWidth" makes the field as wide as its text, without
+    /// room for buttons and a frame.
     QString styleTag() const { return currentStyleTag; }
     void setStyleTag(const QString& tag);
 
-    /// The formats to choose from, as for `setDisplayFormat`, which decides alone when the list is empty.
+    /// Formats to choose from; empty by default, which leaves the format to `setDisplayFormat`.
     QStringList displayFormatList() const { return formats; }
     void setDisplayFormatList(const QStringList& list);
 
-    /// What one step in the section of milliseconds is, at least and by default 1.
+    /// Step of the milliseconds section in milliseconds, at least 1; 1 by default.
     int millisecondStep() const { return stepOfMilliseconds; }
     void setMillisecondStep(int milliseconds) { stepOfMilliseconds = qMax(1, milliseconds); }
 
-    /// Sets the time, or the minimum or maximum when it is beyond them. An invalid time is ignored.
+    /// Sets the time, clamped to minimum and maximum. Ignores an invalid time.
     void setTimeClamped(const QTime& time);
 
     void stepBy(int steps) override;
 
 public Q_SLOTS:
-    /// Chooses the format and fits the width. It happens by itself when the time or the focus changes.
+    /// Chooses the format and adjusts the width. Called when the time or the focus changes.
     void updateStyle();
 
 Q_SIGNALS:
-    /// Return or Enter was pressed; the field has given up the focus.
+    /// Emitted after Return or Enter was pressed and the field released the focus.
     void EnterPressed();
 
 protected:
@@ -67,13 +65,13 @@ protected:
 
 private:
     void watchCursor();
-    bool letQt(const std::function<void()>& handle);
-    void leaveQt();
+    bool handleByQt(const std::function<void()>& handle);
+    void finishHandlingByQt();
     QTime read(const QString& text) const;
     void chooseFormat();
     void finish();
     void typeDigit(QKeyEvent& event, int digit);
-    void setTimeOf(const QString& text, int position, const QTime& fallback);
+    void setTimeFromText(const QString& text, int position, const QTime& fallback);
     void clearSelection(bool toClipboard);
     void setAfternoon(bool on);
     void fillGap(const QString& before, const QTime& timeBefore);
@@ -81,8 +79,8 @@ private:
 
     QString currentStyleTag;
     QStringList formats;
-    QStringList distinctFormats; ///< those among `formats` that an update has to try
+    QStringList distinctFormats; ///< the subset of `formats` to choose from
     int stepOfMilliseconds = 1;
-    int depthInQt = 0;        ///< of events and moves of the cursor that Qt is busy with
-    bool formatWaits = false; ///< until it is done with them
+    int depthInQt = 0;            ///< nesting level of events and cursor moves that Qt handles
+    bool formatIsPending = false; ///< whether a new format is to be set when that becomes 0
 };

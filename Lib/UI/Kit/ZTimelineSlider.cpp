@@ -15,7 +15,7 @@
 #include <algorithm>
 #include <limits>
 
-// Not every compiler has integers of this size.
+// For compilers without 128-bit integers.
 #if !defined(__SIZEOF_INT128__)
 #include <boost/multiprecision/cpp_int.hpp>
 #endif
@@ -30,7 +30,7 @@ constexpr qint64 NO_BOUND = -1;
 constexpr int SECONDS_A_DAY = 24 * 60 * 60;
 constexpr qint64 MILLISECONDS_A_DAY = 1000 * qint64(SECONDS_A_DAY);
 
-/// Holds the product of a length of time and a value of the slider, whatever they are.
+/// Wide enough for the product of any time and any value.
 #if defined(__SIZEOF_INT128__)
 __extension__ typedef __int128 Wide;
 #else
@@ -44,7 +44,7 @@ Integer Saturated(Wide number)
     return Integer(std::clamp(number, Wide(Limits::min()), Wide(Limits::max())));
 }
 
-/// factor * part / whole + 1/2, without what is behind the point; 0 when there is no whole.
+/// Returns factor * part / whole + 1/2, truncated; 0 if `whole` is 0.
 Wide Scaled(Wide factor, Wide part, Wide whole)
 {
     return whole == 0 ? 0 : (2 * factor * part + whole) / (2 * whole);
@@ -56,7 +56,7 @@ QString DayTimeText(qint64 milliseconds, const ZTimelineSlider& slider)
     return TimeText(time, slider.displayFormatList(), slider.locale());
 }
 
-/// Tells times where a slider tells values.
+/// Reports times instead of values.
 class AccessibleTimeline : public QAccessibleWidget, public QAccessibleValueInterface
 {
 public:
@@ -94,12 +94,12 @@ private:
 
 } // namespace
 
-/// What the slider shows.
+/// The shown range of time.
 struct ZTimelineSlider::Scale
 {
     qint64 low;
     qint64 high;
-    qint64 offset; ///< the time of value 0
+    qint64 offset; ///< time of value 0
 
     Wide length() const { return Wide(high) - low; }
 };
@@ -155,7 +155,7 @@ void ZTimelineSlider::resetTime()
     const QSignalBlocker silence(this);
     setValue(0);
     currentTime = 0;
-    // It would follow the signal.
+    // Otherwise updated by the blocked signal.
     if (ZSliderThumb* thumb = defaultThumb()) {
         const QSignalBlocker silentThumb(thumb);
         thumb->setValue(0);
@@ -199,7 +199,7 @@ qint64 ZTimelineSlider::timeAt(int value) const
     return Saturated<qint64>(Scaled(shown.length(), inside, Wide(maximum()) - minimum()) + shown.offset);
 }
 
-// Where a bound limits the default thumb.
+// Returns the value at which a bound limits the default thumb.
 std::optional<int> ZTimelineSlider::limitOf(qint64 bound) const
 {
     if (bound < 0)
@@ -220,13 +220,13 @@ void ZTimelineSlider::setThumbLimits(int lower, int upper)
 {
     if (ZSliderThumb* thumb = defaultThumb())
         thumb->setLowerLimit(lower);
-    // Looked up again: a thumb that moves is told about.
+    // Looked up again, because a slot of valueChanged() may delete the thumb.
     if (ZSliderThumb* thumb = defaultThumb())
         thumb->setUpperLimit(upper);
 }
 
-// Values have other times now. New limits come last, since the thumb's value is an old one until then, and no time
-// shall get lost at a limit that it lies within.
+// Updates value and limits after a change of the scale. The limits are set last, because until then they would clamp a
+// value of the old scale.
 void ZTimelineSlider::refit()
 {
     const QPointer<ZTimelineSlider> self(this);
@@ -235,7 +235,7 @@ void ZTimelineSlider::refit()
     if (!self)
         return;
     setThumbLimits(limitOf(lowerBound).value_or(minimum()), limitOf(upperBound).value_or(maximum()));
-    // The bound may have moved under a thumb that stands at it.
+    // The bound may have changed while the thumb remains at its limit.
     if (self && boundAt(value()))
         updateTime(value());
 }

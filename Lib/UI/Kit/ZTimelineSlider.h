@@ -4,14 +4,13 @@
 
 #include <optional>
 
-/// A slider for a time within a span, both in milliseconds. Bounds can narrow the span: then the slider shows what lies
-/// between them or, while they are ignored, the whole span with the default thumb confined to the bounds.
+/// A slider for a time within a span, all in milliseconds. Optional bounds narrow the span: the slider shows the range
+/// between them or, while they are ignored, the whole span with the default thumb limited to the bounds.
 ///
-/// The time under the mouse shows as a tool tip, counted from the start of what the slider shows and along its width,
-/// as timelines lie. It begins anew after each 24 hours.
+/// A tool tip shows the time under the mouse, modulo 24 hours, relative to the start of the shown range.
 ///
-/// The slider starts with values 0 to 1000, and time is as fine as they are. Without a left bound, value 0 stands for
-/// time 0 wherever the span starts. GUI thread only.
+/// The range of values, 0 to 1000 by default, is the resolution of the time. Without a left bound, value 0 is time 0
+/// wherever the span starts. GUI thread only.
 class ZTimelineSlider : public ZSlider
 {
     Q_OBJECT
@@ -24,57 +23,61 @@ class ZTimelineSlider : public ZSlider
     Q_PROPERTY(QStringList displayFormatList READ displayFormatList WRITE setDisplayFormatList)
 
 public:
-    /// Vertical like any ZSlider, with an empty span at 0 and no bounds.
+    /// Constructs a vertical slider with an empty span at 0 and no bounds.
     explicit ZTimelineSlider(QWidget* parent = nullptr);
 
-    /// The ends of the span. The time is kept as far as the new span and the slider's values allow, and so it is by
-    /// every change of the bounds.
+    // Changes of span and bounds keep the time, within the new range and the resolution of the values.
+
+    /// Start of the span in milliseconds; 0 by default.
     qint64 startTime() const { return spanStart; }
     void setStartTime(qint64 milliseconds) { setSpan(milliseconds, spanEnd); }
+
+    /// End of the span in milliseconds; 0 by default.
     qint64 endTime() const { return spanEnd; }
     void setEndTime(qint64 milliseconds) { setSpan(spanStart, milliseconds); }
 
-    /// Both ends in one step.
+    /// Sets both ends at once.
     void setSpan(qint64 start, qint64 end);
 
-    /// The bounds, which are also the limits of the default thumb; negative for none.
+    /// Left bound and lower limit of the default thumb in milliseconds; negative for none; -1 by default.
     qint64 leftBound() const { return lowerBound; }
     void setLeftBound(qint64 milliseconds) { setBounds(milliseconds, upperBound); }
+
+    /// Right bound and upper limit of the default thumb in milliseconds; negative for none; -1 by default.
     qint64 rightBound() const { return upperBound; }
     void setRightBound(qint64 milliseconds) { setBounds(lowerBound, milliseconds); }
 
-    /// Both bounds in one step.
+    /// Sets both bounds at once.
     void setBounds(qint64 left, qint64 right);
     void resetBounds();
 
-    /// Whether the slider shows the whole span even if there are bounds; off by default. They go on limiting the time.
+    /// Whether the slider shows the whole span despite the bounds, which still limit the time; false by default.
     bool areBoundsIgnored() const { return boundsIgnored; }
     void setBoundsIgnored(bool on);
 
-    /// The time of the slider's value. Setting one within the same value changes nothing.
+    /// Time of the slider's value in milliseconds; 0 by default. Setting a time of the current value has no effect.
     qint64 time() const { return currentTime; }
     void setTime(qint64 milliseconds);
 
-    /// Back to value and time 0, without a signal.
+    /// Sets value and time to 0 without signals.
     void resetTime();
 
-    /// For selectors of a style sheet.
+    /// Tag for selectors of style sheets; empty by default.
     QString styleTag() const { return currentStyleTag; }
     void setStyleTag(const QString& tag);
 
-    /// Formats for the tool tip, of which it takes the one that loses least of the shown time. "hh:mm:ss" when empty.
+    /// Formats of the tool tip, which uses the one that loses least precision; empty, for "hh:mm:ss", by default.
     QStringList displayFormatList() const { return formats; }
     void setDisplayFormatList(const QStringList& list) { formats = list; }
 
-    /// The value for a time, which is brought into the span and the bounds first.
+    /// Returns the value of a time, which is first clamped to the span and the bounds.
     int valueOf(qint64 milliseconds) const;
 
-    /// The time for a value. The end of the default thumb's way is exactly the bound that is there.
+    /// Returns the time of a value: exactly the bound if the value is a limit of the default thumb.
     qint64 timeAt(int value) const;
 
 Q_SIGNALS:
-    /// While a person drags, the slider is not done yet when it tells that: a slot that wants it gone calls
-    /// deleteLater().
+    /// Emitted when the time changes. During a drag, a slot must use deleteLater() to delete the slider.
     void timeChanged(qint64 milliseconds);
 
 protected:

@@ -7,8 +7,7 @@
 
 namespace {
 
-// A command that a stack has called and that has not returned yet. It may have itself deleted, by pushing another one
-// for example; that waits until here.
+// A running command. Defers its deletion, which the command may cause itself, for instance by a push.
 class Run
 {
 public:
@@ -23,7 +22,7 @@ public:
 
     Q_DISABLE_COPY_MOVE(Run)
 
-    // The outermost run of the command, which may have called itself by way of the stack.
+    // Returns the outermost run of the command, which may have called itself through the stack.
     static Run* find(const QUndoCommand* command)
     {
         Run* found = nullptr;
@@ -37,7 +36,7 @@ public:
     void deleteAtEnd() { doomed = true; }
 
 private:
-    // Not of one stack: a command can move from a transaction to the stack around it, or outlive both.
+    // Not a member of the stack, because a command may move to the enclosing stack or outlive both.
     static thread_local Run* innermost;
 
     QUndoCommand* command;
@@ -55,7 +54,7 @@ void Delete(QUndoCommand* command)
         delete command;
 }
 
-// From the last to the first. Emptied before, so that a destructor that uses the stack meets it in order.
+// Deletes from last to first. Clears the list before, because a destructor may use the stack.
 void DeleteAll(QVector<QUndoCommand*>& list)
 {
     const QVector<QUndoCommand*> doomed = std::exchange(list, {});
@@ -85,7 +84,7 @@ ZUndoStack::ZUndoStack(QObject* parent) : QObject(parent) {}
 
 ZUndoStack::~ZUndoStack()
 {
-    // Somebody may delete an open transaction instead of closing it.
+    // The application may delete an open transaction.
     if (auto* owner = qobject_cast<ZUndoStack*>(parent()))
         owner->openTransactions.removeOne(this);
     clear();
@@ -123,11 +122,11 @@ ZUndoStack* ZUndoStack::currentTransaction() const
 {
     if (openTransactions.isEmpty())
         return nullptr;
-    // A transaction is a stack itself, and may have been told to open another one.
+    // A transaction is a stack itself and may have open transactions.
     return openTransactions.last()->currentHistory();
 }
 
-// The command may delete the stack, so nothing of it is touched afterwards; the same goes for `redo`.
+// The command may delete the stack, so no member is used afterwards; likewise in redo().
 void ZUndoStack::undo()
 {
     ZUndoStack* history = currentHistory();
@@ -168,7 +167,7 @@ void ZUndoStack::commitTransaction()
 
 void ZUndoStack::rollbackTransaction()
 {
-    // A command may delete the stack, and the transaction with it.
+    // A command may delete the stack and thereby the transaction.
     const QPointer<ZUndoStack> transaction = takeTransaction();
     while (transaction && transaction->canUndo())
         transaction->undo();
@@ -193,7 +192,7 @@ ZUndoStack* ZUndoStack::currentHistory()
     return transaction ? transaction : this;
 }
 
-// Takes the innermost open transaction off the list that it is in.
+// Removes the innermost open transaction from the list that contains it.
 ZUndoStack* ZUndoStack::takeTransaction()
 {
     if (openTransactions.isEmpty())

@@ -4,18 +4,19 @@
 #include <QUndoCommand>
 #include <QVector>
 
-/// An undo history of actions that were performed already, with transactions: a group of actions that can be undone and
-/// redone one by one while it is open, and becomes one step when it is committed or is taken back when it is rolled
-/// back. Transactions nest; while one is open, what was before it cannot be undone.
+/// An undo stack for actions that are already performed, with nested transactions.
 ///
-/// The stack owns its commands. A command may do anything with the stack from inside its own `undo` and `redo`, delete
-/// it included: it is itself deleted after it has returned. One thread, that of the object.
+/// Actions in an open transaction can be undone and redone one by one. Committing makes them one step, rolling back
+/// undoes them. While a transaction is open, earlier steps cannot be undone.
+///
+/// The stack owns its commands. A command may call the stack from its own `undo` and `redo` and may even delete it; a
+/// running command is deleted after it returns. Not thread-safe: use it in the thread of the object only.
 class ZUndoStack : public QObject
 {
     Q_OBJECT
 
 public:
-    /// A committed transaction as one step. Owns its commands.
+    /// A committed transaction. Owns its commands.
     class TransactionCommand : public QUndoCommand
     {
     public:
@@ -34,40 +35,40 @@ public:
     explicit ZUndoStack(QObject* parent = nullptr);
     ~ZUndoStack() override;
 
-    /// Records an action that was performed: `redo` is not called. Goes into the innermost open transaction, and what
-    /// was undone there is deleted. Takes the command, which no other stack, command or transaction may own. Null is
-    /// ignored.
+    /// Adds a performed action to the innermost open transaction without a call of `redo`, and deletes the undone
+    /// commands there. Takes ownership of the command, which must have no other owner. Ignores null.
     void push(QUndoCommand* command);
 
-    /// The same past all open transactions, into the history of this stack itself. The action stands when they are
-    /// rolled back.
+    /// Adds a performed action to the history of this stack itself, so that a rollback of open transactions does not
+    /// undo it.
     void pushPastTransactions(QUndoCommand* command);
 
-    /// Whether there is anything to undo or redo, in the innermost open transaction when one is open.
+    /// Return whether the innermost open transaction, or the stack without one, has a step to undo or redo.
     bool canUndo() const;
     bool canRedo() const;
 
-    /// The steps that this stack itself can undo, those of open transactions not counted.
+    /// Returns the number of steps to undo in this stack itself, without open transactions.
     int count() const;
 
-    /// The innermost open transaction, which lives until it is committed or rolled back; null when none is open.
+    /// Returns the innermost open transaction, or null. It is deleted when it is committed or rolled back.
     ZUndoStack* currentTransaction() const;
 
 public Q_SLOTS:
-    /// Takes back or repeats one step; nothing when there is none.
+    /// Undo or redo one step, if there is one.
     void undo();
     void redo();
 
+    /// Opens a transaction within the innermost open one.
     void startTransaction();
 
-    /// Makes one step of what the innermost transaction has performed and deletes what was undone in it. One that has
-    /// performed nothing leaves no step, and the history as it was.
+    /// Combines the actions of the innermost transaction into one step and deletes the undone ones. An empty
+    /// transaction does not change the history.
     void commitTransaction();
 
-    /// Undoes what the innermost transaction has performed and deletes it.
+    /// Undoes the actions of the innermost transaction and deletes it.
     void rollbackTransaction();
 
-    /// Deletes the steps of this stack itself. Open transactions stay.
+    /// Deletes the steps of this stack itself, but no open transactions.
     void clear();
 
 private:
@@ -76,6 +77,6 @@ private:
     ZUndoStack* takeTransaction();
 
     QVector<QUndoCommand*> undoList;       ///< oldest first
-    QVector<QUndoCommand*> redoList;       ///< the next one to redo is the last
-    QVector<ZUndoStack*> openTransactions; ///< children of this object, the innermost is the last
+    QVector<QUndoCommand*> redoList;       ///< last undone last
+    QVector<ZUndoStack*> openTransactions; ///< children of this object, innermost last
 };

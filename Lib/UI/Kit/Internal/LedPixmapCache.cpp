@@ -10,24 +10,24 @@ namespace Zelkor::Vx::UI::Kit {
 namespace {
 
 constexpr int PHASES = 32;
-constexpr int PHASE_BITS = 10; // of both directions together
+constexpr int PHASE_BITS = 10; // x and y together
 constexpr uint OPAQUE = 255;
 
-// Copied at once. A length that the compiler knows makes copies of this size much faster.
+// Pixels per memcpy. A constant length makes copies of this size much faster.
 constexpr int BLOCK = 4;
 
-constexpr int SLOT_BITS = 9;
-constexpr int SLOTS = 1 << SLOT_BITS;
-constexpr quint64 NOTHING = ~quint64(0);
+constexpr int INDEX_BITS = 9;
+constexpr int ENTRIES = 1 << INDEX_BITS;
+constexpr quint64 EMPTY_KEY = ~quint64(0);
 
-// Spreads keys that differ little over the slots.
-int SlotOf(quint64 key)
+// Fibonacci hashing, which spreads similar keys.
+int IndexOf(quint64 key)
 {
     constexpr quint64 GOLDEN_RATIO = 0x9E3779B97F4A7C15;
-    return int((key * GOLDEN_RATIO) >> (64 - SLOT_BITS));
+    return int((key * GOLDEN_RATIO) >> (64 - INDEX_BITS));
 }
 
-// A pixel of four channels times a factor of 0 to 255, rounded.
+// Multiplies the four channels of a pixel by factor / 255, rounded.
 QRgb Times(QRgb pixel, uint factor)
 {
     constexpr QRgb EVEN = 0x00ff00ff;
@@ -56,26 +56,26 @@ void LedPixmapCache::setScale(double newScale)
     side = int(std::ceil(DIAMETER * scale + double(PHASES - 1) / PHASES));
     stride = (side + BLOCK - 1) / BLOCK * BLOCK;
     coverage = QVector<QImage>(1 << PHASE_BITS);
-    stamps = QVector<Stamp>(SLOTS, {NOTHING, {}});
+    entries = QVector<Entry>(ENTRIES, {EMPTY_KEY, {}});
 }
 
-QImage LedPixmapCache::lineBetween(int firstPixel, int lastPixel) const
+QImage LedPixmapCache::makeRow(int firstPixel, int lastPixel) const
 {
     return QImage(lastPixel + stride - firstPixel, side, QImage::Format_ARGB32_Premultiplied);
 }
 
-void LedPixmapCache::draw(QImage& line, int pixel, int phaseX, int phaseY, QRgb color, bool apart)
+void LedPixmapCache::draw(QImage& row, int pixel, int phaseX, int phaseY, QRgb color, bool apart)
 {
-    const QRgb* stamp = stampOf(phaseY * PHASES + phaseX, color);
-    auto* out = reinterpret_cast<QRgb*>(line.bits()) + pixel;
-    for (int y = 0; y < side; ++y, stamp += stride, out += line.width()) {
+    const QRgb* pixels = pixelsOf(phaseY * PHASES + phaseX, color);
+    auto* out = reinterpret_cast<QRgb*>(row.bits()) + pixel;
+    for (int y = 0; y < side; ++y, pixels += stride, out += row.width()) {
         if (apart) {
-            // What a block has too much, the next stamp sets right.
+            // The next circle overwrites the excess of the last block.
             for (int x = 0; x < stride; x += BLOCK)
-                std::memcpy(out + x, stamp + x, BLOCK * sizeof(QRgb));
+                std::memcpy(out + x, pixels + x, BLOCK * sizeof(QRgb));
         } else {
             for (int x = 0; x < side; ++x)
-                out[x] = stamp[x] + Times(out[x], OPAQUE - uint(qAlpha(stamp[x])));
+                out[x] = pixels[x] + Times(out[x], OPAQUE - uint(qAlpha(pixels[x])));
         }
     }
 }
@@ -91,30 +91,30 @@ const QImage& LedPixmapCache::coverageAt(int phase)
         painter.setPen(Qt::NoPen);
         painter.setBrush(Qt::black);
         painter.translate(double(phase % PHASES) / PHASES, double(phase / PHASES) / PHASES);
-        // What fills curves makes polygons of them first, as fine as the scale needs: in other units, it gets others.
+        // QPainter flattens curves as finely as the scale requires, so the circle must be in the units of the grid.
         painter.scale(scale, scale);
         painter.drawEllipse(QRectF(0, 0, DIAMETER, DIAMETER));
     }
     return image;
 }
 
-const QRgb* LedPixmapCache::stampOf(int phase, QRgb color)
+const QRgb* LedPixmapCache::pixelsOf(int phase, QRgb color)
 {
     const quint64 key = quint64(color) << PHASE_BITS | quint64(phase);
-    Stamp& stamp = stamps[SlotOf(key)];
-    if (stamp.key != key) {
-        stamp.key = key;
-        stamp.pixels.resize(side * stride);
+    Entry& entry = entries[IndexOf(key)];
+    if (entry.key != key) {
+        entry.key = key;
+        entry.pixels.resize(side * stride);
         const QRgb premultiplied = qPremultiply(color);
         const QImage& circle = coverageAt(phase);
         for (int y = 0; y < side; ++y) {
             const uchar* line = circle.constScanLine(y);
-            QRgb* out = stamp.pixels.data() + y * stride;
+            QRgb* out = entry.pixels.data() + y * stride;
             for (int x = 0; x < side; ++x)
                 out[x] = Times(premultiplied, line[x]);
         }
     }
-    return stamp.pixels.constData();
+    return entry.pixels.constData();
 }
 
 } // namespace Zelkor::Vx::UI::Kit

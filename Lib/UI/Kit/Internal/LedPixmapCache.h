@@ -5,58 +5,57 @@
 
 namespace Zelkor::Vx::UI::Kit {
 
-/// Draws many filled circles of one diameter, much faster than one by one.
+/// Draws many filled circles of one diameter from cached pixels, much faster than one by one.
 ///
-/// Qt places what it fills on a grid of 64ths of a pixel. A stamp is placed on one of 32nds, which bounds the number of
-/// stamps whatever their places are, and makes a pixel at the edge differ by a few of 255 steps at most. All lengths
-/// are pixels of the device.
+/// Circles are positioned at multiples of 1/32 pixel (QPainter: 1/64), which bounds the size of the cache. Pixels at
+/// the edge differ from those of QPainter by a few of 255 steps. All lengths are device pixels.
 class LedPixmapCache
 {
 public:
-    /// Of the circles, in units of the grid that they are on.
+    /// Diameter of the circles, in units of the grid.
     static constexpr double DIAMETER = 8;
 
-    /// In pixels for a unit. Larger circles are few, and cost what their area costs: stamps would only take memory.
+    /// Largest scale in pixels per unit. Larger circles are few and limited by their area, so a cache does not help.
     static constexpr double LARGEST_SCALE = 8;
 
-    /// A coordinate on the grid of stamps.
+    /// A coordinate, rounded to a multiple of 1/32 pixel.
     struct SubpixelPosition
     {
         explicit SubpixelPosition(double coordinate = 0);
 
-        int pixel; ///< where the stamp begins
-        int phase; ///< which part of that pixel the circle begins at
+        int pixel; ///< whole pixels
+        int phase; ///< 32nds of a pixel beyond that
     };
 
-    /// Forgets the stamps of another scale.
+    /// Sets the pixels per unit. Clears the cache if the scale changes.
     void setScale(double newScale);
 
-    /// A line of stamps, of which the first and the last begin at these pixels. Not filled.
-    QImage lineBetween(int firstPixel, int lastPixel) const;
+    /// Returns an uninitialised image for a row of circles, the first and last of which begin at these pixels.
+    QImage makeRow(int firstPixel, int lastPixel) const;
 
-    /// Draws a circle on a line. Those that are `apart` must come from left to right.
-    void draw(QImage& line, int pixel, int phaseX, int phaseY, QRgb color, bool apart);
+    /// Draws a circle into a row. Circles that are `apart` are copied and must be drawn from left to right.
+    void draw(QImage& row, int pixel, int phaseX, int phaseY, QRgb color, bool apart);
 
-    /// Whether stamps at this distance have no pixel in common.
+    /// Returns whether circles at this distance share no pixel.
     bool areApart(double distance) const { return side <= distance; }
 
 private:
     const QImage& coverageAt(int phase);
-    const QRgb* stampOf(int phase, QRgb color);
+    const QRgb* pixelsOf(int phase, QRgb color);
 
     double scale = -1;
-    int side = 0;   ///< of a stamp
-    int stride = 0; ///< pixels from one line of a stamp to the next, in blocks of four
+    int side = 0;   ///< width and height of a circle
+    int stride = 0; ///< pixels per line of a circle, a multiple of four
 
-    QVector<QImage> coverage; ///< of white circles, by phase; made when they are needed first
+    QVector<QImage> coverage; ///< alpha of a circle by phase, drawn on first use
 
-    /// Stamps in the colours used last, each in the one slot that it can be in.
-    struct Stamp
+    /// A direct-mapped cache of circles in the colours used last.
+    struct Entry
     {
         quint64 key;
         QVector<QRgb> pixels; ///< premultiplied
     };
-    QVector<Stamp> stamps;
+    QVector<Entry> entries;
 };
 
 } // namespace Zelkor::Vx::UI::Kit

@@ -9,7 +9,7 @@ namespace Zelkor::Vx::UI::Kit {
 
 namespace {
 
-// In pixels of the device. A picture with a longer side cannot be painted on; a larger one is larger than any screen.
+// In device pixels. QPainter cannot paint on a longer pixmap; a larger area exceeds any screen.
 constexpr int LONGEST_SIDE = 0x7fff;
 constexpr qint64 LARGEST_AREA = qint64(1) << 25;
 
@@ -20,14 +20,15 @@ const QString HORIZONTAL_SHEET =
                    " QSlider::add-page:horizontal { %3 } "
                    " QSlider::sub-page:horizontal { %4 } ");
 
-// The pages of an upright slider have no part in it: these selectors find nothing there.
+// The selectors of the pages match nothing in a vertical slider, which has no pages.
 const QString VERTICAL_SHEET = QStringLiteral(" QSlider                  { background:rgba(0,0,0,0); } "
                                               " QSlider::groove:vertical { height:%1; %2 } "
                                               " QSlider::handle:vertical { image:none; border:none; background:none; } "
                                               " QSlider::add-page:horizontal { %3 } "
                                               " QSlider::sub-page:horizontal { %4 } ");
 
-// Whether `text`, put into a rule, leaves the reader of the sheet inside of one rule.
+// Returns whether the braces, quotes and comments of `text` match, so that it may be inserted into a rule. It may end
+// the rule and begin another one.
 bool KeepsInsideOfRule(const QString& text)
 {
     int depth = 1;
@@ -57,20 +58,20 @@ bool KeepsInsideOfRule(const QString& text)
     return depth == 1 && quote.isNull();
 }
 
-QSize PictureSize(const QSize& size, qreal ratio)
+QSize PixmapSize(const QSize& size, qreal ratio)
 {
     return {qCeil(size.width() * ratio), qCeil(size.height() * ratio)};
 }
 
-bool CanBePictured(const QSize& size)
+bool CanBeRendered(const QSize& size)
 {
-    const bool isInReach = size.width() <= LONGEST_SIDE && size.height() <= LONGEST_SIDE;
-    return !size.isEmpty() && isInReach && qint64(size.width()) * size.height() <= LARGEST_AREA;
+    const bool isPaintable = size.width() <= LONGEST_SIDE && size.height() <= LONGEST_SIDE;
+    return !size.isEmpty() && isPaintable && qint64(size.width()) * size.height() <= LARGEST_AREA;
 }
 
 } // namespace
 
-bool SliderGroove::Scene::operator==(const Scene& other) const
+bool SliderGroove::RenderInput::operator==(const RenderInput& other) const
 {
     return size == other.size && qFuzzyCompare(ratio, other.ratio) && orientation == other.orientation &&
            minimum == other.minimum && maximum == other.maximum && enabled == other.enabled;
@@ -80,8 +81,8 @@ SliderGroove::SliderGroove(const QSlider& slider) : owner(slider) {}
 
 SliderGroove::~SliderGroove()
 {
-    for (const Canvas& canvas : canvases)
-        delete canvas.slider;
+    for (const Layer& layer : layers)
+        delete layer.slider;
 }
 
 void SliderGroove::setStyle(Part part, const QString& text)
@@ -103,97 +104,98 @@ void SliderGroove::setOffset(int pixels)
 
 void SliderGroove::invalidate()
 {
-    for (Canvas& canvas : canvases) {
-        canvas.styled = false;
-        canvas.followsValue.reset();
-        canvas.isCurrent = false;
+    for (Layer& layer : layers) {
+        layer.isPrepared = false;
+        layer.followsValue.reset();
+        layer.isCurrent = false;
     }
 }
 
 bool SliderGroove::followsValue()
 {
     bool follows = false;
-    for (Canvas& canvas : canvases)
-        follows |= canvas.isCurrent && followsValue(canvas);
+    for (Layer& layer : layers)
+        follows |= layer.isCurrent && followsValue(layer);
     return follows;
 }
 
-// Pages may be the application's, and a groove without a style is drawn by the system: the pictures tell best.
-bool SliderGroove::followsValue(Canvas& canvas)
+// The style sheet of the application may style pages, and the style draws a groove without one, so only a comparison of
+// the rendered pixmaps shows whether the groove depends on the value.
+bool SliderGroove::followsValue(Layer& layer)
 {
-    if (!canvas.slider)
-        return true; // gone with the application
-    if (!canvas.followsValue) {
-        const int middle = int((qint64(scene.minimum) + scene.maximum) / 2);
-        std::array<QPixmap, 3> pictures;
-        render(*canvas.slider, scene.minimum, pictures[0]);
-        render(*canvas.slider, middle, pictures[1]);
-        render(*canvas.slider, scene.maximum, pictures[2]);
-        const QImage first = pictures[0].toImage();
-        canvas.followsValue = first != pictures[1].toImage() || first != pictures[2].toImage();
+    if (!layer.slider)
+        return true; // deleted with the application
+    if (!layer.followsValue) {
+        const int middle = int((qint64(input.minimum) + input.maximum) / 2);
+        std::array<QPixmap, 3> renderings;
+        render(*layer.slider, input.minimum, renderings[0]);
+        render(*layer.slider, middle, renderings[1]);
+        render(*layer.slider, input.maximum, renderings[2]);
+        const QImage first = renderings[0].toImage();
+        layer.followsValue = first != renderings[1].toImage() || first != renderings[2].toImage();
     }
-    return *canvas.followsValue;
+    return *layer.followsValue;
 }
 
-// Drops the pictures that the slider, as it is now, has put out of date.
+// Invalidates the pixmaps that no longer match the slider.
 void SliderGroove::refresh()
 {
-    const Scene now{owner.size(),    owner.devicePixelRatioF(), owner.orientation(),
-                    owner.minimum(), owner.maximum(),           owner.isEnabled()};
-    if (!(now == scene)) {
-        scene = now;
+    const RenderInput now{owner.size(),    owner.devicePixelRatioF(), owner.orientation(),
+                          owner.minimum(), owner.maximum(),           owner.isEnabled()};
+    if (!(now == input)) {
+        input = now;
         invalidate();
     }
     if (shownValue == owner.value())
         return;
     shownValue = owner.value();
-    for (Canvas& canvas : canvases)
-        canvas.isCurrent = canvas.isCurrent && !followsValue(canvas);
+    for (Layer& layer : layers)
+        layer.isCurrent = layer.isCurrent && !followsValue(layer);
 }
 
 QPixmap SliderGroove::pixmap(Part look)
 {
     refresh();
-    Canvas& canvas = canvases.at(look);
-    if (!CanBePictured(PictureSize(scene.size, scene.ratio)))
+    Layer& layer = layers.at(look);
+    if (!CanBeRendered(PixmapSize(input.size, input.ratio)))
         return {};
-    if (canvas.isCurrent)
-        return canvas.pixmap;
-    if (!canvas.styled || !canvas.slider)
-        prepare(canvas, look);
-    render(*canvas.slider, shownValue, canvas.pixmap);
-    canvas.isCurrent = true;
-    return canvas.pixmap;
+    if (layer.isCurrent)
+        return layer.pixmap;
+    if (!layer.isPrepared || !layer.slider)
+        prepare(layer, look);
+    render(*layer.slider, shownValue, layer.pixmap);
+    layer.isCurrent = true;
+    return layer.pixmap;
 }
 
-void SliderGroove::prepare(Canvas& canvas, Part look)
+void SliderGroove::prepare(Layer& layer, Part look)
 {
-    if (!canvas.slider)
-        canvas.slider = new QSlider;
-    QSlider& slider = *canvas.slider;
+    if (!layer.slider)
+        layer.slider = new QSlider;
+    QSlider& slider = *layer.slider;
     slider.setFocusPolicy(Qt::NoFocus);
     slider.setOrientation(owner.orientation());
-    slider.setRange(scene.minimum, scene.maximum);
-    // Values grow from the left and from the top, as the thumbs have it.
+    slider.setRange(input.minimum, input.maximum);
+    // Values grow from the left or from the top, like those of the thumbs.
     slider.setLayoutDirection(Qt::LeftToRight);
     slider.setInvertedAppearance(owner.orientation() == Qt::Vertical);
-    slider.setEnabled(scene.enabled);
+    slider.setEnabled(input.enabled);
     slider.setFont(owner.font());
     slider.setPalette(owner.palette());
     slider.setStyleSheet(sheet(look));
-    // The application's style sheet may want another size.
+    // The style sheet of the application may set another size.
     slider.ensurePolished();
-    slider.setFixedSize(scene.size);
-    slider.resize(scene.size);
-    canvas.styled = true;
+    slider.setFixedSize(input.size);
+    slider.resize(input.size);
+    layer.isPrepared = true;
 }
 
 void SliderGroove::render(QSlider& slider, int value, QPixmap& pixmap) const
 {
-    const QSize size = PictureSize(scene.size, scene.ratio);
+    const QSize size = PixmapSize(input.size, input.ratio);
     if (pixmap.size() != size)
         pixmap = QPixmap(size);
-    pixmap.setDevicePixelRatio(scene.ratio);
+    pixmap.setDevicePixelRatio(input.ratio);
     pixmap.fill(Qt::transparent);
     slider.setValue(value);
     slider.render(&pixmap, QPoint(), QRegion(), QWidget::DrawWindowBackground | QWidget::DrawChildren);
@@ -202,8 +204,8 @@ void SliderGroove::render(QSlider& slider, int value, QPixmap& pixmap) const
 QString SliderGroove::sheet(Part look) const
 {
     const bool isHorizontal = owner.orientation() == Qt::Horizontal;
-    const int length = (isHorizontal ? scene.size.width() : scene.size.height()) - 2 * Common::ClampToWidgetSize(inset);
-    // All at once: a fragment may have a per cent sign in it.
+    const int length = (isHorizontal ? input.size.width() : input.size.height()) - 2 * Common::ClampToWidgetSize(inset);
+    // In one call, because a fragment may contain a per cent sign.
     return (isHorizontal ? HORIZONTAL_SHEET : VERTICAL_SHEET)
         .arg(QString::number(length), usableStyles[look], usableStyles[ADD_PAGE], usableStyles[SUB_PAGE]);
 }

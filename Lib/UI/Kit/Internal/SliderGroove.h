@@ -10,56 +10,62 @@ class QSlider;
 
 namespace Zelkor::Vx::UI::Kit {
 
-/// The groove of a ZSlider, rendered from plain sliders that are never shown, through style sheets that are filled with
-/// fragments.
+/// Renders the groove of a ZSlider from hidden QSliders, whose style sheets are templates with the fragments inserted.
 ///
-/// There are four looks of it. Each is rendered when it is asked for, and again only when what it shows changes: a
-/// style sheet is read anew for another style, size or range, not for another value.
+/// The groove has four looks. A look is rendered on demand and cached. The style sheet is parsed again only if a
+/// fragment, the size or the range changes, not if the value does.
 class SliderGroove
 {
 public:
-    /// The fragments: one for each look, and the two that all looks share.
-    enum Part { EMPTY, NORMAL, SELECTED, BORDER, ADD_PAGE, SUB_PAGE, PARTS };
+    enum Part {
+        EMPTY,    ///< look outside of segments
+        NORMAL,   ///< look of segments
+        SELECTED, ///< look of selected segments
+        BORDER,   ///< look of the first and last pixel of a segment
+        ADD_PAGE, ///< part after the value in all looks
+        SUB_PAGE, ///< part before the value in all looks
+        PARTS
+    };
     static constexpr int LOOKS = BORDER + 1;
 
-    /// Renders what `slider` is: its size, range, value, state, font and palette. The hidden sliders have no parent:
-    /// one that arranges its children would make room for them.
+    /// Renders with the size, range, value, state, font and palette of `slider`. The hidden sliders have no parent,
+    /// because a parent such as QSplitter would lay them out.
     explicit SliderGroove(const QSlider& slider);
     ~SliderGroove();
     Q_DISABLE_COPY_MOVE(SliderGroove)
 
     QString style(Part part) const { return styles[part]; }
 
-    /// The declarations of one part. They may end their rule and begin another one. A text whose braces would tear the
-    /// sheet around it gives a warning and counts as empty.
+    /// Sets the declarations of one part. They may end their rule and begin another one. Warns about a text with
+    /// unmatched braces or quotes and renders the part without a style then.
     void setStyle(Part part, const QString& text);
 
     int offset() const { return inset; }
 
-    /// What the groove leaves free at both ends, in pixels.
+    /// Sets the space between either end of the slider and the groove, in pixels.
     void setOffset(int pixels);
 
-    /// Everything is to be rendered anew.
+    /// Discards everything that was rendered.
     void invalidate();
 
-    /// Whether another value of the slider makes another picture of what was rendered.
+    /// Returns whether any rendered look depends on the value of the slider.
     bool followsValue();
 
-    /// A look of the groove over the whole slider, as this is now; null when that has no area, or more than any screen.
+    /// Returns a look with the current size of the slider; null if that is empty or larger than any screen.
     QPixmap pixmap(Part look);
 
 private:
-    struct Canvas
+    struct Layer
     {
         QPointer<QSlider> slider;
-        bool styled = false;
-        std::optional<bool> followsValue; ///< once somebody asked
-        bool isCurrent = false;           ///< whether the picture shows what the slider is
-        QPixmap pixmap;                   ///< stays when out of date: its memory serves again
+        bool isPrepared = false;
+        std::optional<bool> followsValue; ///< unknown until it is first needed
+        bool isCurrent = false;           ///< whether the pixmap matches the slider
+        QPixmap pixmap;                   ///< kept while outdated, to reuse its memory
     };
 
-    /// What a style sheet and a picture depend on, beside the fragments.
-    struct Scene
+    /// What style sheets and pixmaps depend on besides the fragments.
+    struct RenderInput
     {
         QSize size;
         qreal ratio = 0;
@@ -68,12 +74,12 @@ private:
         int maximum = 0;
         bool enabled = true;
 
-        bool operator==(const Scene& other) const;
+        bool operator==(const RenderInput& other) const;
     };
 
     void refresh();
-    bool followsValue(Canvas& canvas);
-    void prepare(Canvas& canvas, Part look);
+    bool followsValue(Layer& layer);
+    void prepare(Layer& layer, Part look);
     void render(QSlider& slider, int value, QPixmap& pixmap) const;
     QString sheet(Part look) const;
 
@@ -81,9 +87,9 @@ private:
     std::array<QString, PARTS> styles;
     std::array<QString, PARTS> usableStyles;
     int inset = 6;
-    Scene scene;
+    RenderInput input;
     int shownValue = 0;
-    std::array<Canvas, LOOKS> canvases;
+    std::array<Layer, LOOKS> layers;
 };
 
 } // namespace Zelkor::Vx::UI::Kit

@@ -16,7 +16,7 @@ namespace Zelkor::Vx::UI::Kit {
 void SliderThumbController::insert(const QString& name, ZSliderThumb* thumb)
 {
     thumb->key = name;
-    // Behind the last thumb: behind the slider itself, Qt would search all children.
+    // After the last thumb: after the slider, Qt would search all children.
     QWidget::setTabOrder(byName.isEmpty() ? static_cast<QWidget*>(&slider) : byName.last(), thumb);
     byName.insert(name, thumb);
     setZOrder(*thumb, thumb->zOrder());

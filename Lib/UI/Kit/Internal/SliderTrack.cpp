@@ -10,7 +10,7 @@ namespace {
 
 using Common::ClampToWidgetSize;
 
-// No widget lies further out. What would is cut before it becomes an integer.
+// Positions are clamped to this before the conversion to int.
 constexpr double FARTHEST = 1 << 24;
 
 double Span(const SliderTrack& track)

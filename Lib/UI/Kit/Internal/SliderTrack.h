@@ -2,22 +2,22 @@
 
 namespace Zelkor::Vx::UI::Kit {
 
-/// Where the values of a slider with thumbs lie along its length. Values grow from the left and from the top, in every
-/// layout direction.
+/// Maps the values of a ZSlider to pixels along its length. Values grow from the left or from the top in every layout
+/// direction.
 struct SliderTrack
 {
-    int extent;  ///< the slider's length in pixels
-    int inset;   ///< what the groove leaves free at both ends, in pixels
+    int extent;  ///< length of the slider in pixels
+    int inset;   ///< space between either end of the slider and the groove in pixels
     int minimum; ///< smallest value
     int maximum; ///< largest value, not below `minimum`
 
-    /// The pixel that a thumb points at. The value counts as it is, from zero: exact for ranges that start there.
+    /// Returns the pixel that a thumb points at. Exact for ranges that start at 0: the minimum is not subtracted.
     int pixelOfThumb(int value) const;
 
-    /// The pixel where a stretch of the groove starts or ends.
+    /// Returns the pixel at which a segment of the groove starts or ends.
     int pixelOfSegment(int value) const;
 
-    /// The value under a pixel; the nearer end for one beside the groove.
+    /// Returns the value at a pixel, clamped to the ends of the groove.
     int valueAt(int pixel) const;
 };
 

@@ -14,12 +14,12 @@ const QString DEFAULT_FORMAT = QStringLiteral("hh:mm:ss");
 
 bool ShowsTime(const QString& format)
 {
-    // Two times that have no part in common.
+    // The two times differ in every part.
     return QLocale::c().toString(QTime(1, 2, 3, 4), format) != QLocale::c().toString(QTime(14, 15, 16, 17), format);
 }
 
-// The parts of a time in a format, and what separates them: ':' or, where it begins with a digit that a number before
-// it may swallow, '0'. Formats of the same shape lose the same.
+// Returns the format with each separator replaced by ':', or by '0' if it begins with a digit, which a number before it
+// may absorb. Formats of the same shape lose the same precision.
 QString ShapeOf(const QString& format)
 {
     const QString partLetters = QStringLiteral("hHmszaApPtdMy");
@@ -60,7 +60,7 @@ QStringList DistinctTimeFormats(const QStringList& formats)
 
 QString ChooseTimeFormat(const QStringList& formats, const QTime& time)
 {
-    // Written and read in one language, lest a morning gets lost between two.
+    // One locale for writing and reading, because AM and PM differ between locales.
     const QLocale locale = QLocale::c();
     QString choice;
     double smallestLoss = 1e300;

@@ -7,15 +7,16 @@ class QTime;
 
 namespace Zelkor::Vx::UI::Kit {
 
-/// The first of those `formats`, written as for QTime::toString, that lose least of `time` on its way to a text and
-/// back. Formats that show no part of a time do not count; empty when no other is there.
+/// Returns the format that loses least precision when `time` is converted to text and back; the first one of several.
+/// Formats are those of QTime::toString(). Ignores formats that show no part of a time; returns an empty string if no
+/// other is in the list.
 QString ChooseTimeFormat(const QStringList& formats, const QTime& time);
 
-/// The first of each kind among `formats` that loses alike, whatever the time. ChooseTimeFormat() chooses the same from
-/// these, in a time that does not grow with a list of many variants of few formats.
+/// Returns the first format of each group that loses the same precision for every time. ChooseTimeFormat() chooses the
+/// same format from this list, which is much shorter than a list of many variants.
 QStringList DistinctTimeFormats(const QStringList& formats);
 
-/// `time` in the format chosen from `formats`, or as "hh:mm:ss" when there is none.
+/// Returns `time` in the format that ChooseTimeFormat() chooses, or in "hh:mm:ss" if it chooses none.
 QString TimeText(const QTime& time, const QStringList& formats, const QLocale& locale);
 
 } // namespace Zelkor::Vx::UI::Kit

@@ -10,10 +10,10 @@ namespace Zelkor::Vx::UI::Kit::LineEndings {
 
 namespace {
 
-constexpr int REACH = 1000; ///< lines in which a moved one is looked for, so that the search is linear
+constexpr int REACH = 1000; ///< maximum number of lines to search for a moved one, which keeps Restore() linear
 constexpr ushort CARRIAGE_RETURN = '\r';
 constexpr ushort NEW_LINE = '\n';
-constexpr ushort FRAME_BEGIN = 0xfdd0; ///< noncharacters that end a line in a document
+constexpr ushort FRAME_BEGIN = 0xfdd0; ///< noncharacters that end a line in QTextDocument
 constexpr ushort FRAME_END = 0xfdd1;
 
 struct Line
@@ -22,7 +22,7 @@ struct Line
     QString end; ///< empty for the last line
 };
 
-// Splits at all that begins a new line in a document.
+// Splits a text where QTextDocument begins a new line.
 QVector<Line> Split(const QString& text)
 {
     QVector<Line> lines;
@@ -59,7 +59,7 @@ QString Restore(const QString& original, const QString& raw)
     const QVector<Line> before = Split(original);
     QVector<Line> now = Split(raw);
     const QString newEnd = MostFrequentEnd(before);
-    int next = 0; // line of the original that is expected
+    int next = 0; // expected line of the original
     for (int i = 0; i + 1 < now.size(); ++i) {
         Line& line = now[i];
         const auto from = before.begin() + next;

@@ -2,11 +2,11 @@
 
 #include <QString>
 
-/// Line ends that a text document does not keep.
+/// Preserves the line endings of a text, which QTextDocument replaces.
 namespace Zelkor::Vx::UI::Kit::LineEndings {
 
-/// The raw text of a document, in which U+2029 ends each line, with the line ends of the text that it was made from.
-/// Lines that are in both keep their own end; new ones get the one that is most frequent in `original`.
+/// Returns the raw text of a document, whose lines end with U+2029, with the line endings of the original text. Lines
+/// that are in both keep their ending; new lines get the most frequent one of `original`.
 QString Restore(const QString& original, const QString& raw);
 
 } // namespace Zelkor::Vx::UI::Kit::LineEndings

@@ -49,7 +49,7 @@ bool MessageLabel::event(QEvent* event)
 void MessageLabel::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
-    // The full stop goes with the language of the text, not with the window.
+    // Punctuation follows the direction of the text, not of the window.
     painter.setLayoutDirection(text().isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
     const Qt::Alignment place = QStyle::visualAlignment(layoutDirection(), Qt::AlignLeading | Qt::AlignVCenter);
     style()->drawItemText(&painter, contentsRect(), static_cast<int>(place | Qt::AlignAbsolute), palette(), isEnabled(),

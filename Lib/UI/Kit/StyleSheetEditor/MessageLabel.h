@@ -6,9 +6,10 @@
 
 namespace Zelkor::Vx::UI::Kit {
 
-/// One line that says something, in the language of the application also after that changes. It takes whatever width is
-/// left, elides what does not fit, and shows it whole as the tool tip. It begins at the side where the window's rows
-/// begin, whatever letters it has.
+/// A single-line message that follows changes of the language.
+///
+/// The label uses the available width, elides the message and shows all of it as the tool tip. The message is aligned
+/// by the layout direction, whatever its script.
 class MessageLabel : public QLabel
 {
     Q_OBJECT
@@ -16,7 +17,8 @@ class MessageLabel : public QLabel
 public:
     explicit MessageLabel(QWidget* parent = nullptr);
 
-    /// Shows what `message` returns, and calls it again when the language changes. Without one, shows nothing.
+    /// Shows what `message` returns, and calls it again after a change of the language. An empty function shows
+    /// nothing.
     void setMessage(std::function<QString()> message);
 
     QSize minimumSizeHint() const override;

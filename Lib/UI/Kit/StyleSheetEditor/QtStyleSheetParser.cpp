@@ -19,9 +19,9 @@ using StyleSheetTokenizer::Kind;
 using StyleSheetTokenizer::Token;
 
 std::atomic<QtMessageHandler> nextHandler{nullptr};
-thread_local bool* refused = nullptr; ///< of the verdict that this thread asks for
+thread_local bool* refused = nullptr; ///< result of the check that runs on this thread
 
-/// Swallows what Qt says about the sheet, and passes on all else, of this and of other threads.
+/// Drops the messages of Qt about the sheet and forwards all others, also those of other threads.
 void HandleMessage(QtMsgType type, const QMessageLogContext& context, const QString& message)
 {
     if (refused && message.startsWith(QLatin1String("Could not parse stylesheet")))
@@ -30,7 +30,7 @@ void HandleMessage(QtMsgType type, const QMessageLogContext& context, const QStr
         next(type, context, message);
 }
 
-/// Listens to Qt's warnings, which a logging rule may have switched off.
+/// Intercepts the warnings of Qt, even if a logging rule disables them.
 class Listener
 {
 public:
@@ -57,8 +57,8 @@ private:
     const bool wasEnabled;
 };
 
-// A hit test in the controls of an MDI window asks whether the sheet has a rule for the parts "close-button" and so on,
-// and nothing else while there is none: Qt parses the sheet, but draws up no rule, which would load its images.
+// A hit test of the controls of an MDI window makes Qt parse the sheet and search rules for sub-controls such as
+// "close-button". Without such rules, Qt creates no render rule, which would load images.
 bool IsAcceptedForWidget(QString sheet)
 {
     sheet.replace(QLatin1String("-button"), QLatin1String("-buttox"), Qt::CaseInsensitive);
@@ -70,11 +70,11 @@ bool IsAcceptedForWidget(QString sheet)
     return !listener.heard;
 }
 
-/// Where a sheet can be cut behind a rule, and behind the declarations in it.
+/// A place at which a sheet can be truncated: after a rule or a declaration.
 struct Cut
 {
     int position;
-    int depth; ///< braces that are open there
+    int depth; ///< number of open braces
 };
 
 QVector<Cut> Cuts(const QString& sheet)
@@ -96,9 +96,8 @@ QVector<Cut> Cuts(const QString& sheet)
 
 } // namespace
 
-// For a widget, Qt takes a sheet that it cannot read as declarations alone. A comment sign of HTML, which Qt skips
-// between rules, keeps it from that; "@charset" and "@import" keep it from that themselves, and the first has to stand
-// at the beginning.
+// For a widget, Qt parses a sheet again as declarations if it cannot parse it as rules. The start of an HTML comment,
+// which Qt skips between rules, prevents that. So do "@charset", which must be the first token, and "@import".
 bool IsAccepted(const QString& sheet, StyleSheetScope scope)
 {
     const bool beginsWithAt = sheet.startsWith(QLatin1Char('@'));
@@ -106,7 +105,7 @@ bool IsAccepted(const QString& sheet, StyleSheetScope scope)
                                                                                 : QLatin1String("<!--") + sheet);
 }
 
-// Once Qt refuses the beginning of a sheet, it refuses every longer one, so the first such cut is found by halves.
+// If Qt rejects a prefix of a sheet, it rejects every longer one, so a binary search finds the first such prefix.
 int FindRefused(const QString& sheet, StyleSheetScope scope)
 {
     const QVector<Cut> cuts = Cuts(sheet);

@@ -12,15 +12,13 @@ enum class StyleSheetScope { APPLICATION, WIDGET };
 /// Asks Qt's own parser about a style sheet.
 namespace Zelkor::Vx::UI::Kit::QtStyleSheetParser {
 
-/// Whether Qt accepts the sheet when it is set on the application or on a widget. A declaration that Qt drops silently
-/// from a sheet that it accepts does not count.
+/// Returns whether Qt accepts a style sheet, even if it ignores some of the declarations.
 ///
-/// Lets Qt parse the sheet for a hidden widget, without polishing it: no property is set and no image is loaded.
-/// Warnings of Qt about the sheet are not passed on. GUI thread.
+/// Makes Qt parse the sheet for a hidden widget without polishing it, so that no property is set and no image is
+/// loaded. Suppresses the warnings of Qt about the sheet. GUI thread only.
 bool IsAccepted(const QString& sheet, StyleSheetScope scope);
 
-/// The position of a part that Qt refuses, for a sheet that is not accepted: of the selector or the declaration, which
-/// are the steps in which Qt accepts more of a sheet or less.
+/// Returns the position of the first selector or declaration that Qt rejects in a sheet that it does not accept.
 int FindRefused(const QString& sheet, StyleSheetScope scope);
 
 } // namespace Zelkor::Vx::UI::Kit::QtStyleSheetParser

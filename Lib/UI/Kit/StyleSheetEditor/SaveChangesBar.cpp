@@ -39,7 +39,7 @@ void SaveChangesBar::ask(std::function<void()> then)
     saveButton->setFocus();
 }
 
-// The question is gone before the next thing begins, which may ask again or delete the bar.
+// Hides the question first, because the function may ask again or delete the bar.
 void SaveChangesBar::proceed()
 {
     const auto action = std::exchange(next, nullptr);

@@ -10,7 +10,7 @@ namespace Zelkor::Vx::UI::Kit {
 
 class MessageLabel;
 
-/// Asks within a window whether to save unsaved changes, without blocking the program.
+/// A bar that asks whether to save changes, without a modal dialog.
 class SaveChangesBar : public QWidget
 {
     Q_OBJECT
@@ -18,18 +18,18 @@ class SaveChangesBar : public QWidget
 public:
     explicit SaveChangesBar(QWidget* parent = nullptr);
 
-    /// Shows the question; `then` runs once the text is saved or its changes are discarded. Replaces a question that is
-    /// shown.
+    /// Shows the question. Calls `then` after the text is saved or the changes are discarded. Replaces a question that
+    /// is already shown.
     void ask(std::function<void()> then);
 
-    /// Hides the question and runs what it held up.
+    /// Hides the question and calls the pending function.
     void proceed();
 
-    /// Hides the question and drops what it held up.
+    /// Hides the question and drops the pending function.
     void dismiss();
 
 Q_SIGNALS:
-    /// Save was pressed; call proceed() when that is done.
+    /// Emitted when Save is pressed. The receiver calls proceed() after saving.
     void saveRequested();
 
 protected:

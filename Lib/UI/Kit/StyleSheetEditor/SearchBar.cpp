@@ -35,7 +35,7 @@ SearchBar::SearchBar(QPlainTextEdit* editor, QWidget* parent)
     connect(replaceButton, &QPushButton::clicked, this, &SearchBar::replace);
     connect(replaceAllButton, &QPushButton::clicked, this, &SearchBar::replaceAll);
     connect(closeButton, &QPushButton::clicked, this, &SearchBar::shut);
-    // While the text is typed, the place that is selected may grow with it.
+    // A match at the start of the selection is found again while more of it is typed.
     connect(searched, &QLineEdit::textEdited, this, [this] {
         QTextCursor from = this->editor->textCursor();
         from.setPosition(from.selectionStart());
@@ -80,7 +80,7 @@ void SearchBar::retranslate()
     replacement->setAccessibleName(tr("Replace with"));
     name(previousButton, tr("Previous"));
     name(nextButton, tr("Next"));
-    replaceButton->setText(tr("Re&place"));
+    replaceButton->setText(tr("Re&match"));
     replaceAllButton->setText(tr("Replace a&ll"));
     closeButton->setText(tr("Cl&ose"));
     caseBox->setText(tr("&Match case"));
@@ -161,37 +161,37 @@ bool SearchBar::find(const QTextCursor& from, QTextDocument::FindFlags direction
     if (text.isEmpty())
         return false;
     QTextDocument* document = editor->document();
-    QTextCursor place = document->find(text, from, flags() | direction);
-    if (place.isNull()) {
+    QTextCursor match = document->find(text, from, flags() | direction);
+    if (match.isNull()) {
         QTextCursor end(document);
         if (direction)
             end.movePosition(QTextCursor::End);
-        place = document->find(text, end, flags() | direction);
-        messageLabel->setMessage([isFound = !place.isNull(), direction] {
+        match = document->find(text, end, flags() | direction);
+        messageLabel->setMessage([isFound = !match.isNull(), direction] {
             if (!isFound)
                 return tr("Nothing was found.");
             return direction ? tr("Found from the end on.") : tr("Found from the beginning on.");
         });
     }
-    if (place.isNull())
+    if (match.isNull())
         return false;
-    editor->setTextCursor(place);
+    editor->setTextCursor(match);
     return true;
 }
 
-bool SearchBar::selectsPlace() const
+bool SearchBar::isMatchSelected() const
 {
     const QTextCursor selection = editor->textCursor();
     QTextCursor from = selection;
     from.setPosition(selection.selectionStart());
-    const QTextCursor place = editor->document()->find(searched->text(), from, flags());
-    return selection.hasSelection() && place.selectionStart() == selection.selectionStart() &&
-           place.selectionEnd() == selection.selectionEnd();
+    const QTextCursor match = editor->document()->find(searched->text(), from, flags());
+    return selection.hasSelection() && match.selectionStart() == selection.selectionStart() &&
+           match.selectionEnd() == selection.selectionEnd();
 }
 
 void SearchBar::replace()
 {
-    if (!searched->text().isEmpty() && selectsPlace())
+    if (!searched->text().isEmpty() && isMatchSelected())
         editor->textCursor().insertText(replacement->text());
     findNext();
 }
@@ -202,12 +202,12 @@ int SearchBar::replaceAll()
     QTextDocument* document = editor->document();
     QTextCursor edit(document);
     edit.beginEditBlock();
-    // From behind each one that was replaced: the replacement may have what is searched within it.
-    for (QTextCursor place = edit; !searched->text().isEmpty(); ++count) {
-        place = document->find(searched->text(), place, flags());
-        if (place.isNull())
+    // Continues after each replacement, which may contain the search text.
+    for (QTextCursor match = edit; !searched->text().isEmpty(); ++count) {
+        match = document->find(searched->text(), match, flags());
+        if (match.isNull())
             break;
-        place.insertText(replacement->text());
+        match.insertText(replacement->text());
     }
     edit.endEditBlock();
     messageLabel->setMessage(

@@ -13,19 +13,19 @@ namespace Zelkor::Vx::UI::Kit {
 
 class MessageLabel;
 
-/// Finds and replaces in a text editor; lies below or above it. What is found is selected. A search goes on at the
-/// other end of the text when it came to one, and says so, as it says when there is nothing.
+/// A bar to find and replace text in an editor. Selects matches, wraps around at either end of the text, and shows a
+/// message if it wraps or finds nothing.
 ///
-/// Return finds the next place, Shift+Return the one before, Escape closes the bar and goes back to the editor.
+/// Return finds the next match, Shift+Return the previous one. Escape hides the bar and moves the focus to the editor.
 class SearchBar : public QWidget
 {
     Q_OBJECT
 
 public:
-    /// The editor has to outlive the bar.
+    /// The editor must outlive the bar.
     explicit SearchBar(QPlainTextEdit* editor, QWidget* parent = nullptr);
 
-    /// Shows the bar and gives it the keyboard. A selection within one line becomes what is searched.
+    /// Shows and focuses the bar. A selection within one line becomes the search text.
     void open();
 
     void setSearchedText(const QString& text);
@@ -33,18 +33,18 @@ public:
     void setCaseSensitive(bool on);
     void setWholeWords(bool on);
 
-    /// What the bar says of the last search.
+    /// Returns the message about the last search.
     QString message() const;
 
 public Q_SLOTS:
-    /// Selects the next place, from the selection on, or the one before it; false when there is none.
+    /// Select the next or previous match from the selection. Return false if there is none.
     bool findNext();
     bool findPrevious();
 
-    /// Replaces the selection if it is such a place, and selects the next one.
+    /// Replaces the selection if it is a match, and selects the next match.
     void replace();
 
-    /// Replaces every place, which is undone in one step. Tells how many there were.
+    /// Replaces all matches in one undo step and returns their number.
     int replaceAll();
 
 protected:
@@ -56,7 +56,7 @@ private:
     void retranslate();
     QTextDocument::FindFlags flags() const;
     bool find(const QTextCursor& from, QTextDocument::FindFlags direction);
-    bool selectsPlace() const;
+    bool isMatchSelected() const;
     void shut();
 
     QPlainTextEdit* editor;

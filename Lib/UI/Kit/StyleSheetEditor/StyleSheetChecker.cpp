@@ -22,14 +22,14 @@ struct Texts
 
 constexpr QStringView NOT_IN_FUNCTION = u"$%&<?[]^`\\";
 
-constexpr QChar END; ///< what stands behind the last token
+constexpr QChar END; ///< symbol after the last token
 
-/// Reads a sheet once, from its beginning to its end, and notes what is wrong. Behind a mistake it goes on where the
-/// next declaration or rule begins, so that one mistake is told once.
-class Checker
+/// A single-pass parser that collects mistakes. After a mistake it continues with the next declaration or rule, so that
+/// each is reported once.
+class Parser
 {
 public:
-    Checker(const QString& sheet, StyleSheetScope scope) : sheet(sheet)
+    Parser(const QString& sheet, StyleSheetScope scope) : sheet(sheet)
     {
         bool hasBraces = false;
         for (const Token& token : StyleSheetTokenizer::Tokenize(sheet)) {
@@ -82,10 +82,10 @@ private:
     bool isAt(char symbol) const { return symbolAt(index) == QLatin1Char(symbol); }
     bool isAtEnd() const { return index >= tokens.size(); }
 
-    // Whether the symbol ends a declaration, or what can be read as one.
+    // Returns whether the current token ends a declaration.
     bool isStop() const { return isAtEnd() || isAt(';') || isAt('{') || isAt('}'); }
 
-    // Without space or a comment before it.
+    // Returns whether no white space or comment precedes the current token.
     bool isAttached() const { return !isAtEnd() && index > 0 && tokens[index - 1].end() == tokens[index].start; }
 
     int here() const { return isAtEnd() ? sheet.size() : tokens[index].start; }
@@ -150,7 +150,7 @@ private:
         take(';');
     }
 
-    // Up to the brace, or where it has to be. False after a mistake, of which it tells the first.
+    // Parses a list of selectors up to the brace. Reports the first mistake and returns false then.
     bool selectors()
     {
         do {
@@ -162,7 +162,7 @@ private:
         return true;
     }
 
-    // One selector of a list, up to what cannot belong to it.
+    // Parses one selector of a list.
     bool selector()
     {
         bool needsPart = true;
@@ -192,7 +192,7 @@ private:
         return false;
     }
 
-    // A class, an attribute or a state.
+    // Parses a class, an attribute, a pseudo-state or a sub-control.
     bool part()
     {
         if (isAt('['))
@@ -230,7 +230,7 @@ private:
         return false;
     }
 
-    // Up to and with the brace that closes, if one was opened.
+    // Parses declarations, including the closing brace if there is an opening one.
     void declarations(int brace)
     {
         while (!isAtEnd()) {
@@ -248,7 +248,7 @@ private:
             report(Problem::OPEN_BLOCK, brace);
     }
 
-    // None when a block follows, at which it leaves off: the block that it stands in was not closed then.
+    // Parses a declaration. Returns false before a "{", which means that the enclosing block is not closed.
     bool declaration()
     {
         const int start = index;
@@ -288,7 +288,7 @@ private:
         int start = index;
         while (!isStop()) {
             if (isAt(':')) {
-                // The word before it is the name of a property then, and what is before that the value.
+                // A second colon: the word before it is the name of the next property.
                 const int name = index - 1;
                 if (name > start && tokens[name].kind == Kind::WORD)
                     report(Problem::NO_SEMICOLON, tokens[name - 1].end());
@@ -320,7 +320,7 @@ private:
         return isGood;
     }
 
-    // A sign belongs to what follows it, and so does the mark of "!important".
+    // A sign must be attached to the next token, and "!" to "important".
     bool isOperator(const QString& text) const
     {
         if (text == QLatin1String("!"))
@@ -330,7 +330,7 @@ private:
         return text == QLatin1String(",") || text == QLatin1String("/");
     }
 
-    // Up to and with the parenthesis that closes.
+    // Parses arguments, including the closing parenthesis.
     bool arguments(const Token& function)
     {
         for (int depth = 1; depth > 0; ++index) {
@@ -360,7 +360,7 @@ private:
 
 QVector<Mistake> Check(const QString& sheet, StyleSheetScope scope)
 {
-    return Checker(sheet, scope).mistakes();
+    return Parser(sheet, scope).mistakes();
 }
 
 QString Describe(Problem problem)

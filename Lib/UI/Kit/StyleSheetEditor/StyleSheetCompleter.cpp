@@ -17,15 +17,15 @@ namespace Zelkor::Vx::UI::Kit {
 
 namespace {
 
-constexpr int LETTERS = 2;       ///< after so many letters of a name, names are offered unasked
-constexpr int MOST_LINES = 1000; ///< of a rule that are looked at
+constexpr int MINIMUM_PREFIX = 2;   ///< characters of a name after which completions are offered
+constexpr int MAXIMUM_LINES = 1000; ///< maximum number of lines of a rule to parse
 
 } // namespace
 
 StyleSheetCompleter::StyleSheetCompleter(QPlainTextEdit* editor, const QWidget* except)
     : QObject(editor), editor(editor), except(except)
 {
-    // One letter that comes by itself was typed; undone and pasted ones are not.
+    // The insertion of a single character counts as typing; undo does not.
     connect(editor->document(), &QTextDocument::contentsChange, this, [this](int position, int removed, int added) {
         const QTextDocument* document = this->editor->document();
         typing = removed == 0 && added == 1 && this->editor->hasFocus() && !document->isRedoAvailable() &&
@@ -39,7 +39,7 @@ bool StyleSheetCompleter::isOpen() const
     return completer && completer->popup()->isVisible();
 }
 
-QStringList StyleSheetCompleter::offered() const
+QStringList StyleSheetCompleter::completions() const
 {
     QStringList texts;
     for (int i = 0; isOpen() && i < completer->completionModel()->rowCount(); ++i)
@@ -52,13 +52,13 @@ void StyleSheetCompleter::open()
     show(0);
 }
 
-// A rule begins behind a line that ends with a brace and leaves nothing open, by the state that the highlighter keeps.
+// A rule begins after a line that ends with a closing brace in the initial state of the highlighter.
 QString StyleSheetCompleter::context() const
 {
     const QTextCursor cursor = editor->textCursor();
     QTextBlock block = cursor.block();
     QStringList lines{block.text().left(cursor.positionInBlock())};
-    for (block = block.previous(); block.isValid() && lines.size() < MOST_LINES; block = block.previous()) {
+    for (block = block.previous(); block.isValid() && lines.size() < MAXIMUM_LINES; block = block.previous()) {
         if (block.userState() == 0 && block.text().trimmed().endsWith(QLatin1Char('}')))
             break;
         lines.prepend(block.text());
@@ -66,13 +66,13 @@ QString StyleSheetCompleter::context() const
     return lines.join(QLatin1Char('\n'));
 }
 
-// What was offered is narrowed down while the name goes on, and taken away where it ends.
+// Filters the completions while a name is typed and closes the list after it.
 void StyleSheetCompleter::follow()
 {
     const bool wasTyped = std::exchange(typing, false);
     if (!isOpen()) {
         if (wasTyped)
-            show(LETTERS);
+            show(MINIMUM_PREFIX);
         return;
     }
     const QTextCursor cursor = editor->textCursor();
@@ -85,11 +85,11 @@ void StyleSheetCompleter::follow()
         completer->popup()->setCurrentIndex(completer->completionModel()->index(0, 0));
 }
 
-void StyleSheetCompleter::show(int fewestLetters)
+void StyleSheetCompleter::show(int minimumPrefix)
 {
     const QString before = context();
     const QString prefix = before.right(StyleSheetVocabulary::PrefixLength(before));
-    if (prefix.size() < fewestLetters || editor->isReadOnly())
+    if (prefix.size() < minimumPrefix || editor->isReadOnly())
         return;
     if (!completer) {
         completer = new QCompleter(this);
@@ -99,14 +99,14 @@ void StyleSheetCompleter::show(int fewestLetters)
         completer->setCaseSensitivity(Qt::CaseInsensitive);
         completer->setModelSorting(QCompleter::CaseInsensitivelySortedModel);
         connect(completer, qOverload<const QString&>(&QCompleter::activated), this, &StyleSheetCompleter::insert);
-        // Installed after the completer's own filter, so it comes before that.
+        // Installed after the filter of QCompleter and therefore called before it.
         completer->popup()->installEventFilter(this);
     }
     names->setStringList(
-        StyleSheetVocabulary::Candidates(before, StyleSheetVocabulary::Collect(except), declarationsAlone));
+        StyleSheetVocabulary::Completions(before, StyleSheetVocabulary::Collect(except), declarationsOnly));
     completer->setCompletionPrefix(prefix);
     const bool isWhole = completer->completionCount() == 1 && completer->currentCompletion() == prefix;
-    if (completer->completionCount() == 0 || (isWhole && fewestLetters > 0))
+    if (completer->completionCount() == 0 || (isWhole && minimumPrefix > 0))
         return;
     QRect place = editor->cursorRect();
     place.translate(editor->viewport()->pos());
@@ -125,7 +125,7 @@ void StyleSheetCompleter::insert(const QString& name)
     editor->setTextCursor(cursor);
 }
 
-// The editor would break the line or indent it.
+// Handles the keys before the editor breaks or indents the line.
 bool StyleSheetCompleter::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::KeyPress && isOpen()) {

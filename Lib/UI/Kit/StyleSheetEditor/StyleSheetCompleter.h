@@ -9,28 +9,28 @@ class QWidget;
 
 namespace Zelkor::Vx::UI::Kit {
 
-/// Offers names while a person types a style sheet: after two letters of a name, or when asked to. Return or Tab takes
-/// the chosen one, Escape none.
+/// Offers completions while a style sheet is typed: after two characters of a name, or on request. Return or Tab
+/// inserts the selected one, Escape closes the list.
 class StyleSheetCompleter : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Belongs to the editor. Widgets within `except` are not looked at for names.
+    /// The editor owns the completer. Names of `except` and its descendants are not offered.
     StyleSheetCompleter(QPlainTextEdit* editor, const QWidget* except);
 
-    /// Whether the sheet is declarations alone, without a selector and braces; it is not by default.
-    void setDeclarationsAlone(bool on) { declarationsAlone = on; }
+    /// Sets whether the sheet consists of declarations only, without selector and braces; false by default.
+    void setDeclarationsOnly(bool on) { declarationsOnly = on; }
 
-    /// Offers what can stand at the cursor, however much of it was typed.
+    /// Offers completions at the cursor, even before a character is typed.
     void open();
 
     bool isOpen() const;
 
-    /// What is offered; empty when nothing is.
-    QStringList offered() const;
+    /// Returns the offered completions; empty if the list is closed.
+    QStringList completions() const;
 
-    /// What decides on the names: the text before the cursor from the beginning of its rule.
+    /// Returns the text from the start of the rule to the cursor, which determines the completions.
     QString context() const;
 
 protected:
@@ -38,15 +38,15 @@ protected:
 
 private:
     void follow();
-    void show(int fewestLetters);
+    void show(int minimumPrefix);
     void insert(const QString& name);
 
     QPlainTextEdit* editor;
     const QWidget* except;
     QCompleter* completer = nullptr;
     QStringListModel* names = nullptr;
-    bool declarationsAlone = false;
-    bool typing = false; ///< a letter came, and the cursor has not moved behind it yet
+    bool declarationsOnly = false;
+    bool typing = false; ///< between the insertion of a typed character and the move of the cursor
 };
 
 } // namespace Zelkor::Vx::UI::Kit

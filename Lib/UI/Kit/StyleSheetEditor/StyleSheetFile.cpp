@@ -14,8 +14,8 @@ namespace Zelkor::Vx::UI::Kit::StyleSheetFile {
 
 namespace {
 
-constexpr qint64 LARGEST_SIZE = 16 * 1024 * 1024; ///< bytes; no sheet comes near it
-constexpr int UTF_8 = 106;                        ///< the number that the codec is known by
+constexpr qint64 LARGEST_SIZE = 16 * 1024 * 1024; ///< bytes
+constexpr int UTF_8 = 106;                        ///< MIB of the codec
 
 const char CONTEXT[] = "StyleSheetFile";
 const char NOT_READ[] = QT_TRANSLATE_NOOP("StyleSheetFile", "%1 cannot be read: %2.");
@@ -24,7 +24,7 @@ const char NOT_REGULAR[] = QT_TRANSLATE_NOOP("StyleSheetFile", "%1 is not a regu
 const char TOO_LARGE[] = QT_TRANSLATE_NOOP("StyleSheetFile", "%1 is too large for a style sheet.");
 const char NOT_UTF_8[] = QT_TRANSLATE_NOOP("StyleSheetFile", "%1 is not a text in UTF-8.");
 
-// A pipe blocks, a device never ends, and saving replaces what is there by a regular file.
+// Reading a pipe blocks, reading a device may never end, and saving would replace either by a regular file.
 bool IsSpecial(const QString& fileName)
 {
     const QFileInfo info(fileName);
@@ -51,10 +51,10 @@ std::optional<Contents> Read(const QString& fileName, Error& error)
     if (!file.open(QIODevice::ReadOnly))
         return fail(NOT_READ, file.errorString());
 #ifdef Q_OS_UNIX
-    // The log of a kernel is a regular file that waits for more.
+    // Some regular files block, such as the kernel log.
     fcntl(file.handle(), F_SETFL, O_NONBLOCK);
 #endif
-    // One byte more than allowed reveals a larger file, even where the file system reports no size.
+    // Reads one byte more than allowed to detect larger files, because some file systems report no size.
     const QByteArray bytes = file.read(LARGEST_SIZE + 1);
     if (file.error() != QFileDevice::NoError)
         return fail(NOT_READ, file.errorString());
@@ -62,7 +62,7 @@ std::optional<Contents> Read(const QString& fileName, Error& error)
         return fail(TOO_LARGE);
     QTextCodec::ConverterState state(QTextCodec::IgnoreHeader);
     Contents contents{QTextCodec::codecForMib(UTF_8)->toUnicode(bytes.constData(), bytes.size(), &state)};
-    // Saved again, it would lose what could not be read.
+    // Saving would lose bytes that could not be decoded.
     if (state.invalidChars > 0 || state.remainingChars > 0 || contents.text.contains(QChar::Null))
         return fail(NOT_UTF_8);
     contents.hasByteOrderMark = contents.text.startsWith(QChar::ByteOrderMark);
@@ -70,7 +70,7 @@ std::optional<Contents> Read(const QString& fileName, Error& error)
     return contents;
 }
 
-// Without the fallback to writing in place, which would cut the file first and lose it on a full disk.
+// Without the fallback of QSaveFile to writing in place, which truncates the file first and loses it on a full disk.
 bool Write(const QString& fileName, const Contents& contents, Error& error)
 {
     if (IsSpecial(fileName)) {

@@ -4,31 +4,31 @@
 
 #include <optional>
 
-/// Style sheets in files, as UTF-8.
+/// Reads and writes style sheets in UTF-8 files.
 namespace Zelkor::Vx::UI::Kit::StyleSheetFile {
 
 struct Contents
 {
-    QString text; ///< without the byte-order mark, with the line ends of the file
+    QString text; ///< without byte-order mark, with the line endings of the file
     bool hasByteOrderMark = false;
 };
 
-/// Why a file was not read or written.
+/// The reason why a file could not be read or written.
 struct Error
 {
-    const char* text = nullptr; ///< untranslated
+    const char* text = nullptr; ///< untranslated sentence
     QString fileName;
-    QString reason;
+    QString reason; ///< error string of Qt
 
-    /// The whole sentence in the language of the application.
+    /// Returns the sentence in the language of the application.
     QString describe() const;
 };
 
-/// Reads a regular file. Fails for pipes, devices and folders, after a read error, and for contents that are not UTF-8
-/// or larger than 16 MiB.
+/// Reads a regular file. Fails for pipes, devices and folders, on read errors, and for contents that are not UTF-8 or
+/// larger than 16 MiB.
 std::optional<Contents> Read(const QString& fileName, Error& error);
 
-/// Replaces a file as a whole, or leaves it as it was and returns false.
+/// Replaces a file atomically. Returns false and leaves it unchanged on errors.
 bool Write(const QString& fileName, const Contents& contents, Error& error);
 
 } // namespace Zelkor::Vx::UI::Kit::StyleSheetFile

@@ -10,25 +10,26 @@ namespace Zelkor::Vx::UI::Kit {
 namespace {
 
 using StyleSheetTokenizer::Kind;
-using StyleSheetTokenizer::Place;
-using StyleSheetTokenizer::Position;
+using StyleSheetTokenizer::Region;
+using StyleSheetTokenizer::SyntaxState;
 using StyleSheetTokenizer::Token;
 
-/// What a word is, for the eye.
+/// Categories with a colour.
 enum class Look {
     PLAIN,
     COMMENT,
-    TYPE,  ///< a class in a selector
-    NAME,  ///< an object name
-    STATE, ///< a pseudo-state or a part of a widget
+    TYPE,  ///< class in a selector
+    NAME,  ///< object name
+    STATE, ///< pseudo-state or sub-control
     PROPERTY,
-    WIDGET_PROPERTY, ///< one that is set by "qproperty-"
+    WIDGET_PROPERTY, ///< property with "qproperty-"
     STRING,
     NUMBER,
     KEYWORD
 };
 
-constexpr int COLORED_LENGTH = 4096; ///< of a line; each colour in a line slows down every key in it
+constexpr int COLORED_LENGTH =
+    4096; ///< characters of a line to highlight, because each format range slows down typing in the line
 
 struct Colors
 {
@@ -36,7 +37,7 @@ struct Colors
     QRgb onDark;
 };
 
-// In the order of the looks. At least 4.5 to 1 on white and on a dark grey, each on its own.
+// In the order of Look. Contrast is at least 4.5:1 on white and on dark grey, respectively.
 constexpr Colors COLORS[] = {
     {0, 0},
     {0xff5f6b7a, 0xff9aa5b1},
@@ -55,7 +56,7 @@ bool IsSymbol(const QString& text, const Token& token, char symbol)
     return token.kind == Kind::SYMBOL && text[token.start] == QLatin1Char(symbol);
 }
 
-Look LookInSelector(const QString& text, const Token& token, const Position& at, const Token* before)
+Look LookInSelector(const QString& text, const Token& token, const SyntaxState& at, const Token* before)
 {
     switch (token.kind) {
     case Kind::HASH:
@@ -74,15 +75,15 @@ Look LookInSelector(const QString& text, const Token& token, const Position& at,
     }
 }
 
-Look LookOf(const QString& text, const Token& token, const Position& at, const Token* before)
+Look LookOf(const QString& text, const Token& token, const SyntaxState& at, const Token* before)
 {
     if (token.kind == Kind::COMMENT)
         return Look::COMMENT;
     if (token.kind == Kind::STRING || token.kind == Kind::URL)
         return Look::STRING;
-    if (at.place == Place::SELECTOR)
+    if (at.region == Region::SELECTOR)
         return LookInSelector(text, token, at, before);
-    if (token.kind == Kind::WORD && at.place == Place::PROPERTY) {
+    if (token.kind == Kind::WORD && at.region == Region::PROPERTY) {
         const bool isQt = QStringView(text).mid(token.start, token.length).startsWith(u"qproperty-");
         return isQt ? Look::WIDGET_PROPERTY : Look::PROPERTY;
     }
@@ -101,21 +102,21 @@ void StyleSheetHighlighter::setOnDark(bool on)
     rehighlight();
 }
 
-void StyleSheetHighlighter::setDeclarationsAlone(bool on)
+void StyleSheetHighlighter::setDeclarationsOnly(bool on)
 {
-    if (on == declarationsAlone)
+    if (on == declarationsOnly)
         return;
-    declarationsAlone = on;
+    declarationsOnly = on;
     rehighlight();
 }
 
 void StyleSheetHighlighter::highlightBlock(const QString& text)
 {
-    Position at;
+    SyntaxState at;
     if (previousBlockState() >= 0)
-        at = Position::unpack(previousBlockState());
-    else if (declarationsAlone)
-        at.place = Place::PROPERTY;
+        at = SyntaxState::unpack(previousBlockState());
+    else if (declarationsOnly)
+        at.region = Region::PROPERTY;
     const QVector<Token> tokens = StyleSheetTokenizer::Tokenize(text, at.inComment);
     for (int i = 0; i < tokens.size(); ++i) {
         const Token& token = tokens[i];

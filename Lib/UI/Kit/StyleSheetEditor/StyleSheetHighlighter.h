@@ -4,27 +4,27 @@
 
 namespace Zelkor::Vx::UI::Kit {
 
-/// Colours the words of a style sheet. Each colour is readable on a dark or on a light ground, whichever is told.
+/// Highlights the syntax of a style sheet, with colours for light or dark backgrounds.
 class StyleSheetHighlighter : public QSyntaxHighlighter
 {
     Q_OBJECT
 
 public:
-    /// Belongs to the document.
+    /// The document owns the highlighter.
     explicit StyleSheetHighlighter(QTextDocument* document) : QSyntaxHighlighter(document) {}
 
-    /// Whether the text lies on a dark ground; it does not by default.
+    /// Sets whether the background is dark; false by default.
     void setOnDark(bool on);
 
-    /// Whether the sheet is declarations alone, without a selector and braces; it is not by default.
-    void setDeclarationsAlone(bool on);
+    /// Sets whether the sheet consists of declarations only, without selector and braces; false by default.
+    void setDeclarationsOnly(bool on);
 
 protected:
     void highlightBlock(const QString& text) override;
 
 private:
     bool onDark = false;
-    bool declarationsAlone = false;
+    bool declarationsOnly = false;
 };
 
 } // namespace Zelkor::Vx::UI::Kit

@@ -7,29 +7,29 @@
 
 namespace Zelkor::Vx::UI::Kit {
 
-/// Who wears the style sheet that is edited: the application or one widget, which may go at any time. Remembers the
-/// sheet that was there before. GUI thread.
+/// The application or widget whose style sheet is edited. Saves the original sheets. The widget may be destroyed at any
+/// time. GUI thread only.
 class StyleSheetTarget
 {
 public:
-    /// Null is the application, which a target is at first.
+    /// Null selects the application, which is the default.
     void set(QWidget* widget);
 
     bool isApplication() const { return application; }
 
-    /// Null for the application, and once the widget is gone.
+    /// Returns null for the application and for a destroyed widget.
     QWidget* widget() const { return chosen; }
 
-    /// Whether the widget is not gone.
+    /// Returns false after the widget was destroyed.
     bool exists() const { return application || chosen; }
 
     QString sheet() const;
 
-    /// Sets the sheet of a target that exists.
+    /// Sets the sheet of an existing target.
     void apply(const QString& sheet);
 
-    /// Sets the sheet that was there before the first one was applied since the last revert. Nothing, and false, when
-    /// none was. Each target that was set has its own.
+    /// Restores the sheet before the first apply() since the last revert() of this target. Returns false if nothing was
+    /// applied.
     bool revert();
 
 private:

@@ -10,34 +10,34 @@ namespace Zelkor::Vx::UI::Kit {
 
 namespace {
 
-constexpr int FEWEST_LETTERS = 8; ///< that the box has room for, in a narrow window
+constexpr int MINIMUM_CHARACTERS = 8; ///< minimum width in characters
 
 } // namespace
 
 StyleSheetTargetComboBox::StyleSheetTargetComboBox(QWidget* parent) : QComboBox(parent), widgets{nullptr}
 {
     setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    setMinimumContentsLength(FEWEST_LETTERS);
+    setMinimumContentsLength(MINIMUM_CHARACTERS);
     addItem(tr("Application"));
     setPlaceholderText(tr("Choose a widget"));
     connect(this, qOverload<int>(&QComboBox::activated), this, [this](int index) {
         QWidget* widget = widgets.value(index);
         if (index > 0 && !widget) {
-            // It went while the list was open; what was chosen before stays so.
+            // Destroyed while the list was open: keeps the previous choice.
             setCurrentIndex(hasChoice ? widgets.indexOf(current) : -1);
             return;
         }
         watch(widget);
-        // Whoever hears of it may delete the box, which goes on with its list.
-        const auto tell = [this, index, guarded = QPointer<QWidget>(widget)] {
+        // Queued, because a slot may delete the combo box, which is still closing its list.
+        const auto emitChosen = [this, index, guarded = QPointer<QWidget>(widget)] {
             if (index == 0 || guarded)
                 Q_EMIT chosen(guarded);
         };
-        QMetaObject::invokeMethod(this, tell, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(this, emitChosen, Qt::QueuedConnection);
     });
 }
 
-// The target may be a part of the box, which goes with it.
+// The target may be a child of the combo box, destroyed after this.
 StyleSheetTargetComboBox::~StyleSheetTargetComboBox()
 {
     disconnect(watching);
@@ -71,7 +71,7 @@ void StyleSheetTargetComboBox::watch(QWidget* widget)
     });
 }
 
-// The windows of the application but our own, and the widget that is chosen.
+// Adds all windows of the application except this one, and the current target.
 void StyleSheetTargetComboBox::refill()
 {
     clear();
@@ -97,7 +97,7 @@ void StyleSheetTargetComboBox::showPopup()
     QComboBox::showPopup();
 }
 
-// Arrow keys go through what is there now, too.
+// Updates the list before arrow keys select from it.
 void StyleSheetTargetComboBox::keyPressEvent(QKeyEvent* event)
 {
     if (!view()->isVisible())

@@ -6,8 +6,8 @@
 
 namespace Zelkor::Vx::UI::Kit {
 
-/// A choice of the application and its windows; opened, it has those that are there then. A widget that is no window
-/// joins them when it is set. One that goes leaves the box without a choice.
+/// Lists the application, its current windows and the current target. Has no current item after the target was
+/// destroyed.
 class StyleSheetTargetComboBox : public QComboBox
 {
     Q_OBJECT
@@ -16,19 +16,19 @@ public:
     explicit StyleSheetTargetComboBox(QWidget* parent = nullptr);
     ~StyleSheetTargetComboBox() override;
 
-    /// Null is the application. Does not emit.
+    /// Null selects the application. Does not emit `chosen`.
     void setTarget(QWidget* widget);
 
-    /// How a person knows it: its class, and its object name or title.
+    /// Returns the class of a widget with its object name or title.
     static QString nameOf(const QWidget* widget);
 
     void showPopup() override;
 
 Q_SIGNALS:
-    /// A person chose; null is the application. Comes out of the event loop.
+    /// Emitted from the event loop when the user chooses a target; null is the application.
     void chosen(QWidget* widget);
 
-    /// The widget that was set or chosen does not exist any more.
+    /// Emitted when the current target was destroyed.
     void targetDestroyed();
 
 protected:
@@ -40,7 +40,7 @@ private:
     void refill();
     void watch(QWidget* widget);
 
-    QVector<QPointer<QWidget>> widgets; ///< by index; the first is the application
+    QVector<QPointer<QWidget>> widgets; ///< by index; the first, null, is the application
     QPointer<QWidget> current;
     bool hasChoice = true;
     QMetaObject::Connection watching;

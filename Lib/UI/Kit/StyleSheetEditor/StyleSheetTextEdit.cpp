@@ -13,8 +13,8 @@ using StyleSheetChecker::Mistake;
 
 namespace {
 
-constexpr int MOST_MARKS = 100; ///< more would help nobody, and take their time in a file that is no sheet
-constexpr int LIGHT_TEXT = 128; ///< of 255; a text that is lighter lies on a dark ground
+constexpr int MAXIMUM_MARKS = 100; ///< limits the time for a file that is not a style sheet
+constexpr int LIGHT_TEXT = 128;    ///< of 255; lighter text is on a dark background
 
 } // namespace
 
@@ -35,21 +35,21 @@ void StyleSheetTextEdit::check()
 {
     const QString text = document()->toRawText().replace(QChar::ParagraphSeparator, QLatin1Char('\n'));
     found = StyleSheetChecker::Check(text, scope);
-    // Where warnings are fatal, that of Qt would end the program.
+    // A warning of Qt would abort the application if warnings are fatal.
     const bool mayAsk = found.isEmpty() || !qEnvironmentVariableIsSet("QT_FATAL_WARNINGS");
     accepted = mayAsk && QtStyleSheetParser::IsAccepted(source(), scope);
     markMistakes();
-    // Before the first declaration ends, it could as well be a selector.
-    const bool declarationsAlone =
+    // Before its first semicolon, a declaration could be a selector.
+    const bool declarationsOnly =
         scope == StyleSheetScope::WIDGET && text.contains(QLatin1Char(';')) && !text.contains(QLatin1Char('{'));
-    highlighter->setDeclarationsAlone(declarationsAlone);
-    completer->setDeclarationsAlone(declarationsAlone);
+    highlighter->setDeclarationsOnly(declarationsOnly);
+    completer->setDeclarationsOnly(declarationsOnly);
 }
 
 void StyleSheetTextEdit::markMistakes()
 {
     QVector<Mark> marks;
-    for (int i = 0; i < std::min(found.size(), MOST_MARKS); ++i)
+    for (int i = 0; i < std::min(found.size(), MAXIMUM_MARKS); ++i)
         marks.append({found[i].position, StyleSheetChecker::Describe(found[i].problem)});
     setMarks(marks);
 }
@@ -92,7 +92,7 @@ void StyleSheetTextEdit::complete()
     completer->open();
 }
 
-// By the text when it is enabled: it is readable then, whatever the ground is made of.
+// Uses the text colour of the enabled field, since the background may be an image.
 void StyleSheetTextEdit::followColors()
 {
     highlighter->setOnDark(palette().color(QPalette::Active, QPalette::Text).lightness() > LIGHT_TEXT);

@@ -8,44 +8,44 @@ namespace Zelkor::Vx::UI::Kit {
 class StyleSheetCompleter;
 class StyleSheetHighlighter;
 
-/// A code editor that knows style sheets: it colours them, offers names, and marks mistakes when it is told to look.
+/// The text field of the style sheet editor, with syntax highlighting, completion and marks at mistakes.
 class StyleSheetTextEdit : public ZCodeEditor
 {
     Q_OBJECT
 
 public:
-    /// Widgets within `except` are not looked at for names.
+    /// Names of `except` and its descendants are not offered.
     explicit StyleSheetTextEdit(const QWidget* except, QWidget* parent = nullptr);
 
-    /// For whom the sheet is; for the application at first.
+    /// Sets the scope of the sheet, APPLICATION by default, and checks it.
     void setScope(StyleSheetScope scope);
 
-    /// Looks for mistakes in the text as it is, and marks them.
+    /// Checks the current text and marks the mistakes.
     void check();
 
-    /// Describes the mistakes that were found last in the language of the application.
+    /// Marks the mistakes found by the last check, in the language of the application.
     void markMistakes();
 
-    /// Those that the last look found.
+    /// Returns the mistakes found by the last check.
     const QVector<StyleSheetChecker::Mistake>& mistakes() const { return found; }
 
-    /// Whether Qt accepts the text that was looked at last, with or without mistakes.
+    /// Returns whether Qt accepted the text at the last check, with or without mistakes.
     bool isAccepted() const { return accepted; }
 
-    /// Goes to the next mistake behind the cursor, or to the first one.
+    /// Moves the cursor to the next mistake, or to the first one after the last.
     void goToNextMistake();
 
     /// Sets the text and clears the undo history.
     void loadText(const QString& text);
 
-    /// Replaces the text in one step that can be undone.
+    /// Replaces the text in one undo step.
     void replaceText(const QString& text);
 
-    /// The text to save and to apply: what was not edited is as it was loaded, line ends and no-break spaces included.
-    /// Its positions are not those of the document.
+    /// Returns the text to save and apply, with the original line endings and no-break spaces. Its positions differ
+    /// from those of the document.
     QString source() const;
 
-    /// Offers names for the place of the cursor.
+    /// Offers completions at the cursor.
     void complete();
 
 protected:
@@ -57,7 +57,7 @@ private:
 
     StyleSheetHighlighter* highlighter;
     StyleSheetCompleter* completer;
-    QString original; ///< the text that was set last
+    QString original; ///< the last text set
     StyleSheetScope scope = StyleSheetScope::APPLICATION;
     QVector<StyleSheetChecker::Mistake> found;
     bool accepted = true;

@@ -22,7 +22,7 @@ bool IsHexDigit(QChar letter)
     return IsDigit(letter) || (letter.toLower() >= QLatin1Char('a') && letter.toLower() <= QLatin1Char('f'));
 }
 
-/// Reads one token after another off a text.
+/// Scans a text token by token.
 class Scanner
 {
 public:
@@ -45,8 +45,7 @@ public:
 private:
     QChar at(int offset) const { return position + offset < text.size() ? text[position + offset] : QChar(); }
 
-    // A backslash takes the character after it into the name; with digits it writes a character by its number, which
-    // nobody does in a name.
+    // A backslash escapes the next character. Numeric escapes are not supported in names.
     bool isNameAt(int offset) const
     {
         const QChar letter = at(offset);
@@ -101,7 +100,7 @@ private:
         return Kind::COMMENT;
     }
 
-    // A string ends with its line, unless a backslash stands at the end of that.
+    // A string ends at the end of the line, unless a backslash escapes that.
     Kind string(QChar quote)
     {
         ++position;
@@ -126,8 +125,8 @@ private:
         return Kind::NUMBER;
     }
 
-    // An address without quotes is taken as it is: it may have colons and semicolons. With a character that Qt does not
-    // take there, it is a function like any other.
+    // An unquoted URL may contain colons and semicolons. With a character that Qt does not accept in a URL, it is an
+    // ordinary function.
     Kind word()
     {
         const int start = position;
@@ -168,49 +167,49 @@ bool IsNameLetter(QChar letter)
            letter == QLatin1Char('-');
 }
 
-void Position::advance(const QString& text, const Token& token)
+void SyntaxState::advance(const QString& text, const Token& token)
 {
     inComment = token.kind == Kind::COMMENT && !token.isClosed;
-    if (token.kind == Kind::AT_WORD && place == Place::SELECTOR)
+    if (token.kind == Kind::AT_WORD && region == Region::SELECTOR)
         inMediaHead = QStringView(text).mid(token.start, token.length).compare(u"@media", Qt::CaseInsensitive) == 0;
     if (token.kind != Kind::SYMBOL)
         return;
     switch (text[token.start].unicode()) {
     case '{':
-        place = inMediaHead ? Place::SELECTOR : Place::PROPERTY;
+        region = inMediaHead ? Region::SELECTOR : Region::PROPERTY;
         inMediaHead = inBrackets = false;
         break;
     case '}':
-        place = Place::SELECTOR;
+        region = Region::SELECTOR;
         inMediaHead = inBrackets = false;
         break;
     case ':':
-        if (place == Place::PROPERTY)
-            place = Place::VALUE;
+        if (region == Region::PROPERTY)
+            region = Region::VALUE;
         break;
     case ';':
-        if (place == Place::VALUE)
-            place = Place::PROPERTY;
+        if (region == Region::VALUE)
+            region = Region::PROPERTY;
         inMediaHead = false;
         break;
     case '[':
     case ']':
-        inBrackets = place == Place::SELECTOR && text[token.start] == QLatin1Char('[');
+        inBrackets = region == Region::SELECTOR && text[token.start] == QLatin1Char('[');
         break;
     default:
         break;
     }
 }
 
-int Position::pack() const
+int SyntaxState::pack() const
 {
-    return static_cast<int>(place) | inComment << 2 | inBrackets << 3 | inMediaHead << 4;
+    return static_cast<int>(region) | inComment << 2 | inBrackets << 3 | inMediaHead << 4;
 }
 
-Position Position::unpack(int packed)
+SyntaxState SyntaxState::unpack(int packed)
 {
-    Position position;
-    position.place = static_cast<Place>(packed & 3);
+    SyntaxState position;
+    position.region = static_cast<Region>(packed & 3);
     position.inComment = packed & 4;
     position.inBrackets = packed & 8;
     position.inMediaHead = packed & 16;

@@ -3,59 +3,58 @@
 #include <QString>
 #include <QVector>
 
-/// The words of a style sheet, and where in it they stand. Pure functions on text; the checker, the colours and the
-/// completion of the style sheet editor share them.
+/// Splits style sheets into tokens; used by checker, highlighter and completer. All functions are pure.
 namespace Zelkor::Vx::UI::Kit::StyleSheetTokenizer {
 
 enum class Kind {
     SPACE,
     COMMENT,
-    WORD,     ///< a name or a keyword
-    HASH,     ///< "#" and what follows: an object name or a colour
-    AT_WORD,  ///< "@media"
-    STRING,   ///< with its quotes
-    NUMBER,   ///< with its unit
-    FUNCTION, ///< a word and the parenthesis that it opens
-    URL,      ///< from "url(" to its ")"
-    SYMBOL    ///< any other character, alone
+    WORD,     ///< name or keyword
+    HASH,     ///< "#" with an object name or a colour
+    AT_WORD,  ///< keyword such as "@media"
+    STRING,   ///< including quotes
+    NUMBER,   ///< including the unit
+    FUNCTION, ///< name with its opening parenthesis
+    URL,      ///< from "url(" to ")"
+    SYMBOL    ///< any other single character
 };
 
 struct Token
 {
     Kind kind;
-    int start; ///< characters before it
+    int start; ///< character index
     int length;
-    bool isClosed; ///< not a comment or a string whose end is missing
+    bool isClosed; ///< false for a comment or string without end
 
     int end() const { return start + length; }
 };
 
-/// The tokens of `text`, one after another, without gaps. With `inComment`, the text begins within a comment.
+/// Returns the tokens of `text` without gaps. With `inComment`, the text begins within a comment.
 QVector<Token> Tokenize(const QString& text, bool inComment = false);
 
-/// Whether a letter can be part of a name.
+/// Returns whether a character can be part of a name.
 bool IsNameLetter(QChar letter);
 
-/// The part of a rule at which a text stands.
-enum class Place {
+/// The parts of a rule.
+enum class Region {
     SELECTOR,
-    PROPERTY, ///< the name of a property, or before it
+    PROPERTY, ///< up to the end of the name of a property
     VALUE
 };
 
-/// Where in its sheet a text stands. Follows it token by token.
-struct Position
+/// The state of a parser that advances token by token.
+struct SyntaxState
 {
-    Place place = Place::SELECTOR;
+    Region region = Region::SELECTOR;
     bool inComment = false;
-    bool inBrackets = false;  ///< in the attribute of a selector
+    bool inBrackets = false;  ///< in an attribute selector
     bool inMediaHead = false; ///< after "@media", before its "{"
 
     void advance(const QString& text, const Token& token);
 
-    /// As a number from 0 and back, for a line of an editor to remember.
+    /// Converts to and from a non-negative number, for QTextBlock::userState().
     int pack() const;
-    static Position unpack(int packed);
+    static SyntaxState unpack(int packed);
 };
 
 } // namespace Zelkor::Vx::UI::Kit::StyleSheetTokenizer

@@ -14,13 +14,13 @@ namespace Zelkor::Vx::UI::Kit::StyleSheetVocabulary {
 namespace {
 
 using StyleSheetTokenizer::Kind;
-using StyleSheetTokenizer::Place;
-using StyleSheetTokenizer::Position;
+using StyleSheetTokenizer::Region;
+using StyleSheetTokenizer::SyntaxState;
 using StyleSheetTokenizer::Token;
 
 const QString PREFIX = QStringLiteral("qproperty-");
 
-// What Qt knows by itself.
+// Names that Qt defines.
 const char PROPERTIES[] =
     "alternate-background-color background background-attachment background-clip background-color background-image "
     "background-origin background-position background-repeat border border-bottom border-bottom-color "
@@ -97,8 +97,8 @@ QStringList Settables(const QString& className, const Names& names)
     return Sorted(all);
 }
 
-// What can stand in a selector behind the tokens.
-QStringList InSelector(const QString& text, const QVector<Token>& tokens, const Position& at, const Names& names)
+// Returns the names that can follow the tokens in a selector.
+QStringList InSelector(const QString& text, const QVector<Token>& tokens, const SyntaxState& at, const Names& names)
 {
     if (at.inBrackets)
         return names.attributes;
@@ -142,18 +142,18 @@ int PrefixLength(const QString& before)
     return length;
 }
 
-QStringList Candidates(const QString& before, const Names& names, bool declarationsAlone)
+QStringList Completions(const QString& before, const Names& names, bool declarationsOnly)
 {
     const QString text = before.left(before.size() - PrefixLength(before));
     const QVector<Token> tokens = StyleSheetTokenizer::Tokenize(text);
     if (!tokens.isEmpty() && !tokens.last().isClosed)
         return {};
-    Position at;
-    if (declarationsAlone)
-        at.place = Place::PROPERTY;
-    QString className; // the last one in the selector before the declarations
+    SyntaxState at;
+    if (declarationsOnly)
+        at.region = Region::PROPERTY;
+    QString className; // last class in the selector of the declarations
     for (const Token& token : tokens) {
-        if (at.place == Place::SELECTOR && token.kind == Kind::WORD) {
+        if (at.region == Region::SELECTOR && token.kind == Kind::WORD) {
             const QString word = text.mid(token.start, token.length);
             if (names.settables.contains(word))
                 className = word;
@@ -162,12 +162,12 @@ QStringList Candidates(const QString& before, const Names& names, bool declarati
         }
         at.advance(text, token);
     }
-    switch (at.place) {
-    case Place::SELECTOR:
+    switch (at.region) {
+    case Region::SELECTOR:
         return InSelector(text, tokens, at, names);
-    case Place::PROPERTY:
+    case Region::PROPERTY:
         return Sorted(Words(PROPERTIES) + Settables(className, names));
-    case Place::VALUE:
+    case Region::VALUE:
         return Sorted(Words(VALUES) + QColor::colorNames());
     }
     return {};

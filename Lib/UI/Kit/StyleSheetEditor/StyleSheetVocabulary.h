@@ -5,27 +5,26 @@
 
 class QWidget;
 
-/// The names that a style sheet of the running application can have.
+/// The names that a style sheet of the running application may use.
 namespace Zelkor::Vx::UI::Kit::StyleSheetVocabulary {
 
-/// What there is at one time. Sorted, each name once.
+/// A snapshot of all names, sorted and without duplicates.
 struct Names
 {
-    QStringList classes;                   ///< of widgets and what they derive from; written with dashes for "::"
+    QStringList classes;                   ///< widget classes and their base classes, with "--" for "::"
     QStringList objects;                   ///< object names
-    QHash<QString, QStringList> settables; ///< by class, what "qproperty-" can set, inherited ones included
-    QStringList attributes;                ///< properties that a selector can ask for, dynamic ones included
+    QHash<QString, QStringList> settables; ///< "qproperty-" names by class, including inherited ones
+    QStringList attributes;                ///< properties for attribute selectors, including dynamic ones
 };
 
-/// The names in all widgets of the application, but for those in `except`. GUI thread.
+/// Collects the names of all widgets except `except` and its descendants. GUI thread only.
 Names Collect(const QWidget* except = nullptr);
 
-/// Length of the piece of a name at the end of `before`; 0 when it ends with something else.
+/// Returns the length of the incomplete name at the end of `before`, or 0.
 int PrefixLength(const QString& before);
 
-/// The names, by the alphabet, that can stand at the end of a sheet's text `before`, in the place of the piece of a
-/// name there. They depend on where that is: in a selector or a declaration, after "#" or ":".
-/// With `declarationsAlone`, the sheet has no selector.
-QStringList Candidates(const QString& before, const Names& names, bool declarationsAlone = false);
+/// Returns the names, sorted, that can replace the incomplete name at the end of `before`, the text of a sheet up to
+/// the cursor. With `declarationsOnly`, the sheet has no selector.
+QStringList Completions(const QString& before, const Names& names, bool declarationsOnly = false);
 
 } // namespace Zelkor::Vx::UI::Kit::StyleSheetVocabulary

@@ -11,11 +11,11 @@ namespace Zelkor::Vx::UI::Kit {
 
 namespace {
 
-// A press goes to a window of the window system, which has Qt move the focus, and from there to a widget.
+// Presses are delivered to a QWindow first, which moves the focus, and then to a widget.
 QWidget* WidgetAt(QWindow* window, const QPoint& place)
 {
     QWidget* widget = QWidget::find(window->winId());
-    // A pop-up hears of presses beside it, too.
+    // A pop-up also gets presses outside of it.
     if (!widget || !widget->rect().contains(place))
         return nullptr;
     QWidget* child = widget->childAt(place);
@@ -55,7 +55,7 @@ void WidgetPicker::stop()
 
 bool WidgetPicker::isPickable(const QWidget* widget) const
 {
-    // Pop-ups and dialogs are windows of their own, in which Qt sees no descendants.
+    // QWidget::isAncestorOf() does not cross windows, such as pop-ups and dialogs.
     const QObject* part = widget;
     while (part && part != except)
         part = part->parent();
@@ -76,7 +76,7 @@ bool WidgetPicker::eventFilter(QObject* watched, QEvent* event)
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:
         if (!running && widget) {
-            // The release never came, and another one is not meant.
+            // The release was lost, and the next one belongs to this press.
             qApp->removeEventFilter(this);
             break;
         }

@@ -6,31 +6,31 @@ class QWidget;
 
 namespace Zelkor::Vx::UI::Kit {
 
-/// Lets a person choose a widget of the application with the mouse. While it runs, a click chooses the widget under the
-/// pointer and does nothing else; Escape gives up.
+/// Lets the user pick a widget of the application. While it runs, a click picks the widget under the mouse pointer and
+/// has no other effect. Escape cancels.
 class WidgetPicker : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Clicks on `except` and within it are left alone.
+    /// Clicks on `except` and its descendants are not picked.
     explicit WidgetPicker(QWidget* except, QObject* parent = nullptr);
     ~WidgetPicker() override;
 
     bool isRunning() const { return running; }
 
-    /// Starting twice, and stopping what does not run, does nothing.
+    /// Start or stop, without effect if that is the state already.
     void start();
     void stop();
 
 Q_SIGNALS:
-    /// The pointer came upon this widget, which a click would choose.
+    /// Emitted when the mouse pointer enters a widget that a click would pick.
     void pointed(QWidget* widget);
 
-    /// Comes after stopped(), unless a slot of that deleted the widget.
+    /// Emitted after stopped(), unless a slot of that signal deleted the widget.
     void picked(QWidget* widget);
 
-    /// The picker stopped, by whatever.
+    /// Emitted whenever the picker stops.
     void stopped();
 
 protected:
@@ -41,8 +41,8 @@ private:
 
     QWidget* except;
     bool running = false;
-    bool swallowsRelease = false;    ///< of the button whose press chose
-    bool isReleasedInWindow = false; ///< of the window system, which the press came to; else in a widget
+    bool swallowsRelease = false;    ///< of the press that picked
+    bool isReleasedInWindow = false; ///< whether the press was delivered to a QWindow rather than a widget
 };
 
 } // namespace Zelkor::Vx::UI::Kit

@@ -4,15 +4,12 @@
 
 #include <memory>
 
-/// A window in which a developer edits the style sheet of the running application, or of one widget in it, and sees the
-/// change at once.
+/// A window to edit the style sheet of the running application, or of one of its widgets, and to see changes at once.
 ///
-/// It checks the sheet while it is typed, shows mistakes beside their line, and applies none that Qt refuses, as it
-/// would drop it whole. Where Qt drops a declaration alone, the sheet is applied and the mistake is shown. It offers
-/// the names of classes, objects and properties that the application has. Files are UTF-8. A change that was not saved
-/// is asked about within the window before it would be lost; the program goes on meanwhile.
-///
-/// Unless it was changed, the text is that of the target, read again whenever the target is set or the editor is shown.
+/// The sheet is checked while it is typed. Mistakes are marked, and a sheet that Qt rejects as a whole is not applied.
+/// Names of classes, objects and properties of the application are offered as completions. Files are UTF-8. Before
+/// unsaved changes are lost, the window asks, without a modal dialog. An unmodified text is replaced by the sheet of
+/// the target whenever the target is set or the editor is shown. GUI thread only.
 class ZRuntimeStylesheetEditor : public QWidget
 {
     Q_OBJECT
@@ -21,61 +18,64 @@ class ZRuntimeStylesheetEditor : public QWidget
                    applyingWhileTypingChanged)
 
 public:
-    /// Edits the sheet of the application at first. Changes nothing before something is applied.
+    /// Constructs an editor for the sheet of the application, which it does not change until a sheet is applied.
     explicit ZRuntimeStylesheetEditor(QWidget* parent = nullptr);
     ~ZRuntimeStylesheetEditor() override;
 
-    /// Whose sheet it is; null is the application. The widget may be destroyed at any time: nothing is applied then
-    /// before another target is set.
+    /// Sets the target; null is the application. The widget may be destroyed at any time; nothing is applied then until
+    /// another target is set.
     void setTarget(QWidget* widget);
 
-    /// Null for the application, and for a widget that is gone.
+    /// Returns null for the application and for a destroyed widget.
     QWidget* target() const;
 
-    /// Whether the target is there: not a widget that is gone.
+    /// Returns false after the target was destroyed.
     bool hasTarget() const;
 
-    /// The text as it is typed, applied or not. Setting it is an edit like any other, which can be undone.
+    /// The current text, applied or not; the sheet of the target by default. Setting it can be undone.
     QString text() const;
     void setText(const QString& text);
 
-    /// Whether the text was changed since it was loaded, saved or read from the target.
+    /// Returns whether the text was changed since it was loaded, saved or read from the target.
     bool isModified() const;
 
-    /// The file that the text was loaded from or saved to last; empty when there is none.
+    /// Returns the file that the text was last loaded from or saved to, or an empty string.
     QString fileName() const;
 
-    /// Whether the text is applied when the typing pauses; off by default.
+    /// Whether the text is applied 300 ms after the last key, if it has no mistakes; false by default.
     bool isApplyingWhileTyping() const;
     void setApplyingWhileTyping(bool on);
 
-    /// What the window says last: of a mistake, a file, or what was applied.
+    /// Returns the current message of the window, about a mistake, a file or the last apply().
     QString message() const;
 
 public Q_SLOTS:
-    /// Applies the text to the target; false, and the reason as the message, when Qt refuses it or the target is gone.
+    /// Applies the text to the target. Returns false and shows a message if Qt rejects it or the target was destroyed.
     bool apply();
 
-    /// Gives the target the sheet that it had before the first one was applied. The text stays as it is.
+    /// Restores the sheet that the target had before the first apply(). Does not change the text.
     void revert();
 
-    /// Replaces the text with the sheet that the target has; can be undone.
+    /// Replaces the text by the sheet of the target; can be undone.
     void readFromTarget();
 
-    /// Replaces the text with that of a file, without asking about changes; false, with the reason as the message and
-    /// the text as it was, when it cannot be read.
+    /// Replaces the text by that of a file without asking about changes. Returns false and shows a message on errors.
     bool load(const QString& fileName);
 
-    /// Writes the text to a file; false, with the reason as the message, when it cannot be written.
+    /// Writes the text to a file. Returns false and shows a message on errors.
     bool save(const QString& fileName);
 
-    /// Shows the bar that finds and replaces.
+    /// Shows the search bar.
     void openSearch();
 
 Q_SIGNALS:
+    /// Emitted after a sheet was applied.
     void applied();
+
+    /// Emitted after the original sheet was restored.
     void reverted();
-    /// Comes out of the event loop.
+
+    /// Emitted from the event loop.
     void applyingWhileTypingChanged(bool on);
 
 protected:

@@ -553,7 +553,7 @@ private Q_SLOTS:
             code->setPlainText(text);
             code->moveCursor(QTextCursor::End);
             completer->open();
-            return completer->offered();
+            return completer->completions();
         };
         QCOMPARE(offered("QLabel, #known"), QStringList("knownObject"));
         const QPair<QString, QString> rows[] = {
