@@ -31,6 +31,20 @@ bool IsSpecial(const QString& fileName)
     return info.exists() && !info.isFile();
 }
 
+// A full disk takes a part and reports the error with the next one. The buffer of a file would not write that, and the
+// part would count as the whole.
+bool WriteAll(QIODevice& file, const QByteArray& bytes)
+{
+    qint64 written = 0;
+    while (written < bytes.size()) {
+        const qint64 count = file.write(bytes.constData() + written, bytes.size() - written);
+        if (count <= 0)
+            return false;
+        written += count;
+    }
+    return true;
+}
+
 } // namespace
 
 QString Error::describe() const
@@ -80,7 +94,7 @@ bool Write(const QString& fileName, const Contents& contents, Error& error)
     QSaveFile file(fileName);
     const QString mark = contents.hasByteOrderMark ? QString(QChar::ByteOrderMark) : QString();
     const QByteArray bytes = (mark + contents.text).toUtf8();
-    if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit())
+    if (file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) && WriteAll(file, bytes) && file.commit())
         return true;
     error = {NOT_WRITTEN, fileName, file.errorString()};
     return false;

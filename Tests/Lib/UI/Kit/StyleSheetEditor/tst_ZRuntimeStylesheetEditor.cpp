@@ -25,8 +25,12 @@
 #include <memory>
 
 #ifdef Q_OS_LINUX
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
+
+#include <cerrno>
+#include <csignal>
 #endif
 
 using namespace Zelkor::Vx::UI::Kit;
@@ -470,6 +474,27 @@ private Q_SLOTS:
         QVERIFY(QFile::setPermissions(folder.path(), QFile::Permissions(0x7777)));
         QVERIFY(!isSaved);
         QCOMPARE(BytesOf(name), QByteArray("old"));
+    }
+
+    void fullDiskLeavesTheOldFile()
+    {
+        QTemporaryDir folder;
+        const QString name = folder.filePath("a.qss");
+        WriteFile(name, "old");
+        ZRuntimeStylesheetEditor editor;
+        editor.setText(RED);
+        // The largest size of a file stands for the size of the disk.
+        const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+        rlimit usual;
+        QCOMPARE(getrlimit(RLIMIT_FSIZE, &usual), 0);
+        const rlimit low{10, usual.rlim_max};
+        QCOMPARE(setrlimit(RLIMIT_FSIZE, &low), 0);
+        const bool isSaved = editor.save(name);
+        QCOMPARE(setrlimit(RLIMIT_FSIZE, &usual), 0);
+        std::signal(SIGXFSZ, handler);
+        QVERIFY(!isSaved);
+        QCOMPARE(BytesOf(name), QByteArray("old"));
+        QVERIFY2(editor.message().contains(qt_error_string(EFBIG)), qPrintable(editor.message()));
     }
 #endif
 
