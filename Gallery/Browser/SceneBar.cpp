@@ -8,6 +8,7 @@
 #include <QApplication>
 #include <QHBoxLayout>
 #include <QMenu>
+#include <QStyle>
 #include <QToolButton>
 
 namespace Zelkor::Gallery {
@@ -38,6 +39,15 @@ void Name(QToolButton* button, const QString& text, const QString& toolTip)
 {
     SetTextBesideIcon(button, text);
     button->setToolTip(toolTip);
+}
+
+// Style sheets choose by this property, and match their rules when they polish.
+void SetButtonStyle(QToolButton* button, Qt::ToolButtonStyle style)
+{
+    if (button->toolButtonStyle() == style)
+        return;
+    button->setToolButtonStyle(style);
+    button->style()->polish(button);
 }
 
 } // namespace
@@ -164,13 +174,13 @@ void SceneBar::ShowTexts()
 {
     int wanted = 2 * MARGIN + SPACING * buttons.size();
     for (QToolButton* button : buttons) {
-        button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+        SetButtonStyle(button, Qt::ToolButtonTextBesideIcon);
         wanted += button->sizeHint().width();
     }
     if (wanted <= width())
         return;
     for (QToolButton* button : buttons)
-        button->setToolButtonStyle(Qt::ToolButtonIconOnly);
+        SetButtonStyle(button, Qt::ToolButtonIconOnly);
 }
 
 void SceneBar::resizeEvent(QResizeEvent* event)
