@@ -35,6 +35,8 @@ SaveChangesBar::SaveChangesBar(QWidget* parent)
 void SaveChangesBar::ask(std::function<void()> then)
 {
     next = std::move(then);
+    if (!isAncestorOf(window()->focusWidget()))
+        previousFocus = window()->focusWidget();
     show();
     saveButton->setFocus();
 }
@@ -43,7 +45,7 @@ void SaveChangesBar::ask(std::function<void()> then)
 void SaveChangesBar::proceed()
 {
     const auto action = std::exchange(next, nullptr);
-    hide();
+    leave();
     if (action)
         action();
 }
@@ -51,6 +53,14 @@ void SaveChangesBar::proceed()
 void SaveChangesBar::dismiss()
 {
     next = nullptr;
+    leave();
+}
+
+// Qt would focus the next widget of the Tab order.
+void SaveChangesBar::leave()
+{
+    if (previousFocus && isAncestorOf(window()->focusWidget()))
+        previousFocus->setFocus();
     hide();
 }
 

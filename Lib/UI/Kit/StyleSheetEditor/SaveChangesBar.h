@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QPointer>
 #include <QWidget>
 
 #include <functional>
@@ -22,10 +23,10 @@ public:
     /// is already shown.
     void ask(std::function<void()> then);
 
-    /// Hides the question and calls the pending function.
+    /// Hides the question, restores the focus and calls the pending function.
     void proceed();
 
-    /// Hides the question and drops the pending function.
+    /// Hides the question, restores the focus and drops the pending function.
     void dismiss();
 
 Q_SIGNALS:
@@ -38,8 +39,10 @@ protected:
 
 private:
     void retranslate();
+    void leave();
 
     std::function<void()> next;
+    QPointer<QWidget> previousFocus;
     MessageLabel* question;
     QPushButton* saveButton;
     QPushButton* discardButton;

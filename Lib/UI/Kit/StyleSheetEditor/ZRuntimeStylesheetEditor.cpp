@@ -390,6 +390,8 @@ void ZRuntimeStylesheetEditor::Impl::showFileDialog(QFileDialog::AcceptMode mode
     const bool saves = mode == QFileDialog::AcceptSave;
     connect(dialog, &QFileDialog::fileSelected, window,
             saves ? &ZRuntimeStylesheetEditor::save : &ZRuntimeStylesheetEditor::load);
+    // A window manager may activate another window when a question of the dialog was open just before.
+    connect(dialog, &QFileDialog::finished, window, &QWidget::activateWindow);
     dialog->open();
 }
 

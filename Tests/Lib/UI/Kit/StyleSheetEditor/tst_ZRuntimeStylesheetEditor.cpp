@@ -405,6 +405,7 @@ private Q_SLOTS:
         }
         QTest::mouseClick(ButtonOf(editor, "Discard"), Qt::LeftButton);
         editor.findChild<QFileDialog*>()->reject();
+        QCOMPARE(editor.focusWidget(), editor.findChild<ZCodeEditor*>());
         QVERIFY(editor.isModified());
         QCOMPARE(editor.fileName(), folder.filePath("a.qss"));
     }
