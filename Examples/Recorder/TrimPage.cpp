@@ -79,6 +79,13 @@ TrimPage::TrimPage(QWidget* parent) : QWidget(parent), model(DURATION)
     ShowPosition();
 }
 
+// A thumb ends its drag when it is hidden, which the base class does after the model is destroyed.
+TrimPage::~TrimPage()
+{
+    start->disconnect(this);
+    end->disconnect(this);
+}
+
 QWidget* TrimPage::CreateTimeline()
 {
     timeline = new ZTimelineSlider;

@@ -28,6 +28,7 @@ class TrimPage : public QWidget
 
 public:
     explicit TrimPage(QWidget* parent = nullptr);
+    ~TrimPage() override;
 
 protected:
     void changeEvent(QEvent* event) override;

@@ -73,6 +73,12 @@ private Q_SLOTS:
         QVERIFY2(changedRows > 100, "no panel opened");
     }
 
+    void directionLooksTheSameWhenItChanges()
+    {
+        const QStringList scene = {"--page", "PixmapWidget", "--size", "1300x700", "--after", "100"};
+        QCOMPARE(Shot(scene + QStringList{"--press", "Right to left"}), Shot(scene + QStringList{"--rtl"}));
+    }
+
     void goesOnWithoutADisplayAndALanguage()
     {
 #if defined(Q_OS_WIN)

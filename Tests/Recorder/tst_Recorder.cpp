@@ -226,6 +226,16 @@ private Q_SLOTS:
         QCOMPARE(start->value(), 0);
     }
 
+    void trimmerMayBeDestroyedDuringADrag()
+    {
+        TrimPage page;
+        page.show();
+        ZSliderThumb* start = page.findChild<ZTimelineSlider*>("timeline")->thumb("left");
+        QTest::mousePress(start, Qt::LeftButton);
+        Support::MoveMouse(start, QPoint(60, 5));
+        QVERIFY(page.findChild<ZTimelineSlider*>("timeline")->isSliderDown());
+    }
+
     void keyboardTrimsCutsAndUndoes()
     {
         TrimPage page;

@@ -1,5 +1,6 @@
 #include <UI/Kit/ZStyleSheet.h>
 
+#include <UI/Common/MirroredStyle.h>
 #include <UI/Kit/StyleSheetEditor/StyleSheetFile.h>
 
 #include <QApplication>
@@ -99,6 +100,7 @@ void ZStyleSheet::apply() const
     currentIconFolder = QDir(iconFolder).absolutePath();
     QDir::setSearchPaths(SEARCH_PATH, {currentIconFolder});
     ++appliedSheets;
+    Zelkor::Vx::UI::Common::FollowLayoutDirection();
     QApplication::setStyle(QStyleFactory::create("Fusion"));
     qApp->setStyleSheet(WithoutFilesOfCurrentFolder(text));
 }
