@@ -9,6 +9,7 @@
 #include <QImage>
 #include <QStringList>
 
+#include <atomic>
 #include <chrono>
 #include <condition_variable>
 #include <functional>
@@ -18,14 +19,14 @@ namespace Support {
 
 using namespace Zelkor;
 
-/// Writes down what a session tells.
-class SessionRecorder : public Acquis::ICaptureSessionObserver
+/// Records the observer calls of a session.
+class ObserverSpy : public Acquis::ICaptureSessionObserver
 {
 public:
-    /// Called from within each observer call, after that was written down. There is no session in `handleStopped`.
+    /// Called within each observer call, after it was recorded. `session` is null in `handleStopped`.
     std::function<void(const QString& call, Acquis::ICaptureSession* session)> onCall = [](auto&, auto*) {};
 
-    /// "started", "error 1", "stopped", in order, and "overlap" before one that came while another was running.
+    /// "started", "error 1" or "stopped" for each call, with the prefix "overlapping" if another call was running.
     QStringList Calls() const
     {
         const std::lock_guard<std::mutex> lock(mutex);
@@ -38,6 +39,10 @@ public:
         return changed.wait_for(lock, std::chrono::seconds(20), [&] { return calls == expected; });
     }
 
+    // The arguments of "started". Wait for that call before you use them.
+    std::int64_t startTime = 0;
+    boost::intrusive_ptr<Acquis::IFrameProvider> provider;
+
     boost::intrusive_ptr<Acquis::ICaptureOutput> CreateOutput() const
     {
         boost::intrusive_ptr<Acquis::ICaptureOutput> output;
@@ -45,46 +50,40 @@ public:
         return output;
     }
 
-    // What came with "started". To be read when that has been waited for.
-    std::int64_t startTime = 0;
-    boost::intrusive_ptr<Acquis::IFrameProvider> provider;
-
     void handleStarted(Acquis::ICaptureSession& session, std::int64_t time,
                        const boost::intrusive_ptr<Acquis::IFrameProvider>& newProvider) override
     {
         startTime = time;
         provider = newProvider;
-        Note(QStringLiteral("started"), &session);
+        Record(QStringLiteral("started"), &session);
     }
 
     void handleError(Acquis::ICaptureSession& session, int code) override
     {
-        Note(QStringLiteral("error %1").arg(code), &session);
+        Record(QStringLiteral("error %1").arg(code), &session);
     }
 
-    void handleStopped() override { Note(QStringLiteral("stopped"), nullptr); }
+    void handleStopped() override { Record(QStringLiteral("stopped"), nullptr); }
 
 private:
-    void Note(const QString& call, Acquis::ICaptureSession* session)
+    void Record(const QString& call, Acquis::ICaptureSession* session)
     {
-        std::unique_lock<std::mutex> lock(mutex);
-        if (running++ > 0)
-            calls += QStringLiteral("overlap");
-        calls += call;
-        lock.unlock();
+        {
+            const std::lock_guard<std::mutex> lock(mutex);
+            calls += running++ > 0 ? "overlapping " + call : call;
+        }
         changed.notify_all();
         onCall(call, session);
-        lock.lock();
         --running;
     }
 
-    mutable std::mutex mutex; ///< guards all that follows
+    mutable std::mutex mutex; ///< guards `calls`
     mutable std::condition_variable changed;
     QStringList calls;
-    int running = 0;
+    std::atomic<int> running{0};
 };
 
-/// A stopped session of the engine for a device in one of its modes.
+/// Creates a session that captures a device in one of its modes.
 inline boost::intrusive_ptr<Acquis::ICaptureSession>
 CreateSession(const boost::intrusive_ptr<StandIn::CaptureDevice>& device, std::size_t mode = 0,
               const std::shared_ptr<const Time::IChronometer>& chronometer = nullptr)
@@ -95,11 +94,11 @@ CreateSession(const boost::intrusive_ptr<StandIn::CaptureDevice>& device, std::s
     return session;
 }
 
-inline std::shared_ptr<SessionRecorder> Start(const boost::intrusive_ptr<Acquis::ICaptureSession>& session)
+inline std::shared_ptr<ObserverSpy> Start(const boost::intrusive_ptr<Acquis::ICaptureSession>& session)
 {
-    const auto recorder = std::make_shared<SessionRecorder>();
-    session->Start(recorder);
-    return recorder;
+    const auto observer = std::make_shared<ObserverSpy>();
+    session->Start(observer);
+    return observer;
 }
 
 inline boost::intrusive_ptr<StandIn::VideoFrame> ReadFrame(Acquis::ICaptureOutput& output)
@@ -109,7 +108,7 @@ inline boost::intrusive_ptr<StandIn::VideoFrame> ReadFrame(Acquis::ICaptureOutpu
     return dynamic_cast<StandIn::VideoFrame*>(frame.get());
 }
 
-/// What the frame shows.
+/// Returns the picture of a frame in any format.
 inline QImage ImageOf(boost::intrusive_ptr<Proc::IDataVideo> frame)
 {
     boost::intrusive_ptr<Proc::IEffect> converter;
