@@ -6,7 +6,7 @@ vx_test(Host/tst_TestPicture.cpp LABELS threads)
 vx_test(Host/tst_AudioLevelSource.cpp LABELS threads)
 
 if(VX_WITH_GSTREAMER AND VX_GSTREAMER_FOUND)
-  # The modes of a camera are worked out inside the host, so this test has that part itself.
+  # The host does not export these sources, so the test compiles them.
   find_package(PkgConfig REQUIRED)
   pkg_check_modules(VX_TEST_GSTREAMER REQUIRED IMPORTED_TARGET gstreamer-1.0 gstreamer-video-1.0)
   set(host_gstreamer ${PROJECT_SOURCE_DIR}/Host/StandIn/GStreamer)

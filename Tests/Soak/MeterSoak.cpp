@@ -1,5 +1,5 @@
-// Feeds a visible level meter a hundred times a second. The first argument is the number of seconds. Fails when memory
-// or processor time grow after the first third.
+// Updates a visible level meter 100 times per second. Fails when memory or CPU time per second grow after the first
+// third of the run. The first argument is the length of the run in seconds.
 
 #include "ProcessUse.h"
 
@@ -28,7 +28,7 @@ int main(int argc, char* argv[])
                      [&] { slider.SetVolumes(0.8F, float(std::abs(std::sin(++step * 0.11)))); });
     feed.start(10);
 
-    // Per second, of the first third and of the rest.
+    // In the first third and in the rest.
     double peakMemory[2] = {0, 0};
     double processor[2] = {0, 0};
     int counted[2] = {0, 0};
@@ -38,7 +38,7 @@ int main(int argc, char* argv[])
     QObject::connect(&watch, &QTimer::timeout, &slider, [&] {
         const double now = Support::ProcessorSeconds();
         const int part = 3 * second < seconds ? 0 : 1;
-        if (second > 0) { // the first one has the start in it
+        if (second > 0) { // without the start-up
             processor[part] += now - last;
             ++counted[part];
         }
@@ -57,6 +57,6 @@ int main(int argc, char* argv[])
     const double late = processor[1] / counted[1];
     std::printf("%d levels; memory %.1f MB, then %.1f MB; processor %.2f %%, then %.2f %%\n", step, peakMemory[0],
                 peakMemory[1], 100 * early, 100 * late);
-    // Timers are late on a busy machine, but levels must have come; the clock's own grain is a percent.
+    // On a busy machine timers are late. The resolution of the clock is a percent.
     return step > seconds * 20 && peakMemory[1] <= peakMemory[0] + 1 && late <= 1.5 * early + 0.01 ? 0 : 1;
 }

@@ -13,14 +13,14 @@
 #include <cstddef>
 
 #if defined(__SANITIZE_ADDRESS__)
-// The compiler ships the function without its header.
+// Declared here because GCC does not ship the header.
 extern "C" std::size_t __sanitizer_get_current_allocated_bytes();
 #endif
 
 namespace Support {
 
-/// Megabytes that this process has in memory; under the address sanitizer, which holds on to what was freed, those that
-/// are in use.
+/// Returns the resident memory of this process in megabytes. Under AddressSanitizer, which delays deallocation, returns
+/// the allocated memory.
 inline double Resident()
 {
 #if defined(__SANITIZE_ADDRESS__)
@@ -37,11 +37,11 @@ inline double Resident()
 #endif
 }
 
-/// Seconds of processor time that this process has taken.
+/// Returns the CPU time of this process in seconds.
 inline double ProcessorSeconds()
 {
 #if defined(Q_OS_WIN)
-    // clock() tells the time of day here.
+    // clock() returns wall-clock time on Windows.
     FILETIME created, ended, kernel, user;
     GetProcessTimes(GetCurrentProcess(), &created, &ended, &kernel, &user);
     const auto seconds = [](const FILETIME& time) {

@@ -1,5 +1,5 @@
-// Runs the live picture at 60 frames a second, with a stop and a start every second, and watches the memory. The first
-// argument is the number of seconds. Fails when the memory grows after the first third.
+// Shows the test picture at 60 frames per second and restarts the stream every second. Fails when memory grows after
+// the first third of the run. The first argument is the length of the run in seconds.
 
 #include "ProcessUse.h"
 
@@ -24,7 +24,7 @@ int main(int argc, char* argv[])
     Support::PrepareProcess(argv[0]);
     QApplication application(argc, argv);
 #if defined(__GLIBC__)
-    // Frames go back to the system when they are freed. Otherwise this allocator keeps some, now these and now those.
+    // Returns frames to the system when they are freed. Otherwise the allocator keeps a varying number of them.
     mallopt(M_MMAP_THRESHOLD, 128 * 1024);
 #endif
     const int seconds = argc > 1 ? std::max(3, std::atoi(argv[1])) : 10;
@@ -59,13 +59,13 @@ int main(int argc, char* argv[])
     restart();
     QApplication::exec();
 
-    delete preview; // while it runs
+    delete preview; // while the stream runs
     if (!Zelkor::StandIn::WaitForEngineIdle(std::chrono::seconds(10))) {
-        std::printf("the engine still has threads\n");
+        std::printf("threads of the engine are still running\n");
         return 1;
     }
-    // Every mode was there in the first third, so what comes later is growth. The allocator has its ups and downs, and
-    // at the moment of a measurement there is now one picture more, now one less.
+    // The first third covers every mode. The tolerance is for the allocator, and for one picture more or less at the
+    // time of a measurement.
     constexpr double TOLERANCE = 1.1;
     constexpr double LARGEST_PICTURE = 1920 * 1080 * 4 / 1e6;
     std::printf("peak %.1f MB, then %.1f MB\n", early, late);

@@ -9,17 +9,17 @@
 
 namespace Support {
 
-/// Collects the log lines that are written while it lives, from any thread.
+/// Collects the log lines of all threads during its lifetime.
 class LogCapture : private google::LogSink
 {
 public:
     LogCapture();
     ~LogCapture() override;
 
-    /// "E Lib/UI/Widgets/ColorButton:12 text": severity letter, file, line and text of each line, in order.
+    /// Returns the lines in order, as severity, file, line and text: "E Lib/UI/Widgets/ColorButton:12 text".
     QStringList Lines() const;
 
-    /// Takes the lines seen so far.
+    /// Returns the lines and removes them.
     QStringList Take();
 
 private:

@@ -70,20 +70,20 @@ void ScriptedSession::GetDeviceSettings(std::vector<boost::intrusive_ptr<Acquis:
 
 void ScriptedSession::ReportStarted(const boost::intrusive_ptr<ScriptedReader>& reader)
 {
-    if (const auto told = Observer())
-        told->handleStarted(*this, 0, reader);
+    if (const auto current = Observer())
+        current->handleStarted(*this, 0, reader);
 }
 
 void ScriptedSession::ReportError(int code)
 {
-    if (const auto told = Observer())
-        told->handleError(*this, code);
+    if (const auto current = Observer())
+        current->handleError(*this, code);
 }
 
 void ScriptedSession::ReportStopped()
 {
-    if (const auto told = Observer())
-        told->handleStopped();
+    if (const auto current = Observer())
+        current->handleStopped();
 }
 
 std::shared_ptr<Acquis::ICaptureSessionObserver> ScriptedSession::Observer() const

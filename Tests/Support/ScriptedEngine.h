@@ -12,7 +12,7 @@ namespace Support {
 
 using namespace Zelkor;
 
-/// A mode with the rates it is told to have, which remembers the rate it was set to.
+/// A mode with the given rates, which records the rate that is set.
 class ScriptedMode : public RefCounted<Acquis::IVideoCaptureSettings>
 {
 public:
@@ -30,20 +30,21 @@ public:
     Acquis::Rational chosen{-1, 1};
 };
 
+/// A device of no real engine, with scripted modes.
 class ScriptedDevice : public RefCounted<Acquis::ICaptureDevice>
 {
 public:
     void GetSettings(std::vector<boost::intrusive_ptr<Acquis::ICaptureSettings>>& list, unsigned) const override;
 
     std::vector<boost::intrusive_ptr<Acquis::ICaptureSettings>> modes;
-    bool deniesItsModes = false; ///< lists them once, and then no more
+    bool deniesItsModes = false; ///< lists its modes on the first request only
     mutable int timesAsked = 0;
 };
 
-/// A device with one mode of one rate.
+/// Creates a device with the mode "only" in one rate.
 boost::intrusive_ptr<ScriptedDevice> OrdinaryDevice(int rate = 100);
 
-/// Output and reader in one, which reads whatever the engine's script says.
+/// A provider, output and reader in one, which reads the frames of the script.
 class ScriptedReader : public RefCounted<Acquis::IFrameProvider, Acquis::ICaptureOutput, Acquis::IFrameReader>
 {
 public:
@@ -56,7 +57,7 @@ public:
     boost::intrusive_ptr<Acquis::IFrameReader> GetFrameReader() override { return this; }
     void ReadLatestFrame(boost::intrusive_ptr<Proc::IDataVideo>& frame) override;
 
-    std::function<void()> onOutput; ///< what happens when an output is asked for
+    std::function<void()> onOutput; ///< called when an output is requested
     std::atomic<int> reads{0};
     std::string outputName;
     boost::intrusive_ptr<Acquis::TimeShift> shift;
@@ -67,7 +68,7 @@ private:
 
 class ScriptedEngine;
 
-/// A session that does what the engine's script says and reports what it is told to.
+/// A session that follows the script of its engine.
 class ScriptedSession : public RefCounted<Acquis::ICaptureSession>
 {
 public:
@@ -78,7 +79,7 @@ public:
     void Stop() override;
     void GetDeviceSettings(std::vector<boost::intrusive_ptr<Acquis::IDeviceSettings>>& handles) const override;
 
-    // Reports on the calling thread, however late it may be.
+    // Call the last observer on the calling thread, even after the session has ended.
     void ReportStarted(const boost::intrusive_ptr<ScriptedReader>& reader);
     void ReportError(int code);
     void ReportStopped();
@@ -91,7 +92,7 @@ private:
     std::shared_ptr<Acquis::ICaptureSessionObserver> observer;
 };
 
-/// A capture engine for faults. While it lives, it is the one that the library gets.
+/// Replaces the capture engine during its lifetime, to simulate faults.
 class ScriptedEngine
 {
 public:
@@ -100,11 +101,11 @@ public:
     ScriptedEngine();
     ~ScriptedEngine();
 
-    /// Runs `work` on an engine thread, which is joined when the engine dies or `Join` is called.
+    /// Runs `work` on an engine thread, which `Join` and the destructor join.
     void OnThread(std::function<void()> work);
     void Join();
 
-    // The script: what happens inside Start and Stop of a session. Start defaults to nothing, Stop to ReportStopped.
+    // Called in Start and Stop of a session. By default Start does nothing and Stop calls ReportStopped.
     std::function<void(const Session&)> onStart;
     std::function<void(const Session&)> onStop;
     bool refusesSessions = false;
