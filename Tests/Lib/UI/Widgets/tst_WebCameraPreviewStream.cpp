@@ -12,61 +12,51 @@
 #include <QSemaphore>
 #include <QSignalSpy>
 
-#include <cmath>
-
 using namespace Support;
 using Vx::WebCameraPreviewStream;
 using Vx::UI::VideoPreviewWidget;
 
+using Rates = std::vector<Acquis::Rational>;
+Q_DECLARE_METATYPE(Rates)
+
 namespace {
 
-const QColor PLACEHOLDER(200, 30, 40);
+const QColor DEFAULT_COLOR(200, 30, 40);
+const QString LOG_PREFIX("E Lib/UI/Widgets/WebCameraPreviewStream:%1 Zelkor::Vx::WebCameraPreviewStream::Impl::%2");
 
 boost::intrusive_ptr<ScriptedReader> ReaderOf(const QColor& color)
 {
     return new ScriptedReader([frame = SolidFrame({64, 48}, color)] { return frame; });
 }
 
-// A scripted engine, a shown preview with a red default image, a stream on it, and a reader of green frames.
-struct Scene
+// A stream on a scripted engine with a reader of green frames, and its preview.
+struct Stream
 {
-    Scene() : preview(new VideoPreviewWidget(nullptr)), stream(new WebCameraPreviewStream(preview.get()))
+    Stream() : preview(new VideoPreviewWidget(nullptr)), stream(new WebCameraPreviewStream(preview.get()))
     {
         preview->SetPreviewWidth(64);
         preview->SetPreviewHeight(48);
         QImage image(64, 48, QImage::Format_RGB32);
-        image.fill(PLACEHOLDER);
+        image.fill(DEFAULT_COLOR);
         preview->SetDefaultImage(image);
-        preview->show();
     }
-
-    void SetDevice(int rate = 100) const { stream->SetDevice(OrdinaryDevice(rate), "only", rate); }
 
     void Run(int rate = 100) const
     {
-        SetDevice(rate);
+        stream->SetDevice(OrdinaryDevice(rate), "only", rate);
         stream->StartStream();
     }
 
-    // Each start is answered on a thread of the engine.
-    void AnswerWith(std::function<void(const ScriptedEngine::Session&)> answer)
-    {
-        engine.onStart = [=](const auto& session) { engine.OnThread([=] { answer(session); }); };
-    }
-
-    QColor Centre() const { return preview->grab().toImage().pixelColor(32, 24); }
+    QColor Color() const { return preview->grab().toImage().pixelColor(32, 24); }
 
     ScriptedEngine engine;
     std::unique_ptr<VideoPreviewWidget> preview;
     QPointer<WebCameraPreviewStream> stream;
     boost::intrusive_ptr<ScriptedReader> reader = ReaderOf(Qt::green);
+    QSignalSpy failed{stream, &WebCameraPreviewStream::WebCameraOpenError};
 };
 
-const QString ERROR_LINE("E Lib/UI/Widgets/WebCameraPreviewStream:212"
-                         " Zelkor::Vx::WebCameraPreviewStream::Impl::handleError:"
-                         " Cannot create preview stream. Error code: %1");
-
-// A frame whose conversion takes a while; counts how often the preview asks for it.
+// A frame whose conversion takes 40 ms.
 class SlowFrame : public RefCounted<Proc::IDataVideo>
 {
 public:
@@ -82,19 +72,13 @@ public:
 
 constexpr char LEAK_OPTION[] = "--leak";
 
-// Leaks a preview that runs, and gives its thread time to use what is gone at the end of the program.
-void LeakRunningPreview()
+// Leaks a running stream, whose thread must not use the preview after the application object.
+void LeakRunningStream()
 {
-    static auto* engine = new ScriptedEngine;
-    static auto* preview = new VideoPreviewWidget(nullptr);
-    static auto* stream = new WebCameraPreviewStream(preview);
-    preview->SetPreviewWidth(64);
-    preview->SetPreviewHeight(48);
-    const boost::intrusive_ptr<ScriptedReader> reader(new ScriptedReader([] { return GreyFrame({64, 48}, 100); }));
-    engine->onStart = [=](const auto& session) { session->ReportStarted(reader); };
-    stream->SetDevice(OrdinaryDevice(1000), "only", 1000);
-    stream->StartStream();
-    QTRY_VERIFY(reader->reads >= 5);
+    static auto* leaked = new Stream;
+    leaked->engine.onStart = [](const auto& session) { session->ReportStarted(leaked->reader); };
+    leaked->Run(1000);
+    QTRY_VERIFY(leaked->reader->reads >= 5);
     std::atexit([] { std::this_thread::sleep_for(std::chrono::milliseconds(100)); });
 }
 
@@ -105,160 +89,158 @@ class tst_WebCameraPreviewStream : public Support::TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void choosesModeAndRate()
+    void modeAndRateAreChosen_data()
     {
-        using Rates = std::vector<Acquis::Rational>;
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<double>("rate");
+        QTest::addColumn<Rates>("rates");
+        QTest::addColumn<int>("chosenMode"); ///< of "A", "B" and "A"; -1 for none
+        QTest::addColumn<double>("chosenRate");
+        QTest::addColumn<int>("logLines");
         const Rates usual{{15, 1}, {25, 1}, {30000, 1001}};
-        // What is asked for and the rates of each mode; then the mode and the rate that are chosen.
-        using Row = std::tuple<QString, QString, double, Rates, int, double>;
-        const std::vector<Row> rows{
-            {"by name and rate", "B", 25.0, usual, 1, 25.0},
-            {"two of a name: the first", "A", 15.0, usual, 0, 15.0},
-            {"unknown name: the first; inexact rate: the last", "C", 30.0, usual, 0, 30000 / 1001.0},
-            {"bad: not a number: the last", "A", std::nan(""), usual, 0, 30000 / 1001.0},
-            {"bad: zero denominator is passed over", "A", 0.0, {{24, 1}, {0, 0}, {30, -1}}, 0, 24.0},
-            {"bad: below one is passed over", "A", 0.5, {{10, 1}, {1, 2}}, 0, 10.0},
-            {"bad: nothing usable", "A", 0.5, {{1, 2}, {0, 0}, {-30, 1}}, -1, 0.0},
-            {"bad: no rates", "A", 30.0, {}, -1, 0.0},
-        };
-        for (const auto& [description, name, rate, rates, mode, chosen] : rows) {
-            InRow(description);
-            LogCapture log;
-            Scene scene;
-            boost::intrusive_ptr<ScriptedDevice> device(new ScriptedDevice);
-            for (const char* modeName : {"A", "B", "A"})
-                device->modes.emplace_back(new ScriptedMode(modeName, rates));
-            scene.stream->SetDevice(device, name, rate);
-            for (int i = 0; i < 3; ++i) {
-                const Acquis::Rational& set = dynamic_cast<const ScriptedMode&>(*device->modes[i]).chosen;
-                QCOMPARE(double(set.numerator) / set.denominator, i == mode ? chosen : -1.0);
-            }
-            QCOMPARE(log.Lines().size(), description.startsWith("bad") ? 1 : 0);
-            QCOMPARE(scene.engine.starts.load(), 0);
-            scene.stream->StartStream();
-            QCOMPARE(scene.engine.starts.load(), mode < 0 ? 0 : 1);
-        }
+        QTest::newRow("by name and rate") << "B" << 25.0 << usual << 1 << 25.0 << 0;
+        QTest::newRow("first of two") << "A" << 15.0 << usual << 0 << 15.0 << 0;
+        QTest::newRow("unknown name and rate") << "C" << 30.0 << usual << 0 << 30000 / 1001.0 << 0;
+        QTest::newRow("zero denominator") << "A" << 24.0 << Rates{{24, 1}, {0, 0}, {30, -1}} << 0 << 24.0 << 1;
+        QTest::newRow("below one") << "A" << 0.5 << Rates{{10, 1}, {1, 2}} << 0 << 10.0 << 1;
+        QTest::newRow("nothing usable") << "A" << 30.0 << Rates{{1, 2}, {-30, 1}} << -1 << 0.0 << 1;
     }
 
-    void devicesThatCannotBeUsed()
+    void modeAndRateAreChosen()
     {
+        QFETCH(QString, name);
+        QFETCH(double, rate);
+        QFETCH(Rates, rates);
+        QFETCH(int, chosenMode);
+        QFETCH(double, chosenRate);
         LogCapture log;
-        Scene scene;
-        scene.stream->SetDevice(new ScriptedDevice, "A", 30); // no modes at all
-        QCOMPARE(log.Take().size(), 1);
-        const auto device = OrdinaryDevice(); // one whose modes do not belong to it
-        device->deniesItsModes = true;
-        QVERIFY_EXCEPTION_THROWN(scene.stream->SetDevice(device, "only", 30), std::logic_error);
-        scene.engine.refusesSessions = true;
-        scene.Run();
-        scene.stream->SetDevice(nullptr, "only", 30);
-        scene.stream->StartStream();
-        QCOMPARE(scene.engine.starts.load(), 0);
-        QCOMPARE(log.Take(), QStringList());
+        Stream fixture;
+        boost::intrusive_ptr<ScriptedDevice> device(new ScriptedDevice);
+        for (const char* modeName : {"A", "B", "A"})
+            device->modes.emplace_back(new ScriptedMode(modeName, rates));
+        fixture.stream->SetDevice(device, name, rate);
+        for (int i = 0; i < 3; ++i) {
+            const Acquis::Rational& set = dynamic_cast<const ScriptedMode&>(*device->modes[i]).chosen;
+            QCOMPARE(double(set.numerator) / set.denominator, i == chosenMode ? chosenRate : -1.0);
+        }
+        QTEST(log.Lines().size(), "logLines");
+        fixture.stream->StartStream();
+        QCOMPARE(fixture.engine.starts.load(), chosenMode < 0 ? 0 : 1);
     }
 
-    void settingsDialogOfTheDevice()
+    void incompatibleDeviceThrows()
+    {
+        Stream fixture;
+        const auto device = OrdinaryDevice();
+        device->deniesItsModes = true;
+        QVERIFY_EXCEPTION_THROWN(fixture.stream->SetDevice(device, "only", 30), std::logic_error);
+        fixture.engine.refusesSessions = true;
+        fixture.Run();
+        fixture.stream->SetDevice(nullptr, "only", 30);
+        fixture.stream->StartStream();
+        QCOMPARE(fixture.engine.starts.load(), 0);
+    }
+
+    void settingsDialogIsThatOfTheFirstDevice()
     {
         struct Dialog : RefCounted<Acquis::IDeviceSettings>
         {
             void ShowSettingsDialog() override { ++shown; }
             int shown = 0;
         };
-        Scene scene;
+        Stream fixture;
         boost::intrusive_ptr<Dialog> first(new Dialog);
-        scene.engine.deviceSettings = {first, new Dialog};
-        scene.SetDevice();
-        scene.stream->ShowCurrentDeviceSettings();
-        QVERIFY(scene.stream->IsWebcameraSettingsAvailable() && first->shown == 1);
-        scene.stream->SetDevice(nullptr, "only", 30);
-        scene.stream->ShowCurrentDeviceSettings();
-        QVERIFY(!scene.stream->IsWebcameraSettingsAvailable() && first->shown == 1);
+        fixture.engine.deviceSettings = {first, new Dialog};
+        fixture.Run();
+        QVERIFY(fixture.stream->IsWebcameraSettingsAvailable());
+        fixture.stream->ShowCurrentDeviceSettings();
+        fixture.stream->SetDevice(nullptr, "only", 30);
+        QVERIFY(!fixture.stream->IsWebcameraSettingsAvailable());
+        fixture.stream->ShowCurrentDeviceSettings();
+        QCOMPARE(first->shown, 1);
     }
 
-    void pictureRunsAfterTwoErrorsStopsAndRunsAgain()
+    void streamRetriesRunsAndStops()
     {
-        Scene scene;
-        QSignalSpy failed(scene.stream, &WebCameraPreviewStream::WebCameraOpenError);
+        Stream fixture;
         ScriptedEngine::Session running;
         QElapsedTimer timer;
-        scene.AnswerWith([&](const auto& session) {
+        fixture.engine.onStart = [&](const auto& session) {
             running = session;
             timer.start();
-            if (scene.engine.starts < 3)
-                session->ReportError(1);
-            else
-                session->ReportStarted(scene.reader);
-        });
-        scene.stream->StartStream();
-        scene.Run();
-        QTRY_COMPARE(scene.Centre(), QColor(Qt::green));
-        // The schedule is absolute: never more ticks than periods, and late ones are made up for.
-        QTRY_VERIFY(scene.reader->reads >= 20);
+            fixture.engine.OnThread([&, session] {
+                if (fixture.engine.starts < 3)
+                    session->ReportError(1);
+                else
+                    session->ReportStarted(fixture.reader);
+            });
+        };
+        fixture.Run();
+        // The schedule is absolute: never more reads than periods, and late ones are made up for.
+        QTRY_VERIFY(fixture.reader->reads >= 20);
         QVERIFY(timer.elapsed() >= 20 * 10);
-        QCOMPARE(scene.reader->outputName, std::string("WebCameraPreview"));
-        QCOMPARE(scene.reader->shift->MapTime(-12345), std::int64_t(-12345));
-
-        // The session ends by itself: it is kept and can be started again.
-        running->ReportStopped();
-        QCOMPARE(scene.Centre(), PLACEHOLDER);
-        scene.stream->StartStream();
-        QTRY_COMPARE(scene.Centre(), QColor(Qt::green));
-
-        scene.stream->StopStream();
-        const int reads = scene.reader->reads;
-        scene.stream->StartStream();
-        QCOMPARE(scene.Centre(), PLACEHOLDER);
-        QVERIFY(scene.engine.starts == 4 && scene.engine.stops == 1 && scene.reader->reads == reads);
-        QCOMPARE(failed.size(), 0);
+        QCOMPARE(fixture.Color(), QColor(Qt::green));
+        QCOMPARE(fixture.reader->outputName, std::string("WebCameraPreview"));
+        QCOMPARE(fixture.reader->shift->MapTime(-12345), std::int64_t(-12345));
+        running->ReportStopped(); // the session can be started again
+        QCOMPARE(fixture.Color(), DEFAULT_COLOR);
+        fixture.stream->StartStream();
+        QTRY_COMPARE(fixture.Color(), QColor(Qt::green));
+        fixture.stream->StopStream();
+        const int reads = fixture.reader->reads;
+        fixture.stream->StartStream();
+        QCOMPARE(fixture.Color(), DEFAULT_COLOR);
+        QCOMPARE(fixture.engine.starts.load(), 4);
+        QCOMPARE(fixture.reader->reads.load(), reads);
+        QCOMPARE(fixture.failed.size(), 0);
         running = nullptr;
-        QCOMPARE(scene.engine.alive.load(), 0);
+        QCOMPARE(fixture.engine.alive.load(), 0);
     }
 
-    void sevenErrorsGiveOneSignal()
+    void sevenErrorsEmitOneSignal_data()
     {
-        // Threads that report, none for inside the start, and how often each does.
-        for (const auto& [threads, errors] : {std::pair(0, 1), std::pair(1, 1), std::pair(4, 25)}) {
-            InRow(QString("%1 threads").arg(threads));
-            LogCapture log;
-            Scene scene;
-            const EventSwallower swallower;
-            QSignalSpy failed(scene.stream, &WebCameraPreviewStream::WebCameraOpenError);
-            const auto isOnGuiThread = [] { QCOMPARE(QThread::currentThread(), qApp->thread()); };
-            connect(scene.stream, &WebCameraPreviewStream::WebCameraOpenError, isOnGuiThread);
-            scene.engine.onStart = [&, threads = threads, errors = errors](const auto& session) {
-                const auto report = [=] {
-                    for (int i = 0; i < errors; ++i)
-                        session->ReportError(5);
-                };
-                if (threads == 0)
-                    report();
-                for (int i = 0; i < threads; ++i)
-                    scene.engine.OnThread(report);
-            };
-            scene.SetDevice();
-            for (int round = 1; round <= 2; ++round) {
-                QElapsedTimer timer;
-                timer.start();
-                scene.stream->StartStream();
-                QTRY_COMPARE_WITH_TIMEOUT(failed.size(), round, 20000);
-                QVERIFY(timer.elapsed() >= 7 * 200);
-                scene.engine.Join();
-                QCOMPARE(scene.engine.starts.load(), 7 * round);
-                const QVector<QString> lines(7 * qMax(1, threads) * errors, ERROR_LINE.arg(5));
-                QCOMPARE(log.Take(), QStringList(lines.toList()));
-            }
+        QTest::addColumn<int>("threads");
+        QTest::newRow("during the start") << 0;
+        QTest::newRow("from four threads") << 4;
+    }
+
+    void sevenErrorsEmitOneSignal()
+    {
+        QFETCH(int, threads);
+        LogCapture log;
+        Stream fixture;
+        const EventSwallower swallower;
+        connect(fixture.stream, &WebCameraPreviewStream::WebCameraOpenError,
+                [] { QCOMPARE(QThread::currentThread(), qApp->thread()); });
+        fixture.engine.onStart = [&](const auto& session) {
+            if (threads == 0)
+                session->ReportError(5);
+            for (int i = 0; i < threads; ++i)
+                fixture.engine.OnThread([=] { session->ReportError(5); });
+        };
+        fixture.stream->SetDevice(OrdinaryDevice(), "only", 100);
+        for (int round = 1; round <= 2; ++round) {
+            QElapsedTimer timer;
+            timer.start();
+            fixture.stream->StartStream();
+            QTRY_COMPARE_WITH_TIMEOUT(fixture.failed.size(), round, 20000);
+            QVERIFY(timer.elapsed() >= 7 * 200);
+            fixture.engine.Join();
+            QCOMPARE(fixture.engine.starts.load(), 7 * round);
+            const QString line = LOG_PREFIX.arg("212", "handleError: Cannot create preview stream. Error code: 5");
+            QCOMPARE(log.Take().count(line), 7 * qMax(1, threads));
         }
     }
 
-    // In the event loop or on a thread, an exception would end the program.
+    // Uncaught, an exception would end the program in the event loop or on a thread.
     void exceptionOfTheEngineFailsTheStart_data()
     {
         QTest::addColumn<int>("times");
         QTest::addColumn<QString>("line");
-        QTest::newRow("settings") << 6 << "150 %1BuildSession: Incompatible device and settings";
-        QTest::newRow("start") << 6 << "158 %1StartSession: start";
-        QTest::newRow("output") << 7 << "196 %1handleStarted: output";
-        QTest::newRow("frame") << 7 << "219 %1HandleBrokenPump: frame";
+        QTest::newRow("settings") << 6 << LOG_PREFIX.arg("150", "BuildSession: Incompatible device and settings");
+        QTest::newRow("start") << 6 << LOG_PREFIX.arg("158", "StartSession: start");
+        QTest::newRow("output") << 7 << LOG_PREFIX.arg("196", "handleStarted: output");
+        QTest::newRow("frame") << 7 << LOG_PREFIX.arg("219", "HandleBrokenPump: frame");
     }
 
     void exceptionOfTheEngineFailsTheStart()
@@ -267,214 +249,171 @@ private Q_SLOTS:
         QFETCH(QString, line);
         const QString thrower = QTest::currentDataTag();
         LogCapture log;
-        Scene scene;
-        QSignalSpy failed(scene.stream, &WebCameraPreviewStream::WebCameraOpenError);
+        Stream fixture;
         const auto device = OrdinaryDevice();
-        const auto throwIf = [&](const char* place) {
+        const auto throwIn = [&](const char* place) {
             if (thrower == place)
                 throw std::runtime_error(place);
         };
-        scene.reader.reset(new ScriptedReader([&] {
-            throwIf("frame");
+        fixture.reader.reset(new ScriptedReader([&] {
+            throwIn("frame");
             return nullptr;
         }));
-        scene.reader->onOutput = [&] { throwIf("output"); };
-        scene.engine.onStart = [&](const auto& session) {
+        fixture.reader->onOutput = [&] { throwIn("output"); };
+        fixture.engine.onStart = [&](const auto& session) {
             device->deniesItsModes = thrower == "settings";
-            if (scene.engine.starts > 1)
-                throwIf("start");
+            if (fixture.engine.starts > 1)
+                throwIn("start");
             if (thrower == "start" || thrower == "settings")
                 session->ReportError(1);
             else
-                session->ReportStarted(scene.reader);
+                session->ReportStarted(fixture.reader);
         };
-        scene.stream->SetDevice(device, "only", 100);
-        scene.stream->StartStream();
-        QTRY_COMPARE_WITH_TIMEOUT(failed.size(), 1, 20000);
-        const QString text =
-            "E Lib/UI/Widgets/WebCameraPreviewStream:" + line.arg("Zelkor::Vx::WebCameraPreviewStream::Impl::");
-        QCOMPARE(log.Lines().count(text), times);
-    }
-
-    void exceptionOfAStopIsLogged()
-    {
-        LogCapture log;
-        Scene scene;
-        scene.engine.onStop = [](const auto&) { throw std::runtime_error("stop"); };
-        scene.Run();
-        scene.preview.reset();
-        QCOMPARE(log.Lines(), QStringList("E Lib/UI/Widgets/WebCameraPreviewStream:133"
-                                          " Zelkor::Vx::WebCameraPreviewStream::Impl::Stop: stop"));
+        fixture.engine.onStop = [](const auto&) { throw std::runtime_error("stop"); };
+        fixture.stream->SetDevice(device, "only", 100);
+        fixture.stream->StartStream();
+        QTRY_COMPARE_WITH_TIMEOUT(fixture.failed.size(), 1, 20000);
+        QCOMPARE(log.Take().count(line), times);
+        if (thrower == "start") {
+            fixture.preview.reset();
+            QCOMPARE(log.Lines(), QStringList(LOG_PREFIX.arg("133", "Stop: stop")));
+        }
     }
 
     void frameIsConvertedOnceUntilThePreviewChanges()
     {
         LogCapture log;
-        Scene scene;
+        Stream fixture;
         const boost::intrusive_ptr<SlowFrame> frame(new SlowFrame);
-        scene.reader.reset(new ScriptedReader([=] { return frame; }));
-        scene.engine.onStart = [&](const auto& session) { session->ReportStarted(scene.reader); };
-        scene.Run();
-        const auto conversionsAfterSomeReads = [&] {
-            const int reads = scene.reader->reads;
-            return QTest::qWaitFor([&] { return scene.reader->reads >= reads + 10; }) ? frame->conversions.load() : -1;
+        fixture.reader.reset(new ScriptedReader([=] { return frame; }));
+        fixture.engine.onStart = [&](const auto& session) { session->ReportStarted(fixture.reader); };
+        fixture.Run();
+        const auto conversionsAfterTenReads = [&] {
+            const int reads = fixture.reader->reads;
+            return QTest::qWaitFor([&] { return fixture.reader->reads >= reads + 10; }) ? frame->conversions.load()
+                                                                                        : -1;
         };
-        const int once = conversionsAfterSomeReads();
-        QVERIFY(once > 0);
-        QCOMPARE(conversionsAfterSomeReads(), once);
-        scene.preview->SetPreviewWidth(32);
-        QCOMPARE(conversionsAfterSomeReads(), once + 1);
-        scene.preview->ResetPreview();
-        QCOMPARE(conversionsAfterSomeReads(), once + 2);
-        scene.stream->StopStream();
-        scene.reader = nullptr;
+        const int once = conversionsAfterTenReads();
+        QCOMPARE(conversionsAfterTenReads(), once);
+        fixture.preview->SetPreviewWidth(32);
+        QCOMPARE(conversionsAfterTenReads(), once + 1);
+        fixture.preview->ResetPreview();
+        QCOMPARE(conversionsAfterTenReads(), once + 2);
+        fixture.stream->StopStream();
+        fixture.reader = nullptr;
         QCOMPARE(frame->GetRefCount(), 1);
     }
 
-    // The retries count also where there is no session any more. A slot of the signal may delete the preview.
     void givesUpWithoutASession()
     {
-        Scene scene;
-        scene.engine.onStart = [&](const auto& session) {
+        Stream fixture;
+        fixture.engine.onStart = [&](const auto& session) {
             session->ReportError(1);
-            scene.engine.refusesSessions = true;
+            fixture.engine.refusesSessions = true;
         };
-        connect(scene.stream, &WebCameraPreviewStream::WebCameraOpenError, qApp, [&] { scene.preview.reset(); });
-        scene.Run();
-        QTRY_VERIFY_WITH_TIMEOUT(!scene.preview, 20000);
-        QVERIFY(scene.engine.starts == 1 && scene.engine.alive == 0);
+        connect(fixture.stream, &WebCameraPreviewStream::WebCameraOpenError, qApp, [&] { fixture.preview.reset(); });
+        fixture.Run();
+        QTRY_VERIFY_WITH_TIMEOUT(!fixture.preview, 20000);
+        QCOMPARE(fixture.engine.starts.load(), 1);
     }
 
-    // What the application stopped does not start again. A second stream, left alone, tells when all retries would have
-    // come.
     void stopCancelsARetry()
     {
-        for (const bool byStop : {true, false}) {
-            Scene scene;
-            auto* other = new WebCameraPreviewStream(scene.preview.get());
-            QSignalSpy failed(other, &WebCameraPreviewStream::WebCameraOpenError);
-            scene.engine.onStart = [&](const auto& session) { session->ReportError(1); };
-            other->SetDevice(OrdinaryDevice(), "only", 100);
-            scene.Run();
-            byStop ? scene.stream->StopStream() : scene.SetDevice();
-            other->StartStream();
-            QTRY_COMPARE_WITH_TIMEOUT(failed.size(), 1, 20000);
-            QCOMPARE(scene.engine.starts.load(), 1 + 7);
-        }
+        Stream fixture;
+        fixture.engine.onStart = [&](const auto& session) { session->ReportError(1); };
+        fixture.Run();
+        fixture.stream->StopStream();
+        fixture.Run();
+        fixture.stream->SetDevice(nullptr, "only", 100);
+        QTest::qWait(300); // longer than the delay of a retry
+        QCOMPARE(fixture.engine.starts.load(), 2);
     }
 
-    void lateCallsOfAReplacedSessionTouchNothing()
+    void replacedSessionIsIgnored()
     {
         LogCapture log;
-        Scene scene;
+        Stream fixture;
         std::vector<ScriptedEngine::Session> sessions;
         const auto stale = ReaderOf(Qt::blue);
-        const auto reportLate = [&](int index) {
-            sessions[index]->ReportStarted(stale);
-            sessions[index]->ReportError(3);
-            sessions[index]->ReportStopped();
+        const auto reportLate = [&] {
+            sessions[0]->ReportStarted(stale);
+            sessions[0]->ReportError(3);
+            sessions[0]->ReportStopped();
         };
-        scene.engine.onStop = [](const auto&) {};
-        scene.engine.onStart = [&](const auto& session) { sessions.push_back(session); };
-        scene.Run();
-        scene.Run();
-        sessions[0]->ReportStarted(stale);
-        sessions[1]->ReportStarted(scene.reader);
-        reportLate(0);
-        const int reads = scene.reader->reads;
-        QTRY_VERIFY(scene.reader->reads > reads + 25); // beyond the time of a retry
-        QCOMPARE(scene.engine.starts.load(), 2);
-        QCOMPARE(scene.Centre(), QColor(Qt::green));
-        QCOMPARE(log.Lines(), QStringList(ERROR_LINE.arg(3)));
-
-        scene.preview.reset();
-        reportLate(0);
-        reportLate(1);
+        fixture.engine.onStop = [](const auto&) {};
+        fixture.engine.onStart = [&](const auto& session) { sessions.push_back(session); };
+        fixture.Run();
+        fixture.Run();
+        sessions[1]->ReportStarted(fixture.reader);
+        reportLate();
+        const int reads = fixture.reader->reads;
+        QTRY_VERIFY(fixture.reader->reads > reads + 25); // longer than the delay of a retry
+        QCOMPARE(fixture.engine.starts.load(), 2);
+        QCOMPARE(fixture.Color(), QColor(Qt::green));
+        fixture.preview.reset();
+        reportLate();
         QCOMPARE(stale->reads.load(), 0);
     }
 
-    void destroyedWhileRunning()
-    {
-        for (const QString what : {"preview", "stream", "preview without its stream", "preview, an error is pending"}) {
-            for (int i = 0; i < 20; ++i) {
-                InRow(what);
-                Scene scene;
-                const EventSwallower swallower;
-                const auto reader = scene.reader;
-                scene.AnswerWith([=](const auto& session) {
-                    session->ReportStarted(reader);
-                    if (what.contains("error"))
-                        session->ReportError(1);
-                });
-                scene.Run(1000);
-                QTRY_VERIFY(reader->reads > i % 3);
-                if (what.contains("without"))
-                    scene.stream->setParent(nullptr);
-                if (what == "stream")
-                    delete scene.stream;
-                else
-                    scene.preview.reset();
-                const int reads = reader->reads;
-                if (scene.stream) { // it lives on, and has nothing to show on
-                    scene.stream->StartStream();
-                    scene.Run();
-                    scene.stream->StopStream();
-                }
-                delete scene.stream;
-                scene.engine.Join();
-                QCOMPARE(reader->reads.load(), reads);
-            }
-        }
-    }
-
-    void destructionWaitsForOneConversionAtMost_data()
+    void nothingIsReadAfterDestruction_data()
     {
         QTest::addColumn<bool>("ofStream");
-        QTest::newRow("preview") << false;
-        QTest::newRow("stream") << true;
+        QTest::addColumn<bool>("isStreamDetached");
+        QTest::newRow("preview") << false << false;
+        QTest::newRow("preview without its stream") << false << true;
+        QTest::newRow("stream") << true << false;
     }
 
-    void destructionWaitsForOneConversionAtMost()
+    // Destruction waits for one conversion at most.
+    void nothingIsReadAfterDestruction()
     {
         QFETCH(bool, ofStream);
+        QFETCH(bool, isStreamDetached);
         LogCapture log;
         for (int i = 0; i < 12; ++i) {
-            Scene scene;
+            Stream fixture;
+            const EventSwallower swallower;
             const boost::intrusive_ptr<SlowFrame> frames[] = {new SlowFrame, new SlowFrame};
             const boost::intrusive_ptr<ScriptedReader> reader(
                 new ScriptedReader([&frames, n = 0]() mutable { return frames[++n % 2]; }));
-            scene.engine.onStart = [&](const auto& session) { session->ReportStarted(reader); };
-            scene.Run(1000);
-            QTRY_VERIFY(frames[0]->conversions + frames[1]->conversions >= 3);
-            const int before = frames[0]->conversions + frames[1]->conversions;
+            fixture.engine.onStart = [&](const auto& session) { session->ReportStarted(reader); };
+            fixture.Run(1000);
+            const auto conversions = [&] { return frames[0]->conversions + frames[1]->conversions; };
+            QTRY_VERIFY(conversions() >= 3);
+            if (isStreamDetached)
+                fixture.stream->setParent(nullptr);
+            const int before = conversions();
             if (ofStream)
-                delete scene.stream;
+                delete fixture.stream;
             else
-                scene.preview.reset();
-            QVERIFY(frames[0]->conversions + frames[1]->conversions <= before + 1);
+                fixture.preview.reset();
+            QVERIFY(conversions() <= before + 1);
+            const int reads = reader->reads;
+            if (fixture.stream)
+                fixture.Run(); // has no preview any more
+            delete fixture.stream;
+            QCOMPARE(reader->reads.load(), reads);
         }
     }
 
-    // The output of an engine may hold the camera.
-    void retryReleasesTheOldOutputBeforeItStarts()
+    void retryReleasesTheOutputOfTheLastSession()
     {
-        Scene scene;
-        int readersAtStart = -1;
-        scene.engine.onStart = [&](const auto& session) {
-            if (scene.engine.starts == 1) {
-                session->ReportStarted(scene.reader);
+        Stream fixture;
+        int referencesAtStart = -1;
+        fixture.engine.onStart = [&](const auto& session) {
+            if (fixture.engine.starts == 1) {
+                session->ReportStarted(fixture.reader);
                 session->ReportError(1);
             } else {
-                readersAtStart = scene.reader->GetRefCount();
+                referencesAtStart = fixture.reader->GetRefCount();
             }
         };
-        scene.Run();
-        QTRY_COMPARE(scene.engine.starts.load(), 2);
-        QCOMPARE(readersAtStart, 1);
+        fixture.Run();
+        QTRY_COMPARE(fixture.engine.starts.load(), 2);
+        QCOMPARE(referencesAtStart, 1);
     }
 
-    // It outlives the application object, and no thread may feed it then.
-    void leakedPreviewLetsTheProgramEnd()
+    void leakedStreamDoesNotPreventTheExit()
     {
         QProcess program;
         program.setProcessChannelMode(QProcess::ForwardedChannels);
@@ -484,74 +423,73 @@ private Q_SLOTS:
         QCOMPARE(program.exitCode(), 0);
     }
 
-    void startAndStopFromTwoThreads()
+    void startAndStopMayRace()
     {
-        Scene scene;
-        scene.AnswerWith([&](const auto& session) {
-            const int turn = scene.engine.starts % 3;
-            if (turn == 0)
-                session->ReportError(1);
-            else
-                session->ReportStarted(scene.reader);
-            if (turn == 2)
-                session->ReportStopped();
-        });
+        Stream fixture;
+        fixture.engine.onStart = [&](const auto& session) {
+            fixture.engine.OnThread([&, session] {
+                const int turn = fixture.engine.starts % 3;
+                if (turn == 0)
+                    session->ReportError(1);
+                else
+                    session->ReportStarted(fixture.reader);
+                if (turn == 2)
+                    session->ReportStopped();
+            });
+        };
         FLAGS_minloglevel = google::GLOG_FATAL;
         for (int i = 0; i < 1000; ++i) {
-            scene.SetDevice(1000);
-            std::thread starter([&] { scene.stream->StartStream(); });
-            std::thread stopper([&] { scene.stream->StopStream(); });
+            fixture.stream->SetDevice(OrdinaryDevice(1000), "only", 1000);
+            std::thread starter([&] { fixture.stream->StartStream(); });
+            std::thread stopper([&] { fixture.stream->StopStream(); });
             QCoreApplication::processEvents();
             starter.join();
             stopper.join();
             if (i % 50 == 0)
-                scene.engine.Join();
+                fixture.engine.Join();
         }
         FLAGS_minloglevel = google::GLOG_INFO;
-        scene.engine.Join();
-        scene.stream->StopStream();
-        const int reads = scene.reader->reads;
-        QCoreApplication::processEvents();
-        QVERIFY(scene.engine.alive == 0 && scene.reader->reads == reads);
-        QCOMPARE(scene.Centre(), PLACEHOLDER);
+        fixture.engine.Join();
+        fixture.stream->StopStream();
+        QCOMPARE(fixture.engine.alive.load(), 0);
+        QCOMPARE(fixture.Color(), DEFAULT_COLOR);
     }
 
-    void stopFreesAStartThatHangs()
+    void stopUnblocksAStart()
     {
-        Scene scene;
+        Stream fixture;
         QSemaphore hanging;
         QSemaphore stopped;
-        scene.engine.onStart = [&](const auto&) {
+        fixture.engine.onStart = [&](const auto&) {
             hanging.release();
             stopped.acquire();
         };
-        scene.engine.onStop = [&](const auto&) { stopped.release(); };
-        scene.SetDevice();
-        std::thread starter([&] { scene.stream->StartStream(); });
+        fixture.engine.onStop = [&](const auto&) { stopped.release(); };
+        fixture.stream->SetDevice(OrdinaryDevice(), "only", 100);
+        std::thread starter([&] { fixture.stream->StartStream(); });
         hanging.acquire();
-        scene.stream->StopStream();
+        fixture.stream->StopStream();
         starter.join();
-        QCOMPARE(scene.engine.alive.load(), 0);
-        QCOMPARE(scene.engine.stops.load(), 2); // once more, by the start, which may have come to life after the first
+        QCOMPARE(fixture.engine.alive.load(), 0);
+        QCOMPARE(fixture.engine.stops.load(), 2); // the start stops a session that was stopped meanwhile
     }
 
-    // An engine may notice the end of a device while it is read, on the pump's own thread.
-    void sessionEndsWhileItIsRead()
+    void sessionMayEndOnTheReaderThread()
     {
-        Scene scene;
+        Stream fixture;
         std::atomic<int> reads{0};
-        scene.engine.onStart = [&](const auto& session) {
+        fixture.engine.onStart = [&](const auto& session) {
             session->ReportStarted(new ScriptedReader([&, running = session.get()] {
                 if (++reads == 3)
                     running->ReportStopped();
                 return SolidFrame({64, 48}, Qt::green);
             }));
         };
-        scene.Run();
+        fixture.Run();
         QTRY_COMPARE(reads.load(), 3);
-        QTRY_COMPARE(scene.Centre(), PLACEHOLDER);
+        QTRY_COMPARE(fixture.Color(), DEFAULT_COLOR);
         QCOMPARE(reads.load(), 3);
-        scene.stream->StopStream();
+        fixture.stream->StopStream();
     }
 };
 
@@ -560,7 +498,7 @@ int main(int argc, char* argv[])
     PrepareProcess(argv[0]);
     QApplication application(argc, argv);
     if (argc == 2 && argv[1] == QLatin1String(LEAK_OPTION)) {
-        LeakRunningPreview();
+        LeakRunningStream();
         return 0;
     }
     tst_WebCameraPreviewStream test;
