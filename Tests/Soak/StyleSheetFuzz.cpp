@@ -1,4 +1,4 @@
-// Mutates style sheets at random and compares what the style sheet editor says of them with what Qt does.
+// Mutates style sheets at random and compares the results of the style sheet editor with those of Qt.
 // Usage: StyleSheetFuzz RUNS [SEED]
 
 #include <UI/Kit/StyleSheetEditor/StyleSheetTextEdit.h>
@@ -17,16 +17,16 @@ using namespace Zelkor::Vx::UI::Kit;
 
 namespace {
 
-bool isRefused = false;
+bool isRejected = false;
 
 void HandleMessage(QtMsgType, const QMessageLogContext&, const QString& message)
 {
-    isRefused = isRefused || message.startsWith("Could not parse");
+    isRejected = isRejected || message.startsWith("Could not parse");
 }
 
-bool IsTakenByQt(const QString& sheet, StyleSheetScope scope)
+bool IsAcceptedByQt(const QString& sheet, StyleSheetScope scope)
 {
-    isRefused = false;
+    isRejected = false;
     const QtMessageHandler before = qInstallMessageHandler(HandleMessage);
     {
         QLabel label;
@@ -35,7 +35,7 @@ bool IsTakenByQt(const QString& sheet, StyleSheetScope scope)
         qApp->setStyleSheet(QString());
     }
     qInstallMessageHandler(before);
-    return !isRefused;
+    return !isRejected;
 }
 
 QStringList RulesOf(const QString& fileName)
@@ -43,7 +43,7 @@ QStringList RulesOf(const QString& fileName)
     QFile file(fileName);
     if (!file.open(QIODevice::ReadOnly))
         qFatal("cannot read %s", qPrintable(fileName));
-    // The template of the sheets, with a colour for each name of the palette.
+    // Replaces the colour names of the template.
     QString text = QString::fromUtf8(file.readAll());
     text.replace(QRegularExpression("@[a-z-]+@", QRegularExpression::CaseInsensitiveOption), "#3567e0");
     return text.split(QRegularExpression("(?<=})\\n"), Qt::SkipEmptyParts);
@@ -59,7 +59,7 @@ public:
         QString sheet;
         for (int i = random.bounded(3); i >= 0; --i)
             sheet += rules[random.bounded(rules.size())] + '\n';
-        if (random.bounded(4) == 0) // declarations alone
+        if (random.bounded(4) == 0) // declarations only
             sheet = sheet.section('{', 1, 1).section('}', 0, 0);
         for (int i = random.bounded(5); i > 0; --i)
             mutate(sheet);
@@ -104,23 +104,21 @@ int main(int argc, char* argv[])
     const quint32 seed = argc > 2 ? std::strtoul(argv[2], nullptr, 10) : 1;
     Mutator mutator(RulesOf(VX_STYLE_SHEET), seed);
     StyleSheetTextEdit editor(nullptr);
-    int refused = 0;
+    int rejected = 0;
     for (int i = 0; i < runs; ++i) {
         const StyleSheetScope scope = i % 2 ? StyleSheetScope::WIDGET : StyleSheetScope::APPLICATION;
         const QString sheet = mutator.next();
         editor.loadText(sheet);
         editor.setScope(scope);
-        const bool isTaken = IsTakenByQt(sheet, scope);
-        refused += !isTaken;
-        const bool isMarked = !editor.marks().isEmpty();
-        if (editor.isAccepted() != isTaken || (!isTaken && !isMarked)) {
-            std::printf("run %d, %s: Qt %s, the editor %s, %s:\n%s\n", i, i % 2 ? "widget" : "application",
-                        isTaken ? "accepts" : "refuses", editor.isAccepted() ? "accepts" : "refuses",
-                        isMarked ? "with a mark" : "without a mark", qPrintable(sheet));
+        const bool isAccepted = IsAcceptedByQt(sheet, scope);
+        rejected += !isAccepted;
+        if (editor.isAccepted() != isAccepted || (!isAccepted && editor.marks().isEmpty())) {
+            std::printf("run %d: Qt %s, the editor %s with %d marks:\n%s\n", i, isAccepted ? "accepts" : "rejects",
+                        editor.isAccepted() ? "accepts" : "rejects", editor.marks().size(), qPrintable(sheet));
             return EXIT_FAILURE;
         }
     }
-    std::printf("%d sheets, %d refused by Qt and by the editor\n", runs, refused);
-    // Both answers have to come, or nothing is compared.
-    return refused > 0 && refused < runs ? EXIT_SUCCESS : EXIT_FAILURE;
+    std::printf("%d sheets, %d rejected by Qt and by the editor\n", runs, rejected);
+    // Both results must occur.
+    return rejected > 0 && rejected < runs ? EXIT_SUCCESS : EXIT_FAILURE;
 }

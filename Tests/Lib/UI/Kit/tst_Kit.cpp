@@ -1,3 +1,4 @@
+#include <UI/Common/TextMarks.h>
 #include <UI/Kit/ZFrame.h>
 #include <UI/Kit/ZLabel.h>
 #include <UI/Kit/ZStackedWidget.h>
@@ -9,41 +10,43 @@
 #include <QSignalSpy>
 #include <QStackedLayout>
 
-using Spacings = QVector<int>; // common, horizontal, vertical
-
 class tst_Kit : public Support::TestCase
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void frameSpacingFollowsTheKindOfLayout()
+    void frameSpacingDependsOnTheLayout_data()
     {
-        // What remains of 3 for all, then 7 across and 9 down.
-        const QVector<QPair<QLayout*, Spacings>> rows{
-            {new QHBoxLayout, {7, 7, -1}},
-            {new QVBoxLayout, {9, -1, 9}},
-            {new QBoxLayout(QBoxLayout::Down), {3, -1, -1}},
-            {new QGridLayout, {-1, 7, 9}},
-            {new QFormLayout, {-1, 7, 9}},
-            {new QStackedLayout, {3, -1, -1}},
-            {nullptr, {-1, -1, -1}},
+        QTest::addColumn<QLayout*>("layout");
+        QTest::addColumn<QVector<int>>("spacings"); // common, horizontal, vertical
+        const auto row = [](const char* name, QLayout* layout, const QVector<int>& spacings) {
+            QTest::newRow(name) << layout << spacings;
         };
-        for (const auto& row : rows) {
-            InRow(row.first ? row.first->metaObject()->className() : "no layout");
-            ZFrame frame;
-            if (row.first)
-                frame.setLayout(row.first);
-            frame.setLayoutSpacing(3);
-            frame.setLayoutHSpacing(7);
-            frame.setLayoutVSpacing(9);
-            frame.setLayoutMargin(5);
-            QCOMPARE(Spacings({frame.layoutSpacing(), frame.layoutHSpacing(), frame.layoutVSpacing()}), row.second);
-            QCOMPARE(frame.layoutMargin(), row.first ? 5 : -1);
-            QCOMPARE(frame.layoutMarginTop(), row.first ? 5 : -1);
-        }
+        row("QHBoxLayout", new QHBoxLayout, {7, 7, -1});
+        row("QVBoxLayout", new QVBoxLayout, {9, -1, 9});
+        row("QBoxLayout", new QBoxLayout(QBoxLayout::Down), {3, -1, -1});
+        row("QGridLayout", new QGridLayout, {-1, 7, 9});
+        row("QFormLayout", new QFormLayout, {-1, 7, 9});
+        row("QStackedLayout", new QStackedLayout, {3, -1, -1});
+        row("no layout", nullptr, {-1, -1, -1});
     }
 
-    void frameMarginsOneByOne()
+    void frameSpacingDependsOnTheLayout()
+    {
+        QFETCH(QLayout*, layout);
+        ZFrame frame;
+        if (layout)
+            frame.setLayout(layout);
+        frame.setLayoutSpacing(3);
+        frame.setLayoutHSpacing(7);
+        frame.setLayoutVSpacing(9);
+        frame.setLayoutMargin(5);
+        QTEST(QVector<int>({frame.layoutSpacing(), frame.layoutHSpacing(), frame.layoutVSpacing()}), "spacings");
+        QCOMPARE(frame.layoutMargin(), layout ? 5 : -1);
+        QCOMPARE(frame.layoutMarginTop(), layout ? 5 : -1);
+    }
+
+    void frameSetsEachMargin()
     {
         ZFrame frame;
         auto* layout = new QVBoxLayout(&frame);
@@ -56,41 +59,47 @@ private Q_SLOTS:
         QCOMPARE(layout->contentsMargins(), QMargins(3, 9, 6, 5));
     }
 
-    void labelElidesToItsWidth()
+    void elidedLabelShowsAllOfItsTextAsToolTip_data()
     {
-        for (const QString text : {"A text that is long enough to be cut", "نص طويل بما يكفي ليتم اقتطاعه هنا",
-                                   "Aufnahme נא לבחור camera 2 (1280×720)"}) {
-            InRow(text);
-            const QString marked = QChar(0x202A) + text + QChar(0x202C);
-            ZLabel label;
-            QSignalSpy changed(&label, &ZLabel::originalTextChanged);
-            label.setOriginalText(text);
-            label.setOriginalText(text);
-            QCOMPARE(changed, QList<QVariantList>{{text}});
-            label.resize(1000, 30);
-            label.show();
-            QVERIFY(label.text() == marked && label.toolTip().isEmpty());
-
-            label.resize(80, 30);
-            QVERIFY(label.text().startsWith(QChar(0x202A)) && label.text().contains(QChar(0x2026)));
-            // The joiner that Qt puts before the ellipsis of a joining script may make the last letter a little wider.
-            const QFontMetrics metrics = label.fontMetrics();
-            QVERIFY(metrics.horizontalAdvance(label.text()) <= 80 + metrics.averageCharWidth());
-            QVERIFY(label.sizeHint().width() >= metrics.horizontalAdvance(text));
-            QCOMPARE(label.toolTip(), marked);
-            QCOMPARE(QAccessible::queryAccessibleInterface(&label)->text(QAccessible::Name), text);
-            // A frame takes its share of the width.
-            const int exact = metrics.horizontalAdvance(marked) + 2;
-            label.resize(exact, 30);
-            QCOMPARE(label.toolTip(), QString());
-            label.setFrameStyle(QFrame::Box | QFrame::Plain);
-            label.setLineWidth(8);
-            label.resize(exact, 31);
-            QCOMPARE(label.toolTip(), marked);
-        }
+        QTest::addColumn<QString>("text");
+        QTest::newRow("Latin") << QString("A text that is long enough to be cut");
+        QTest::newRow("Arabic") << QString("نص طويل بما يكفي ليتم اقتطاعه هنا");
+        QTest::newRow("mixed") << QString("Aufnahme נא לבחור camera 2 (1280×720)");
     }
 
-    void labelClicksOnPress()
+    void elidedLabelShowsAllOfItsTextAsToolTip()
+    {
+        QFETCH(QString, text);
+        const QString marked = Zelkor::Vx::UI::Common::Embed(text);
+        ZLabel label;
+        QSignalSpy changed(&label, &ZLabel::originalTextChanged);
+        label.setOriginalText(text);
+        label.setOriginalText(text);
+        QCOMPARE(changed, QList<QVariantList>{{text}});
+        label.resize(1000, 30);
+        label.show();
+        QCOMPARE(label.text(), marked);
+        QCOMPARE(label.toolTip(), QString());
+
+        label.resize(80, 30);
+        // The joiner before the ellipsis of an Arabic text may widen the last letter.
+        const QFontMetrics metrics = label.fontMetrics();
+        QVERIFY(metrics.horizontalAdvance(label.text()) <= 80 + metrics.averageCharWidth());
+        QVERIFY(label.text().contains(QChar(0x2026)));
+        QVERIFY(label.sizeHint().width() >= metrics.horizontalAdvance(text));
+        QCOMPARE(label.toolTip(), marked);
+        QCOMPARE(QAccessible::queryAccessibleInterface(&label)->text(QAccessible::Name), text);
+        // A frame reduces the width for the text.
+        const int exact = metrics.horizontalAdvance(marked) + 2;
+        label.resize(exact, 30);
+        QCOMPARE(label.toolTip(), QString());
+        label.setFrameStyle(QFrame::Box | QFrame::Plain);
+        label.setLineWidth(8);
+        label.resize(exact, 31);
+        QCOMPARE(label.toolTip(), marked);
+    }
+
+    void labelEmitsClickedOnPress()
     {
         QPointer<ZLabel> label = new ZLabel;
         label->resize(100, 30);
@@ -101,14 +110,15 @@ private Q_SLOTS:
         label->setClickable(false);
         label->setTextInteractionFlags(Qt::TextSelectableByMouse);
         QTest::mouseDClick(label, Qt::LeftButton, {}, QPoint(5, 15));
-        QVERIFY(clicked.size() == 2 && label->hasSelectedText());
+        QCOMPARE(clicked.size(), 2);
+        QVERIFY(label->hasSelectedText());
         label->setClickable(true);
         connect(label, &ZLabel::clicked, label, [label] { delete label; });
         QTest::mousePress(label, Qt::LeftButton);
         QVERIFY(!label);
     }
 
-    void stackFollowsTheCurrentPage()
+    void stackHasTheSizeOfItsCurrentPage()
     {
         QWidget window;
         auto* layout = new QVBoxLayout(&window);
@@ -128,7 +138,7 @@ private Q_SLOTS:
         stack->setCurrentIndex(1);
         QTRY_COMPARE(window.size(), QSize(40, 30));
 
-        // Off, it is as large as its largest page, once the layout asks again.
+        // Without autoFit it has the size of its largest page after the next layout.
         stack->setAutoFit(false);
         QCOMPARE(window.size(), QSize(40, 30));
         stack->updateGeometry();

@@ -20,8 +20,8 @@ class tst_KitFields : public Support::TestCase
     Q_OBJECT
 
 private:
-    // How many wheel events the field leaves to its window. Sent as by the window system; a touch pad tells pixels.
-    static int PassedOn(QWidget* field, int notches, int pixels = 0)
+    // Returns how many wheel events reach the window of the field. Events of a touch pad have a pixel delta.
+    static int PropagatedWheelEvents(QWidget* field, int notches, int pixels = 0)
     {
         int count = 0;
         QWidget* window = field->window();
@@ -35,30 +35,39 @@ private:
     }
 
 private Q_SLOTS:
-    void wheelOnlyInFocus()
+    void editableInFocusIgnoresTheWheelWithoutFocus_data()
     {
-        for (QWidget* field : QWidgetList{new ZCustomSlider, new ZSpinBox, new ZDoubleSpinBox}) {
-            InRow(field->metaObject()->className());
-            QWidget window;
-            field->setParent(&window);
-            window.show();
-            window.activateWindow();
-            QVERIFY(QTest::qWaitForWindowActive(&window));
-            const auto value = [&] { return field->property("value").toDouble(); };
-            QCOMPARE(PassedOn(field, 1), 0);
-            const double before = value();
-            QVERIFY(before > 0);
-            window.setFocus();
-            field->setProperty("editableInFocus", true);
-            QCOMPARE(PassedOn(field, 1), 1);
-            QVERIFY(!field->hasFocus() && value() == before);
-            field->setFocus();
-            QCOMPARE(PassedOn(field, 1), 0);
-            QVERIFY(value() > before);
-        }
+        QTest::addColumn<QWidget*>("field");
+        for (QWidget* field : QWidgetList{new ZCustomSlider, new ZSpinBox, new ZDoubleSpinBox})
+            QTest::newRow(field->metaObject()->className()) << field;
     }
 
-    void comboBoxCanLeaveTheWheel()
+    void editableInFocusIgnoresTheWheelWithoutFocus()
+    {
+        QFETCH(QWidget*, field);
+        QWidget window;
+        field->setParent(&window);
+        window.show();
+        window.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        QCOMPARE(PropagatedWheelEvents(field, 1), 0);
+        const double before = field->property("value").toDouble();
+        QVERIFY(before > 0);
+        window.setFocus();
+        field->setProperty("editableInFocus", true);
+        QCOMPARE(PropagatedWheelEvents(field, 1), 1);
+        QVERIFY(!field->hasFocus());
+        QCOMPARE(field->property("value").toDouble(), before);
+        field->setFocus();
+        QCOMPARE(PropagatedWheelEvents(field, 1), 0);
+        QVERIFY(field->property("value").toDouble() > before);
+        // Setting the current value keeps a focus policy of the application.
+        field->setFocusPolicy(Qt::WheelFocus);
+        field->setProperty("editableInFocus", true);
+        QCOMPARE(field->focusPolicy(), Qt::WheelFocus);
+    }
+
+    void comboBoxIgnoresTheDisabledWheel()
     {
         QWidget window;
         ZComboBox combo(&window);
@@ -67,35 +76,43 @@ private Q_SLOTS:
         for (const bool isEnabled : {false, true}) {
             combo.setMouseWheelEnabled(isEnabled);
             isEnabled ? window.setFocus() : combo.setFocus();
-            QCOMPARE(PassedOn(&combo, -1), isEnabled ? 0 : 1);
+            QCOMPARE(PropagatedWheelEvents(&combo, -1), isEnabled ? 0 : 1);
             QCOMPARE(combo.currentIndex(), isEnabled ? 1 : 0);
         }
         QVERIFY(!combo.hasFocus());
     }
 
-    void sliderAtItsEndSwallowsScrolling()
+    void focusedSliderAcceptsScrollingBeyondItsEnd_data()
     {
+        QTest::addColumn<bool>("editableInFocus");
+        QTest::addColumn<bool>("focused");
+        QTest::addColumn<QVector<int>>("propagated"); // down and up at the minimum, in between and at the maximum
+        QTest::newRow("focused") << true << true << QVector<int>{0, 1, 1, 1, 1, 0};
+        QTest::newRow("not focused") << true << false << QVector<int>(6, 1);
+        QTest::newRow("property off") << false << true << QVector<int>(6, 1);
+    }
+
+    void focusedSliderAcceptsScrollingBeyondItsEnd()
+    {
+        QFETCH(bool, editableInFocus);
+        QFETCH(bool, focused);
         QWidget window;
         ZCustomSlider slider(&window);
         window.show();
         window.activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(&window));
-        using Counts = QVector<int>; // down and up at three values
-        const Counts all(6, 1);
-        for (const auto& [inFocus, focused, expected] :
-             {std::tuple(true, false, all), {true, true, Counts{0, 1, 1, 1, 1, 0}}, {false, true, all}}) {
-            slider.setEditableInFocus(inFocus);
-            focused ? slider.setFocus() : window.setFocus();
-            Counts passed;
-            for (const int value : {0, 50, 99}) {
-                slider.setValue(value);
-                passed << PassedOn(&slider, 0, -5) << PassedOn(&slider, 0, 5);
-            }
-            QCOMPARE(passed, expected);
+        slider.setEditableInFocus(true);
+        slider.setEditableInFocus(editableInFocus);
+        focused ? slider.setFocus() : window.setFocus();
+        QVector<int> propagated;
+        for (const int value : {0, 50, 99}) {
+            slider.setValue(value);
+            propagated << PropagatedWheelEvents(&slider, 0, -5) << PropagatedWheelEvents(&slider, 0, 5);
         }
+        QTEST(propagated, "propagated");
     }
 
-    void doubleSlider()
+    void doubleSliderClampsAndRoundsItsValue()
     {
         ZDoubleSlider slider;
         slider.setRange(-50, 100);
@@ -113,7 +130,7 @@ private Q_SLOTS:
             QCOMPARE(slider.value(), row.second);
             QCOMPARE(changed.last(), QVariantList{row.second * 0.1});
         }
-        // Turned over, the least is the largest.
+        // With a negative multiplier, the minimum of the position is the maximum of the value.
         slider.setMultiplier(-0.5);
         QAccessibleValueInterface* value = QAccessible::queryAccessibleInterface(&slider)->valueInterface();
         value->setCurrentValue(-10);
@@ -121,40 +138,49 @@ private Q_SLOTS:
                  QVariantList({-50.0, 20, 25.0}));
     }
 
+    void typedNumbersAreRoundedToSteps_data()
+    {
+        QTest::addColumn<double>("minimum");
+        QTest::addColumn<double>("step");
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<double>("expected");
+        QTest::newRow("down") << 0.0 << 0.25 << "1.3" << 1.25;
+        QTest::newRow("up") << 0.0 << 0.25 << "1.4" << 1.5;
+        QTest::newRow("from the minimum") << 0.1 << 0.5 << "2.2" << 2.1;
+        QTest::newRow("below zero") << -3.1 << 1.0 << "-2" << -2.1;
+        QTest::newRow("last step") << 0.0 << 3.0 << "10" << 9.0;
+        QTest::newRow("maximum") << 0.0 << 0.1 << "9.99" << 10.0;
+        QTest::newRow("below the range") << 5.0 << 2.0 << "4" << 5.0;
+        QTest::newRow("not a number") << -5.0 << 3.0 << "-" << 1.2;
+        QTest::newRow("no step") << 0.0 << 0.0 << "1.3" << 1.3;
+        QTest::newRow("step too small to count") << -1e300 << 3.0 << "1.3" << 1.3;
+        QTest::newRow("more decimals than shown") << 0.0 << 0.125 << "0.12" << 0.13;
+    }
+
     void typedNumbersAreRoundedToSteps()
     {
-        struct Row
-        {
-            double minimum, step;
-            const char* typed;
-            double expected;
-        };
-        // Down, up, from the minimum, below zero, last step, the end, below the range, no number, no step, too far,
-        // more decimals than are shown.
-        for (const Row& row :
-             {Row{0, 0.25, "1.3", 1.25}, Row{0, 0.25, "1.4", 1.5}, Row{0.1, 0.5, "2.2", 2.1}, Row{-3.1, 1, "-2", -2.1},
-              Row{0, 3, "10", 9}, Row{0, 0.1, "9.99", 10}, Row{5, 2, "4", 5}, Row{-5, 3, "-", 1.2},
-              Row{0, 0, "1.3", 1.3}, Row{-1e300, 3, "1.3", 1.3}, Row{0, 0.125, "0.12", 0.13}}) {
-            for (const bool tracking : {true, false}) {
-                InRow(row.typed);
-                ZDoubleSpinBox field;
-                field.setFixupWithStep(true);
-                field.setKeyboardTracking(tracking);
-                field.setLocale(QLocale::c());
-                field.setRange(row.minimum, 10);
-                field.setSingleStep(row.step);
-                field.setSuffix(" s");
-                field.setValue(1.2);
-                QVector<double> atEnd;
-                connect(&field, &QDoubleSpinBox::editingFinished, &field, [&] { atEnd += field.value(); });
-                QSignalSpy changed(&field, QOverload<double>::of(&QDoubleSpinBox::valueChanged));
-                field.selectAll();
-                QTest::keyClicks(&field, row.typed);
-                QTest::keyClick(&field, Qt::Key_Return);
-                QVERIFY(tracking || changed.size() <= 1);
-                QCOMPARE(field.text(), field.textFromValue(row.expected) + " s");
-                QCOMPARE(atEnd, QVector<double>{row.expected});
-            }
+        QFETCH(double, minimum);
+        QFETCH(double, step);
+        QFETCH(QString, typed);
+        QFETCH(double, expected);
+        for (const bool tracking : {true, false}) {
+            ZDoubleSpinBox field;
+            field.setFixupWithStep(true);
+            field.setKeyboardTracking(tracking);
+            field.setLocale(QLocale::c());
+            field.setRange(minimum, 10);
+            field.setSingleStep(step);
+            field.setSuffix(" s");
+            field.setValue(1.2);
+            QVector<double> finished;
+            connect(&field, &QDoubleSpinBox::editingFinished, &field, [&] { finished += field.value(); });
+            QSignalSpy changed(&field, QOverload<double>::of(&QDoubleSpinBox::valueChanged));
+            field.selectAll();
+            QTest::keyClicks(&field, typed);
+            QTest::keyClick(&field, Qt::Key_Return);
+            QVERIFY(tracking || changed.size() <= 1);
+            QCOMPARE(field.text(), field.textFromValue(expected) + " s");
+            QCOMPARE(finished, QVector<double>{expected});
         }
     }
 
@@ -190,16 +216,6 @@ private Q_SLOTS:
         QTest::keyClick(&field, Qt::Key_Return);
         QCOMPARE(field.value(), value);
         QCOMPARE(value, isStepped && !isTracking ? 2 : 1.8);
-    }
-
-    void unchangedEditableInFocusKeepsTheFocusPolicy()
-    {
-        for (QWidget* field : QWidgetList{new ZCustomSlider, new ZSpinBox, new ZDoubleSpinBox}) {
-            const QScopedPointer<QWidget> owner(field);
-            field->setFocusPolicy(Qt::StrongFocus);
-            field->setProperty("editableInFocus", false);
-            QCOMPARE(field->focusPolicy(), Qt::StrongFocus);
-        }
     }
 };
 

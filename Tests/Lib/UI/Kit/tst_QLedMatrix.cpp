@@ -8,8 +8,7 @@
 
 namespace {
 
-// Of 255: what a 32nd of a pixel makes at the edge of a circle.
-constexpr int ROUNDING = 8;
+constexpr int TOLERANCE = 8; // of 255, for circles at multiples of 1/32 pixel
 
 QRgb ColorOf(int row, int column)
 {
@@ -27,7 +26,7 @@ void Fill(QLedMatrix& matrix, int rows, int columns)
     }
 }
 
-// The same, circle by circle.
+// Paints the matrix circle by circle.
 QImage Circles(const QLedMatrix& matrix, double pixelRatio)
 {
     QImage image((QSizeF(matrix.size()) * pixelRatio).toSize(), QImage::Format_RGB32);
@@ -59,24 +58,32 @@ class tst_QLedMatrix : public Support::TestCase
     Q_OBJECT
 
 private Q_SLOTS:
+    void pixelsAreThoseOfCircles_data()
+    {
+        QTest::addColumn<QSize>("size");
+        QTest::addColumn<QSize>("grid");
+        QTest::newRow("too large for the cache") << QSize(700, 900) << QSize(3, 2);
+        QTest::newRow("cached") << QSize(333, 160) << QSize(16, 9);
+        QTest::newRow("cached, with margins") << QSize(97, 211) << QSize(3, 2);
+        QTest::newRow("overlapping") << QSize(60, 20) << QSize(16, 9);
+        QTest::newRow("smaller than pixels") << QSize(60, 20) << QSize(40, 40);
+        QTest::newRow("single LED in a tiny widget") << QSize(5, 4) << QSize(1, 1);
+    }
+
     void pixelsAreThoseOfCircles()
     {
-        // LEDs of many pixels, which are drawn as circles, of some, which are stamped, and of less than one.
-        for (const QSize size : {QSize(60, 20), QSize(97, 211), QSize(333, 160), QSize(5, 4), QSize(700, 900)}) {
-            for (const QSize grid : {QSize(3, 2), QSize(1, 1), QSize(16, 9), QSize(40, 40)}) {
-                for (const double pixelRatio : {1.0, 1.25, 2.0}) {
-                    InRow(QString("%1 rows, %2 high, at %3").arg(grid.height()).arg(size.height()).arg(pixelRatio));
-                    QLedMatrix matrix;
-                    Fill(matrix, grid.height(), grid.width());
-                    matrix.resize(size);
-                    const QImage picture = Support::Render(matrix, Qt::gray, pixelRatio);
-                    QVERIFY(Support::LargestDifference(picture, Circles(matrix, pixelRatio)) <= ROUNDING);
-                }
-            }
+        QFETCH(QSize, size);
+        QFETCH(QSize, grid);
+        for (const double pixelRatio : {1.0, 1.25, 2.0}) {
+            QLedMatrix matrix;
+            Fill(matrix, grid.height(), grid.width());
+            matrix.resize(size);
+            const QImage picture = Support::Render(matrix, Qt::gray, pixelRatio);
+            QVERIFY(Support::LargestDifference(picture, Circles(matrix, pixelRatio)) <= TOLERANCE);
         }
     }
 
-    void aPartIsPaintedAsInTheWhole()
+    void partialAndRotatedPaintingAgree()
     {
         QLedMatrix matrix;
         Fill(matrix, 20, 20);
@@ -85,18 +92,18 @@ private Q_SLOTS:
         QImage image(matrix.size(), QImage::Format_RGB32);
         matrix.render(&image, part.topLeft(), part, {});
         QCOMPARE(image.copy(part), Support::Render(matrix, Qt::gray).copy(part));
-        // Turned, and thus circle by circle.
-        QImage turned(257, 333, QImage::Format_RGB32);
-        QPainter painter(&turned);
+        // A rotated painter does not use the cache.
+        QImage rotated(257, 333, QImage::Format_RGB32);
+        QPainter painter(&rotated);
         painter.translate(257, 0);
         painter.rotate(90);
         matrix.render(&painter, QPoint(), QRegion(), QWidget::RenderFlags());
         painter.end();
         const QImage expected = Circles(matrix, 1).transformed(QTransform().rotate(90));
-        QVERIFY(Support::LargestDifference(turned, expected) <= ROUNDING);
+        QVERIFY(Support::LargestDifference(rotated, expected) <= TOLERANCE);
     }
 
-    void onlyWhatChangedIsPainted()
+    void onlyChangedLedsAreRepainted()
     {
         QLedMatrix matrix;
         Fill(matrix, 10, 20);
@@ -112,7 +119,7 @@ private Q_SLOTS:
         QCOMPARE(painted(), QRect(61, 41, 18, 18));
         matrix.setColorAt(2, 3, QLedMatrix::Blue, false);
         QCOMPARE(painted(), QRect());
-        // What waited comes along.
+        // Includes the LED that was set without an update.
         matrix.setColorAt(3, 5, QLedMatrix::Blue);
         QCOMPARE(painted(), QRect(61, 41, 58, 38));
         matrix.clear();
@@ -120,7 +127,7 @@ private Q_SLOTS:
         QCOMPARE(matrix.colorAt(3, 5), QRgb(QLedMatrix::NoColor));
     }
 
-    void countsAndCoordinates()
+    void badCountsAndCoordinatesWarn()
     {
         QLedMatrix matrix;
         ExpectWarning("QLedMatrix::sizeHint: no rows or columns to display, defaulting size to (10,10)");
@@ -129,7 +136,7 @@ private Q_SLOTS:
         matrix.setColumnCount(3);
         matrix.setRowCount(-1);
         QCOMPARE(matrix.sizeHint(), QSize(30, 20));
-        // Far too many, each by itself and together.
+        // Too many rows, and too many LEDs.
         ExpectWarning("QLedMatrix::setRowCount: 1677722 rows");
         matrix.setRowCount(1677722);
         matrix.setRowCount(4096);
@@ -145,7 +152,7 @@ private Q_SLOTS:
             ExpectWarning(QString("::setColorAt: coordinate (row=%1, col=%2) out of range").arg(bad.y()).arg(bad.x()));
             matrix.setColorAt(bad.y(), bad.x(), QLedMatrix::Red);
         }
-        // LEDs stay when the grid grows; those that come, and those that were off, are off in the colour of the day.
+        // A larger grid keeps its LEDs. New LEDs and those that were off have the new dark colour.
         matrix.setDarkLedColor(Qt::darkBlue);
         matrix.setRowCount(3);
         matrix.setColumnCount(4);
@@ -154,7 +161,7 @@ private Q_SLOTS:
             QCOMPARE(matrix.colorAt(dark.y(), dark.x()), QColor(Qt::darkBlue).rgba());
     }
 
-    void backgroundIsItsOwnOrThatBehindIt()
+    void backgroundIsPaintedInOpaqueMode()
     {
         QLedMatrix matrix;
         matrix.resize(40, 20);

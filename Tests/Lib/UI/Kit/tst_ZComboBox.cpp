@@ -24,50 +24,54 @@ private:
     }
 
 private Q_SLOTS:
-    void face()
+    void faceLooksLikeThatOfQt_data()
     {
-        for (const char* style : {"", "QComboBox { border: 2px solid red; padding: 5px 11px; color: green }"}) {
-            ZComboBox combo;
-            QComboBox plain;
-            for (QComboBox* box : {static_cast<QComboBox*>(&combo), &plain}) {
-                box->setStyleSheet(style);
-                box->setLayoutDirection(*style ? Qt::RightToLeft : Qt::LeftToRight);
-                box->setPlaceholderText("Choose");
-                prepare(*box);
-            }
-            const auto looksPlain = [&] { return combo.grab().toImage() == plain.grab().toImage(); };
-            combo.setEliding(false);
-            QVERIFY(looksPlain());
-            combo.setEliding(true);
-            combo.setToolTip("of somebody else");
-            QVERIFY(!looksPlain());
-            QCOMPARE(combo.toolTip(), QString());
-            // Like one whose item ends in time.
-            QStyleOptionComboBox option;
-            option.initFrom(&combo);
-            const QFontMetrics metrics = combo.fontMetrics();
-            const int room = combo.style()
-                                 ->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, &combo)
-                                 .width();
-            plain.setItemText(1, metrics.elidedText(LONG_TEXT, Qt::ElideRight, room));
-            QVERIFY(looksPlain());
-            // A text of its own, whatever is chosen.
-            combo.setDisplayText("Mine");
-            plain.setItemText(1, "Mine");
-            QVERIFY(looksPlain());
-            QCOMPARE(combo.currentText(), LONG_TEXT);
-            const int width = combo.minimumSizeHint().width() - metrics.horizontalAdvance("Mine");
-            combo.setDisplayText(LONG_TEXT);
-            QCOMPARE(combo.minimumSizeHint().width(), width + metrics.horizontalAdvance(LONG_TEXT));
-            combo.setDisplayText(QString());
-            combo.setCurrentIndex(-1);
-            plain.setCurrentIndex(-1);
-            QVERIFY(looksPlain());
-        }
+        QTest::addColumn<QString>("sheet");
+        QTest::newRow("style") << QString();
+        QTest::newRow("style sheet") << "QComboBox { border: 2px solid red; padding: 5px 11px; color: green }";
     }
 
-    // In the middle of what the open one does.
-    void changeMakesAFreshList()
+    void faceLooksLikeThatOfQt()
+    {
+        QFETCH(QString, sheet);
+        ZComboBox combo;
+        QComboBox plain;
+        for (QComboBox* box : {static_cast<QComboBox*>(&combo), &plain}) {
+            box->setStyleSheet(sheet);
+            box->setLayoutDirection(sheet.isEmpty() ? Qt::LeftToRight : Qt::RightToLeft);
+            box->setPlaceholderText("Choose");
+            prepare(*box);
+        }
+        const auto looksLikeQt = [&] { return combo.grab().toImage() == plain.grab().toImage(); };
+        combo.setEliding(false);
+        QVERIFY(looksLikeQt());
+        combo.setEliding(true);
+        combo.setToolTip("set by the application");
+        QVERIFY(!looksLikeQt());
+        QCOMPARE(combo.toolTip(), QString());
+        // The elided face equals that of an item with the elided text.
+        QStyleOptionComboBox option;
+        option.initFrom(&combo);
+        const QFontMetrics metrics = combo.fontMetrics();
+        const int room =
+            combo.style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, &combo).width();
+        plain.setItemText(1, metrics.elidedText(LONG_TEXT, Qt::ElideRight, room));
+        QVERIFY(looksLikeQt());
+        combo.setDisplayText("Mine");
+        plain.setItemText(1, "Mine");
+        QVERIFY(looksLikeQt());
+        QCOMPARE(combo.currentText(), LONG_TEXT);
+        const int width = combo.minimumSizeHint().width() - metrics.horizontalAdvance("Mine");
+        combo.setDisplayText(LONG_TEXT);
+        QCOMPARE(combo.minimumSizeHint().width(), width + metrics.horizontalAdvance(LONG_TEXT));
+        combo.setDisplayText(QString());
+        combo.setCurrentIndex(-1);
+        plain.setCurrentIndex(-1);
+        QVERIFY(looksLikeQt());
+    }
+
+    // The change comes from a signal of the old view.
+    void changeOfWidePopupReplacesTheOpenView()
     {
         ZComboBox combo;
         prepare(combo);
@@ -77,13 +81,15 @@ private Q_SLOTS:
         const QPointer<QAbstractItemView> old = combo.view();
         connect(old->verticalScrollBar(), &QScrollBar::rangeChanged, &combo, [&] { combo.setWidePopupEnabled(true); });
         old->verticalScrollBar()->setRange(0, 9);
-        QVERIFY(old && combo.view() != old && !old->isVisible() && combo.view()->isVisible());
+        QVERIFY(old);
+        QVERIFY(!old->isVisible());
+        QVERIFY(combo.view() != old);
+        QVERIFY(combo.view()->isVisible());
         QCOMPARE(combo.view()->textElideMode(), Qt::ElideNone);
         QTRY_VERIFY(!old);
     }
 
-    // Separators and rows are drawn as by the style, one that comes after the list is made too.
-    void listLooksLikeQts_data()
+    void listLooksLikeThatOfQt_data()
     {
         QTest::addColumn<QString>("style");
         QTest::addColumn<QString>("sheet");
@@ -94,7 +100,7 @@ private Q_SLOTS:
         QTest::newRow("style sheet") << QString("Fusion") << sheet;
     }
 
-    void listLooksLikeQts()
+    void listLooksLikeThatOfQt()
     {
         QFETCH(QString, style);
         QFETCH(QString, sheet);
@@ -124,7 +130,7 @@ private Q_SLOTS:
         prepare(combo);
         for (const auto direction : {Qt::LeftToRight, Qt::RightToLeft}) {
             for (const int x : {screen.left(), screen.center().x(), screen.right() - 119}) {
-                for (const int length : {1, 1, 20}) { // opened again, and wider than the screen
+                for (const int length : {1, 1, 20}) { // reopened, and wider than the screen
                     combo.setLayoutDirection(direction);
                     combo.setItemText(1, LONG_TEXT.repeated(length));
                     combo.move(x, 100);
@@ -135,7 +141,7 @@ private Q_SLOTS:
                     QVERIFY(items > 120);
                     QTRY_VERIFY(popUp->width() >= std::min(items, screen.width()));
                     QTRY_VERIFY(screen.contains(popUp->geometry()));
-                    // It begins where the combo box does if it can.
+                    // It is aligned with the combo box where the screen has room.
                     const int begin = direction == Qt::LeftToRight
                                           ? popUp->x() - combo.geometry().left()
                                           : popUp->geometry().right() - combo.geometry().right();
@@ -146,7 +152,7 @@ private Q_SLOTS:
         }
     }
 
-    void popUpWidget()
+    void popUpWidgetOpensWhereTheScreenHasRoom()
     {
         ZComboBox combo;
         prepare(combo);
@@ -158,7 +164,8 @@ private Q_SLOTS:
         for (const int height : {80, top - 1, top}) {
             panel->setFixedSize(90, height);
             combo.showPopup();
-            QVERIFY(panel->isVisible() && !combo.view()->isVisible());
+            QVERIFY(panel->isVisible());
+            QVERIFY(!combo.view()->isVisible());
             QCOMPARE(panel->pos(), combo.mapToGlobal(QPoint(0, height < top ? -height : combo.height())));
             combo.hidePopup();
             QVERIFY(!panel->isVisible());
@@ -168,7 +175,7 @@ private Q_SLOTS:
         QVERIFY(combo.view()->isVisible());
     }
 
-    void itemsFlowAnewLater()
+    void itemsAreLaidOutAgainLater()
     {
         auto combo = std::make_unique<ZComboBox>();
         prepare(*combo);
@@ -178,7 +185,7 @@ private Q_SLOTS:
         view->setFont(QFont(view->font().family(), 30));
         QCOMPARE(view->flow(), QListView::LeftToRight);
         QTRY_COMPARE(view->flow(), QListView::TopToBottom);
-        // With the flow under way, list and box go; also a list that was open and replaced.
+        // Views and combo box may be destroyed before that, also an open view that was replaced.
         view->setFont(QFont());
         combo->showPopup();
         const QPointer<QAbstractItemView> old = combo->view();

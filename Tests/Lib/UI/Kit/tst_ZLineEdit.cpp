@@ -15,6 +15,8 @@
 
 using Zelkor::Vx::UI::Common::Embed;
 
+Q_DECLARE_METATYPE(std::function<void(ZLineEdit&)>)
+
 const QString LONG_TEXT = QStringLiteral("A text that is far too long for this place");
 
 class tst_ZLineEdit : public Support::TestCase
@@ -22,14 +24,14 @@ class tst_ZLineEdit : public Support::TestCase
     Q_OBJECT
 
 private:
-    struct Scene
+    struct Fixture
     {
         QWidget window;
         ZLineEdit edit{&window};
         QLineEdit other{&window};
         QSignalSpy changed{&edit, &ZLineEdit::originalTextChanged};
 
-        Scene()
+        Fixture()
         {
             edit.setGeometry(0, 0, 60, 30);
             other.setGeometry(0, 40, 60, 30);
@@ -49,62 +51,81 @@ private:
     };
 
 private Q_SLOTS:
-    void elidedWithoutFocusWholeWithIt()
+    void textIsElidedWithoutFocusAndWholeWithIt()
     {
-        Scene scene;
-        ZLineEdit& edit = scene.edit;
+        Fixture fixture;
+        ZLineEdit& edit = fixture.edit;
         for (int round = 0; round < 2; ++round) {
-            QTRY_COMPARE(edit.text(), scene.elided());
+            QTRY_COMPARE(edit.text(), fixture.elided());
             QCOMPARE(edit.toolTip(), Embed(LONG_TEXT));
             edit.setFocus();
-            QVERIFY(edit.text() == LONG_TEXT && edit.toolTip().isEmpty() && edit.cursorPosition() == 0);
-            scene.other.setFocus();
+            QCOMPARE(edit.text(), LONG_TEXT);
+            QCOMPARE(edit.toolTip(), QString());
+            QCOMPARE(edit.cursorPosition(), 0);
+            fixture.other.setFocus();
             QCOMPARE(edit.text(), LONG_TEXT);
         }
-        QTRY_COMPARE(edit.text(), scene.elided());
+        QTRY_COMPARE(edit.text(), fixture.elided());
         edit.setEliding(false);
-        QCOMPARE(edit.text(), scene.elided());
+        QCOMPARE(edit.text(), fixture.elided());
         edit.resize(61, 30);
-        QVERIFY(edit.text() == Embed(LONG_TEXT) && edit.toolTip().isEmpty());
+        QCOMPARE(edit.text(), Embed(LONG_TEXT));
+        QCOMPARE(edit.toolTip(), QString());
         edit.setOriginalText("abc");
         edit.setOriginalText("abc");
-        QCOMPARE(scene.changed, QList<QVariantList>{{"abc"}});
-        // Nothing is nothing, without marks: the placeholder shows.
+        QCOMPARE(fixture.changed, QList<QVariantList>{{"abc"}});
+        // An empty text has no control characters, which would hide the placeholder.
         edit.setOriginalText(QString());
         QCOMPARE(edit.text(), QString());
     }
 
-    void typingIsReportedOnceWhateverComesBetween()
+    void typedTextIsReportedOnce()
     {
-        Scene scene;
-        ZLineEdit& edit = scene.edit;
+        Fixture fixture;
+        ZLineEdit& edit = fixture.edit;
         edit.setFocus();
         QTest::keyClicks(&edit, "xy");
         edit.resize(50, 30);
         edit.setEliding(false);
         edit.setEliding(true);
         edit.setFont(QFont(edit.font().family(), 20));
-        scene.sendFocus(QEvent::FocusOut, Qt::PopupFocusReason);
-        scene.sendFocus(QEvent::FocusIn, Qt::PopupFocusReason);
+        fixture.sendFocus(QEvent::FocusOut, Qt::PopupFocusReason);
+        fixture.sendFocus(QEvent::FocusIn, Qt::PopupFocusReason);
         QTest::keyClicks(&edit, "z");
-        QVERIFY(scene.changed.isEmpty());
-        // To another window and back: reported, and as it was.
-        scene.sendFocus(QEvent::FocusOut, Qt::ActiveWindowFocusReason);
-        QCOMPARE(scene.changed.takeFirst(), QVariantList{"xyz" + LONG_TEXT});
-        scene.sendFocus(QEvent::FocusIn, Qt::ActiveWindowFocusReason);
+        QVERIFY(fixture.changed.isEmpty());
+        // Another window becomes active: reports the text and keeps the state.
+        fixture.sendFocus(QEvent::FocusOut, Qt::ActiveWindowFocusReason);
+        QCOMPARE(fixture.changed.takeFirst(), QVariantList{"xyz" + LONG_TEXT});
+        fixture.sendFocus(QEvent::FocusIn, Qt::ActiveWindowFocusReason);
         QCOMPARE(edit.cursorPosition(), 3);
         edit.undo();
         edit.undo();
         QCOMPARE(edit.text(), LONG_TEXT);
         edit.setText("typed");
-        scene.other.setFocus();
-        QCOMPARE(scene.changed, QList<QVariantList>{{"typed"}});
+        fixture.other.setFocus();
+        QCOMPARE(fixture.changed, QList<QVariantList>{{"typed"}});
         QCOMPARE(edit.text(), edit.fontMetrics().elidedText(Embed("typed"), Qt::ElideRight, 50));
     }
 
-    void wholeForWhateverTakesItApart()
+    void editsWithoutFocusApplyToTheWholeText_data()
     {
-        const auto drop = [](ZLineEdit& edit) {
+        using Edit = std::function<void(ZLineEdit&)>;
+        QTest::addColumn<Edit>("apply");
+        QTest::addColumn<QString>("expected");
+        const auto row = [](const char* name, const Edit& apply, const QString& expected) {
+            QTest::newRow(name) << apply << expected;
+        };
+        row(
+            "setText", [](ZLineEdit& edit) { edit.setText("other"); }, "other");
+        row(
+            "clear", [](ZLineEdit& edit) { edit.clear(); }, "");
+        row(
+            "insert", [](ZLineEdit& edit) { edit.end(false), edit.insert("."); }, LONG_TEXT + ".");
+        row(
+            "keys", [](ZLineEdit& edit) { QTest::keyClicks(&edit, "xy"); }, "xy" + LONG_TEXT);
+        row(
+            "input mask", [](ZLineEdit& edit) { edit.setInputMask("00.00"); }, LONG_TEXT);
+        const Edit drop = [](ZLineEdit& edit) {
             const QSignalSpy edited(&edit, &QLineEdit::textEdited);
             QMimeData data;
             data.setText("x");
@@ -114,62 +135,60 @@ private Q_SLOTS:
             QApplication::sendEvent(&edit, &event);
             QCOMPARE(edited, QList<QVariantList>{{"x" + LONG_TEXT}});
         };
-        const auto copy = [](ZLineEdit& edit) {
+        row("drop", drop, "x" + LONG_TEXT);
+        const Edit copy = [](ZLineEdit& edit) {
             edit.selectAll();
             edit.copy();
             QCOMPARE(QGuiApplication::clipboard()->text(), LONG_TEXT);
         };
-        const auto visitShortened = [](ZLineEdit& edit) {
+        row("copy", copy, LONG_TEXT);
+        const Edit truncate = [](ZLineEdit& edit) {
             edit.setMaxLength(5);
             edit.setFocus();
             QCOMPARE(edit.text(), LONG_TEXT.left(5));
             edit.clearFocus();
         };
-        const QPair<QString, std::function<void(ZLineEdit&)>> rows[] = {
-            {"other", [](ZLineEdit& edit) { edit.setText("other"); }},
-            {"", [](ZLineEdit& edit) { edit.clear(); }},
-            {LONG_TEXT + ".", [](ZLineEdit& edit) { edit.end(false), edit.insert("."); }},
-            {"xy" + LONG_TEXT, [](ZLineEdit& edit) { QTest::keyClicks(&edit, "xy"); }},
-            {"x" + LONG_TEXT, drop},
-            {LONG_TEXT, copy},
-            {LONG_TEXT, visitShortened},
-            {LONG_TEXT, [](ZLineEdit& edit) { edit.setInputMask("00.00"); }},
-        };
-        for (int i = 0; i < 2 * int(std::size(rows)); ++i) {
-            const auto& [text, act] = rows[i / 2];
-            InRow(text);
-            Scene scene;
-            if (i % 2) { // it was left for another window
-                scene.sendFocus(QEvent::FocusIn, Qt::OtherFocusReason);
-                scene.sendFocus(QEvent::FocusOut, Qt::ActiveWindowFocusReason);
+        row("maximum length", truncate, LONG_TEXT);
+    }
+
+    void editsWithoutFocusApplyToTheWholeText()
+    {
+        QFETCH(std::function<void(ZLineEdit&)>, apply);
+        QFETCH(QString, expected);
+        for (const bool wasLeftForAnotherWindow : {false, true}) {
+            Fixture fixture;
+            if (wasLeftForAnotherWindow) {
+                fixture.sendFocus(QEvent::FocusIn, Qt::OtherFocusReason);
+                fixture.sendFocus(QEvent::FocusOut, Qt::ActiveWindowFocusReason);
             }
-            act(scene.edit);
-            scene.edit.resize(59, 30);
-            QCOMPARE(scene.edit.originalText(), text);
-            QCOMPARE(scene.changed.isEmpty(), text == LONG_TEXT);
-            QVERIFY(text == LONG_TEXT || scene.changed.last() == QVariantList{text});
+            apply(fixture.edit);
+            fixture.edit.resize(59, 30);
+            QCOMPARE(fixture.edit.originalText(), expected);
+            QCOMPARE(fixture.changed.isEmpty(), expected == LONG_TEXT);
+            QCOMPARE(fixture.changed.value(fixture.changed.size() - 1, {LONG_TEXT}), QVariantList{expected});
         }
     }
 
-    void whatIsJudgedOrHiddenStaysWhole()
+    void validatedOrHiddenTextIsNotElided()
     {
         QRegularExpressionValidator validator(QRegularExpression("[A-Za-z ]+"));
-        Scene scene;
-        ZLineEdit& edit = scene.edit;
+        Fixture fixture;
+        ZLineEdit& edit = fixture.edit;
         const QImage elided = edit.grab().toImage();
         edit.setValidator(&validator);
         edit.resize(61, 30);
         edit.resize(60, 30);
-        QVERIFY(edit.hasAcceptableInput() && edit.toolTip() == Embed(LONG_TEXT));
-        // The same picture, which is that of a line edit whose text ends in time.
+        QVERIFY(edit.hasAcceptableInput());
+        QCOMPARE(edit.toolTip(), Embed(LONG_TEXT));
+        // Looks the same, like a QLineEdit with the elided text.
         QCOMPARE(edit.grab().toImage(), elided);
         QStyleOptionFrame option;
         option.initFrom(&edit);
         option.lineWidth = edit.style()->pixelMetric(QStyle::PM_DefaultFrameWidth, &option, &edit);
         const int room = edit.style()->subElementRect(QStyle::SE_LineEditContents, &option, &edit).width() - 4;
-        scene.other.clearFocus();
-        scene.other.setText(edit.fontMetrics().elidedText(LONG_TEXT, Qt::ElideRight, room));
-        QCOMPARE(scene.other.grab().toImage(), elided);
+        fixture.other.clearFocus();
+        fixture.other.setText(edit.fontMetrics().elidedText(LONG_TEXT, Qt::ElideRight, room));
+        QCOMPARE(fixture.other.grab().toImage(), elided);
 
         edit.setValidator(nullptr);
         edit.setEchoMode(QLineEdit::Password);
@@ -182,26 +201,27 @@ private Q_SLOTS:
         QAccessible::setActive(false);
     }
 
-    void fixedUpOnceAndDeletedByTheReport()
+    void slotMayDeleteTheLineEditAfterAFixup()
     {
         struct Fixer : QValidator
         {
             State validate(QString& text, int&) const override { return text == "xx" ? Acceptable : Intermediate; }
             void fixup(QString& text) const override { text = "xx"; }
         } fixer;
-        Scene scene;
-        const QPointer<ZLineEdit> doomed = new ZLineEdit(&scene.window);
+        Fixture fixture;
+        const QPointer<ZLineEdit> doomed = new ZLineEdit(&fixture.window);
         doomed->setValidator(&fixer);
-        QString told;
+        QString reported;
         connect(doomed, &ZLineEdit::originalTextChanged, [&](const QString& text) {
-            told += text;
+            reported += text;
             delete doomed;
         });
         doomed->show();
         doomed->setFocus();
         QTest::keyClicks(doomed, "x");
-        scene.other.setFocus();
-        QVERIFY(!doomed && told == "xx");
+        fixture.other.setFocus();
+        QVERIFY(!doomed);
+        QCOMPARE(reported, QString("xx"));
     }
 };
 

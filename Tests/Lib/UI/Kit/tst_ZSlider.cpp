@@ -16,10 +16,12 @@
 using namespace Zelkor::Vx::UI::Kit;
 
 using Thumb = ZSliderThumb;
+using Numbers = QVector<int>;
+Q_DECLARE_METATYPE(SliderTrack)
 
 namespace {
 
-/// 0 to 100 over 200 pixels, that is 2 pixels a value.
+/// Has values from 0 to 100 and 2 pixels per value.
 struct Trimmer : ZSlider
 {
     Trimmer()
@@ -39,7 +41,11 @@ struct Trimmer : ZSlider
     void press(int x) { QTest::mousePress(this, Qt::LeftButton, {}, {x, 25}); }
 };
 
+using Interference = std::function<void(Trimmer*, Thumb*)>;
+
 } // namespace
+
+Q_DECLARE_METATYPE(Interference)
 
 class tst_ZSlider : public Support::TestCase
 {
@@ -53,7 +59,6 @@ class tst_ZSlider : public Support::TestCase
     }
     static void Release(Thumb* thumb) { QTest::mouseRelease(thumb, Qt::LeftButton); }
 
-    // The position counts from where the thumb stands.
     static void DragTo(Thumb* thumb, int value)
     {
         Press(thumb);
@@ -62,28 +67,32 @@ class tst_ZSlider : public Support::TestCase
     }
 
 private Q_SLOTS:
-    void valuesAndPixels()
+    void trackConvertsValuesAndPixels_data()
     {
-        // Each with a value and its pixel, for a thumb and for a segment, and a pixel and its value.
-        using Rule = QVector<int>;
-        const QVector<QPair<SliderTrack, Rule>> rows{
-            {{212, 6, 0, 100}, {50, 106, 106, 106, 50}},
-            {{212, 6, 0, 100}, {100, 206, 206, 500, 100}},
-            {{212, 6, 10, 110}, {10, 26, 6, 6, 10}}, // thumbs are placed as if from 0
-            {{19, 6, -10, 10}, {3, 7, 10, 9, -1}},   // half a pixel is one, a part of a value is none
-            {{212, 6, 7, 7}, {1, 206, -1194, 100, 7}},
-            {{212, 6, INT_MIN, INT_MAX}, {INT_MAX, 106, 206, 206, INT_MAX}},
-            {{0, 6, 0, 100}, {100, -5, -6, 0, 0}},
-        };
-        for (const auto& [track, rule] : rows) {
-            QCOMPARE(Rule({rule[0], track.pixelOfThumb(rule[0]), track.pixelOfSegment(rule[0]), rule[3],
-                           track.valueAt(rule[3])}),
-                     rule);
-        }
-        QVERIFY((SliderTrack{0, 6, INT_MAX - 1, INT_MAX}.pixelOfThumb(INT_MAX) < 0)); // far out, and an integer
+        QTest::addColumn<SliderTrack>("track");
+        QTest::addColumn<Numbers>("numbers"); // a value with its pixel for a thumb and a segment; a pixel and its value
+        QTest::newRow("middle") << SliderTrack{212, 6, 0, 100} << Numbers{50, 106, 106, 106, 50};
+        QTest::newRow("beyond the end") << SliderTrack{212, 6, 0, 100} << Numbers{100, 206, 206, 500, 100};
+        QTest::newRow("thumbs ignore the minimum") << SliderTrack{212, 6, 10, 110} << Numbers{10, 26, 6, 6, 10};
+        QTest::newRow("rounding") << SliderTrack{19, 6, -10, 10} << Numbers{3, 7, 10, 9, -1};
+        QTest::newRow("empty range") << SliderTrack{212, 6, 7, 7} << Numbers{1, 206, -1194, 100, 7};
+        QTest::newRow("range of int") << SliderTrack{212, 6, INT_MIN, INT_MAX}
+                                      << Numbers{INT_MAX, 106, 206, 206, INT_MAX};
+        QTest::newRow("no groove") << SliderTrack{0, 6, 0, 100} << Numbers{100, -5, -6, 0, 0};
+        QTest::newRow("clamped pixel") << SliderTrack{0, 6, INT_MAX - 1, INT_MAX}
+                                       << Numbers{INT_MAX, 6 - (1 << 24), -6, 0, INT_MAX - 1};
     }
 
-    void thumbsStandAtTheirValues()
+    void trackConvertsValuesAndPixels()
+    {
+        QFETCH(SliderTrack, track);
+        QFETCH(Numbers, numbers);
+        QCOMPARE(track.pixelOfThumb(numbers[0]), numbers[1]);
+        QCOMPARE(track.pixelOfSegment(numbers[0]), numbers[2]);
+        QCOMPARE(track.valueAt(numbers[3]), numbers[4]);
+    }
+
+    void thumbsAreAtTheirValues()
     {
         Trimmer slider;
         slider.show();
@@ -108,8 +117,14 @@ private Q_SLOTS:
         slider.setOrientation(Qt::Vertical);
         slider.resize(30, 212);
         QCOMPARE(thumb->pos(), QPoint(5, 78));
+    }
 
-        // Limits hold within the range, and the upper one wins.
+    void limitsAndRangeClampValues()
+    {
+        Trimmer slider;
+        slider.setRange(0, 200);
+        slider.setValue(50);
+        Thumb* thumb = slider.defaultThumb();
         QSignalSpy moved(thumb, &Thumb::valueChanged);
         thumb->setUpperLimit(40);
         QCOMPARE(slider.value(), 40);
@@ -119,24 +134,25 @@ private Q_SLOTS:
         thumb->setValue(250);
         thumb->setValue(200);
         QCOMPARE(moved, QList<QVariantList>({{40}, {45}, {200}}));
-        // A narrower range says so for the slider, silently for its thumbs.
+        // A narrower range emits signals of the slider, but not of other thumbs.
         Thumb* other = slider.add("other", 150);
         QSignalSpy otherMoved(other, &Thumb::valueChanged);
         slider.setRange(0, 100);
-        QCOMPARE(QVector<int>({slider.value(), thumb->value(), other->value()}), QVector<int>({100, 100, 100}));
+        QCOMPARE(Numbers({slider.value(), thumb->value(), other->value()}), Numbers({100, 100, 100}));
         QCOMPARE(otherMoved.size(), 0);
+        // The new name does not replace an accessible name, nor the key in the slider.
         other->setAccessibleName("Mine");
         other->setName("new");
         QCOMPARE(QAccessible::queryAccessibleInterface(other)->text(QAccessible::Name), QString("Mine"));
         QCOMPARE(slider.thumb("other"), other);
     }
 
-    void sliderIsOnePaneOfItsSplitter()
+    void splitterHasOnePaneForTheSlider()
     {
         QSplitter splitter;
         splitter.resize(300, 100);
         splitter.show();
-        // The splitter asks each new child, and those that it has, for a size hint.
+        // QSplitter adds a pane for each child widget of its own.
         const ZSlider* slider = new ZTimelineSlider(&splitter);
         QTRY_VERIFY(slider->isVisible());
         QCOMPARE(splitter.count(), 1);
@@ -153,7 +169,7 @@ private Q_SLOTS:
         QCOMPARE(slider.defaultThumb()->width(), 20);
     }
 
-    void defaultThumbGoesWithTheSlider()
+    void defaultThumbFollowsTheSlider()
     {
         Trimmer slider;
         QSignalSpy ofSlider(&slider, &ZSlider::valueChanged);
@@ -163,28 +179,30 @@ private Q_SLOTS:
         QCOMPARE(ofSlider, QList<QVariantList>({{30}, {60}}));
         QCOMPARE(ofThumb, ofSlider);
 
-        // Whoever moves one of them while it is told of the other's move is heard.
+        // A slot may move either of them again.
         auto once = connect(slider.defaultThumb(), &Thumb::valueChanged, &slider, [&](int value) {
             value == 10 ? slider.setValue(20) : slider.defaultThumb()->setValue(25);
         });
         slider.setValue(10);
-        QCOMPARE(QVector<int>({slider.value(), slider.defaultThumb()->value()}), QVector<int>({25, 25}));
+        QCOMPARE(Numbers({slider.value(), slider.defaultThumb()->value()}), Numbers({25, 25}));
         disconnect(once);
 
-        // Keys do not go where the thumb cannot.
+        // Keys respect the limits of the thumb.
         slider.defaultThumb()->setUpperLimit(26);
         QTest::keyClick(&slider, Qt::Key_PageUp);
         QCOMPARE(slider.value(), 26);
         slider.addThumb("default");
         QCOMPARE(slider.defaultThumb()->value(), 26);
         slider.setValue(70);
-        QVERIFY(slider.defaultThumb()->value() == 70 && !slider.selectedThumb());
+        QCOMPARE(slider.defaultThumb()->value(), 70);
+        QVERIFY(!slider.selectedThumb());
         slider.removeThumb("default");
         slider.setValue(20);
-        QVERIFY(!slider.defaultThumb() && slider.thumbNames().isEmpty());
+        QVERIFY(!slider.defaultThumb());
+        QVERIFY(slider.thumbNames().isEmpty());
     }
 
-    void oneThumbIsSelectedAndOneIsOnTop()
+    void clickOnTheTopThumbReachesTheOneBelow()
     {
         Trimmer slider;
         Thumb* b = slider.add("b", 50);
@@ -196,24 +214,36 @@ private Q_SLOTS:
         b->setZOrder(INT_MIN);
         QCOMPARE(top(), a);
         slider.add("c", 50);
-        // A click on and a click off, and the other one is there.
         Click(top());
-        QVERIFY(top() == a && slider.selectedThumb() == a);
+        QCOMPARE(top(), a);
+        QCOMPARE(slider.selectedThumb(), a);
         Click(top());
-        QVERIFY(top() != a && slider.selectedThumb() == slider.defaultThumb());
+        QVERIFY(top() != a);
+        QCOMPARE(slider.selectedThumb(), slider.defaultThumb());
+    }
 
+    void atMostOneThumbIsSelected()
+    {
+        Trimmer slider;
+        Thumb* b = slider.add("b", 50);
+        Thumb* a = slider.add("a", 50);
+        slider.show();
         Click(a);
         Click(b);
-        QVERIFY(b->isChecked() && !a->isChecked() && slider.selectedThumb() == b);
+        QVERIFY(b->isChecked());
+        QVERIFY(!a->isChecked());
+        QCOMPARE(slider.selectedThumb(), b);
         Click(b);
         b->setSelectable(false);
         Click(b);
         QVERIFY(!b->isChecked());
         slider.setSelectedThumb(b);
-        // A slot has the last word.
+        // A slot may select another thumb.
         connect(b, &Thumb::toggled, a, [&](bool on) { slider.setSelectedThumb(on ? b : slider.defaultThumb()); });
         slider.setSelectedThumb(a);
-        QVERIFY(!a->isChecked() && !b->isChecked() && slider.defaultThumb()->isChecked());
+        QVERIFY(!a->isChecked());
+        QVERIFY(!b->isChecked());
+        QVERIFY(slider.defaultThumb()->isChecked());
         slider.setSelectedThumb(nullptr);
         QVERIFY(!slider.defaultThumb()->isChecked());
         slider.setSelectedThumb(a);
@@ -221,31 +251,45 @@ private Q_SLOTS:
         QCOMPARE(slider.selectedThumb(), slider.defaultThumb());
     }
 
-    void dragOfAThumb()
+    void dragEmitsSignalsInOrder()
     {
         Trimmer slider;
         Thumb* thumb = slider.add("mark", 20);
         slider.setValue(60);
-        QStringList heard;
-        const auto told = [&] { return std::exchange(heard, {}).join(' '); };
-        connect(&slider, &ZSlider::sliderPressed, this, [&] { heard << "down"; });
-        connect(&slider, &ZSlider::sliderMoved, this, [&](int value) { heard << QString("moved %1").arg(value); });
-        connect(&slider, &ZSlider::sliderReleased, this, [&] { heard << "up"; });
-        connect(thumb, &Thumb::dragStarted, this, [&] { heard << "start"; });
-        connect(thumb, &Thumb::dragFinished, this, [&] { heard << "finish"; });
-        connect(thumb, &Thumb::toggled, this, [&] { heard << "toggled"; });
+        QStringList signalNames;
+        const auto takeSignals = [&] { return std::exchange(signalNames, {}).join(' '); };
+        connect(&slider, &ZSlider::sliderPressed, this, [&] { signalNames << "down"; });
+        connect(&slider, &ZSlider::sliderMoved, this,
+                [&](int value) { signalNames << QString("moved %1").arg(value); });
+        connect(&slider, &ZSlider::sliderReleased, this, [&] { signalNames << "up"; });
+        connect(thumb, &Thumb::dragStarted, this, [&] { signalNames << "start"; });
+        connect(thumb, &Thumb::dragFinished, this, [&] { signalNames << "finish"; });
+        connect(thumb, &Thumb::toggled, this, [&] { signalNames << "toggled"; });
         slider.show();
-        DragTo(thumb, 20); // a move to where it is, is none
-        QCOMPARE(told(), "toggled");
+        DragTo(thumb, 20); // does not move
+        QCOMPARE(takeSignals(), "toggled");
         DragTo(thumb, 30);
-        QVERIFY(thumb->value() == 30 && told() == "down start up finish");
+        QCOMPARE(thumb->value(), 30);
+        QCOMPARE(takeSignals(), "down start up finish");
         DragTo(slider.defaultThumb(), 70);
-        QVERIFY(slider.value() == 70 && told() == "down moved 70 up");
+        QCOMPARE(slider.value(), 70);
+        QCOMPARE(takeSignals(), "down moved 70 up");
+        // Disabling the slider ends the drag.
+        Press(thumb);
+        Move(thumb, 20);
+        slider.setEnabled(false);
+        QCOMPARE(takeSignals(), "down start up finish");
+    }
 
-        // Nearer than 2 % of the maximum, that is 1; then nearer than 10 %.
+    void draggedThumbSnapsToTheDefaultThumb()
+    {
+        Trimmer slider;
+        Thumb* thumb = slider.add("mark", 20);
+        slider.setValue(70);
+        slider.show();
         slider.setSnapping(true);
-        using Row = QVector<int>;
-        for (const Row& row : {Row{20, 68, 68}, {20, 69, 70}, {20, 71, 70}, {20, 72, 72}, {100, 61, 70}}) {
+        // Closer than 2 % of the maximum, then closer than 10 %.
+        for (const Numbers& row : {Numbers{20, 68, 68}, {20, 69, 70}, {20, 71, 70}, {20, 72, 72}, {100, 61, 70}}) {
             slider.setSnapDistance(row[0]);
             DragTo(thumb, row[1]);
             QCOMPARE(thumb->value(), row[2]);
@@ -253,16 +297,9 @@ private Q_SLOTS:
         thumb->setDraggable(false);
         DragTo(thumb, 10);
         QCOMPARE(thumb->value(), 70);
-        // One that is disabled under way lets go of the slider.
-        thumb->setDraggable(true);
-        told();
-        Press(thumb);
-        Move(thumb, 20);
-        slider.setEnabled(false);
-        QCOMPARE(told(), "down start up finish");
     }
 
-    void pressOnTheGroove()
+    void pressOnTheGrooveMovesAThumb()
     {
         Trimmer slider;
         Thumb* mark = slider.add("mark", 20);
@@ -284,57 +321,62 @@ private Q_SLOTS:
         slider.press(6);
         slider.defaultThumb()->setMovesOnGrooveClick(false);
         slider.press(106);
-        QVERIFY(mark->value() == 40 && slider.value() == 0 && !slider.isSliderDown());
-        // Dragged by the groove, and gone.
+        QCOMPARE(mark->value(), 40);
+        QCOMPARE(slider.value(), 0);
+        QVERIFY(!slider.isSliderDown());
+        // A thumb may be removed while it is dragged from the groove.
         mark->setMovesOnGrooveClick(true);
         slider.press(106);
         slider.removeThumb("mark");
         QVERIFY(!slider.isSliderDown());
     }
 
-    // Whatever a slot does to the thumb or its slider, at whichever of the thumb's signals, nothing is left hanging.
-    void slotsThatPullThingsAway()
+    void slotsMayDeleteThumbAndSlider_data()
     {
-        const QPair<QString, std::function<void(Trimmer*, Thumb*)>> pulls[] = {
-            {"delete", [](Trimmer*, Thumb* thumb) { delete thumb; }},
-            {"delete slider", [](Trimmer* slider, Thumb*) { delete slider; }},
-            {"replace", [](Trimmer* slider, Thumb*) { slider->addThumb("mark"); }},
-            {"range", [](Trimmer* slider, Thumb*) { slider->setRange(0, 10); }},
-            {"move another", [](Trimmer* slider, Thumb*) { slider->setValue(slider->value() + 1); }},
-        };
+        QTest::addColumn<Interference>("interfere");
+        const auto row = [](const char* name, const Interference& interfere) { QTest::newRow(name) << interfere; };
+        row("delete thumb", [](Trimmer*, Thumb* thumb) { delete thumb; });
+        row("delete slider", [](Trimmer* slider, Thumb*) { delete slider; });
+        row("replace thumb", [](Trimmer* slider, Thumb*) { slider->addThumb("mark"); });
+        row("change range", [](Trimmer* slider, Thumb*) { slider->setRange(0, 10); });
+        row("move another thumb", [](Trimmer* slider, Thumb*) { slider->setValue(slider->value() + 1); });
+    }
+
+    // Interferes at the first signal of the thumb, then at the second one, and so on.
+    void slotsMayDeleteThumbAndSlider()
+    {
+        QFETCH(Interference, interfere);
         using Act = void (*)(Thumb*);
         const Act drag = [](Thumb* thumb) { Move(thumb, 20); };
         const Act key = [](Thumb* thumb) { QTest::keyClick(thumb, Qt::Key_Up); };
-        for (const auto& pull : pulls) {
-            int moment = -1;
-            for (bool isPulled = true; isPulled;) {
-                InRow(QString("%1 at signal %2").arg(pull.first).arg(++moment));
-                isPulled = false;
-                int heard = 0;
-                QPointer<Trimmer> slider = new Trimmer;
-                QPointer<Thumb> thumb = slider->add("mark", 20);
-                slider->show();
-                const Support::AnySignalSpy tap(thumb, [&] {
-                    if (heard++ == moment) {
-                        isPulled = true;
-                        pull.second(slider, thumb);
-                    }
-                });
-                for (const Act act : {Act(Press), drag, Act(Release), Act(Press), Act(Release), key}) {
-                    if (thumb)
-                        act(thumb);
+        int moment = -1;
+        for (bool hasInterfered = true; hasInterfered;) {
+            ++moment;
+            hasInterfered = false;
+            int count = 0;
+            QPointer<Trimmer> slider = new Trimmer;
+            QPointer<Thumb> thumb = slider->add("mark", 20);
+            slider->show();
+            const Support::AnySignalSpy spy(thumb, [&] {
+                if (count++ == moment) {
+                    hasInterfered = true;
+                    interfere(slider, thumb);
                 }
-                if (!slider)
-                    continue;
-                const auto thumbs = slider->findChildren<Thumb*>();
-                QVERIFY(!slider->isSliderDown());
-                QCOMPARE(slider->thumbNames().size(), thumbs.size());
-                QVERIFY(!slider->selectedThumb() || thumbs.contains(slider->selectedThumb()));
-                QCOMPARE(slider->defaultThumb()->value(), slider->value());
-                delete slider;
+            });
+            for (const Act act : {Act(Press), drag, Act(Release), Act(Press), Act(Release), key}) {
+                if (thumb)
+                    act(thumb);
             }
-            QVERIFY2(moment >= 9, qPrintable(QString::number(moment)));
+            if (!slider)
+                continue;
+            const auto thumbs = slider->findChildren<Thumb*>();
+            QVERIFY(!slider->isSliderDown());
+            QCOMPARE(slider->thumbNames().size(), thumbs.size());
+            QVERIFY(!slider->selectedThumb() || thumbs.contains(slider->selectedThumb()));
+            QCOMPARE(slider->defaultThumb()->value(), slider->value());
+            delete slider;
         }
+        QVERIFY2(moment >= 9, qPrintable(QString::number(moment)));
     }
 
     void thumbWithoutASliderDoesNothing()
@@ -351,40 +393,35 @@ private Q_SLOTS:
         QCOMPARE(accessible->valueInterface()->maximumValue(), 0);
     }
 
-    void keysLeadWhereTheyPoint_data()
+    void keysMoveInTheirDirection_data()
     {
-        QTest::addColumn<int>("orientation");
-        QTest::addColumn<int>("key");
+        QTest::addColumn<Qt::Orientation>("orientation");
+        QTest::addColumn<Qt::Key>("key");
         QTest::addColumn<int>("value");
-        const auto add = [](const char* row, Qt::Orientation orientation, Qt::Key key, int value) {
-            QTest::newRow(row) << int(orientation) << int(key) << value;
-        };
-        add("vertical, up", Qt::Vertical, Qt::Key_Up, 49);
-        add("vertical, down", Qt::Vertical, Qt::Key_Down, 51);
-        add("vertical, page up", Qt::Vertical, Qt::Key_PageUp, 40);
-        add("vertical, page down", Qt::Vertical, Qt::Key_PageDown, 60);
-        add("vertical, home", Qt::Vertical, Qt::Key_Home, 0);
-        add("horizontal, up", Qt::Horizontal, Qt::Key_Up, 51);
-        add("horizontal, page down", Qt::Horizontal, Qt::Key_PageDown, 40);
+        QTest::newRow("vertical, up") << Qt::Vertical << Qt::Key_Up << 49;
+        QTest::newRow("vertical, down") << Qt::Vertical << Qt::Key_Down << 51;
+        QTest::newRow("vertical, page up") << Qt::Vertical << Qt::Key_PageUp << 40;
+        QTest::newRow("vertical, home") << Qt::Vertical << Qt::Key_Home << 0;
+        QTest::newRow("horizontal, up") << Qt::Horizontal << Qt::Key_Up << 51;
+        QTest::newRow("horizontal, page down") << Qt::Horizontal << Qt::Key_PageDown << 40;
     }
 
-    void keysLeadWhereTheyPoint()
+    void keysMoveInTheirDirection()
     {
-        QFETCH(int, orientation);
-        QFETCH(int, key);
+        QFETCH(Qt::Orientation, orientation);
+        QFETCH(Qt::Key, key);
         Trimmer slider;
-        slider.setOrientation(Qt::Orientation(orientation));
+        slider.setOrientation(orientation);
         slider.setValue(50);
-        QTest::keyClick(&slider, Qt::Key(key));
+        QTest::keyClick(&slider, key);
         QTEST(slider.value(), "value");
-        // A click on the default thumb gives it the keys.
         slider.setValue(50);
         Click(slider.defaultThumb());
-        QTest::keyClick(slider.defaultThumb(), Qt::Key(key));
+        QTest::keyClick(slider.defaultThumb(), key);
         QTEST(slider.value(), "value");
     }
 
-    void ownerThatStepsTheDefaultThumbDecidesWhatAStepIs()
+    void connectedSteppedReplacesTheKeysOfTheSlider()
     {
         Trimmer slider;
         Click(slider.defaultThumb());
@@ -397,7 +434,7 @@ private Q_SLOTS:
     void keysAndWheelReachEveryThumb()
     {
         Trimmer slider;
-        // One lies on the default thumb, one is not to be selected.
+        // `low` covers the default thumb, `high` is not selectable.
         Thumb* low = slider.add("low", 0);
         Thumb* high = slider.add("high", 80);
         high->setSelectable(false);
@@ -412,22 +449,27 @@ private Q_SLOTS:
         QSignalSpy stepped(low, &Thumb::stepped);
         for (const Qt::Key key : {Qt::Key_Up, Qt::Key_Right, Qt::Key_Down, Qt::Key_Left, Qt::Key_Home, Qt::Key_Space})
             press(key);
-        QVERIFY(low->value() == 0 && slider.selectedThumb() == low);
+        QCOMPARE(low->value(), 0);
+        QCOMPARE(slider.selectedThumb(), low);
         QCOMPARE(press(Qt::Key_Right, Qt::ControlModifier), high);
         press(Qt::Key_Space);
-        QVERIFY(press(Qt::Key_Up, Qt::ControlModifier) == high && !high->isChecked());
+        QCOMPARE(press(Qt::Key_Up, Qt::ControlModifier), high);
+        QVERIFY(!high->isChecked());
         press(Qt::Key_Left, Qt::ControlModifier);
         QCOMPARE(press(Qt::Key_Down, Qt::ControlModifier), slider.defaultThumb());
-        // The slider's keys and wheel are those of the selected thumb.
+        // The focused slider sends keys and wheel events to the selected thumb.
         slider.setFocus();
         press(Qt::Key_Up);
         using Support::TurnWheel;
-        QVERIFY(TurnWheel(&slider, {0, -240}) && TurnWheel(low, {30, 0}) && !TurnWheel(&slider, {}));
+        QVERIFY(TurnWheel(&slider, {0, -240}));
+        QVERIFY(TurnWheel(low, {30, 0}));
+        QVERIFY(!TurnWheel(&slider, {}));
         low->setWheelStepping(false);
         QVERIFY(!TurnWheel(low, {0, 120}));
         QCOMPARE(stepped, QList<QVariantList>({{120}, {120}, {-120}, {-120}, {120}, {-240}, {30}}));
         press(Qt::Key_Space);
-        QVERIFY(!low->isChecked() && !low->isDown());
+        QVERIFY(!low->isChecked());
+        QVERIFY(!low->isDown());
     }
 };
 

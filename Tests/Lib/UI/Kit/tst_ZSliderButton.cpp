@@ -20,10 +20,10 @@
 
 namespace {
 
-/// A button in the middle of a window, another widget before it, and the parts to look at.
-struct Scene
+/// A button in a window, below another widget.
+struct Fixture
 {
-    explicit Scene(const QPoint& place = QPoint(300, 300))
+    explicit Fixture(const QPoint& place = QPoint(300, 300))
     {
         auto* layout = new QVBoxLayout(&window);
         layout->addWidget(other);
@@ -53,27 +53,37 @@ class tst_ZSliderButton : public Support::TestCase
     static QRect OnScreen(const QWidget* widget) { return {widget->mapToGlobal(QPoint(0, 0)), widget->size()}; }
 
 private Q_SLOTS:
-    void pagesFollowTheLevel()
+    void levelStepFollowsTheValue_data()
     {
+        QTest::addColumn<int>("value");
+        QTest::addColumn<int>("clamped");
+        QTest::addColumn<int>("page");
+        QTest::newRow("last value of a step") << 24 << 24 << 1;
+        QTest::newRow("first value of a step") << 75 << 75 << 4;
+        QTest::newRow("maximum keeps the step") << 100 << 100 << 2;
+        QTest::newRow("above the maximum") << 150 << 100 << 2;
+        QTest::newRow("below the minimum") << -3 << 0 << 0;
+    }
+
+    void levelStepFollowsTheValue()
+    {
+        QFETCH(int, value);
+        QFETCH(int, clamped);
         ZSliderButton button;
         auto* stack = button.findChild<QStackedWidget*>();
         auto* slider = button.findChild<QSlider*>("slider");
         QCOMPARE(stack->currentWidget()->property("styleTag"), QVariant("ZSliderButton4"));
+        slider->setValue(49);
+        QCOMPARE(stack->currentIndex(), 2);
         QSignalSpy changed(&button, &ZSliderButton::valueChanged);
-        const QVector<QVector<int>> rows{{1, 1, 1},   {24, 24, 1},   {25, 25, 2},   {74, 74, 3}, {75, 75, 4},
-                                         {49, 49, 2}, {100, 100, 2}, {150, 100, 2}, {-3, 0, 0},  {-3, 0, 0}};
-        for (const QVector<int>& row : rows) {
-            InRow(QString::number(row[0]));
-            button.setValue(row[0]);
-            QCOMPARE(changed, QList<QVariantList>{{row[1]}});
-            QCOMPARE(QPoint(slider->value(), stack->currentIndex()), QPoint(row[1], row[2]));
-            changed.clear();
-        }
-        slider->setValue(30);
-        QVERIFY(changed == QList<QVariantList>{{30}} && stack->currentIndex() == 2);
+        button.setValue(value);
+        button.setValue(value);
+        QCOMPARE(changed, QList<QVariantList>({{clamped}, {clamped}}));
+        QCOMPARE(slider->value(), clamped);
+        QTEST(stack->currentIndex(), "page");
     }
 
-    void togglesToZeroAndBack()
+    void toggleRestoresTheSavedLevel()
     {
         QPointer<ZSliderButton> button = new ZSliderButton;
         QStringList events;
@@ -88,114 +98,121 @@ private Q_SLOTS:
         QCOMPARE(events.join(' '), QString("0 on 60 0 off 60 on 0"));
     }
 
-    void opensAboveTheButtonUntilTheFocusGoes()
+    void popUpOpensAboveTheButton_data()
     {
-        for (const bool onTop : {false, true, false}) {
-            Scene scene;
-            scene.button->setOnTop(!onTop);
-            scene.button->setOnTop(onTop);
-            QCOMPARE(scene.frame->windowType(), onTop ? Qt::SplashScreen : Qt::Popup);
-            QVERIFY(QTest::qWaitForWindowActive(&scene.window));
-            scene.button->setSliderHeight(90);
-            scene.click();
-            QTRY_VERIFY(scene.slider->hasFocus() && scene.isChecked());
-            QCOMPARE(OnScreen(scene.frame),
-                     QRect(OnScreen(scene.button).topLeft() - QPoint(0, 90), QSize(scene.button->width(), 90)));
-            onTop ? scene.window.activateWindow() : void(scene.frame->close());
-            QTRY_VERIFY(!scene.frame->isVisible() && !scene.isChecked());
-            QTRY_VERIFY(scene.other->hasFocus());
+        QTest::addColumn<bool>("onTop");
+        QTest::newRow("pop-up") << false;
+        QTest::newRow("top-level window") << true;
+    }
 
-            // Whatever happens to the button while it is open.
-            for (const char* what : {"onTop", "visible", "enabled"}) {
-                InRow(what);
-                scene.click();
-                QTRY_VERIFY(scene.isChecked());
-                const QVariant before = scene.button->property(what);
-                scene.button->setProperty(what, !before.toBool());
-                QTRY_VERIFY(!scene.frame->isVisible() && !scene.isChecked());
-                scene.button->setProperty(what, before);
-            }
-            scene.click();
-            QTRY_VERIFY(scene.isChecked());
-            delete scene.button;
-            QVERIFY(!scene.frame && !scene.slider);
+    void popUpOpensAboveTheButton()
+    {
+        QFETCH(bool, onTop);
+        Fixture fixture;
+        fixture.button->setOnTop(!onTop);
+        fixture.button->setOnTop(onTop);
+        QCOMPARE(fixture.frame->windowType(), onTop ? Qt::SplashScreen : Qt::Popup);
+        QVERIFY(QTest::qWaitForWindowActive(&fixture.window));
+        fixture.button->setSliderHeight(90);
+        fixture.click();
+        QTRY_VERIFY(fixture.slider->hasFocus());
+        QTRY_VERIFY(fixture.isChecked());
+        QCOMPARE(OnScreen(fixture.frame),
+                 QRect(OnScreen(fixture.button).topLeft() - QPoint(0, 90), QSize(fixture.button->width(), 90)));
+        onTop ? fixture.window.activateWindow() : void(fixture.frame->close());
+        QTRY_VERIFY(!fixture.frame->isVisible());
+        QTRY_VERIFY(!fixture.isChecked());
+        QTRY_VERIFY(fixture.other->hasFocus());
+
+        // These changes of the button close the pop-up.
+        for (const char* property : {"onTop", "visible", "enabled"}) {
+            fixture.click();
+            QTRY_VERIFY2(fixture.isChecked(), property);
+            const QVariant before = fixture.button->property(property);
+            fixture.button->setProperty(property, !before.toBool());
+            QTRY_VERIFY2(!fixture.frame->isVisible(), property);
+            QTRY_VERIFY2(!fixture.isChecked(), property);
+            fixture.button->setProperty(property, before);
         }
+        fixture.click();
+        QTRY_VERIFY(fixture.isChecked());
+        delete fixture.button;
+        QVERIFY(!fixture.frame);
+        QVERIFY(!fixture.slider);
     }
 
 #if defined(Q_OS_WIN)
-    // Only here have pop-ups a shadow of their own.
-    void shadowGoesAndStaysAway()
+    void removedShadowIsNotRestored()
     {
-        Scene scene;
+        Fixture fixture;
         const auto hasShadow = [&] {
-            return bool(GetClassLongW(reinterpret_cast<HWND>(scene.frame->winId()), GCL_STYLE) & CS_DROPSHADOW);
+            return bool(GetClassLongW(reinterpret_cast<HWND>(fixture.frame->winId()), GCL_STYLE) & CS_DROPSHADOW);
         };
         QVERIFY(hasShadow());
         for (const bool on : {true, false, true}) {
             const bool before = hasShadow();
-            scene.button->setShadow(on);
+            fixture.button->setShadow(on);
             QCOMPARE(hasShadow(), before && on);
         }
     }
 #endif
 
-    void aSecondClickClosesIt_data()
+    void secondClickClosesThePopUp_data()
     {
-        QTest::addColumn<bool>("onTop");
-        QTest::newRow("pop-up") << false;
-        QTest::newRow("on top") << true;
+        popUpOpensAboveTheButton_data();
     }
 
-    // The press that closes the slider is not one that opens it again.
-    void aSecondClickClosesIt()
+    void secondClickClosesThePopUp()
     {
         QFETCH(bool, onTop);
-        Scene scene;
-        scene.button->setOnTop(onTop);
-        QVERIFY(QTest::qWaitForWindowActive(&scene.window));
+        Fixture fixture;
+        fixture.button->setOnTop(onTop);
+        QVERIFY(QTest::qWaitForWindowActive(&fixture.window));
         for (const bool open : {true, false, true}) {
-            Support::Click(OnScreen(scene.button).center());
-            QTRY_COMPARE(scene.frame->isVisible(), open);
-            QTRY_VERIFY(!static_cast<QToolButton*>(scene.stack->currentWidget())->isDown());
-            QCOMPARE(scene.frame->isVisible(), open);
+            Support::Click(OnScreen(fixture.button).center());
+            QTRY_COMPARE(fixture.frame->isVisible(), open);
+            QTRY_VERIFY(!static_cast<QToolButton*>(fixture.stack->currentWidget())->isDown());
+            QCOMPARE(fixture.frame->isVisible(), open);
         }
     }
 
-    void staysOnTheScreen()
+    void popUpIsMovedOntoTheScreen()
     {
         const QRect screen = QGuiApplication::primaryScreen()->geometry();
         for (const QPoint place : {screen.topLeft(), screen.bottomRight() - QPoint(20, 40)}) {
-            Scene scene(place);
-            QVERIFY(QTest::qWaitForWindowActive(&scene.window));
+            Fixture fixture(place);
+            QVERIFY(QTest::qWaitForWindowActive(&fixture.window));
             for (const int height : {120, screen.height(), -5, INT_MAX, INT_MIN}) {
-                scene.button->setSliderHeight(height);
-                scene.click();
-                QVERIFY(scene.frame->isVisible());
-                QVERIFY(screen.contains(scene.frame->geometry()));
-                QVERIFY(height > 120 || !scene.frame->geometry().intersects(OnScreen(scene.button)));
-                scene.frame->hide();
+                fixture.button->setSliderHeight(height);
+                fixture.click();
+                QVERIFY(fixture.frame->isVisible());
+                QVERIFY(screen.contains(fixture.frame->geometry()));
+                QVERIFY(height > 120 || !fixture.frame->geometry().intersects(OnScreen(fixture.button)));
+                fixture.frame->hide();
             }
         }
     }
 
-    void worksByKeyboardAndWheel()
+    void keysAndWheelChangeTheLevel()
     {
-        Scene scene;
-        QVERIFY(QTest::qWaitForWindowActive(&scene.window));
-        QVERIFY(!Support::TurnWheel(scene.button, {0, 120}));
-        QTest::keyClick(scene.other, Qt::Key_Tab);
-        QSignalSpy changed(scene.button.data(), &ZSliderButton::valueChanged);
+        Fixture fixture;
+        QVERIFY(QTest::qWaitForWindowActive(&fixture.window));
+        QVERIFY(!Support::TurnWheel(fixture.button, {0, 120}));
+        QTest::keyClick(fixture.other, Qt::Key_Tab);
+        QSignalSpy changed(fixture.button.data(), &ZSliderButton::valueChanged);
         for (const Qt::Key key : {Qt::Key_Up, Qt::Key_PageUp, Qt::Key_Down, Qt::Key_End, Qt::Key_End, Qt::Key_Home})
-            QTest::keyClick(scene.button, key);
+            QTest::keyClick(fixture.button, key);
         QCOMPARE(changed, QList<QVariantList>({{1}, {11}, {10}, {100}, {0}}));
-        QVERIFY(Support::TurnWheel(scene.button, {0, 120}) && scene.button->value() > 0);
+        QVERIFY(Support::TurnWheel(fixture.button, {0, 120}));
+        QVERIFY(fixture.button->value() > 0);
         for (const Qt::Key key : {Qt::Key_Space, Qt::Key_Return}) {
-            QTest::keyClick(scene.button, key);
-            QTRY_VERIFY(scene.slider->hasFocus());
-            QTest::keyClick(scene.slider, Qt::Key_Home);
-            QTest::keyClick(scene.slider, key == Qt::Key_Space ? Qt::Key_Escape : Qt::Key_Return);
-            QVERIFY(scene.button->value() == 0 && !scene.frame->isVisible());
-            QTRY_VERIFY(scene.button->hasFocus());
+            QTest::keyClick(fixture.button, key);
+            QTRY_VERIFY(fixture.slider->hasFocus());
+            QTest::keyClick(fixture.slider, Qt::Key_Home);
+            QTest::keyClick(fixture.slider, key == Qt::Key_Space ? Qt::Key_Escape : Qt::Key_Return);
+            QCOMPARE(fixture.button->value(), 0);
+            QVERIFY(!fixture.frame->isVisible());
+            QTRY_VERIFY(fixture.button->hasFocus());
         }
     }
 };

@@ -14,8 +14,9 @@
 
 using namespace Zelkor::Vx::UI::Kit;
 
-using Values = QMap<qint64, qint64>; // of times, or the other way
+using Mapping = QMap<qint64, qint64>;
 using Numbers = QVector<qint64>;
+Q_DECLARE_METATYPE(Mapping)
 
 constexpr qint64 LOWEST = std::numeric_limits<qint64>::min();
 constexpr qint64 HIGHEST = std::numeric_limits<qint64>::max();
@@ -26,41 +27,49 @@ class tst_ZTimelineSlider : public Support::TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void timesAndValues()
+    void valuesAndTimesCorrespond_data()
     {
-        // Start, end and bounds, whether these are ignored.
-        const std::tuple<const char*, Numbers, bool, Values, Values> rows[] = {
-            {"plain", {0, 60000, -1, -1}, false, {{-9, 0}, {30000, 500}, {99999, 1000}}, {{500, 30000}, {2000, 60000}}},
-            {"later", {10000, 70000, -1, -1}, false, {{0, 167}, {30000, 500}}, {{0, 0}, {500, 30000}}},
-            {"bounds", {0, 60000, 20000, 50000}, false, {{0, 0}, {35000, 500}}, {{0, 20000}, {500, 35000}}},
-            {"left", {0, 60000, 20000, -7}, false, {{0, 0}, {40000, 500}}, {{0, 20000}, {1000, 60000}}},
-            {"right", {0, 60000, -1, 50000}, false, {{25000, 500}, {60000, 1000}}, {{500, 25000}, {1000, 50000}}},
-            {"ignored", {0, 60000, 20000, 50000}, true, {{0, 333}, {60000, 833}}, {{333, 20000}, {334, 20040}}},
-            {"empty", {5000, 5000, -1, -1}, false, {{0, 0}, {9000, 0}}, {{0, 0}, {700, 0}}},
-            {"one bound", {0, 60000, 20000, 20000}, false, {{0, 0}, {60000, 0}}, {{0, 20000}, {700, 20000}}},
-            {"midnight", {82800000, 90000000, 82800000, -1}, false, {{MIDNIGHT, 500}}, {{500, MIDNIGHT}}},
-            {"long", {0, HIGHEST, -1, -1}, false, {{HIGHEST, 1000}}, {{500, HIGHEST / 2 + 1}, {1000, HIGHEST}}},
-            {"longest", {LOWEST, HIGHEST, -1, -1}, false, {{LOWEST, -499}, {HIGHEST, 500}}, {{0, 0}, {1000, HIGHEST}}},
-        };
-        for (const auto& [name, span, isIgnored, values, times] : rows) {
-            InRow(name);
-            ZTimelineSlider slider;
-            slider.setSpan(span[0], span[1]);
-            slider.setBounds(span[2], span[3]);
-            slider.setBoundsIgnored(isIgnored);
-            for (const qint64 time : values.keys())
-                QCOMPARE(slider.valueOf(time), int(values[time]));
-            for (const qint64 value : times.keys())
-                QCOMPARE(slider.timeAt(int(value)), times[value]);
-            // There and back, where there is a time for each value.
-            const ZSliderThumb& thumb = *slider.defaultThumb();
-            const bool isFine = (span[0] == 0 || span[2] >= 0) && slider.timeAt(1000) - slider.timeAt(0) >= 1000;
-            for (int value = thumb.lowerLimit(); isFine && value <= thumb.upperLimit(); ++value)
-                QCOMPARE(slider.valueOf(slider.timeAt(value)), value);
-        }
+        QTest::addColumn<Numbers>("span"); // start, end, left and right bound
+        QTest::addColumn<bool>("isIgnored");
+        QTest::addColumn<Mapping>("values"); // by time
+        QTest::addColumn<Mapping>("times");  // by value
+        const auto row = [](const char* name, const Numbers& span, const Mapping& values, const Mapping& times,
+                            bool isIgnored = false) { QTest::newRow(name) << span << isIgnored << values << times; };
+        row("plain", {0, 60000, -1, -1}, {{-9, 0}, {30000, 500}, {99999, 1000}}, {{500, 30000}, {2000, 60000}});
+        row("later", {10000, 70000, -1, -1}, {{0, 167}, {30000, 500}}, {{0, 0}, {500, 30000}});
+        row("bounds", {0, 60000, 20000, 50000}, {{0, 0}, {35000, 500}}, {{0, 20000}, {500, 35000}});
+        row("left", {0, 60000, 20000, -7}, {{0, 0}, {40000, 500}}, {{0, 20000}, {1000, 60000}});
+        row("right", {0, 60000, -1, 50000}, {{25000, 500}, {60000, 1000}}, {{500, 25000}, {1000, 50000}});
+        row("ignored", {0, 60000, 20000, 50000}, {{0, 333}, {60000, 833}}, {{333, 20000}, {334, 20040}}, true);
+        row("empty", {5000, 5000, -1, -1}, {{0, 0}, {9000, 0}}, {{0, 0}, {700, 0}});
+        row("equal bounds", {0, 60000, 20000, 20000}, {{0, 0}, {60000, 0}}, {{0, 20000}, {700, 20000}});
+        row("midnight", {82800000, 90000000, 82800000, -1}, {{MIDNIGHT, 500}}, {{500, MIDNIGHT}});
+        row("long", {0, HIGHEST, -1, -1}, {{HIGHEST, 1000}}, {{500, HIGHEST / 2 + 1}, {1000, HIGHEST}});
+        row("longest", {LOWEST, HIGHEST, -1, -1}, {{LOWEST, -499}, {HIGHEST, 500}}, {{0, 0}, {1000, HIGHEST}});
     }
 
-    void timeAndSignals()
+    void valuesAndTimesCorrespond()
+    {
+        QFETCH(Numbers, span);
+        QFETCH(bool, isIgnored);
+        QFETCH(Mapping, values);
+        QFETCH(Mapping, times);
+        ZTimelineSlider slider;
+        slider.setSpan(span[0], span[1]);
+        slider.setBounds(span[2], span[3]);
+        slider.setBoundsIgnored(isIgnored);
+        for (const qint64 time : values.keys())
+            QCOMPARE(slider.valueOf(time), int(values[time]));
+        for (const qint64 value : times.keys())
+            QCOMPARE(slider.timeAt(int(value)), times[value]);
+        // The conversion is reversible if each value has its own time.
+        const ZSliderThumb& thumb = *slider.defaultThumb();
+        const bool isFine = (span[0] == 0 || span[2] >= 0) && slider.timeAt(1000) - slider.timeAt(0) >= 1000;
+        for (int value = thumb.lowerLimit(); isFine && value <= thumb.upperLimit(); ++value)
+            QCOMPARE(slider.valueOf(slider.timeAt(value)), value);
+    }
+
+    void changesKeepTheTimeWithinTheBounds()
     {
         auto* slider = new ZTimelineSlider;
         const auto state = [&] {
@@ -70,16 +79,16 @@ private Q_SLOTS:
         QSignalSpy times(slider, &ZTimelineSlider::timeChanged);
         slider->setEndTime(60000);
         slider->setTime(30000);
-        slider->setTime(30010); // no value of its own
+        slider->setTime(30010); // same value
         slider->setBoundsIgnored(true);
         slider->setBounds(20000, 40000);
         slider->setBoundsIgnored(false);
         slider->setBoundsIgnored(true);
         QCOMPARE(state(), Numbers({333, 667, 500, 500, 30000}));
-        slider->setEndTime(120000); // the old value is beyond the new limit
+        slider->setEndTime(120000); // the old value exceeds the new limit
         QCOMPARE(state(), Numbers({167, 333, 250, 250, 30000}));
 
-        // The bound moves over the time, and goes away.
+        // The bound passes the time and is removed.
         slider->setBoundsIgnored(false);
         slider->setRightBound(-5);
         slider->setTime(0);
@@ -97,12 +106,12 @@ private Q_SLOTS:
         slider->removeThumb("default");
         slider->setBounds(50000, 60000);
         QCOMPARE(times, QList<QVariantList>({{30000}, {20000}, {40000}, {39960}, {119999}, {50000}}));
-        // Whoever is told may delete it.
+        // A slot may delete the slider.
         connect(slider, &ZTimelineSlider::timeChanged, slider, [slider] { delete slider; });
         slider->setBounds(55000, -1);
     }
 
-    void textsForToolTipAndAccessibility()
+    void toolTipAndAccessibilityShowTimes()
     {
         const QTime time(1, 2, 3, 450);
         QCOMPARE(ChooseTimeFormat({"hh:mm", "hh:mm:ss.zzz", "h:m:s.z"}, time), QString("hh:mm:ss.zzz"));
@@ -122,7 +131,7 @@ private Q_SLOTS:
         };
         QCOMPARE(tipAt(106), QString("13:00:00"));
         QCOMPARE(tipAt(211), QString("02:00:00"));
-        // A thumb that is dragged takes the mouse.
+        // A dragged thumb has the mouse grab.
         ZSliderThumb* thumb = slider.defaultThumb();
         QTest::mousePress(thumb, Qt::LeftButton, {}, {7, 7});
         Support::MoveMouse(thumb, thumb->mapFromParent({56, 7}));
@@ -144,7 +153,7 @@ private Q_SLOTS:
                  QVariantList({20000, 22001, 23000}));
         slider.setSingleStep(std::numeric_limits<int>::max());
         slider.setRange(1, std::numeric_limits<int>::max());
-        QCOMPARE(value->minimumStepSize(), QVariant(3000)); // no further than the end
+        QCOMPARE(value->minimumStepSize(), QVariant(3000)); // limited by the maximum
     }
 };
 

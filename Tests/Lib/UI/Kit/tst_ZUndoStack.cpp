@@ -11,56 +11,52 @@ namespace {
 QStringList events;
 int alive = 0;
 
-/// Writes down what is done to it, and notices being deleted while it runs.
-class Step : public QUndoCommand
+/// Records its calls and its deletion, and whether it is deleted while it runs.
+class Command : public QUndoCommand
 {
 public:
-    explicit Step(QChar name, std::function<void()> act = nullptr) : name(name), act(std::move(act)) { ++alive; }
-    ~Step() override
+    explicit Command(const QString& name, std::function<void()> act = nullptr) : name(name), act(std::move(act))
+    {
+        ++alive;
+    }
+    ~Command() override
     {
         --alive;
-        events += QString('-') + name + QString(running, '!');
+        events += (depth > 0 ? "deleted while running " : "delete ") + name;
     }
 
-    void undo() override { run('u'); }
-    void redo() override { run('r'); }
+    void undo() override { run("undo " + name); }
+    void redo() override { run("redo " + name); }
 
 private:
-    void run(QChar what)
+    void run(const QString& event)
     {
-        events += QString(what) + name;
-        ++running;
+        events += event;
+        ++depth;
         if (const auto once = std::exchange(act, nullptr))
             once();
-        --running;
+        --depth;
     }
 
-    QChar name;
+    QString name;
     std::function<void()> act;
-    int running = 0;
+    int depth = 0;
 };
 
-// A letter pushes a command of that name, a small one past the transactions; ( ) ! open, commit and roll back; * clears
-// and ~ deletes the stack.
-void Play(QPointer<ZUndoStack> stack, const QString& script)
+// Calls slots of the stack by their names; "push A" and "pushPast A" add a command, "delete" deletes the stack.
+void Call(QPointer<ZUndoStack> stack, const QString& calls)
 {
-    using Stack = ZUndoStack;
-    static const QMap<QChar, void (Stack::*)()> SIGNS{{'<', &Stack::undo},
-                                                      {'>', &Stack::redo},
-                                                      {'(', &Stack::startTransaction},
-                                                      {')', &Stack::commitTransaction},
-                                                      {'!', &Stack::rollbackTransaction},
-                                                      {'*', &Stack::clear}};
-    for (int i = 0; i < script.size() && stack; ++i) {
-        const QChar c = script[i];
-        if (const auto act = SIGNS.value(c))
-            (stack->*act)();
-        else if (c == '~')
+    for (const QString& call : calls.split(", ", Qt::SkipEmptyParts)) {
+        if (!stack)
+            return;
+        if (call.startsWith("pushPast "))
+            stack->pushPastTransactions(new Command(call.section(' ', 1)));
+        else if (call.startsWith("push "))
+            stack->push(new Command(call.section(' ', 1)));
+        else if (call == "delete")
             delete stack;
-        else if (c.isLower())
-            stack->pushPastTransactions(new Step(c));
         else
-            stack->push(c == '0' ? nullptr : new Step(c));
+            QVERIFY2(QMetaObject::invokeMethod(stack, call.toLatin1()), qPrintable(call));
     }
 }
 
@@ -71,82 +67,106 @@ class tst_ZUndoStack : public Support::TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void history()
+    void historyFollowsTheCalls_data()
     {
-        struct Row
+        QTest::addColumn<QString>("calls");
+        QTest::addColumn<QString>("expected");
+        QTest::addColumn<int>("count");
+        QTest::addColumn<QString>("can");
+        const auto row = [](const char* name, const QString& calls, const QString& expected, int count,
+                            const QString& can) { QTest::newRow(name) << calls << expected << count << can; };
+        row("empty stack", "undo, redo, commitTransaction, rollbackTransaction, clear", "", 0, "");
+        row("undo", "push A, push B, undo", "undo B", 1, "undoredo");
+        row("push deletes undone commands", "push A, push B, undo, undo, push C", "undo B, undo A, delete A, delete B",
+            1, "undo");
+        row("transaction is one step", "startTransaction, push A, push B, commitTransaction, undo, redo",
+            "undo B, undo A, redo A, redo B", 1, "undo");
+        row("empty transaction keeps undone commands", "push A, undo, startTransaction, commitTransaction, redo",
+            "undo A, redo A", 1, "undo");
+        row("transaction deletes undone commands", "push A, undo, startTransaction, push B, commitTransaction, redo",
+            "undo A, delete A", 1, "undo");
+        row("undone commands are not committed", "startTransaction, push A, push B, undo, commitTransaction, undo",
+            "undo B, delete B, undo A", 0, "redo");
+        row("rollback undoes the rest", "push X, startTransaction, push A, push B, undo, rollbackTransaction",
+            "undo B, undo A, delete A, delete B", 1, "undo");
+        row("nested rollback",
+            "startTransaction, push A, startTransaction, push B, rollbackTransaction, push C, commitTransaction, undo",
+            "undo B, delete B, undo C, undo A", 0, "redo");
+        row("rollback of a nested commit",
+            "startTransaction, push A, startTransaction, push B, commitTransaction, rollbackTransaction",
+            "undo B, undo A, delete A, delete B", 0, "");
+        row("earlier steps wait for the transaction", "push X, startTransaction, undo", "", 1, "");
+        row("clear keeps transactions", "push A, push B, undo, startTransaction, push C, clear",
+            "undo B, delete A, delete B", 0, "undo");
+        row("push past a transaction", "push A, undo, startTransaction, push B, pushPast C, push D, commitTransaction",
+            "undo A, delete A", 2, "undo");
+    }
+
+    void historyFollowsTheCalls()
+    {
+        QFETCH(QString, calls);
+        events.clear();
         {
-            QString script;
-            QString events; ///< u undone, r redone, - deleted
-            int count;
-            QString can;
-        };
-        const Row rows[] = {
-            {"<>)!*0", "", 0, ""},
-            {"AB<", "uB", 1, "<>"},
-            {"AB<<C", "uB uA -A -B", 1, "<"},
-            {"AB<0>", "uB rB", 2, "<"},
-            {"(AB)<>", "uB uA rA rB", 1, "<"},
-            {"A<(0)", "uA", 0, ">"},    // an empty transaction keeps what can be redone
-            {"A<(B)", "uA -A", 1, "<"}, // another one does not
-            {"(A<)", "uA -A", 0, ""},   // nothing is left of what was undone
-            {"(AB<)<", "uB -B uA", 0, ">"},
-            {"X(AB!", "uB uA -A -B", 1, "<"},
-            {"X(AB<!", "uB uA -A -B", 1, "<"},
-            {"((A)B)<>", "uB uA rA rB", 1, "<"},
-            {"(A(B!C)<", "uB -B uC uA", 0, ">"},
-            {"(A(B)!", "uB uA -A -B", 0, ""},
-            {"X(<", "", 1, ""}, // what was before a transaction waits
-            {"AB<(C*", "uB -A -B", 0, "<"},
-            {"A<(BcD)", "uA -A", 2, "<"},
-        };
-        for (const Row& row : rows) {
-            InRow(row.script);
-            events.clear();
-            {
-                ZUndoStack stack;
-                Play(&stack, row.script);
-                QCOMPARE(QStringList(events).join(' '), row.events);
-                QCOMPARE(stack.count(), row.count);
-                QCOMPARE(QString(stack.canUndo() ? "<" : "") + (stack.canRedo() ? ">" : ""), row.can);
-            }
-            QCOMPARE(alive, 0);
+            ZUndoStack stack;
+            stack.push(nullptr);
+            Call(&stack, calls);
+            QTEST(QStringList(events).join(", "), "expected");
+            QTEST(stack.count(), "count");
+            QTEST(QString(stack.canUndo() ? "undo" : "") + (stack.canRedo() ? "redo" : ""), "can");
         }
+        QCOMPARE(alive, 0);
     }
 
-    void commandsThatUseTheStack()
+    void commandMayCallItsStack_data()
     {
-        const QStringList scripts{"X", "(", ")", "!", "*", "<", ">", "(X)", "!X", ")<", ")<X", "<X", "~", "))<~"};
-        const QStringList befores{"A", "A(B", "A((B", "((A)(B"};
-        const QStringList afters{"<", "<!", "<)<", "<<", "<>", "<>!", "<>)<", "<><"};
-        for (int i = 0; i < scripts.size() * befores.size() * afters.size(); ++i) {
-            const QString script = scripts[i % scripts.size()];
-            const QString before = befores[i / scripts.size() % befores.size()];
-            const QString after = afters[i / scripts.size() / befores.size()];
-            InRow(before + " then " + script + " then " + after);
-            events.clear();
-            QPointer<ZUndoStack> stack = new ZUndoStack;
-            Play(stack, before);
-            stack->push(new Step('S', [&] { Play(stack, script); }));
-            Play(stack, after);
-            delete stack;
-            QCOMPARE(alive, 0);
-            QVERIFY2(events.filter("!").isEmpty(), qPrintable(events.join(' ')));
+        const QString start = "startTransaction";
+        const QString commit = "commitTransaction";
+        const QString rollBack = "rollbackTransaction";
+        QTest::addColumn<QString>("before");
+        QTest::addColumn<QString>("within");
+        QTest::addColumn<QString>("after");
+        for (const QString& before :
+             {QString("push A"), "push A, " + start + ", push B", "push A, " + start + ", " + start + ", push B",
+              start + ", " + start + ", push A, " + commit + ", push B, " + start + ", push B"}) {
+            for (const QString& within :
+                 {QString("push X"), start, commit, rollBack, QString("clear"), QString("undo"), QString("redo"),
+                  start + ", push X, " + commit, rollBack + ", push X", commit + ", undo", commit + ", undo, push X",
+                  QString("undo, push X"), QString("delete"), commit + ", " + commit + ", undo, delete"}) {
+                for (const QString& after : {QString("undo"), "undo, " + rollBack, "undo, " + commit + ", undo",
+                                             QString("undo, undo"), QString("undo, redo"), "undo, redo, " + rollBack,
+                                             "undo, redo, " + commit + ", undo", QString("undo, redo, undo, redo")})
+                    QTest::newRow(qPrintable(before + "; " + within + "; " + after)) << before << within << after;
+            }
         }
     }
 
-    // One that is deleted instead of being closed, and one that was opened on a transaction and not on the stack.
-    void transactionsOfOddOrigin()
+    void commandMayCallItsStack()
+    {
+        QFETCH(QString, before);
+        QFETCH(QString, within);
+        QFETCH(QString, after);
+        events.clear();
+        QPointer<ZUndoStack> stack = new ZUndoStack;
+        Call(stack, before);
+        stack->push(new Command("S", [&] { Call(stack, within); }));
+        Call(stack, after);
+        delete stack;
+        QCOMPARE(alive, 0);
+        QCOMPARE(events.filter("deleted while running"), QStringList());
+    }
+
+    void transactionMayBeDeletedOrHaveItsOwnTransactions()
     {
         ZUndoStack stack;
-        Play(&stack, "(A(B");
+        Call(&stack, "startTransaction, push A, startTransaction, push B");
         delete stack.currentTransaction();
-        Play(&stack, "C");
+        stack.push(new Command("C"));
         stack.currentTransaction()->startTransaction();
-        Play(&stack, "D))");
+        Call(&stack, "push D, commitTransaction, commitTransaction");
         QVERIFY(!stack.currentTransaction());
         events.clear();
-        Play(&stack, "<*");
-        QCOMPARE(events.mid(0, 3), QStringList({"uD", "uC", "uA"}));
+        Call(&stack, "undo, clear");
+        QCOMPARE(events.mid(0, 3), QStringList({"undo D", "undo C", "undo A"}));
         QCOMPARE(alive, 0);
     }
 };

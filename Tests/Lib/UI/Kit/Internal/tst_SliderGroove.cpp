@@ -22,8 +22,8 @@ struct Slider : ZSlider
         defaultThumb()->hide();
     }
 
-    // The colours in the middle of these pixels along the groove.
-    QString at(const QVector<int>& pixels)
+    // Returns the colours at these pixels along the groove.
+    QString colorsAt(const QVector<int>& pixels)
     {
         static const QMap<QRgb, QString> NAMES{{0xffffffff, "white"}, {0xff00ff00, "lime"}, {0xff0000ff, "blue"},
                                                {0xffff0000, "red"},   {0xff808080, "gray"}, {0, "none"}};
@@ -45,44 +45,44 @@ class tst_SliderGroove : public Support::TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void grooveInItsLooks()
+    void segmentsHaveTheirStyles()
     {
         Slider slider;
         slider.setSegments({{20, 40, false}, {80, 60, true}, {150, 100, true}});
-        QCOMPARE(slider.at({30, 46, 47, 85, 86, 87}), "white red lime lime red white");
-        QCOMPARE(slider.at({126, 150, 166, 205, 3}), "red blue red white none");
+        QCOMPARE(slider.colorsAt({30, 46, 47, 85, 86, 87}), "white red lime lime red white");
+        QCOMPARE(slider.colorsAt({126, 150, 166, 205, 3}), "red blue red white none");
         slider.clearSegments();
         slider.addSegment(0, 50);
         slider.setOrientation(Qt::Vertical);
         slider.resize(30, 212);
-        QCOMPARE(slider.at({20, 150}), "lime white");
+        QCOMPARE(slider.colorsAt({20, 150}), "lime white");
     }
 
-    void grooveFollowsWhatItShows()
+    void grooveIsRenderedAgainAfterChanges()
     {
         Slider slider;
         slider.setSubPageStyle("background: red");
         slider.setAddPageStyle("background: blue; /* %1 and } */");
         for (const int value : {50, 10, 90}) {
             slider.setValue(value);
-            QCOMPARE(slider.at({2 * value, 2 * value + 12}), "red blue");
+            QCOMPARE(slider.colorsAt({2 * value, 2 * value + 12}), "red blue");
         }
         slider.setLayoutDirection(Qt::RightToLeft);
         slider.setSubPageStyle("background: red } QSlider::sub-page:horizontal:disabled { background: gray");
-        QCOMPARE(slider.at({20}), "red");
+        QCOMPARE(slider.colorsAt({20}), "red");
         slider.setEnabled(false);
-        QCOMPARE(slider.at({20}), "gray");
+        QCOMPARE(slider.colorsAt({20}), "gray");
         ExpectWarning("braces or quotes do not match");
         slider.setSubPageStyle("background: red } }");
         slider.setAddPageStyle({});
-        QCOMPARE(slider.at({20}), "white");
+        QCOMPARE(slider.colorsAt({20}), "white");
         slider.setGrooveEmptyStyle("background: palette(window)");
         const QPalette before = QApplication::palette();
         QApplication::setPalette(QPalette(Qt::black, Qt::blue));
-        QCOMPARE(slider.at({20}), "blue");
+        QCOMPARE(slider.colorsAt({20}), "blue");
         QApplication::setPalette(before);
 
-        // A value that changes nothing but a thumb has nothing else painted.
+        // If the groove does not depend on the value, only the thumb is repainted.
         slider.setEnabled(true);
         slider.setGrooveEmptyStyle("background: white");
         slider.defaultThumb()->show();
@@ -91,7 +91,8 @@ private Q_SLOTS:
         Support::PaintSpy paints(&slider);
         slider.setValue(91);
         const auto painted = paints.Take();
-        QVERIFY(painted.size() == 1 && painted[0].boundingRect().width() < 20);
+        QCOMPARE(painted.size(), 1);
+        QVERIFY(painted[0].boundingRect().width() < 20);
     }
 };
 
