@@ -1,5 +1,5 @@
-# A zip for Windows: `cpack` in the build folder makes it. It holds all components of VxInstall.cmake, and what they run
-# on, so that the gallery starts from where the zip is unpacked.
+# The zip for Windows. Run `cpack` in the build folder to make it. It contains all components of VxInstall.cmake and
+# their run-time dependencies, so that VxGallery.exe starts from the unpacked folder.
 
 set(CPACK_PACKAGE_VENDOR "VxUiWidgets developers")
 set(CPACK_PACKAGE_FILE_NAME VxUiWidgets-${PROJECT_VERSION}-windows-x86-64)
@@ -7,11 +7,16 @@ set(CPACK_GENERATOR ZIP)
 set(CPACK_STRIP_FILES ON)
 set(CPACK_VERBATIM_VARIABLES ON)
 
-install(FILES README.md CHANGELOG.md DESTINATION . COMPONENT development)
+install(FILES README.md CHANGELOG.md THIRD-PARTY.md THIRD-PARTY.spdx DESTINATION . COMPONENT development)
 install(DIRECTORY Docs DESTINATION . COMPONENT development
         FILES_MATCHING PATTERN "*.md" PATTERN "*.png" PATTERN "*.svg")
 
-# A build on Windows itself has tools of Qt's and of the compiler's that collect these.
+# vx_notice(PART FILE): installs the notices of a third-party part as licenses/PART.txt.
+function(vx_notice part file)
+  install(FILES ${file} DESTINATION licenses RENAME ${part}.txt COMPONENT runtime)
+endfunction()
+
+# A native build collects these with windeployqt and the compiler's tools.
 if(VX_WINDOWS_SDK)
   set(sdk_libraries Qt5Core Qt5Gui Qt5Widgets Qt5Svg libglog libgcc_s_seh-1 libstdc++-6 libwinpthread-1)
   list(TRANSFORM sdk_libraries REPLACE "(.+)" "${VX_WINDOWS_SDK}/bin/\\1.dll")
@@ -22,7 +27,20 @@ if(VX_WINDOWS_SDK)
        /usr/share/qt5/translations/qtbase_ja.qm)
   install(FILES ${qt_texts} DESTINATION translations COMPONENT runtime)
 
-  # Programs in the folder of this file take Qt's plugins and texts from where they are in the zip.
+  # The SDK is built from Debian's sources. Debian's packages of the same sources contain their notices.
+  vx_notice(Qt /usr/share/doc/qtbase5-dev/copyright)
+  vx_notice(QtSvg /usr/share/doc/libqt5svg5/copyright)
+  vx_notice(QtTranslations /usr/share/doc/qttranslations5-l10n/copyright)
+  vx_notice(glog /usr/share/doc/libgoogle-glog-dev/copyright)
+  vx_notice(libyuv /usr/share/doc/libyuv-dev/copyright)
+  vx_notice(Boost cmake/licenses/BSL-1.0.txt)
+  vx_notice(GccRuntime /usr/share/doc/gcc-mingw-w64-x86-64-posix-runtime/copyright)
+  vx_notice(MinGW /usr/share/doc/mingw-w64-x86-64-dev/copyright)
+  foreach(license GPL-2 GPL-3 LGPL-2 LGPL-2.1 LGPL-3)
+    vx_notice(${license} /usr/share/common-licenses/${license})
+  endforeach()
+
+  # Qt finds its plugins and translations relative to this file.
   file(CONFIGURE OUTPUT ${generated}/qt.conf @ONLY
        CONTENT "[Paths]\nPrefix=..\nPlugins=@VX_INSTALL_QTPLUGINDIR@\nTranslations=translations\n")
   install(FILES ${generated}/qt.conf DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT runtime)

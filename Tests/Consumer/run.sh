@@ -52,6 +52,7 @@ pack_and_unpack() {
     need libvxuiwidgets1 'libqt5widgets5 \(>='
     need libvxuiwidgets-dev 'libvxuiwidgets1 \(='
     need vxuiwidgets-tools 'libvxuiwidgets1 \(='
+    "$here/notices.sh" packages "$source" "$folder/root" || fail "the packages lack notices"
 }
 
 unzip_and_go_to_wine() {
@@ -61,7 +62,8 @@ unzip_and_go_to_wine() {
     (cd "$folder/some where" && cmake -E tar xf "$folder"/packages/*.zip)
     prefix=$(echo "$folder/some where"/*)
     settings=(-DCMAKE_TOOLCHAIN_FILE="$source/cmake/VxWindowsToolchain.cmake" -DVX_WINDOWS_SDK="$(cache VX_WINDOWS_SDK)")
-    # With the libraries and plugins that are in the zip, and no others.
+    "$here/notices.sh" zip "$source" "$prefix" || fail "the zip lacks notices"
+    # With the libraries and plugins of the zip, and no others.
     start=("$source/tools/windows/in-wine" "$prefix")
     consumer=consumer.exe
 }
