@@ -29,7 +29,7 @@ function(vx_version_resource name description)
   endif()
   set(VX_FILE_DESCRIPTION "${description}")
   set(resource ${CMAKE_CURRENT_BINARY_DIR}/${name}Version.rc)
-  configure_file(${PROJECT_SOURCE_DIR}/cmake/VxVersion.rc.in ${resource} @ONLY)
+  configure_file(${CMAKE_CURRENT_FUNCTION_LIST_DIR}/VxVersion.rc.in ${resource} @ONLY)
   file(GENERATE OUTPUT ${CMAKE_CURRENT_BINARY_DIR}/${name}FileName.h
        CONTENT "#define VX_FILE_NAME \"$<TARGET_FILE_NAME:${name}>\"\n")
   target_sources(${name} PRIVATE ${resource})
