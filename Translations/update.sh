@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# update.sh LUPDATE FOLDER: brings the translation files of the folder up to date with the sources.
+# update.sh LUPDATE FOLDER: updates the .ts files in FOLDER from the sources.
 set -euo pipefail
 lupdate=$1
 folder=$(cd "$2" && pwd)

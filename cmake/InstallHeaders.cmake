@@ -1,7 +1,7 @@
-# Installs the public headers of Lib: those of widgets that are exported under the name of their header, those of kit
-# classes, which begin with Z or Q, and what these include. The rest is how they are made.
+# Installs the public headers of Lib: headers that declare an exported widget of the same name, headers of kit classes
+# (prefix Z or Q), and what these include. All others are internal.
 #
-# Runs during the installation, with lib_root and header_destination set.
+# Runs at install time, with lib_root and header_destination set.
 
 cmake_policy(VERSION 3.21)
 file(GLOB waiting RELATIVE ${lib_root} ${lib_root}/UI/Kit/[QZ]*.h)

@@ -1,10 +1,10 @@
-# What is installed. Components: runtime (what a program needs when it runs), development (what building against the
-# library needs), tools (the gallery and the Designer plugin).
+# Install rules. Components: runtime (shared libraries and translations), development (headers, static libraries, CMake
+# package, pkg-config files), tools (gallery, recorder, Designer plugin).
 #
-# Nothing installed names another place but relative to its own, so that an installed tree can be moved.
+# Installed files use relative paths only, so that an installed tree can be moved.
 
 if(EXISTS /etc/debian_version AND CMAKE_LIBRARY_ARCHITECTURE AND NOT CMAKE_CROSSCOMPILING)
-  # GNUInstallDirs does this for the prefix /usr alone, but packages are made from a build with any prefix.
+  # GNUInstallDirs does this for the prefix /usr only, but packages are built with any prefix.
   set(CMAKE_INSTALL_LIBDIR lib/${CMAKE_LIBRARY_ARCHITECTURE} CACHE PATH "Folder of the libraries")
 endif()
 include(GNUInstallDirs)
@@ -20,11 +20,11 @@ else()
 endif()
 set(VX_INSTALL_QTPLUGINDIR ${qt_plugin_folder} CACHE PATH "Qt's plugin folder, below the prefix")
 
-# vx_find_libraries_from(TARGET FOLDER): what is installed in the folder finds the libraries beside it.
+# vx_find_libraries_from(TARGET FOLDER): sets the RPATH from the folder to the library folder.
 function(vx_find_libraries_from target folder)
-  file(RELATIVE_PATH way "/${folder}" "/${CMAKE_INSTALL_LIBDIR}")
-  string(REGEX REPLACE "/$" "" way "$ORIGIN/${way}")
-  set_target_properties(${target} PROPERTIES INSTALL_RPATH "${way}")
+  file(RELATIVE_PATH path "/${folder}" "/${CMAKE_INSTALL_LIBDIR}")
+  string(REGEX REPLACE "/$" "" path "$ORIGIN/${path}")
+  set_target_properties(${target} PROPERTIES INSTALL_RPATH "${path}")
 endfunction()
 
 set(libraries VxUiWidgets)
@@ -56,13 +56,13 @@ install(
 install(TARGETS VxStyles EXPORT VxUiWidgetsStylesTargets ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR}
                                                                              COMPONENT development)
 
-# CMake strips everything but static libraries, where it must be less.
+# CMake does not strip static libraries; these must keep their symbol table.
 install(CODE "set(kit \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/${CMAKE_INSTALL_LIBDIR}/$<TARGET_FILE_NAME:VxUiKit>\")
 if(CMAKE_INSTALL_DO_STRIP)
   execute_process(COMMAND \"${CMAKE_STRIP}\" --strip-debug \"\${kit}\" COMMAND_ERROR_IS_FATAL ANY)
 endif()" COMPONENT development)
 
-# Which headers are public is read from them when they are installed, so that no list has to be kept.
+# The public headers are determined at install time, so that no list has to be maintained.
 install(CODE "set(lib_root \"${PROJECT_SOURCE_DIR}/Lib\")
 set(header_destination \"\${CMAKE_INSTALL_PREFIX}/${header_folder}\")" COMPONENT development)
 install(SCRIPT cmake/InstallHeaders.cmake COMPONENT development)
@@ -78,8 +78,8 @@ foreach(export VxUiWidgetsTargets VxUiWidgetsKitTargets VxUiWidgetsStylesTargets
 endforeach()
 
 set(pkgconfig_folder ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
-file(RELATIVE_PATH way_to_prefix "/${pkgconfig_folder}" "/")
-string(REGEX REPLACE "/$" "" way_to_prefix ${way_to_prefix})
+file(RELATIVE_PATH path_to_prefix "/${pkgconfig_folder}" "/")
+string(REGEX REPLACE "/$" "" path_to_prefix ${path_to_prefix})
 foreach(package VxUiWidgets VxUiWidgetsKit)
   configure_file(cmake/${package}.pc.in ${generated}/${package}.pc @ONLY)
   install(FILES ${generated}/${package}.pc DESTINATION ${pkgconfig_folder} COMPONENT development)
@@ -88,7 +88,7 @@ endforeach()
 set(translations ${PROJECT_BINARY_DIR}/Translations/)
 install(DIRECTORY ${translations} DESTINATION ${data_folder}/Translations COMPONENT runtime
         FILES_MATCHING PATTERN "VxUiWidgets_*.qm" PATTERN CMakeFiles EXCLUDE)
-# Applications may start their own sheet from one of these.
+# Applications can start their own style sheet from one of these.
 install(DIRECTORY ${PROJECT_BINARY_DIR}/Styles/ DESTINATION ${data_folder}/Styles COMPONENT development
         FILES_MATCHING PATTERN "*.qss" PATTERN "*.svg" PATTERN CMakeFiles EXCLUDE)
 

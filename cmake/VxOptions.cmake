@@ -1,11 +1,11 @@
-# Options of the build, and the compiler settings that every target of this tree shares.
+# Build options, and the compiler settings of all targets.
 
 option(VX_BUILD_GALLERY "Build the gallery of all widgets" ON)
 option(VX_BUILD_EXAMPLES "Build the recorder, an example application" ON)
 option(VX_BUILD_DESIGNER "Build the Qt Designer plugin" ON)
 option(VX_BUILD_TESTS "Build the tests" ON)
-option(VX_BUILD_BENCHMARKS "Build the speed table" ON)
-option(VX_WITH_GSTREAMER "Cameras and the screen through GStreamer; the test picture is there without it" ON)
+option(VX_BUILD_BENCHMARKS "Build the benchmarks" ON)
+option(VX_WITH_GSTREAMER "Capture from cameras and the screen by GStreamer; without it there is only the test picture" ON)
 option(VX_WARNINGS_AS_ERRORS "Stop at the first warning" OFF)
 set(VX_SANITIZE "" CACHE STRING "Sanitizers, as -fsanitize takes them: 'address,undefined' or 'thread'")
 set(VX_HOST_PACKAGE "" CACHE STRING "CMake package that provides VxUiWidgets::Host instead of the stand-in")
@@ -20,7 +20,7 @@ set(CMAKE_AUTOMOC ON)
 set(CMAKE_AUTORCC ON)
 set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 if(MINGW)
-  # The library's file has one name, whichever compiler made it.
+  # VxUiWidgets.dll, as with MSVC, instead of libVxUiWidgets.dll.
   set(CMAKE_SHARED_LIBRARY_PREFIX "")
 endif()
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/bin")

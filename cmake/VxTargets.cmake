@@ -1,9 +1,9 @@
-# vx_target(NAME): applies the compiler settings of this project to a target.
+# vx_target(NAME): applies the project's compiler settings to a target.
 function(vx_target name)
   target_compile_definitions(${name} PRIVATE QT_NO_KEYWORDS QT_NO_FOREACH QT_DEPRECATED_WARNINGS)
   if(MSVC)
-    # 4251 and 4275 warn of exported classes with members or bases that are not exported. These are private, or belong to
-    # Qt and the kit, which are built with the same compiler.
+    # 4251 and 4275 warn about members and bases of exported classes that are not exported. These are private, or classes
+    # of Qt and the kit, which are built by the same compiler.
     target_compile_options(${name} PRIVATE /W4 /permissive- /utf-8 /Zc:__cplusplus /wd4251 /wd4275
                                            $<$<BOOL:${VX_WARNINGS_AS_ERRORS}>:/WX>)
   else()
@@ -12,12 +12,12 @@ function(vx_target name)
                                            $<$<BOOL:${VX_WARNINGS_AS_ERRORS}>:-Werror>)
   endif()
   if(VX_SANITIZE MATCHES "thread")
-    # GCC warns of atomic fences, which this sanitizer does not model. Only Boost's headers contain them.
+    # GCC warns about atomic fences, which the thread sanitizer does not model. Only Boost's headers contain them.
     target_compile_options(${name} PRIVATE -Wno-tsan)
   endif()
 endfunction()
 
-# vx_version_resource(NAME DESCRIPTION): adds the version information that Windows shows in the file properties.
+# vx_version_resource(NAME DESCRIPTION): adds the version resource that Windows shows in the file properties.
 function(vx_version_resource name description)
   if(NOT WIN32)
     return()

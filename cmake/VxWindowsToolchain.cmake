@@ -1,17 +1,17 @@
-# Cross build for Windows x86-64 with MinGW-w64, against a prefix that tools/windows/build-sdk makes. VX_WINDOWS_SDK, as
-# a variable of CMake or of the environment, is that prefix.
+# Toolchain for cross builds to Windows x86-64 with MinGW-w64. VX_WINDOWS_SDK, a CMake or environment variable, names the
+# prefix that tools/windows/build-sdk has built.
 
 if(NOT VX_WINDOWS_SDK)
-  set(VX_WINDOWS_SDK "$ENV{VX_WINDOWS_SDK}" CACHE PATH "Prefix with what is built for Windows" FORCE)
+  set(VX_WINDOWS_SDK "$ENV{VX_WINDOWS_SDK}" CACHE PATH "Prefix with the libraries for Windows" FORCE)
 endif()
 if(NOT EXISTS "${VX_WINDOWS_SDK}/lib/cmake/Qt5Widgets")
-  message(FATAL_ERROR "There is no Qt for Windows in VX_WINDOWS_SDK ('${VX_WINDOWS_SDK}'); tools/windows/build-sdk makes it")
+  message(FATAL_ERROR "No Qt for Windows in VX_WINDOWS_SDK ('${VX_WINDOWS_SDK}'); run tools/windows/build-sdk")
 endif()
 list(APPEND CMAKE_TRY_COMPILE_PLATFORM_VARIABLES VX_WINDOWS_SDK)
 
 set(CMAKE_SYSTEM_NAME Windows)
 set(CMAKE_SYSTEM_PROCESSOR AMD64)
-# The library uses threads of the standard library, which the other variant of the compiler lacks.
+# The -win32 variant of the compiler has no std::thread.
 set(CMAKE_CXX_COMPILER x86_64-w64-mingw32-g++-posix)
 set(CMAKE_RC_COMPILER x86_64-w64-mingw32-windres)
 
@@ -21,7 +21,7 @@ set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
 
-# Boost is headers alone here, and those of this machine do. They get a folder of their own, without what else is there.
+# Only Boost's headers are needed, so the host's serve. The link keeps other headers of /usr/include out.
 get_property(in_try_compile GLOBAL PROPERTY IN_TRY_COMPILE)
 if(NOT in_try_compile AND NOT Boost_INCLUDE_DIR)
   file(MAKE_DIRECTORY ${CMAKE_BINARY_DIR}/boost)
@@ -30,7 +30,7 @@ if(NOT in_try_compile AND NOT Boost_INCLUDE_DIR)
 endif()
 set(Boost_NO_BOOST_CMAKE ON)
 
-# So do the tools that translate, which run on this machine.
+# Linguist's tools run on the host.
 file(GLOB linguist_tools /usr/lib/*/cmake/Qt5LinguistTools)
 set(Qt5LinguistTools_DIR ${linguist_tools} CACHE PATH "Folder with the CMake package of Qt's Linguist tools")
 

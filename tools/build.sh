@@ -1,4 +1,4 @@
-# What the commands share. To be sourced with `root` set to the top of the tree.
+# Functions shared by the commands. Source it with `root` set to the top of the tree.
 
 step() { printf '== %s\n' "$*"; }
 
@@ -7,17 +7,17 @@ fail() {
     exit 1
 }
 
-# build PRESET [TARGET ...]: installs what is missing and builds; quiet unless something goes wrong. Of the Windows build
-# it leaves in `sdk` where its libraries are.
+# build PRESET [TARGET ...]: installs missing packages and builds; prints the log only on failure. For the preset windows
+# it sets `sdk` to the prefix of the SDK.
 build() {
     local preset=$1 needs=() settings=()
     shift
     sdk=
     [ "$preset" != windows ] || needs=(--windows)
-    step "Looking for what the build needs"
-    "$root/tools/install-deps" "${needs[@]}" || fail "cannot go on without the packages named above"
+    step "Checking for required packages"
+    "$root/tools/install-deps" "${needs[@]}" || fail "required packages are missing, see above"
     if [ "$preset" = windows ]; then
-        "$root/tools/windows/build-sdk" || fail "cannot go on without the libraries for Windows"
+        "$root/tools/windows/build-sdk" || fail "the Windows SDK could not be built, see above"
         sdk=$("$root/tools/windows/build-sdk" --where)
         settings=("-DVX_WINDOWS_SDK=$sdk")
     fi
@@ -26,11 +26,11 @@ build() {
     step "Configuring build/$preset"
     (cd "$root" && cmake --preset "$preset" "${settings[@]}") >"$log" 2>&1 || {
         tail -n 30 "$log"
-        fail "configuring failed; the whole output is in build/$preset.log"
+        fail "configuring failed; see build/$preset.log for the whole output"
     }
     step "Building build/$preset"
     cmake --build "$root/build/$preset" ${*:+--target "$@"} >"$log" 2>&1 || {
         grep -E -A12 'error|warning|FAILED' "$log" | head -n 60
-        fail "building failed; the whole output is in build/$preset.log"
+        fail "the build failed; see build/$preset.log for the whole output"
     }
 }

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# casts.sh TREE: fails on a cast or a search by a class of the kit in what links both the library and the kit.
-# Each of the two has a copy of these classes, and a widget that comes out of the library is of the library's copy: such a
-# cast or search finds nothing. Classes of Qt, exported classes, object names and properties work across the edge.
+# casts.sh TREE: fails on casts to and searches by kit classes in code that links both the library and the kit.
+# The library contains its own copy of these classes, so that such a cast of a library's widget returns null. Use classes
+# of Qt, exported classes, object names or properties instead.
 set -euo pipefail
 cd "$1"
 folders=(Catalogue Examples Gallery Designer Tests/Consumer)
@@ -13,4 +13,4 @@ for folder in "${folders[@]}"; do
 done
 found=$(grep -rnE "(qobject_cast|dynamic_cast|findChild|findChildren|qFindChild) *<(const )?(::)?($classes) *(const)? *\*" \
     --include='*.h' --include='*.cpp' "${folders[@]}" || true)
-[ -z "$found" ] || { echo "cast or search by a class of the kit:"; echo "$found"; exit 1; }
+[ -z "$found" ] || { echo "cast to or search by a kit class:"; echo "$found"; exit 1; }

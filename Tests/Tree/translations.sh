@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# translations.sh TREE LUPDATE: fails on a text of the sources that the translation files lack, and on a translation
-# that is missing or shows other values than its source.
+# translations.sh TREE LUPDATE: fails on source texts missing from the .ts files, on missing translations, and on
+# translations whose placeholders differ from those of the source text.
 set -euo pipefail
 tree=$1
 lupdate=$2
@@ -8,7 +8,7 @@ copy=$(mktemp -d)
 trap 'rm -rf "$copy"' EXIT
 failed=0
 
-# The tree itself is left alone: it is for a person to bring the files up to date, and to translate what is new.
+# Work on a copy: updating the files and translating new texts is up to the developer.
 cp "$tree"/Translations/*.ts "$copy"
 warnings=$("$tree/Translations/update.sh" "$lupdate" "$copy" 2>&1) || failed=1
 [ -z "$warnings" ] || { echo "lupdate complains:"; echo "$warnings"; failed=1; }
@@ -19,7 +19,7 @@ for file in "$tree"/Translations/*.ts; do
     [ -z "$changes" ] ||
         { echo "$name differs from the texts of the sources (build the target 'translations'):"; echo "$changes"; failed=1; }
 
-    # One message after the other: each of its translations has the %1, %2 .. and %n of the source.
+    # Each translation has the same %1, %2, ... and %n as the source text of its message.
     awk -v RS='</message>' -v name="$name" '
         function inside(text, tag) {
             sub(".*<" tag "[^>]*>", "", text)
