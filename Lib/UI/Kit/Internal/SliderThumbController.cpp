@@ -9,6 +9,7 @@
 #include <QVector>
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace Zelkor::Vx::UI::Kit {

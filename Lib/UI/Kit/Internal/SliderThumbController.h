@@ -46,19 +46,19 @@ public:
     /// Clamps the values to the range of the slider and moves the thumbs to them, without signals.
     void updateThumbs();
 
-    /// Snapping of a dragged thumb to the default thumb, within a distance in thousandths of the slider's maximum.
+    /// Whether a dragged thumb snaps to the default thumb, and at which distance in thousandths of the maximum.
     bool isSnapping() const { return snapping; }
     void setSnapping(bool on) { snapping = on; }
     int snapDistance() const { return snapThousandths; }
     void setSnapDistance(int thousandths) { snapThousandths = thousandths; }
 
-    /// A drag that starts on the groove and moves the selected or the default thumb.
+    /// Handle a drag that starts on the groove, which moves the selected or the default thumb.
     void startGrooveDrag(const QPoint& point);
     void continueGrooveDrag(const QPoint& point);
     void finishGrooveDrag();
     bool isGrooveDragged() const { return draggingFromGroove; }
 
-    /// Input of the slider itself.
+    /// Handle input of the slider.
     void pressKey(QKeyEvent& event);
     void turnWheel(QWheelEvent& event);
 

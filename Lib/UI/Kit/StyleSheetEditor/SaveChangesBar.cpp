@@ -45,7 +45,7 @@ void SaveChangesBar::ask(std::function<void()> then)
 void SaveChangesBar::proceed()
 {
     const auto action = std::exchange(next, nullptr);
-    leave();
+    restoreFocusAndHide();
     if (action)
         action();
 }
@@ -53,11 +53,11 @@ void SaveChangesBar::proceed()
 void SaveChangesBar::dismiss()
 {
     next = nullptr;
-    leave();
+    restoreFocusAndHide();
 }
 
-// Qt would focus the next widget of the Tab order.
-void SaveChangesBar::leave()
+// Without this, Qt would focus the next widget in the tab order.
+void SaveChangesBar::restoreFocusAndHide()
 {
     if (previousFocus && isAncestorOf(window()->focusWidget()))
         previousFocus->setFocus();

@@ -39,10 +39,10 @@ protected:
 
 private:
     void retranslate();
-    void leave();
+    void restoreFocusAndHide();
 
     std::function<void()> next;
-    QPointer<QWidget> previousFocus;
+    QPointer<QWidget> previousFocus; ///< before the question
     MessageLabel* question;
     QPushButton* saveButton;
     QPushButton* discardButton;

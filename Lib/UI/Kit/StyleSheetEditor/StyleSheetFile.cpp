@@ -31,8 +31,7 @@ bool IsSpecial(const QString& fileName)
     return info.exists() && !info.isFile();
 }
 
-// A full disk takes a part and reports the error with the next one. The buffer of a file would not write that, and the
-// part would count as the whole.
+// On a full disk, write() first succeeds partially and fails with the next call, which a buffered file does not make.
 bool WriteAll(QIODevice& file, const QByteArray& bytes)
 {
     qint64 written = 0;

@@ -172,8 +172,6 @@ void ZRuntimeStylesheetEditor::Impl::retranslate()
     ui.showCursorPosition();
 }
 
-// Messages
-
 void ZRuntimeStylesheetEditor::Impl::showMessage(std::function<QString()> message, bool isProblem)
 {
     showsMistake = false;
@@ -213,8 +211,6 @@ void ZRuntimeStylesheetEditor::Impl::goToNextMistake()
         showMessage([] { return tr("There are no mistakes."); });
     ui.editor->goToNextMistake();
 }
-
-// Target
 
 void ZRuntimeStylesheetEditor::setTarget(QWidget* widget)
 {
@@ -289,8 +285,6 @@ void ZRuntimeStylesheetEditor::revert()
     impl->showMessage([] { return tr("Reverted."); });
     Q_EMIT reverted();
 }
-
-// Text and files
 
 QString ZRuntimeStylesheetEditor::text() const
 {
