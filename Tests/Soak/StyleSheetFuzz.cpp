@@ -19,15 +19,13 @@ namespace {
 
 bool isRejected = false;
 
-void HandleMessage(QtMsgType, const QMessageLogContext&, const QString& message)
-{
-    isRejected = isRejected || message.startsWith("Could not parse");
-}
-
 bool IsAcceptedByQt(const QString& sheet, StyleSheetScope scope)
 {
     isRejected = false;
-    const QtMessageHandler before = qInstallMessageHandler(HandleMessage);
+    const QtMessageHandler before =
+        qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString& message) {
+            isRejected = isRejected || message.startsWith("Could not parse");
+        });
     {
         QLabel label;
         scope == StyleSheetScope::APPLICATION ? qApp->setStyleSheet(sheet) : label.setStyleSheet(sheet);
@@ -77,17 +75,13 @@ private:
                 .split('~');
         const int at = random.bounded(sheet.size() + 1);
         const int length = random.bounded(random.bounded(2) ? 3 : 40);
-        switch (random.bounded(4)) {
-        case 0:
+        const int kind = random.bounded(4);
+        if (kind == 0)
             sheet.remove(at, length);
-            break;
-        case 1:
+        else if (kind == 1)
             sheet.insert(at, sheet.mid(random.bounded(sheet.size() + 1), length));
-            break;
-        default:
+        else
             sheet.insert(at, PIECES[random.bounded(PIECES.size())]);
-            break;
-        }
     }
 
     const QStringList rules;

@@ -112,19 +112,13 @@ private Q_SLOTS:
         using Edit = std::function<void(ZLineEdit&)>;
         QTest::addColumn<Edit>("apply");
         QTest::addColumn<QString>("expected");
-        const auto row = [](const char* name, const Edit& apply, const QString& expected) {
-            QTest::newRow(name) << apply << expected;
-        };
-        row(
-            "setText", [](ZLineEdit& edit) { edit.setText("other"); }, "other");
-        row(
-            "clear", [](ZLineEdit& edit) { edit.clear(); }, "");
-        row(
-            "insert", [](ZLineEdit& edit) { edit.end(false), edit.insert("."); }, LONG_TEXT + ".");
-        row(
-            "keys", [](ZLineEdit& edit) { QTest::keyClicks(&edit, "xy"); }, "xy" + LONG_TEXT);
-        row(
-            "input mask", [](ZLineEdit& edit) { edit.setInputMask("00.00"); }, LONG_TEXT);
+        QTest::newRow("setText") << Edit([](ZLineEdit& edit) { edit.setText("other"); }) << QString("other");
+        QTest::newRow("clear") << Edit([](ZLineEdit& edit) { edit.clear(); }) << QString("");
+        QTest::newRow("insert") << Edit([](ZLineEdit& edit) { edit.end(false), edit.insert("."); })
+                                << QString(LONG_TEXT + ".");
+        QTest::newRow("keys") << Edit([](ZLineEdit& edit) { QTest::keyClicks(&edit, "xy"); })
+                              << QString("xy" + LONG_TEXT);
+        QTest::newRow("input mask") << Edit([](ZLineEdit& edit) { edit.setInputMask("00.00"); }) << QString(LONG_TEXT);
         const Edit drop = [](ZLineEdit& edit) {
             const QSignalSpy edited(&edit, &QLineEdit::textEdited);
             QMimeData data;
@@ -135,20 +129,20 @@ private Q_SLOTS:
             QApplication::sendEvent(&edit, &event);
             QCOMPARE(edited, QList<QVariantList>{{"x" + LONG_TEXT}});
         };
-        row("drop", drop, "x" + LONG_TEXT);
+        QTest::newRow("drop") << drop << QString("x" + LONG_TEXT);
         const Edit copy = [](ZLineEdit& edit) {
             edit.selectAll();
             edit.copy();
             QCOMPARE(QGuiApplication::clipboard()->text(), LONG_TEXT);
         };
-        row("copy", copy, LONG_TEXT);
+        QTest::newRow("copy") << copy << QString(LONG_TEXT);
         const Edit truncate = [](ZLineEdit& edit) {
             edit.setMaxLength(5);
             edit.setFocus();
             QCOMPARE(edit.text(), LONG_TEXT.left(5));
             edit.clearFocus();
         };
-        row("maximum length", truncate, LONG_TEXT);
+        QTest::newRow("maximum length") << truncate << QString(LONG_TEXT);
     }
 
     void editsWithoutFocusApplyToTheWholeText()

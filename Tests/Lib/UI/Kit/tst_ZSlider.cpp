@@ -401,7 +401,6 @@ private Q_SLOTS:
         QTest::newRow("vertical, up") << Qt::Vertical << Qt::Key_Up << 49;
         QTest::newRow("vertical, down") << Qt::Vertical << Qt::Key_Down << 51;
         QTest::newRow("vertical, page up") << Qt::Vertical << Qt::Key_PageUp << 40;
-        QTest::newRow("vertical, home") << Qt::Vertical << Qt::Key_Home << 0;
         QTest::newRow("horizontal, up") << Qt::Horizontal << Qt::Key_Up << 51;
         QTest::newRow("horizontal, page down") << Qt::Horizontal << Qt::Key_PageDown << 40;
     }
@@ -419,16 +418,12 @@ private Q_SLOTS:
         Click(slider.defaultThumb());
         QTest::keyClick(slider.defaultThumb(), key);
         QTEST(slider.value(), "value");
-    }
-
-    void connectedSteppedReplacesTheKeysOfTheSlider()
-    {
-        Trimmer slider;
-        Click(slider.defaultThumb());
+        // A connection to `stepped` replaces them.
+        slider.setValue(50);
         const QSignalSpy stepped(slider.defaultThumb(), &Thumb::stepped);
         QTest::keyClick(slider.defaultThumb(), Qt::Key_Up);
         QCOMPARE(stepped, QList<QVariantList>({{120}}));
-        QCOMPARE(slider.value(), 0);
+        QCOMPARE(slider.value(), 50);
     }
 
     void keysAndWheelReachEveryThumb()

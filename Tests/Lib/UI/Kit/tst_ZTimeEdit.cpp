@@ -61,8 +61,6 @@ private Q_SLOTS:
         type("hh:mm:ss", "|12:34:56", "5", "|12:34:56");
         type("hh:mm:ss", "1|2:34:56", "5", "15:|34:56");
         type("hh:mm:ss", "|12:34:56", "235958", "23:59:58|");
-        type("hh:mm:ss", "2|0:34:56", "4", "2|0:34:56");
-        type("hh:mm:ss", "12:34:56|", "5", "12:34:56|");
         type("hh:mm:ss", "|00|:00:00", "0930", "09:30:|00");
         type("hh:mm:ss", "|12:34:56|", "23", "23:|34:56");
         press("hh:mm:ss", "1|1:11:11", Qt::Key_Backspace, "|01:11:11");
@@ -73,20 +71,17 @@ private Q_SLOTS:
         type("hh:mm:ss.zzz", "12:34:56.|789|", "1", "12:34:56.1|00");
         press("hh:mm:ss.zzz", "12:34:56.75|9", Qt::Key_Backspace, "12:34:56.7|09");
         press("h:mm", "19|:30", Qt::Key_Backspace, "1|0:30");
-        type("h:mm", "|12|:30", "1", "1|:30");
         press("h:mm_AP", "1|:30_PM", Qt::Key_Backspace, "|12:30_PM");
         type("h:mm_AP", "|12:30_PM", "0", "|2:30_PM");
         press("h:mm_AP", "1:30_|PM|", Qt::Key_Delete, "1:30_|PM");
         type("h:mm_AP", "1:30_|PM|", "am", "1:30_AM|");
         press("h:mm_AP", "12|:30_PM", Qt::Key_Up, "|1:30_PM");
         press("h:mm_AP", "1:30_|AM|", Qt::Key_Up, "1:30_|PM");
-        press("h:mm_AP", "1:30_|PM|", Qt::Key_Up, "1:30_PM|");
         press("h:mm_AP", "1:30_|PM|", Qt::Key_Down, "1:30_|AM");
         type("'at'hh'h'", "at1|2h", "5", "at15h|");
         type("mm''ss", u8"|24\u201935", "1122", u8"11\u201922|");
         press("mm''ss", u8"|24\u201935|", Qt::Key_Delete, u8"|00\u201900");
         type(limited, "|12:34:56", "23", "22:|30:30");
-        press(limited, "1|2:34:56", Qt::Key_Backspace, "|02:34:56");
         press(limited, "|22:15:00", Qt::Key_Up, "|22:30:30");
         press(limited, "|01:15:00", Qt::Key_Down, "|01:00:30");
     }
