@@ -80,7 +80,7 @@ void SearchBar::retranslate()
     replacement->setAccessibleName(tr("Replace with"));
     name(previousButton, tr("Previous"));
     name(nextButton, tr("Next"));
-    replaceButton->setText(tr("Re&match"));
+    replaceButton->setText(tr("Re&place"));
     replaceAllButton->setText(tr("Replace a&ll"));
     closeButton->setText(tr("Cl&ose"));
     caseBox->setText(tr("&Match case"));
