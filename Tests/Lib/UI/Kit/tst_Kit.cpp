@@ -132,7 +132,7 @@ private Q_SLOTS:
         stack->setCurrentIndex(1);
         QTRY_COMPARE(window.size(), QSize(40, 30));
 
-        // Without autoFit it has the size of its largest page after the next layout.
+        // Without autoFit its size is that of the largest page after the next layout.
         stack->setAutoFit(false);
         QCOMPARE(window.size(), QSize(40, 30));
         stack->updateGeometry();

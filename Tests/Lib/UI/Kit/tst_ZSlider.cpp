@@ -152,7 +152,7 @@ private Q_SLOTS:
         QSplitter splitter;
         splitter.resize(300, 100);
         splitter.show();
-        // QSplitter adds a pane for each child widget of its own.
+        // QSplitter adds a pane for each child widget.
         const ZSlider* slider = new ZTimelineSlider(&splitter);
         QTRY_VERIFY(slider->isVisible());
         QCOMPARE(splitter.count(), 1);

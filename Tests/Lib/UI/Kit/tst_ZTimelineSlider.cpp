@@ -131,7 +131,7 @@ private Q_SLOTS:
         };
         QCOMPARE(tipAt(106), QString("13:00:00"));
         QCOMPARE(tipAt(211), QString("02:00:00"));
-        // A dragged thumb has the mouse grab.
+        // A dragged thumb grabs the mouse.
         ZSliderThumb* thumb = slider.defaultThumb();
         QTest::mousePress(thumb, Qt::LeftButton, {}, {7, 7});
         Support::MoveMouse(thumb, thumb->mapFromParent({56, 7}));
