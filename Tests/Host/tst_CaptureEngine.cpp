@@ -158,6 +158,7 @@ private Q_SLOTS:
         const auto observer = Start(session);
         opening->WaitUntilReached();
         QVERIFY(MillisecondsToStop(*session) < AT_ONCE);
+        QCOMPARE(observer.use_count(), 1L);
         QVERIFY(!WaitForEngineIdle(std::chrono::milliseconds(20)));
         opening->Open();
         QVERIFY(WaitForEngineIdle(LIMIT));
@@ -256,6 +257,13 @@ private Q_SLOTS:
         QVERIFY(WaitForEngineIdle(LIMIT));
         QCOMPARE(observer->Calls(), calls);
         QCOMPARE(observer.use_count(), 1L);
+    }
+
+    void releaseMayCoincideWithAnError()
+    {
+        for (int i = 0; i < 500; ++i)
+            Start(CreateSession([](auto&) { return CaptureError::CannotOpen; }));
+        QVERIFY(WaitForEngineIdle(LIMIT));
     }
 
     void outputReadsTheNewestFrameInItsOwnTime()

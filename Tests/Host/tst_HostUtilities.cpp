@@ -148,7 +148,7 @@ private Q_SLOTS:
         row("drag", {{PRESS, left, {}}, {MOVE, left, {1, -2}}, {MOVE, left, {40, 30}}}, {40, 30});
         row("no press", {{MOVE, left, {9, 9}}});
         row("right button", {{PRESS, right, {}}, {MOVE, right, {9, 9}}});
-        row("second button", {{PRESS, left, {}}, {PRESS, left | right, {}}, {MOVE, left | right, {9, 9}}});
+        row("second button", {{PRESS, left, {}}, {PRESS, left | right, {}}, {MOVE, left, {9, 9}}});
         row("double click", {{PRESS, left, {}}, {QEvent::MouseButtonDblClick, left, {}}, {MOVE, left, {9, 9}}});
         row("release", {{PRESS, left, {}}, {QEvent::MouseButtonRelease, none, {}}, {MOVE, left, {9, 9}}});
         row("release elsewhere", {{PRESS, left, {}}, {MOVE, none, {9, 9}}, {MOVE, left, {20, 20}}});
