@@ -1,8 +1,8 @@
-# Writes one style sheet and its icons. Called by the build:
+# Writes a style sheet and its icons:
 #   cmake -DTEMPLATE=FILE -DPALETTE=FILE -DICONS=FOLDER -DSHEET=FILE -P BuildStyleSheet.cmake
-# The icons go into a folder beside the sheet that is named like it. Of each icon there are three tints: NAME.svg in the
-# colour of text, NAME-disabled.svg, and NAME-on-accent.svg, and of each a larger one, NAME@2x.svg and so on. A
-# placeholder without a colour stops the build.
+# Icons are written to the folder beside SHEET with its base name, in three tints: NAME.svg in the text colour,
+# NAME-disabled.svg and NAME-on-accent.svg, each also at twice the size, as NAME@2x.svg. Fails on a placeholder without a
+# colour.
 cmake_minimum_required(VERSION 3.21)
 
 # Sets colour_NAME for each line `NAME = #rrggbb`, and `colours` to the names.
@@ -19,7 +19,7 @@ foreach(line IN LISTS lines)
   endif()
 endforeach()
 
-# fill(SOURCE DESTINATION ICON_COLOUR): copies a file and replaces its placeholders. Written only when it changes.
+# fill(SOURCE DESTINATION ICON_COLOUR): copies a file and replaces its placeholders. Writes only on change.
 function(fill source destination icon_colour)
   file(READ "${source}" content)
   string(REPLACE "@icon@" "${colour_${icon_colour}}" content "${content}")
@@ -39,7 +39,7 @@ function(fill source destination icon_colour)
   endif()
 endfunction()
 
-# enlarge(SOURCE DESTINATION): the same icon at twice the size, for backgrounds on screens with a ratio of 2.
+# enlarge(SOURCE DESTINATION): writes the icon at twice the size, for a device pixel ratio of 2.
 function(enlarge source destination)
   file(READ "${source}" content)
   if(NOT content MATCHES "width=\"([0-9]+)\" height=\"([0-9]+)\"")

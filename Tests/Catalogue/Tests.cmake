@@ -1,4 +1,4 @@
-# Tests of the catalogue and the style sheets, and over every widget of the catalogue.
+# Tests of the catalogue, of the style sheets, and of all widgets in the catalogue.
 if(NOT TARGET VxGalleryWindows)
   return()
 endif()
@@ -24,7 +24,7 @@ vx_test(Catalogue/tst_CatalogueChanges.cpp SOURCES Catalogue/Look.cpp LIBRARIES 
 add_dependencies(tst_CatalogueChanges VxTranslations)
 target_compile_definitions(tst_CatalogueChanges PRIVATE VX_TRANSLATIONS="${CMAKE_BINARY_DIR}/Translations")
 
-# Only the platform can turn accessibility on, and Qt's headers for that are private.
+# Only the platform plugin can activate accessibility; the headers for that are private.
 find_package(Qt5 5.15 REQUIRED COMPONENTS Gui)
 vx_test(Catalogue/tst_CatalogueAccessibility.cpp SOURCES Catalogue/Hearing.cpp LIBRARIES VxCatalogue)
 if(TARGET Qt5::GuiPrivate)
@@ -32,7 +32,7 @@ if(TARGET Qt5::GuiPrivate)
   target_compile_definitions(tst_CatalogueAccessibility PRIVATE VX_WITH_QT_PRIVATE)
 endif()
 
-# The form is written and compiled as it would be from Designer; the program that writes it has to run here.
+# A form with all widgets, compiled by uic. VxFormWriter writes it at build time.
 add_executable(VxFormWriter Catalogue/FormWriter.cpp ${PROJECT_SOURCE_DIR}/Designer/FormXml.cpp)
 vx_target(VxFormWriter)
 target_link_libraries(VxFormWriter PRIVATE VxCatalogue)
@@ -53,6 +53,6 @@ vx_test(Catalogue/tst_CatalogueRandomEvents.cpp SOURCES Catalogue/RandomEvents.c
 vx_test(Catalogue/tst_CatalogueLifetime.cpp LIBRARIES VxCatalogue)
 vx_test(Catalogue/tst_HostileApplication.cpp LIBRARIES VxCatalogue)
 
-# They take minutes where the machine is busy, or with a sanitizer.
+# They take minutes with a sanitizer or on a busy machine.
 set_tests_properties(tst_CatalogueChanges tst_CatalogueParents tst_CatalogueAccessibility tst_CatalogueLifetime
                      tst_HostileApplication PROPERTIES TIMEOUT 900)

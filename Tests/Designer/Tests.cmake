@@ -1,4 +1,4 @@
-# The Designer plugin, loaded as Designer and forms at run time load it.
+# Loads the plugin as Designer and QUiLoader do.
 if(NOT TARGET VxUiWidgetsDesigner)
   return()
 endif()
