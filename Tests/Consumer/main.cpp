@@ -11,7 +11,7 @@
 
 using namespace Zelkor;
 
-// A frame that is all of one colour.
+// Returns a frame of one colour.
 static boost::intrusive_ptr<Proc::IDataVideo> MakeFrame(const QSize& size, const QColor& color)
 {
     StandIn::FrameFormat format;
@@ -29,7 +29,7 @@ int main(int argc, char* argv[])
     const QSize size(64, 48);
     const auto frame = MakeFrame(size, Qt::darkCyan);
 
-    // A widget that the library exports, a control of the kit, and the host's way from frames to images.
+    // Uses an exported widget, a control of the kit, and the host's conversion of frames to images.
     QWidget window;
     QVBoxLayout layout(&window);
     Vx::UI::VideoPreviewWidget preview(&window);

@@ -37,6 +37,7 @@ check_packages() {
     [ -n "$sources" ] || complain "no linked libraries found"
     missing=$(comm -23 <(echo "$sources") <(listed_sources))
     [ -z "$missing" ] || complain "linked, but not in THIRD-PARTY.spdx: $missing"
+    # run.sh packs without compression, which is faster.
     if command -v lintian >/dev/null; then
         lintian --allow-root --fail-on error --suppress-tags uses-no-compression-for-data-tarball \
             "$folder"/../packages/*.deb || failed=1

@@ -1,8 +1,6 @@
 #!/usr/bin/env bash
-# run.sh installed|packages|zip BUILD FOLDER: installs what BUILD has built into FOLDER, or makes its packages or its zip
-# for Windows and unpacks them there, and looks whether others can use what lies there then: they build and run the
-# program beside this script with CMake, and with pkg-config alone. The place is another one than what was installed or
-# packed for.
+# run.sh installed|packages|zip BUILD FOLDER: installs the build into FOLDER and moves it, or unpacks its Debian packages or
+# its zip there, then builds and runs the program in this folder against the result, with CMake and with pkg-config.
 set -euo pipefail
 mode=$1
 build=$2
@@ -14,10 +12,10 @@ CMAKE_CXX_COMPILER_LAUNCHER=$(command -v ccache || true)
 export CMAKE_CXX_COMPILER_LAUNCHER
 unset DESTDIR LD_LIBRARY_PATH CMAKE_PREFIX_PATH PKG_CONFIG_PATH
 
-# How a program is built with CMake, and what starts it.
+# CMake settings of the program, and its launcher.
 settings=()
 start=()
-consumer=consumer
+suffix=
 
 fail() { printf '%s\n' "$*"; exit 1; }
 
@@ -32,7 +30,7 @@ install_and_move() {
     [ -z "$(find "$folder/staged" 2>/dev/null)" ] || fail "belongs to no component: $(find "$folder/staged" -type f)"
 }
 
-# need PACKAGE PATTERN: what a package depends on.
+# need PACKAGE PATTERN: fails if PACKAGE has no dependency that matches PATTERN.
 need() {
     dpkg-deb --field "$folder"/packages/"$1"_*.deb Depends | grep -qE "(^|, )$2" || fail "$1 does not depend on $2"
 }
@@ -42,7 +40,7 @@ pack_and_unpack() {
         >"$folder/cpack.log" 2>&1 ||
         fail "$(tail -n 30 "$folder/cpack.log")"
     for package in "$folder"/packages/*.deb; do
-        # Whatever is in two of them could not be installed.
+        # dpkg refuses a file that belongs to two packages.
         both=$(comm -12 <(dpkg-deb --fsys-tarfile "$package" | tar -t | grep -v '/$' | sort) \
             <(cd "$folder" && find ./root -not -type d 2>/dev/null | sed 's|^\./root|.|' | sort))
         [ -z "$both" ] || fail "in two packages: $both"
@@ -63,14 +61,14 @@ unzip_and_go_to_wine() {
     prefix=$(echo "$folder/some where"/*)
     settings=(-DCMAKE_TOOLCHAIN_FILE="$source/cmake/VxWindowsToolchain.cmake" -DVX_WINDOWS_SDK="$(cache VX_WINDOWS_SDK)")
     "$here/notices.sh" zip "$source" "$prefix" || fail "the zip lacks notices"
-    # With the libraries and plugins of the zip, and no others.
+    # Use libraries and plugins of the zip only.
     start=("$source/tools/windows/in-wine" "$prefix")
-    consumer=consumer.exe
+    suffix=.exe
 }
 
 cache() { sed -n "s/^$1:[A-Z]*=//p" "$build/CMakeCache.txt"; }
 
-# runs_from_here FILE: a program or library takes our libraries from the place that is looked at.
+# runs_from_here FILE: fails if a program or library loads our libraries from elsewhere.
 runs_from_here() {
     local found
     found=$(ldd "$1")
@@ -80,47 +78,54 @@ runs_from_here() {
 
 look_at_files() {
     ! grep -rIlF -e "$build" -e "$source" -e "$folder" "$prefix" || fail "these name a folder of the build"
-    # A header for each class that the library shows, and for nothing else.
+    # Exactly one header per exported class.
     diff <(sed -n 's/^vtable for .*:://p; s/^vtable for //p' "$source/Tests/exported-symbols.txt" | sort) \
         <(cd "$prefix/include/VxUiWidgets/UI/Widgets" && basename -s .h ./*.h | sort) ||
-        fail "the headers of widgets that are installed are not those of the exported classes"
+        fail "the installed widget headers are not those of the exported classes"
 }
 
 build_with_cmake() {
     cmake -S "$here" -B "$folder/cmake" -G Ninja -DCMAKE_PREFIX_PATH="$prefix" "${settings[@]}" >"$folder/cmake.log" 2>&1 &&
         cmake --build "$folder/cmake" >>"$folder/cmake.log" 2>&1 || fail "$(cat "$folder/cmake.log")"
-    [ "$mode" = zip ] || runs_from_here "$folder/cmake/$consumer"
-    "${start[@]}" "$folder/cmake/$consumer" || fail "the program built with CMake does not show what it shall"
+    [ "$mode" = zip ] || runs_from_here "$folder/cmake/consumer$suffix"
+    "${start[@]}" "$folder/cmake/consumer$suffix" || fail "the program built with CMake failed"
 }
 
 build_with_pkg_config() {
     local libraries compile=(${CMAKE_CXX_COMPILER_LAUNCHER:+"$CMAKE_CXX_COMPILER_LAUNCHER"} g++ -std=c++17 -Wall -Wextra -Werror)
     libraries=$(dirname "$prefix"/lib/*/libVxUiWidgets.so.1)
     export PKG_CONFIG_PATH=$libraries/pkgconfig
-    # shellcheck disable=SC2046 # what pkg-config prints are several words
+    # shellcheck disable=SC2046 # pkg-config prints several words
     "${compile[@]}" -c "$here/main.cpp" $(pkg-config --cflags VxUiWidgetsKit) -o "$folder/main.o"
     # shellcheck disable=SC2046
     g++ "$folder/main.o" $(pkg-config --libs VxUiWidgetsKit) -o "$folder/consumer"
     LD_LIBRARY_PATH=$libraries "$folder/consumer" ||
-        fail "the program built with pkg-config does not show what it shall"
-    # Every header that is installed finds all that it includes.
+        fail "the program built with pkg-config failed"
+    # Each installed header compiles.
     (cd "$prefix/include/VxUiWidgets" && find . -name '*.h' -printf '#include <%P>\n' | sort) >"$folder/headers.cpp"
     # shellcheck disable=SC2046
     "${compile[@]}" -c "$folder/headers.cpp" $(pkg-config --cflags VxUiWidgetsKit) -o "$folder/headers.o"
 }
 
-run_gallery_in_wine() {
-    # Where the plugins are it has to read from the file beside it.
-    QT_PLUGIN_PATH='Z:\nowhere' "${start[@]}" "$prefix/bin/VxGallery.exe" --language de \
-        --style "$prefix/share/VxUiWidgets/Styles/Light.qss" --page ColorButton --after 0 --shot "$folder/gallery.png" ||
-        fail "the gallery does not run from where the zip is unpacked"
-    [ -s "$folder/gallery.png" ] || fail "the gallery made no picture"
+# take_picture PROGRAM [ARG ...]: fails if an installed program writes no picture of its window.
+take_picture() {
+    local program=$1
+    shift
+    "${start[@]}" "$prefix/bin/$program$suffix" --language de --style "$prefix/share/VxUiWidgets/Styles/Light.qss" \
+        --after 0 --shot "$folder/$program.png" "$@" || fail "$program does not run from $prefix"
+    [ -s "$folder/$program.png" ] || fail "$program wrote no picture"
 }
 
 run_tools() {
+    # Under Wine, Qt must find its plugins by the qt.conf of the zip.
+    [ "$mode" != zip ] || export QT_PLUGIN_PATH='Z:\nowhere'
+    take_picture VxGallery --page ColorButton
+    take_picture VxRecorder
+}
+
+check_libraries() {
     runs_from_here "$prefix/bin/VxGallery"
-    "$prefix/bin/VxGallery" --language de --style "$prefix/share/VxUiWidgets/Styles/Light.qss" --page ColorButton \
-        --after 0 --shot "$folder/gallery.png" || fail "the gallery does not run from where it is installed"
+    runs_from_here "$prefix/bin/VxRecorder"
     while read -r plugin; do
         runs_from_here "$plugin"
     done < <(find "$prefix/lib" -path '*/plugins/designer/*.so')
@@ -137,9 +142,8 @@ zip) unzip_and_go_to_wine ;;
 esac
 look_at_files
 build_with_cmake
-if [ "$mode" = zip ]; then
-    run_gallery_in_wine
-else
+if [ "$mode" != zip ]; then
     build_with_pkg_config
-    run_tools
+    check_libraries
 fi
+run_tools
