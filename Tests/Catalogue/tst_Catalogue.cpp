@@ -1,12 +1,9 @@
-#include <Catalogue/Catalogue.h>
+#include <Catalogue/EntryWindow.h>
 #include <Examples/Support/BuiltInStyleSheets.h>
 
 #include <Support/TestCase.h>
 
-#include <QToolButton>
-
-#include <algorithm>
-#include <memory>
+#include <QSet>
 
 using namespace Zelkor::Catalogue;
 using Zelkor::Examples::LoadStyleSheet;
@@ -18,47 +15,38 @@ class tst_Catalogue : public Support::TestCase
 private Q_SLOTS:
     void initTestCase() { LoadStyleSheet("dark")->apply(); }
 
-    void entriesAreWhole()
+    void entryIsComplete_data()
     {
-        for (const Entry& entry : Entries()) {
-            InRow(entry.className);
-            // Of two entries with one name, the second would not be found.
+        AddRows([](const Entry& entry) { return QVector<int>{entry.pictured}; });
+    }
+
+    void entryIsComplete()
+    {
+        const Entry& entry = EntryOfRow();
+        QVERIFY(!entry.group.isEmpty());
+        QVERIFY(!entry.description.isEmpty());
+        QSet<QString> names;
+        for (const State& state : entry.states)
+            names.insert(state.name);
+        QCOMPARE(names.size(), entry.states.size());
+        QVERIFY(!names.contains(QString()));
+    }
+
+    void classNamesAreUnique()
+    {
+        for (const Entry& entry : Entries())
             QCOMPARE(FindEntry(entry.className), &entry);
-            QVERIFY(!entry.group.isEmpty() && !entry.description.isEmpty());
-            QVERIFY(entry.pictured >= 0 && entry.pictured < entry.states.size());
-            QStringList stateNames;
-            for (const State& state : entry.states)
-                stateNames.append(state.name);
-            QVERIFY(stateNames.removeDuplicates() == 0 && !stateNames.contains(QString()));
-        }
     }
 
-    // What a state looks like, the test of the environment looks at.
-    void statesBelongToTheirParent()
-    {
-        for (const Entry& entry : Entries()) {
-            for (const State& state : entry.states) {
-                InRow(entry.className + ", " + state.name);
-                QWidget parent;
-                // One that goes before it was shown leaves nothing behind.
-                delete CreateInState(entry, state, &parent);
-                QVERIFY(parent.children().isEmpty());
-                QCOMPARE(CreateInState(entry, state, &parent)->parentWidget(), &parent);
-            }
-        }
-    }
+    void parentOwnsTheWidget_data() { AddRowsOfAllStates(); }
 
-    void upKeyMovesTheThumbOfAnUprightSliderUp()
+    void parentOwnsTheWidget()
     {
-        const Entry& entry = *FindEntry("ZSlider");
-        const auto upright = std::find_if(entry.states.begin(), entry.states.end(),
-                                          [](const State& state) { return state.name == "Upright"; });
-        const std::unique_ptr<QWidget> slider(CreateInState(entry, *upright, nullptr));
-        slider->show();
-        auto* thumb = slider->findChild<QToolButton*>();
-        const int before = thumb->y();
-        QTest::keyClick(thumb, Qt::Key_Up);
-        QVERIFY(thumb->y() < before);
+        QWidget parent;
+        // A widget that is deleted before it is shown leaves no object behind.
+        delete CreateInState(EntryOfRow(), StateOfRow(), &parent);
+        QVERIFY(parent.children().isEmpty());
+        QCOMPARE(CreateInState(EntryOfRow(), StateOfRow(), &parent)->parentWidget(), &parent);
     }
 };
 

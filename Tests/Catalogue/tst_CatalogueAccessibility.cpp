@@ -1,5 +1,6 @@
-#include <Catalogue/Hearing.h>
-#include <Catalogue/Scene.h>
+#include <Catalogue/AccessibleEvents.h>
+#include <Catalogue/Contrast.h>
+#include <Catalogue/EntryWindow.h>
 #include <Examples/Support/BuiltInStyleSheets.h>
 
 #include <Support/AnySignalSpy.h>
@@ -9,24 +10,20 @@
 #include <Support/UrlHandlerStub.h>
 
 #include <QAbstractItemView>
-#include <QAccessible>
 #include <QAction>
 #include <QButtonGroup>
 #include <QGroupBox>
 #include <QPlainTextEdit>
 #include <QSet>
 
-#include <algorithm>
-#include <cmath>
-
 using namespace Zelkor::Catalogue;
 using Zelkor::Examples::LoadStyleSheet;
 
 namespace {
 
-constexpr int LARGEST_STEP_COUNT = 100; ///< of Tab, which also visits links in a text and the parts of a time
-constexpr double PLAIN_CONTRAST = 3;    ///< at least this between two things that shall be told apart
-constexpr int SMALLEST_MARK = 80;       ///< pixels; the ring around a thumb of a slider has more
+constexpr int MOST_TAB_STOPS = 100;    ///< including links in a text and the sections of a time
+constexpr double LEAST_CONTRAST = 3;   ///< between a pixel with and without focus
+constexpr int LEAST_FOCUS_PIXELS = 80; ///< fewer than the ring around a thumb of a slider
 constexpr Qt::Key KEYS[] = {Qt::Key_Space, Qt::Key_Right, Qt::Key_Left, Qt::Key_Up,    Qt::Key_Down,
                             Qt::Key_Home,  Qt::Key_End,   Qt::Key_7,    Qt::Key_Return};
 
@@ -39,83 +36,65 @@ QString Describe(QAccessibleInterface& interface)
         .arg(interface.text(QAccessible::Name));
 }
 
-// Direction marks and the like are nothing that could be read out.
+// Screen readers skip direction marks and the like.
 bool IsReadable(const QString& name)
 {
-    const auto isHeard = [](QChar sign) { return sign.isPrint() || sign.isSpace(); };
-    return !name.trimmed().isEmpty() && std::all_of(name.begin(), name.end(), isHeard);
+    const auto isRead = [](QChar sign) { return sign.isPrint() || sign.isSpace(); };
+    return !name.trimmed().isEmpty() && std::all_of(name.begin(), name.end(), isRead);
 }
 
-// Those that hold others, which have names themselves.
+// Frames need no name: their contents have names.
 bool IsFrame(QAccessible::Role role)
 {
     return role == QAccessible::Border || role == QAccessible::Grouping || role == QAccessible::LayeredPane;
 }
 
-// Empty, or what state and actions say that the widget is not.
+// Returns an empty string, or how the reported state and actions differ from those of the widget.
 QString StateFault(QAccessibleInterface& interface)
 {
     const auto* widget = qobject_cast<QWidget*>(interface.object());
     QAccessibleActionInterface* actions = interface.actionInterface();
     const QStringList names = actions ? actions->actionNames() : QStringList();
     if (QSet<QString>(names.begin(), names.end()).size() != names.size())
-        return QStringLiteral("offers an action twice: ") + names.join(QStringLiteral(", "));
-    // The list of a combo box never says that it is disabled; it cannot be opened then.
+        return QStringLiteral("has an action twice: ") + names.join(QStringLiteral(", "));
+    // Qt never reports the list of a combo box as disabled.
     const bool isList = qobject_cast<const QAbstractItemView*>(widget);
     if (widget && !isList && interface.state().disabled == widget->isEnabled())
-        return QStringLiteral("says that it is %1").arg(widget->isEnabled() ? "disabled" : "enabled");
+        return QStringLiteral("disabled state is wrong");
     const auto* button = qobject_cast<const QAbstractButton*>(widget);
     if (!button || !button->isEnabled() || interface.role() == QAccessible::Slider)
         return {};
     if (names.isEmpty())
         return QStringLiteral("is a button without an action");
     if (button->isCheckable() && interface.state().checked != button->isChecked() && !interface.state().checkStateMixed)
-        return QStringLiteral("says that it is %1").arg(button->isChecked() ? "unchecked" : "checked");
+        return QStringLiteral("checked state is wrong");
     return {};
 }
 
-// Empty, or what is wrong with what assistive technology hears of this one. `isSubject`: the entry is about it.
+// Returns an empty string, or a defect of one interface. `isSubject`: it belongs to the class of the entry.
 QString Fault(QAccessibleInterface& interface, bool takesKeyboard, bool isSubject)
 {
     const QAccessible::Role role = interface.role();
     const QString name = interface.text(QAccessible::Name);
     if (!interface.isValid() || role == QAccessible::NoRole)
-        return QStringLiteral("says nothing of itself");
+        return QStringLiteral("has no role");
     if ((takesKeyboard || isSubject) && (role == QAccessible::Client || role == QAccessible::Window))
-        return QStringLiteral("does not say as what it is there");
+        return QStringLiteral("has no specific role");
     if (isSubject && IsFrame(role) && interface.childCount() == 0)
-        return QStringLiteral("says that it is a frame, but there is nothing in it");
+        return QStringLiteral("is an empty frame");
     if (name.isEmpty() ? takesKeyboard || (isSubject && !IsFrame(role)) : !IsReadable(name))
-        return QStringLiteral("has no name that could be read out");
+        return QStringLiteral("has no readable name");
     if (takesKeyboard && !interface.state().focusable)
-        return QStringLiteral("takes input, but is not focusable");
-    const QString state = StateFault(interface);
-    if (!state.isEmpty())
-        return state;
+        return QStringLiteral("takes keys, but is not focusable");
     if (const QAccessibleValueInterface* values = interface.valueInterface()) {
         const double value = values->currentValue().toDouble();
         if (value < values->minimumValue().toDouble() || value > values->maximumValue().toDouble())
-            return QStringLiteral("value %1 is not between %2 and %3")
-                .arg(value)
-                .arg(values->minimumValue().toDouble())
-                .arg(values->maximumValue().toDouble());
+            return QStringLiteral("value %1 is out of range").arg(value);
     }
-    return {};
+    return StateFault(interface);
 }
 
-// As the eye takes it: 1 for the same brightness, 21 between black and white.
-double Contrast(const QColor& a, const QColor& b)
-{
-    const auto brightness = [](const QColor& color) {
-        const auto linear = [](double part) { return std::pow(part, 2.2); };
-        return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF()) + 0.05;
-    };
-    const auto [darker, brighter] = std::minmax({brightness(a), brightness(b)});
-    return brighter / darker;
-}
-
-// How many pixels are plainly others; all, when the size is another one.
-int CountChanges(const QImage& before, const QImage& after)
+int CountContrastingPixels(const QImage& before, const QImage& after)
 {
     if (before.size() != after.size())
         return after.width() * after.height();
@@ -123,13 +102,13 @@ int CountChanges(const QImage& before, const QImage& after)
     for (int y = 0; y < after.height(); ++y) {
         for (int x = 0; x < after.width(); ++x)
             count += before.pixel(x, y) != after.pixel(x, y) &&
-                     Contrast(before.pixelColor(x, y), after.pixelColor(x, y)) >= PLAIN_CONTRAST;
+                     Contrast(before.pixelColor(x, y), after.pixelColor(x, y)) >= LEAST_CONTRAST;
     }
     return count;
 }
 
-// Takes `part` out of those that are left; with it those that the arrow keys reach from there.
-void Reach(QWidget* part, QVector<QPointer<QWidget>>& left)
+// Removes a tab stop from `left`, and the buttons of its exclusive group, which the arrow keys reach from there.
+void RemoveTabStop(QWidget* part, QVector<QPointer<QWidget>>& left)
 {
     left.removeAll(part);
     const auto* button = qobject_cast<QAbstractButton*>(part);
@@ -148,41 +127,40 @@ class tst_CatalogueAccessibility : public Support::TestCase
 private Q_SLOTS:
     void initTestCase()
     {
-        if (!TurnAccessibilityOn())
+        if (!EnableAccessibility())
             QSKIP("Qt's private headers are not installed");
         QApplication::setCursorFlashTime(0);
         LoadStyleSheet("dark")->apply();
     }
 
-    void tellsWhatItIs_data() { AddRowsOfAllStates(); }
+    void roleNameStateAndValueAreRight_data() { AddRowsOfAllStates(); }
 
-    void tellsWhatItIs()
+    void roleNameStateAndValueAreRight()
     {
-        const auto scene = SceneOfThisRow();
+        const auto scene = WindowOfRow();
         scene->Show();
         const auto keyboardParts = scene->KeyboardParts();
         QFETCH(QString, className);
-        int heard = 0;
+        int visited = 0;
         QStringList faults;
         VisitAccessible(QAccessible::queryAccessibleInterface(scene->widget), [&](auto& interface, auto*, auto&) {
             auto* part = qobject_cast<QWidget*>(interface.object());
             const bool takesKeyboard = part && keyboardParts.contains(part);
-            heard += takesKeyboard;
-            const bool isSubject =
-                part && QString(part->metaObject()->className()).section(QStringLiteral("::"), -1) == className;
+            visited += takesKeyboard;
+            const bool isSubject = part && QString(part->metaObject()->className()).section("::", -1) == className;
             const QString fault = Fault(interface, takesKeyboard, isSubject);
             if (!fault.isEmpty())
                 faults += Describe(interface) + ": " + fault;
         });
-        QVERIFY2(faults.isEmpty(), qPrintable(faults.join("; ")));
-        QCOMPARE(heard, keyboardParts.size());
+        QCOMPARE(faults.join("; "), QString());
+        QCOMPARE(visited, keyboardParts.size());
     }
 
     void namesLackMnemonics_data() { AddRowsOfAllStates(); }
 
     void namesLackMnemonics()
     {
-        const auto scene = SceneOfThisRow();
+        const auto scene = WindowOfRow();
         scene->Show();
         const QString text = "&Zoom";
         for (QObject* part : QObjectList{scene->widget} + scene->widget->findChildren<QObject*>()) {
@@ -197,7 +175,7 @@ private Q_SLOTS:
                     action->setText(text);
             }
         }
-        for (const Reading::Part& part : Reading(scene->widget).parts) {
+        for (const AccessibleSnapshot::Part& part : AccessibleSnapshot(scene->widget).parts) {
             QVERIFY2(!part.name.contains(text), qPrintable(part.name));
             QVERIFY2(!part.description.contains(text), qPrintable(part.description));
         }
@@ -207,144 +185,125 @@ private Q_SLOTS:
 
     void valuesCanBeSet()
     {
-        const auto scene = SceneOfThisRow();
+        const auto scene = WindowOfRow();
         scene->Show();
         VisitAccessible(QAccessible::queryAccessibleInterface(scene->widget), [&](auto& interface, auto*, auto&) {
             QAccessibleValueInterface* value = interface.valueInterface();
             if (!value || interface.state().disabled || interface.state().readOnly || !interface.state().focusable)
                 return;
             for (const QVariant& end : {value->maximumValue(), value->minimumValue()}) {
-                HearChanges(*scene, Describe(interface), [&] { value->setCurrentValue(end); });
-                QVERIFY2(value->currentValue().toDouble() == end.toDouble(),
-                         qPrintable(Describe(interface) + ": " + value->currentValue().toString()));
+                CheckEvents(*scene, Describe(interface), [&] { value->setCurrentValue(end); });
+                QCOMPARE(value->currentValue().toDouble(), end.toDouble());
             }
         });
     }
 
-    void tabComesAndGoes_data() { AddRowsOfAllStates(); }
+    void tabReachesAllPartsAndLeaves_data() { AddRows(AllStates, {"Tab", "Backtab"}); }
 
-    // All that takes input is reached from both sides, and left again.
-    void tabComesAndGoes()
+    void tabReachesAllPartsAndLeaves()
     {
-        const auto scene = SceneOfThisRow();
+        QFETCH(int, variant);
+        const bool forwards = variant == 0;
+        const auto scene = WindowOfRow();
         scene->Show();
-        for (const bool forwards : {true, false}) {
-            QWidget* const end = forwards ? scene->after : scene->before;
-            (forwards ? scene->before : scene->after)->setFocus();
-            QVector<QPointer<QWidget>> left = scene->KeyboardParts();
-            for (int i = 0; i < LARGEST_STEP_COUNT && !end->hasFocus(); ++i) {
-                // In an editor, Tab is a part of the text; there, the same with Ctrl goes on.
-                const auto* editor = qobject_cast<QPlainTextEdit*>(QApplication::focusWidget());
-                Qt::KeyboardModifiers modifiers = forwards ? Qt::NoModifier : Qt::ShiftModifier;
-                if (editor && !editor->tabChangesFocus())
-                    modifiers |= Qt::ControlModifier;
-                scene->Type(forwards ? Qt::Key_Tab : Qt::Key_Backtab, modifiers);
-                QVERIFY(QApplication::focusWidget());
-                Reach(QApplication::focusWidget(), left);
-            }
-            QVERIFY2(end->hasFocus(), QApplication::focusWidget()->metaObject()->className());
-            QVERIFY2(left.isEmpty(), left.isEmpty() ? "" : left.first()->metaObject()->className());
+        QWidget* const end = forwards ? scene->after : scene->before;
+        (forwards ? scene->before : scene->after)->setFocus();
+        QVector<QPointer<QWidget>> left = scene->KeyboardParts();
+        for (int i = 0; i < MOST_TAB_STOPS && !end->hasFocus(); ++i) {
+            // An editor inserts tabs; Ctrl+Tab moves the focus.
+            const auto* editor = qobject_cast<QPlainTextEdit*>(QApplication::focusWidget());
+            Qt::KeyboardModifiers modifiers = forwards ? Qt::NoModifier : Qt::ShiftModifier;
+            if (editor && !editor->tabChangesFocus())
+                modifiers |= Qt::ControlModifier;
+            scene->Type(forwards ? Qt::Key_Tab : Qt::Key_Backtab, modifiers);
+            QVERIFY(QApplication::focusWidget());
+            RemoveTabStop(QApplication::focusWidget(), left);
         }
+        QVERIFY2(end->hasFocus(), QApplication::focusWidget()->metaObject()->className());
+        QVERIFY2(left.isEmpty(), left.isEmpty() ? "" : left.first()->metaObject()->className());
     }
 
-    void showsFocus_data()
-    {
-        QTest::addColumn<QString>("className");
-        QTest::addColumn<int>("state");
-        QTest::addColumn<QString>("style");
-        for (const QString style : {"light", "dark"}) {
-            for (const Entry& entry : Entries()) {
-                for (const int state : AllStates(entry))
-                    QTest::addRow("%s, %s, %s", qPrintable(style), qPrintable(entry.className),
-                                  qPrintable(entry.states[state].name))
-                        << entry.className << state << style;
-            }
-        }
-    }
+    void focusIsVisible_data() { AddRows(AllStates, {"light", "dark"}); }
 
-    // What has the keyboard looks plainly different from what it was, in both styles.
-    void showsFocus()
+    void focusIsVisible()
     {
-        QFETCH(QString, style);
-        const ZStyleSheet sheet = *LoadStyleSheet(style);
+        QFETCH(int, variant);
+        const ZStyleSheet sheet = *LoadStyleSheet(variant == 0 ? "light" : "dark");
         if (qApp->styleSheet() != sheet.text)
             sheet.apply();
-        const auto scene = SceneOfThisRow();
+        const auto scene = WindowOfRow();
         scene->Show();
-        const auto look = [&scene](QWidget* focused) {
+        const auto pictureWithFocusOn = [&scene](QWidget* focused) {
             focused->setFocus(Qt::TabFocusReason);
             QCoreApplication::processEvents();
             return scene->window->grab(scene->widget->geometry()).toImage();
         };
         for (const QPointer<QWidget>& part : scene->KeyboardParts()) {
-            const QImage before = look(scene->before);
-            const int changes = CountChanges(before, look(part));
-            QVERIFY2(changes >= SMALLEST_MARK, qPrintable(QStringLiteral("%1 %2: %3 pixels")
-                                                              .arg(part->metaObject()->className(), part->objectName())
-                                                              .arg(changes)));
+            const QImage before = pictureWithFocusOn(scene->before);
+            const int pixels = CountContrastingPixels(before, pictureWithFocusOn(part));
+            QVERIFY2(pixels >= LEAST_FOCUS_PIXELS, part->metaObject()->className());
         }
     }
 
-    void keysAreAnswered_data() { AddRowsOfAllStates(); }
+    void keysHaveAnEffectAndSendEvents_data() { AddRowsOfAllStates(); }
 
-    // Each part that takes the keyboard answers to one of the usual keys, with a signal or with something that opens,
-    // and what changes is announced.
-    void keysAreAnswered()
+    // Each part with Qt::TabFocus emits a signal or opens a pop-up for one of the usual keys.
+    void keysHaveAnEffectAndSendEvents()
     {
-        const auto scene = SceneOfThisRow();
+        const auto scene = WindowOfRow();
         scene->Show();
         for (const QPointer<QWidget>& part : scene->KeyboardParts()) {
-            QVERIFY2(part, "gone after keys for another part");
+            QVERIFY2(part, "deleted by keys for another part");
             part->setFocus(Qt::TabFocusReason);
-            int answers = 0;
-            const Support::AnySignalSpy tap(part, [&answers] { ++answers; });
+            int effects = 0;
+            const Support::AnySignalSpy spy(part, [&effects] { ++effects; });
             const QString name = QStringLiteral("%1 %2 ").arg(part->metaObject()->className(), part->objectName());
             for (const Qt::Key key : KEYS)
-                answers += HearChanges(*scene, name + QKeySequence(key).toString(), [&] { scene->Type(key); });
-            QVERIFY2(answers > 0, qPrintable(name + " answers to no key"));
+                effects += CheckEvents(*scene, name + QKeySequence(key).toString(), [&] { scene->Type(key); });
+            QVERIFY2(effects > 0, qPrintable(name + "ignores all keys"));
         }
     }
 
-    void mouseIsAnnounced_data() { AddRowsOfAllStates(); }
+    void clickAndWheelSendEvents_data() { AddRowsOfAllStates(); }
 
-    // What a click or the wheel changes on any part is announced.
-    void mouseIsAnnounced()
+    void clickAndWheelSendEvents()
     {
-        const auto scene = SceneOfThisRow();
+        const auto scene = WindowOfRow();
         scene->Show();
         for (const QPointer<QWidget>& part : PartsOf(scene->widget)) {
             if (!part || !part->isVisible() || part->window() != scene->window)
                 continue;
-            HearChanges(*scene, "click", [&] { QTest::mouseClick(part, Qt::LeftButton); });
+            CheckEvents(*scene, "click", [&] { QTest::mouseClick(part, Qt::LeftButton); });
             if (part)
-                HearChanges(*scene, "wheel", [&] { Support::TurnWheel(part, QPoint(0, 120)); });
+                CheckEvents(*scene, "wheel", [&] { Support::TurnWheel(part, QPoint(0, 120)); });
         }
     }
 
 private:
-    /// What has opened a pop-up says so, as far as it said that it has one.
-    static void CheckExpanded(Scene& scene)
+    // A widget with a pop-up reports that as expanded while it is open.
+    static void CheckExpanded(EntryWindow& scene)
     {
         QAccessibleInterface* opener = QAccessible::queryAccessibleInterface(scene.window->focusWidget());
         if (opener && opener->state().hasPopup)
-            QVERIFY2(opener->state().expanded, qPrintable(Describe(*opener) + ": opens, but is not expanded"));
+            QVERIFY2(opener->state().expanded, qPrintable(Describe(*opener) + ": is not expanded"));
     }
 
-    /// Whether anything opened. What changed by the input, and when that closed, must have had an event.
-    static bool HearChanges(Scene& scene, const QString& what, const std::function<void()>& input)
+    /// Checks that each change by `input`, and by closing what it opens, sends an event. Returns whether it opens
+    /// something.
+    static bool CheckEvents(EntryWindow& scene, const QString& name, const std::function<void()>& input)
     {
-        EventLog events;
+        AccessibleEventLog events;
         bool opened = false;
-        Reading last(scene.widget);
+        AccessibleSnapshot last(scene.widget);
         QStringList faults;
         const auto compare = [&] {
-            const Reading now(scene.widget);
-            faults += events.Unannounced(last, now);
+            const AccessibleSnapshot now(scene.widget);
+            faults += events.MissingEvents(last, now);
             events.Clear();
             last = now;
         };
         const Support::UrlHandlerStub links;
-        const Support::ModalWatcher loops([&](QWidget* window) {
+        const Support::ModalWatcher watcher([&](QWidget* window) {
             opened = true;
             if (QApplication::activePopupWidget() == window)
                 CheckExpanded(scene);
@@ -361,7 +320,7 @@ private:
             QCoreApplication::processEvents();
             compare();
         }
-        [&] { QVERIFY2(faults.isEmpty(), qPrintable(what + " does not announce " + faults.join("; "))); }();
+        [&] { QVERIFY2(faults.isEmpty(), qPrintable(name + " sends no event for " + faults.join("; "))); }();
         return opened;
     }
 };

@@ -1,15 +1,17 @@
-#include <Catalogue/Look.h>
-#include <Catalogue/Scene.h>
+#include <Catalogue/Comparison.h>
+#include <Catalogue/EntryWindow.h>
 #include <Examples/Support/BuiltInStyleSheets.h>
 #include <Gallery/Inspector/PropertyValue.h>
+#include <Gallery/Inspector/SignalLog.h>
 #include <Gallery/Inspector/StyleSheetLine.h>
 
 #include <Support/TestCase.h>
 
 #include <QAccessible>
-#include <QMetaProperty>
 #include <QStyle>
 #include <QTranslator>
+
+#include <algorithm>
 
 using namespace Zelkor::Catalogue;
 using namespace Zelkor::Gallery;
@@ -20,85 +22,84 @@ namespace {
 constexpr int NARROW = 48;
 constexpr int FONT_STEP = 7; ///< points between the two font sizes
 
-/// What surrounds every widget of the application.
-struct Surroundings
+/// The settings of the application that affect every widget.
+struct Environment
 {
     QString sheet = QStringLiteral("dark");
-    QString language;
+    QString language = {};
     int fontStep = 0;
     Qt::LayoutDirection direction = Qt::LeftToRight;
 };
 
-/// A change of what surrounds a widget.
-struct ApplicationChange
+struct EnvironmentChange
 {
     const char* name;
-    Surroundings from;
-    Surroundings to;
+    Environment from;
+    Environment to;
 };
 
-const ApplicationChange APPLICATION_CHANGES[] = {
+const EnvironmentChange ENVIRONMENT_CHANGES[] = {
     {"right to left", {}, {"dark", {}, 0, Qt::RightToLeft}},
     {"left to right", {"dark", {}, 0, Qt::RightToLeft}, {}},
-    {"German", {}, {"dark", "de", 0, Qt::LeftToRight}},
-    {"French after Japanese", {"dark", "ja", 0, Qt::LeftToRight}, {"dark", "fr", 0, Qt::LeftToRight}},
-    // Qt changes the font of the application only where there is no sheet for all of it.
-    {"larger application font", {"", {}, 0, Qt::LeftToRight}, {"", {}, FONT_STEP, Qt::LeftToRight}},
-    {"smaller application font", {"", {}, FONT_STEP, Qt::LeftToRight}, {"", {}, 0, Qt::LeftToRight}},
-    {"light", {}, {"light", {}, 0, Qt::LeftToRight}},
-    {"dark", {"light", {}, 0, Qt::LeftToRight}, {}},
+    {"German", {}, {"dark", "de"}},
+    {"French after Japanese", {"dark", "ja"}, {"dark", "fr"}},
+    // Qt ignores QApplication::setFont() while the application has a style sheet with fonts.
+    {"larger application font", {""}, {"", {}, FONT_STEP}},
+    {"smaller application font", {"", {}, FONT_STEP}, {""}},
+    {"light", {}, {"light"}},
+    {"dark", {"light"}, {}},
 };
 
-/// A change of the widget itself.
 struct WidgetChange
 {
     const char* name;
-    void (*prepare)(Stage&); ///< before either is shown
-    void (*change)(Stage&);  ///< of the widget that is shown
-    void (*make)(Stage&);    ///< of the widget that it is compared with, before that is shown
+    void (*prepare)(EntryWindow&); ///< of the changed widget, before it is shown
+    void (*change)(EntryWindow&);  ///< of the changed widget, which is visible
+    void (*make)(EntryWindow&);    ///< of the other widget, before it is shown
 };
 
-void Nothing(Stage&) {}
+void Nothing(EntryWindow&) {}
 
-void EnlargeFont(Stage& stage)
+void EnlargeFont(EntryWindow& scene)
 {
-    QFont font = stage.font();
+    QFont font = scene.window->font();
     font.setPointSize(font.pointSize() + FONT_STEP);
-    stage.setFont(font);
+    scene.window->setFont(font);
+}
+
+void Disable(EntryWindow& scene)
+{
+    scene.widget->setEnabled(false);
+}
+
+template<QPointer<QWidget> EntryWindow::*part>
+void HideAndShow(EntryWindow& scene)
+{
+    (scene.*part)->hide();
+    Settle();
+    (scene.*part)->show();
+}
+
+void NarrowAndWiden(EntryWindow& scene)
+{
+    const QSize size = scene.window->size();
+    scene.window->resize(NARROW, NARROW);
+    Settle();
+    scene.window->grab();
+    scene.window->resize(size);
 }
 
 const WidgetChange WIDGET_CHANGES[] = {
-    {"disabled", Nothing, [](Stage& stage) { stage.widget->setEnabled(false); },
-     [](Stage& stage) { stage.widget->setEnabled(false); }},
-    {"enabled", [](Stage& stage) { stage.setEnabled(false); }, [](Stage& stage) { stage.setEnabled(true); },
-     [](Stage& stage) { stage.setEnabled(true); }},
+    {"disabled", Nothing, Disable, Disable},
+    {"enabled", [](EntryWindow& scene) { scene.window->setEnabled(false); },
+     [](EntryWindow& scene) { scene.window->setEnabled(true); }, Nothing},
     {"larger font", Nothing, EnlargeFont, EnlargeFont},
-    {"hidden and shown", Nothing,
-     [](Stage& stage) {
-         stage.widget->hide();
-         Settle();
-         stage.widget->show();
-     },
-     Nothing},
-    {"window hidden and shown", Nothing,
-     [](Stage& stage) {
-         stage.hide();
-         Settle();
-         stage.show();
-     },
-     Nothing},
-    {"narrow and wide", Nothing,
-     [](Stage& stage) {
-         const QSize size = stage.size();
-         stage.resize(NARROW, NARROW);
-         Settle();
-         stage.grab();
-         stage.resize(size);
-     },
-     Nothing},
+    {"hidden and shown", Nothing, HideAndShow<&EntryWindow::widget>, Nothing},
+    {"window hidden and shown", Nothing, HideAndShow<&EntryWindow::window>, Nothing},
+    {"narrow and wide", Nothing, NarrowAndWiden, Nothing},
 };
 
-/// A value that a person could choose instead of `old`; invalid for types that have no such value.
+/// A valid value other than `old`; invalid for types without one.
 QVariant OtherValue(const QMetaProperty& property, const QVariant& old)
 {
     if (property.isEnumType()) {
@@ -115,9 +116,7 @@ QVariant OtherValue(const QMetaProperty& property, const QVariant& old)
     case QMetaType::Double:
         return old.toDouble() > 1 ? old.toDouble() / 2 : old.toDouble() + 1;
     case QMetaType::QString:
-        if (QByteArray(property.name()).endsWith("Style"))
-            return QStringLiteral("border: 2px solid red;");
-        return QStringLiteral("Longer than before, & other");
+        return QByteArray(property.name()).endsWith("Style") ? "border: 2px solid red;" : "Longer than before, & other";
     case QMetaType::QStringList:
         return QStringList{QStringLiteral("h:mm"), QStringLiteral("h:mm:ss")};
     case QMetaType::QColor:
@@ -135,33 +134,17 @@ QVariant OtherValue(const QMetaProperty& property, const QVariant& old)
     }
 }
 
-QString NameOf(const QMetaObject* meta)
+QVector<int> StatesToApply(const Entry& entry)
 {
-    return QString::fromLatin1(meta->className()).section("::", -1);
-}
-
-// A row for each property that a class of ours declares.
-void AddRowsOfOwnProperties()
-{
-    QTest::addColumn<QString>("className");
-    QTest::addColumn<QString>("property");
-    for (const Entry& entry : Entries()) {
-        QWidget parent;
-        const QMetaObject* meta = CreateBare(entry, &parent)->metaObject();
-        for (int i = 0; i < meta->propertyCount(); ++i) {
-            const QMetaProperty property = meta->property(i);
-            const QString declaredBy = NameOf(property.enclosingMetaObject());
-            const bool isOurs = !declaredBy.startsWith('Q') || FindEntry(declaredBy);
-            if (isOurs && property.isWritable() && meta->indexOfProperty(property.name()) == i)
-                QTest::addRow("%s, %s", qPrintable(entry.className), property.name())
-                    << entry.className << property.name();
-        }
-    }
+    QVector<int> states = TestedStates(entry);
+    states.erase(std::remove_if(states.begin(), states.end(), [&](int i) { return bool(entry.states[i].create); }),
+                 states.end());
+    return states;
 }
 
 } // namespace
 
-/// What is changed while it is shown looks and sounds like what was made so.
+/// A widget that changes while it is visible equals one that is created that way.
 class tst_CatalogueChanges : public Support::TestCase
 {
     Q_OBJECT
@@ -179,187 +162,123 @@ private Q_SLOTS:
         }
     }
 
-    void surroundingsChange_data()
+    void environmentChanges_data() { AddRows(TestedStates, NamesOf(ENVIRONMENT_CHANGES)); }
+
+    void environmentChanges()
     {
-        QTest::addColumn<QString>("className");
-        QTest::addColumn<int>("state");
-        QTest::addColumn<int>("change");
-        for (int change = 0; change < int(std::size(APPLICATION_CHANGES)); ++change)
-            AddRows(APPLICATION_CHANGES[change].name, change);
+        QFETCH(int, variant);
+        const EnvironmentChange& way = ENVIRONMENT_CHANGES[variant];
+        if (way.from.fontStep != way.to.fontStep && EntryOfRow().className == "ZRuntimeStylesheetEditor")
+            QSKIP("Qt keeps the font of its sample, which has a style sheet, and the minimum size of its QComboBox");
+        Enter(way.from);
+        const auto changed = WindowOfRow();
+        changed->ShowInactive();
+        Enter(way.to);
+        CompareWithNew(*changed);
     }
 
-    void surroundingsChange()
-    {
-        QFETCH(QString, className);
-        QFETCH(int, state);
-        QFETCH(int, change);
-        const Entry& entry = *FindEntry(className);
-        const ApplicationChange& way = APPLICATION_CHANGES[change];
-        Surround(way.from);
-        Stage changed(entry, entry.states[state]);
-        changed.Show();
-        Surround(way.to);
-        Stage made(entry, entry.states[state]);
-        made.Show();
-        Compare(changed, made);
-    }
-
-    void widgetChanges_data()
-    {
-        QTest::addColumn<QString>("className");
-        QTest::addColumn<int>("state");
-        QTest::addColumn<int>("change");
-        for (int change = 0; change < int(std::size(WIDGET_CHANGES)); ++change)
-            AddRows(WIDGET_CHANGES[change].name, change);
-    }
+    void widgetChanges_data() { AddRows(TestedStates, NamesOf(WIDGET_CHANGES)); }
 
     void widgetChanges()
     {
-        QFETCH(QString, className);
-        QFETCH(int, state);
-        QFETCH(int, change);
-        const Entry& entry = *FindEntry(className);
-        const WidgetChange& way = WIDGET_CHANGES[change];
-        Surround({});
-        Stage changed(entry, entry.states[state]);
-        way.prepare(changed);
-        changed.Show();
-        changed.grab();
-        way.change(changed);
-        Stage made(entry, entry.states[state]);
-        way.make(made);
-        made.Show();
-        Compare(changed, made);
+        QFETCH(int, variant);
+        const WidgetChange& way = WIDGET_CHANGES[variant];
+        Enter({});
+        const auto changed = WindowOfRow();
+        way.prepare(*changed);
+        changed->ShowInactive();
+        changed->window->grab();
+        way.change(*changed);
+        CompareWithNew(*changed, way.make);
     }
 
     void pixelRatioChanges_data() { AddRowsOfAllStates(); }
 
     void pixelRatioChanges()
     {
-        QFETCH(QString, className);
-        QFETCH(int, state);
-        const Entry& entry = *FindEntry(className);
-        Surround({});
-        Stage changed(entry, entry.states[state]);
-        changed.Show();
-        changed.grab();
-        Stage made(entry, entry.states[state]);
-        made.Show();
-        Compare(changed, made, 2);
-        Stage fresh(entry, entry.states[state]);
-        fresh.Show();
-        Compare(changed, fresh, 1);
+        Enter({});
+        const auto changed = WindowOfRow();
+        changed->ShowInactive();
+        changed->window->grab();
+        CompareWithNew(*changed, Nothing, 2);
+        CompareWithNew(*changed, Nothing, 1);
     }
 
-    void stateComesWhileShown_data()
-    {
-        QTest::addColumn<QString>("className");
-        QTest::addColumn<int>("state");
-        for (const Entry& entry : Entries()) {
-            for (const int i : TestedStates(entry)) {
-                if (!entry.states[i].create)
-                    QTest::addRow("%s, %s", qPrintable(entry.className), qPrintable(entry.states[i].name))
-                        << entry.className << i;
-            }
-        }
-    }
+    void stateIsAppliedWhileVisible_data() { AddRows(StatesToApply); }
 
-    void stateComesWhileShown()
+    void stateIsAppliedWhileVisible()
     {
-        QFETCH(QString, className);
-        QFETCH(int, state);
-        const Entry& entry = *FindEntry(className);
-        Surround({});
-        Stage changed(entry.create);
-        changed.Show();
-        changed.grab();
-        entry.states[state].apply(changed.widget);
-        // Sheets choose by this property, which Qt reads when it polishes a widget; that is for the program to ask.
-        for (QWidget* part : QList<QWidget*>{changed.widget} + changed.widget->findChildren<QWidget*>()) {
+        Enter({});
+        EntryWindow changed(EntryOfRow().create);
+        changed.ShowInactive();
+        changed.window->grab();
+        StateOfRow().apply(changed.widget);
+        // As Qt documents it, the caller repolishes after a change of a dynamic property in a selector.
+        for (const QPointer<QWidget>& part : PartsOf(changed.widget)) {
             part->style()->unpolish(part);
             part->style()->polish(part);
         }
-        Stage made(entry, entry.states[state]);
-        made.Show();
-        Compare(changed, made);
+        CompareWithNew(changed);
     }
 
-    void propertyChanges_data() { AddRowsOfOwnProperties(); }
+    void propertyChanges_data() { AddRowsOfProperties(IsOurs); }
 
     void propertyChanges()
     {
-        QFETCH(QString, className);
-        QFETCH(QString, property);
-        const Entry& entry = *FindEntry(className);
-        Surround({});
-        Stage changed(entry, entry.states[entry.pictured]);
-        changed.Show();
-        changed.grab();
-        QObject* subject = changed.Subject(entry);
-        const QByteArray name = property.toLatin1();
-        const QMetaProperty meta = subject->metaObject()->property(subject->metaObject()->indexOfProperty(name));
-        const QVariant value = OtherValue(meta, ReadProperty(meta, subject));
-        if (!value.isValid())
-            QSKIP("no other value of this type");
-        subject->setProperty(name, value);
-        Stage made(entry, entry.states[entry.pictured]);
-        // The sheet sets properties once, and that before the program does.
-        for (QWidget* part : made.findChildren<QWidget*>())
-            part->ensurePolished();
-        made.Subject(entry)->setProperty(name, value);
-        made.Show();
-        Compare(changed, made);
+        QFETCH(QByteArray, property);
+        ChangeProperty([&](QObject* object, const QMetaProperty&, const QVariant& value) {
+            // The application's style sheet sets properties once, before the caller does.
+            for (QWidget* widget : QApplication::allWidgets())
+                widget->ensurePolished();
+            object->setProperty(property, value);
+            return true;
+        });
     }
 
-    void propertyChangesBySheet_data() { AddRowsOfOwnProperties(); }
+    void propertyChangesByStyleSheet_data() { AddRowsOfProperties(IsOurs); }
 
-    void propertyChangesBySheet()
+    void propertyChangesByStyleSheet()
     {
-        QFETCH(QString, className);
-        QFETCH(QString, property);
-        const Entry& entry = *FindEntry(className);
-        Surround({});
-        Stage changed(entry, entry.states[entry.pictured]);
-        changed.Show();
-        changed.grab();
-        auto* subject = qobject_cast<QWidget*>(changed.Subject(entry));
-        if (!subject)
-            QSKIP("not a widget");
-        const QMetaObject& object = *subject->metaObject();
-        const QMetaProperty meta = object.property(object.indexOfProperty(property.toLatin1()));
-        const QString line = StyleSheetLine(meta, OtherValue(meta, ReadProperty(meta, subject)));
-        if (line.isEmpty())
-            QSKIP("not for style sheets");
-        const QString sheet = QString(object.className()).replace("::", "--") + " { " + line + " }";
-        subject->setStyleSheet(subject->styleSheet() + sheet);
-        Stage made(entry, entry.states[entry.pictured]);
-        auto* other = qobject_cast<QWidget*>(made.Subject(entry));
-        other->setStyleSheet(other->styleSheet() + sheet);
-        made.Show();
-        Compare(changed, made);
+        ChangeProperty([](QObject* object, const QMetaProperty& property, const QVariant& value) {
+            auto* widget = qobject_cast<QWidget*>(object);
+            const QString line = StyleSheetLine(property, value);
+            if (!widget || line.isEmpty())
+                return false;
+            const QString selector = QString(object->metaObject()->className()).replace("::", "--");
+            widget->setStyleSheet(widget->styleSheet() + selector + " { " + line + " }");
+            return true;
+        });
     }
 
 private:
-    static void AddRows(const char* change, int number)
+    static void CompareWithNew(EntryWindow& changed, const std::function<void(EntryWindow&)>& make = Nothing,
+                               qreal pixelRatio = 1)
     {
-        for (const Entry& entry : Entries()) {
-            // It holds a sample that wears a sheet, for which Qt keeps the old font of the application, and a
-            // QComboBox, which keeps the least size of that font.
-            if (QByteArray(change).endsWith("application font") && entry.className == "ZRuntimeStylesheetEditor")
-                continue;
-            for (const int i : TestedStates(entry))
-                QTest::addRow("%s, %s, %s", change, qPrintable(entry.className), qPrintable(entry.states[i].name))
-                    << entry.className << i << number;
-        }
-    }
-
-    static void Compare(Stage& changed, Stage& made, qreal pixelRatio = 1)
-    {
+        EntryWindow made(EntryOfRow(), StateOfRow());
+        make(made);
+        made.ShowInactive();
         const QString difference = Difference(changed, made, pixelRatio);
         QVERIFY2(difference.isEmpty(), qPrintable(difference));
     }
 
-    void Surround(const Surroundings& wanted)
+    /// Changes the property of this row with `set`, which returns false when it cannot.
+    void ChangeProperty(const std::function<bool(QObject*, const QMetaProperty&, const QVariant&)>& set)
+    {
+        QFETCH(QByteArray, property);
+        const Entry& entry = EntryOfRow();
+        Enter({});
+        EntryWindow changed(entry, StateOfRow());
+        changed.ShowInactive();
+        changed.window->grab();
+        QObject* subject = FindObject(changed.widget, entry.className);
+        const QMetaProperty meta = subject->metaObject()->property(subject->metaObject()->indexOfProperty(property));
+        const QVariant value = OtherValue(meta, ReadProperty(meta, subject));
+        if (!value.isValid() || !set(subject, meta, value))
+            QSKIP("cannot be set this way");
+        CompareWithNew(changed, [&](EntryWindow& made) { set(FindObject(made.widget, entry.className), meta, value); });
+    }
+
+    void Enter(const Environment& wanted)
     {
         if (wanted.direction != now.direction)
             QApplication::setLayoutDirection(wanted.direction);
@@ -386,7 +305,7 @@ private:
 
     QFont initialFont;
     QMap<QString, QTranslator*> translators;
-    Surroundings now{"none yet", {}, 0, Qt::LeftToRight};
+    Environment now{"none yet"};
 };
 
 VX_TEST_MAIN(tst_CatalogueChanges)

@@ -1,8 +1,8 @@
-#include <Catalogue/Homes.h>
-#include <Catalogue/Scene.h>
+#include <Catalogue/Containers.h>
+#include <Catalogue/EntryWindow.h>
+#include <Catalogue/SignalRecorder.h>
 #include <Examples/Support/BuiltInStyleSheets.h>
 
-#include <Support/AnySignalSpy.h>
 #include <Support/LeakCheck.h>
 #include <Support/ModalWatcher.h>
 #include <Support/TestCase.h>
@@ -10,14 +10,11 @@
 
 #include <QGraphicsProxyWidget>
 #include <QGraphicsView>
-#include <QPointer>
+#include <QStackedWidget>
+#include <QTabWidget>
 #include <QWindow>
 
 #include <ui_FormOfAll.h>
-
-#include <algorithm>
-#include <deque>
-#include <memory>
 
 using namespace Zelkor::Catalogue;
 using Zelkor::Examples::LoadStyleSheet;
@@ -27,59 +24,48 @@ namespace {
 constexpr QSize WINDOW_SIZE(800, 720);
 constexpr Qt::Key KEYS[] = {Qt::Key_Right, Qt::Key_Up, Qt::Key_Space, Qt::Key_7, Qt::Key_End};
 
-/// A place in a window of the window system.
-struct Place
+struct WindowPoint
 {
     QWindow* window;
     QPoint point;
 };
 
-// Where a point of a widget is on the screen, also inside a graphics view.
-Place PlaceOf(const QWidget* widget, const QPoint& point)
+// Maps a point of a widget to its native window, also from inside a graphics view.
+WindowPoint MapToWindow(const QWidget* widget, const QPoint& point)
 {
     QWidget* window = widget->window();
-    QPoint there = widget->mapTo(window, point);
+    QPoint mapped = widget->mapTo(window, point);
     if (const QGraphicsProxyWidget* proxy = window->graphicsProxyWidget()) {
         const QGraphicsView* view = proxy->scene()->views().first();
         window = view->window();
-        there = view->viewport()->mapTo(window, view->mapFromScene(proxy->mapToScene(there)));
+        mapped = view->viewport()->mapTo(window, view->mapFromScene(proxy->mapToScene(mapped)));
     }
-    return {window->windowHandle(), there};
+    return {window->windowHandle(), mapped};
 }
 
-// The style sheet editor applies by a timer, and takes its text from the windows that are open.
-bool IsOfSheetEditor(const QWidget* part)
+// Ignores QWidget's title and icon, which belong to the container, selectionChanged(), which depends on earlier input,
+// and the style sheet editor, which applies by a timer and takes its text from the open windows.
+bool IsIgnored(const QWidget* part, const QMetaMethod& signal)
 {
-    if (part->inherits("ZRuntimeStylesheetEditor"))
+    if (signal.enclosingMetaObject() == &QWidget::staticMetaObject || signal.name() == "selectionChanged" ||
+        part->inherits("ZRuntimeStylesheetEditor"))
         return true;
     while (part && !part->inherits("QPlainTextEdit"))
         part = part->parentWidget();
     return part;
 }
 
-/// Works a widget with mouse and keys, and lists what it answers.
-class Worker
+/// Operates a widget in a container with mouse and keys.
+class Operator
 {
 public:
-    Worker(QWidget* widget, const Home& home) : widget(widget), home(home)
+    Operator(QWidget* widget, const Container& container)
+        : widget(widget), container(container), recorder(widget, IsIgnored)
     {
-        const auto parts = PartsOf(widget);
-        for (const QPointer<QWidget>& part : parts) {
-            // What a pop-up of the widget emits depends on where it opens.
-            if (part->window() != widget->window() || IsOfSheetEditor(part))
-                continue;
-            for (const QMetaMethod& signal : Support::SignalsOf(part)) {
-                // What has a title or an icon is a matter of the container; what is selected, of what was typed before.
-                if (signal.enclosingMetaObject() != &QWidget::staticMetaObject && signal.name() != "selectionChanged")
-                    taps.emplace_back(part, QVector<QMetaMethod>{signal}, [this, text = Text(part, signal)] {
-                        if (isListening)
-                            answers.append(text);
-                    });
-            }
-        }
+        recorder.isActive = false;
     }
 
-    QStringList Work()
+    EmittedSignals Operate()
     {
         const int width = widget->width();
         const int middle = widget->height() / 2;
@@ -90,25 +76,18 @@ public:
             for (const Qt::Key key : KEYS)
                 Type(part, key);
         }
-        answers.sort();
-        answers.removeDuplicates();
-        return answers;
+        return recorder.emitted;
     }
 
 private:
-    static QString Text(const QWidget* part, const QMetaMethod& signal)
-    {
-        return QStringLiteral("%1 %2").arg(part->metaObject()->className(), QString(signal.methodSignature()));
-    }
-
-    // Some keys and presses close what the widget is in, or open something else.
+    // Earlier input may have closed the container or opened a pop-up.
     void Prepare()
     {
         for (const QPointer<QWidget>& part : PartsOf(widget)) {
             if (part && part->windowType() == Qt::Popup && part->isVisible())
-                QTest::keyPress(PlaceOf(part, {}).window, Qt::Key_Escape);
+                QTest::keyPress(MapToWindow(part, {}).window, Qt::Key_Escape);
         }
-        home.open();
+        container.open();
         Settle();
     }
 
@@ -121,14 +100,14 @@ private:
                 break;
             }
         }
-        const Place start = PlaceOf(widget, from);
-        isListening = true;
-        const Place end = PlaceOf(widget, to);
+        const WindowPoint start = MapToWindow(widget, from);
+        const WindowPoint end = MapToWindow(widget, to);
+        recorder.isActive = true;
         QTest::mousePress(start.window, Qt::LeftButton, {}, start.point);
         if (from != to)
             QTest::mouseMove(start.window, end.point);
         QTest::mouseRelease(start.window, Qt::LeftButton, {}, end.point);
-        isListening = false;
+        recorder.isActive = false;
     }
 
     void Type(const QPointer<QWidget>& part, Qt::Key key)
@@ -140,45 +119,49 @@ private:
         if (!part || !part->isVisible() || !part->isEnabled())
             return;
         part->setFocus(Qt::TabFocusReason);
-        isListening = true;
-        QTest::keyClick(PlaceOf(widget, {}).window, key);
-        isListening = false;
+        recorder.isActive = true;
+        QTest::keyClick(MapToWindow(widget, {}).window, key);
+        recorder.isActive = false;
     }
 
     QWidget* widget;
-    const Home& home;
-    QStringList answers;
-    bool isListening = false; ///< while a press or a key is delivered, and not what leads to it
-    std::deque<Support::AnySignalSpy> taps;
+    const Container& container;
+    SignalRecorder recorder;
 };
 
-// Empty when both lists have the same answers.
-QString Difference(const QStringList& answers, const QStringList& expected)
-{
-    QString text;
-    for (const QString& answer : answers) {
-        if (!expected.contains(answer))
-            text += "more: " + answer + '\n';
-    }
-    for (const QString& answer : expected) {
-        if (!answers.contains(answer))
-            text += "lost: " + answer + '\n';
-    }
-    return text;
-}
-
-void Open(QWidget& window, const Home& home)
+void Open(QWidget& window, const Container& container)
 {
     window.resize(WINDOW_SIZE);
     window.show();
     QApplication::setActiveWindow(&window);
-    home.open();
+    container.open();
     QCoreApplication::processEvents();
+}
+
+EmittedSignals Operate(QWidget* widget, const Container& container)
+{
+    const Support::UrlHandlerStub links;
+    const Support::ModalWatcher watcher([&container](QWidget* window) {
+        if (window != container.popUp)
+            Support::Dismiss(window);
+    });
+    return Operator(widget, container).Operate();
+}
+
+void Compare(const EmittedSignals& emitted, const EmittedSignals& expected)
+{
+    QCOMPARE(Missing(expected, emitted).join("; "), QString());
+    QCOMPARE(Missing(emitted, expected).join("; "), QString());
+}
+
+QStringList ContainerNames()
+{
+    return NamesOf(ContainerKinds()).mid(1);
 }
 
 } // namespace
 
-/// Every widget works in every container as it does in a plain window.
+/// Every widget emits the same signals in every container as in a plain window.
 class tst_CatalogueParents : public Support::TestCase
 {
     Q_OBJECT
@@ -186,43 +169,33 @@ class tst_CatalogueParents : public Support::TestCase
 private Q_SLOTS:
     void initTestCase() { sheet = *LoadStyleSheet("dark"); }
 
-    void worksWhereItIsMade_data() { AddRows(0); }
+    void widgetWorksInContainer_data() { AddRows(TestedStates, ContainerNames()); }
 
-    void worksWhereItIsMade()
+    // Alternately creates the widget in the container and moves it there, so that each widget takes both ways.
+    void widgetWorksInContainer()
     {
-        const Support::LeakCheck census;
-        QFETCH(int, home);
-        const QStringList expected = AnswersInPlainWindow();
-        QWidget window;
-        const Home place = HomeKinds()[size_t(home)].make(&window);
-        QWidget* widget = Create(place.parent);
-        place.take(widget);
-        Open(window, place);
-        QCOMPARE(Difference(Work(widget, place), expected), QString());
-    }
-
-    void worksWhereItIsMovedTo_data() { AddRows(1); }
-
-    void worksWhereItIsMovedTo()
-    {
-        const Support::LeakCheck census;
-        QFETCH(int, home);
-        const QStringList expected = AnswersInPlainWindow();
+        const Support::LeakCheck leakCheck;
+        QFETCH(int, state);
+        QFETCH(int, variant);
+        const bool isMoved = (state + variant) % 2 == 1;
+        const EmittedSignals expected = SignalsInPlainWindow();
         QWidget plain;
-        const Home before = HomeKinds().front().make(&plain);
-        QWidget* widget = Create(before.parent);
-        before.take(widget);
-        Open(plain, before);
         QWidget window;
-        const Home place = HomeKinds()[size_t(home)].make(&window);
-        window.resize(WINDOW_SIZE);
-        window.show();
-        place.take(widget);
-        Open(window, place);
-        QCOMPARE(Difference(Work(widget, place), expected), QString());
+        const Container container = ContainerKinds()[size_t(variant) + 1].create(&window);
+        QWidget* widget = nullptr;
+        if (isMoved) {
+            widget = CreateIn(plain, PlainContainer(plain));
+            window.resize(WINDOW_SIZE);
+            window.show();
+        } else {
+            widget = CreateAtOwnSize(container.parent);
+        }
+        container.take(widget);
+        Open(window, container);
+        Compare(Operate(widget, container), expected);
     }
 
-    void worksInACompiledForm_data()
+    void widgetWorksInCompiledForm_data()
     {
         QTest::addColumn<QString>("className");
         for (const Entry& entry : Entries()) {
@@ -231,37 +204,36 @@ private Q_SLOTS:
         }
     }
 
-    // As well as one that is made by hand like it.
-    void worksInACompiledForm()
+    void widgetWorksInCompiledForm()
     {
-        const Support::LeakCheck census;
-        QFETCH(QString, className);
-        const Entry& entry = *FindEntry(className);
+        const Support::LeakCheck leakCheck;
+        const Entry& entry = EntryOfRow();
         QWidget window;
         Ui::FormOfAll form;
         form.setupUi(&window);
-        QString name = className;
+        QString name = entry.className;
         name[0] = name[0].toLower();
         auto* widget = window.findChild<QWidget*>(name);
         QVERIFY(widget);
         QCOMPARE(widget->metaObject(), entry.form.metaObject);
-        const Home home{&window, {}, [] {}, nullptr};
-        Open(window, home);
+        const Container container{&window, {}};
+        Open(window, container);
 
         QWidget plain;
-        const Home place = HomeKinds().front().make(&plain);
-        QWidget* byHand = MakeByHand(entry, place.parent);
-        place.take(byHand);
-        // At the size that the form gives it.
-        byHand->setFixedSize(widget->size());
+        const Container place = PlainContainer(plain);
+        QWidget* other = CreateLikeForm(entry, place.parent);
+        place.take(other);
+        other->setFixedSize(widget->size());
         Open(plain, place);
-        const QStringList expected = Work(byHand, place);
+        const EmittedSignals expected = Operate(other, place);
         QApplication::setActiveWindow(&window);
-        QCOMPARE(Difference(Work(widget, home), expected), QString());
+        Compare(Operate(widget, container), expected);
     }
 
 private:
-    static QWidget* MakeByHand(const Entry& entry, QWidget* parent)
+    static Container PlainContainer(QWidget& window) { return ContainerKinds().front().create(&window); }
+
+    static QWidget* CreateLikeForm(const Entry& entry, QWidget* parent)
     {
         auto* widget = static_cast<QWidget*>(CreateBare(entry, parent));
         for (auto it = entry.form.properties.begin(); it != entry.form.properties.end(); ++it)
@@ -275,65 +247,39 @@ private:
         return widget;
     }
 
-    // Every state meets every container, in turns made there or moved there, so that every widget is both.
-    static void AddRows(size_t turn)
+    QWidget* CreateAtOwnSize(QWidget* parent)
     {
-        QTest::addColumn<QString>("className");
-        QTest::addColumn<int>("state");
-        QTest::addColumn<int>("home");
-        for (const Entry& entry : Entries()) {
-            for (const int i : TestedStates(entry)) {
-                for (size_t home = 1 + (size_t(i) + turn) % 2; home < HomeKinds().size(); home += 2)
-                    QTest::addRow("%s, %s, %s", qPrintable(entry.className), qPrintable(entry.states[i].name),
-                                  HomeKinds()[home].name)
-                        << entry.className << i << int(home);
-            }
-        }
-    }
-
-    // At the size that it has in a plain window.
-    QWidget* Create(QWidget* parent)
-    {
-        // The style sheet editor can take the sheet from the application.
+        // The style sheet editor may have replaced the application's sheet.
         if (qApp->styleSheet() != sheet.text)
             sheet.apply();
-        QFETCH(QString, className);
-        QFETCH(int, state);
-        const Entry& entry = *FindEntry(className);
-        QWidget* widget = CreateInState(entry, entry.states[state], parent);
+        QWidget* widget = CreateInState(EntryOfRow(), StateOfRow(), parent);
         widget->ensurePolished();
         widget->setFixedSize(widget->sizeHint().expandedTo(widget->minimumSize()).boundedTo(widget->maximumSize()));
         return widget;
     }
 
-    QStringList AnswersInPlainWindow()
+    QWidget* CreateIn(QWidget& window, const Container& container)
     {
-        QFETCH(QString, className);
-        QFETCH(int, state);
-        const QString key = QStringLiteral("%1 %2").arg(className).arg(state);
-        if (!plainAnswers.contains(key)) {
-            QWidget window;
-            const Home home = HomeKinds().front().make(&window);
-            QWidget* widget = Create(home.parent);
-            home.take(widget);
-            Open(window, home);
-            plainAnswers[key] = Work(widget, home);
-        }
-        return plainAnswers[key];
+        QWidget* widget = CreateAtOwnSize(container.parent);
+        container.take(widget);
+        Open(window, container);
+        return widget;
     }
 
-    static QStringList Work(QWidget* widget, const Home& home)
+    // Cached for each state.
+    EmittedSignals SignalsInPlainWindow()
     {
-        const Support::UrlHandlerStub links;
-        const Support::ModalWatcher loops([&home](QWidget* window) {
-            if (window != home.popUp)
-                Support::Dismiss(window);
-        });
-        return Worker(widget, home).Work();
+        const auto key = qMakePair(EntryOfRow().className, StateOfRow().name);
+        if (!plainSignals.contains(key)) {
+            QWidget window;
+            const Container container = PlainContainer(window);
+            plainSignals[key] = Operate(CreateIn(window, container), container);
+        }
+        return plainSignals[key];
     }
 
     ZStyleSheet sheet;
-    QMap<QString, QStringList> plainAnswers;
+    QMap<QPair<QString, QString>, EmittedSignals> plainSignals;
 };
 
 VX_TEST_MAIN(tst_CatalogueParents)

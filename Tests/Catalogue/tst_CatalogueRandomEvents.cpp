@@ -1,93 +1,186 @@
-#include <Catalogue/Catalogue.h>
-#include <Catalogue/RandomEvents.h>
+#include <Catalogue/EntryWindow.h>
 #include <Examples/Support/BuiltInStyleSheets.h>
 
+#include <Support/Input.h>
 #include <Support/LeakCheck.h>
+#include <Support/ModalWatcher.h>
 #include <Support/TestCase.h>
 #include <Support/UrlHandlerStub.h>
 
-#include <functional>
+#include <QFileDialog>
+
+#include <array>
+#include <random>
 
 using namespace Zelkor::Catalogue;
 using Zelkor::Examples::LoadStyleSheet;
 
 namespace {
 
-constexpr int EVENTS_IN_ONE_STATE = 2000; ///< then a fresh widget, in any state
-constexpr int SCENE_MARGIN = 20;
+constexpr int EVENTS_IN_ONE_STATE = 1000; ///< then a new widget in a random state
+constexpr int MARGIN = 6;                 ///< around the widget, for the mouse
+constexpr std::array BUTTONS{Qt::LeftButton, Qt::LeftButton, Qt::RightButton, Qt::MiddleButton};
+constexpr std::array MODIFIERS{Qt::NoModifier, Qt::NoModifier, Qt::ShiftModifier, Qt::ControlModifier};
+constexpr std::array KEYS{Qt::Key_Space, Qt::Key_Return, Qt::Key_Escape, Qt::Key_Tab,    Qt::Key_Backtab,
+                          Qt::Key_Left,  Qt::Key_Right,  Qt::Key_Up,     Qt::Key_Down,   Qt::Key_Home,
+                          Qt::Key_End,   Qt::Key_PageUp, Qt::Key_Delete, Qt::Key_Insert, Qt::Key_F4,
+                          Qt::Key_Menu,  Qt::Key_Plus,   Qt::Key_7,      Qt::Key_A,      Qt::Key_Backspace};
 
-// Each widget has its own sequence, whichever of them run.
-quint64 SeedOf(const QString& className, quint64 seed)
+/// Sends random input and changes to a widget and to the windows that it opens.
+class RandomEvents
 {
-    quint64 hash = 14695981039346656037U ^ seed; // FNV-1a
-    for (const QChar sign : className)
-        hash = (hash ^ sign.unicode()) * 1099511628211U;
-    return hash;
-}
+public:
+    RandomEvents(EntryWindow& scene, quint32 seed) : scene(scene), random(seed)
+    {
+        // Painting would take most of the time.
+        scene.window->setUpdatesEnabled(false);
+    }
+
+    void Next()
+    {
+        QWidget* window = TopWindow();
+        const int kind = Below(100);
+        if (kind < 30)
+            SendMouse(window, QEvent::MouseMove);
+        else if (kind < 45)
+            SendMouse(window, QEvent::MouseButtonPress);
+        else if (kind < 60)
+            SendMouse(window, QEvent::MouseButtonRelease);
+        else if (kind < 62)
+            SendMouse(window, QEvent::MouseButtonDblClick);
+        else if (kind < 68)
+            Support::TurnWheel(Part(), QPoint(0, Below(721) - 360));
+        else if (kind < 93)
+            QTest::keyClick(window, Pick(KEYS), Pick(MODIFIERS));
+        else
+            Change(kind);
+    }
+
+    QWidget* TopWindow() const
+    {
+        if (QWidget* popUp = QApplication::activePopupWidget())
+            return popUp;
+        QWidget* modal = QApplication::activeModalWidget();
+        return modal ? modal : scene.window.data();
+    }
+
+private:
+    int Below(int count) { return int(random() % unsigned(count)); }
+
+    template<class Value, size_t size>
+    Value Pick(const std::array<Value, size>& array)
+    {
+        return array[size_t(Below(int(size)))];
+    }
+
+    QWidget* Part()
+    {
+        const auto parts = PartsOf(scene.widget);
+        return parts[Below(parts.size())];
+    }
+
+    void SendMouse(QWidget* window, QEvent::Type type)
+    {
+        const QRect area = (window == scene.window ? scene.widget->geometry() : window->rect())
+                               .adjusted(-MARGIN, -MARGIN, MARGIN, MARGIN);
+        const QPoint place = area.topLeft() + QPoint(Below(area.width()), Below(area.height()));
+        QWidget* receiver = window->childAt(place);
+        if (pressed && type != QEvent::MouseButtonPress)
+            receiver = pressed;
+        if (!receiver)
+            receiver = window;
+        const QPoint global = window->mapToGlobal(place);
+        const Qt::MouseButton button = Pick(BUTTONS);
+        QMouseEvent event(type, receiver->mapFromGlobal(global), global, button, pressed ? button : Qt::NoButton,
+                          Pick(MODIFIERS));
+        if (type == QEvent::MouseButtonPress)
+            pressed = receiver;
+        else if (type == QEvent::MouseButtonRelease)
+            pressed = nullptr;
+        QCoreApplication::sendEvent(receiver, &event);
+    }
+
+    void Change(int kind)
+    {
+        QWidget* widget = scene.widget;
+        if (kind == 93)
+            widget->resize(Below(640), Below(400));
+        else if (kind == 94)
+            widget->setEnabled(Below(8));
+        else if (kind == 95)
+            (Below(8) ? widget : scene.window.data())->setVisible(Below(8));
+        else if (kind == 96)
+            widget->setLayoutDirection(Below(2) ? Qt::LeftToRight : Qt::RightToLeft);
+        else if (kind == 97)
+            Part()->setFocus(Below(2) ? Qt::TabFocusReason : Qt::MouseFocusReason);
+        else if (kind == 98)
+            QApplication::setActiveWindow(Below(3) ? scene.window.data() : nullptr);
+        else
+            Settle();
+    }
+
+    EntryWindow& scene;
+    QPointer<QWidget> pressed; ///< receives mouse events until the release
+    std::mt19937 random;
+};
 
 } // namespace
 
-/// Seeded random events for every widget.
-///
-/// `--seed N` chooses the sequence, `--widget CLASS` one widget, `--events N` how many for each. What a failure prints
-/// as its arguments brings it back.
+/// Seeded random events for every widget; `--seed N` and `--events N` set the sequence and its length.
 class tst_CatalogueRandomEvents : public Support::TestCase
 {
     Q_OBJECT
 
 public:
-    quint64 seed = 1;
+    quint32 seed = 1;
     int eventCount = 20000;
-    QString onlyWidget;
 
 private Q_SLOTS:
     void survives_data()
     {
         QTest::addColumn<QString>("className");
-        for (const Entry& entry : Entries()) {
-            if (onlyWidget.isEmpty() || onlyWidget == entry.className)
-                QTest::newRow(qPrintable(entry.className)) << entry.className;
-        }
+        for (const Entry& entry : Entries())
+            QTest::newRow(qPrintable(entry.className)) << entry.className;
     }
 
     void survives()
     {
-        QFETCH(QString, className);
-        // Said beforehand: after a crash nobody says anything.
-        qInfo("--seed %llu --events %d --widget %s", seed, eventCount, qPrintable(className));
-        const Entry& entry = *FindEntry(className);
-        std::mt19937_64 random(SeedOf(className, seed));
-        const Support::LeakCheck census;
-        for (int sent = 0; sent < eventCount && !QTest::currentTestFailed(); sent += EVENTS_IN_ONE_STATE) {
-            const State& state = entry.states[int(random() % quint64(entry.states.size()))];
-            InRow(QStringLiteral("%1, events from %2").arg(state.name).arg(sent));
-            SendTo(entry, state, random(), qMin(EVENTS_IN_ONE_STATE, eventCount - sent));
-        }
+        const Entry& entry = EntryOfRow();
+        // Printed first: a crash prints nothing.
+        qInfo("--seed %u --events %d survives:%s", seed, eventCount, qPrintable(entry.className));
+        std::mt19937 random(seed + quint32(&entry - Entries().data()));
+        const Support::LeakCheck leakCheck;
+        LoadStyleSheet("dark")->apply();
+        for (int sent = 0; sent < eventCount && !QTest::currentTestFailed(); sent += EVENTS_IN_ONE_STATE)
+            SendTo(entry, entry.states[int(random() % unsigned(entry.states.size()))], random());
     }
 
 private:
-    void SendTo(const Entry& entry, const State& state, quint64 stateSeed, int count)
+    static void SendTo(const Entry& entry, const State& state, quint32 seed)
     {
-        LoadStyleSheet("dark")->apply();
-        QWidget host;
-        const QPointer<QWidget> widget = CreateInState(entry, state, &host);
-        widget->adjustSize();
-        widget->move(SCENE_MARGIN, SCENE_MARGIN);
-        host.resize(widget->size() + QSize(2 * SCENE_MARGIN, 2 * SCENE_MARGIN));
-        host.show();
-        QApplication::setActiveWindow(&host);
-        {
-            RandomEvents events(&host, widget, stateSeed);
-            for (int i = 0; i < count; ++i)
+        EntryWindow scene(entry, state);
+        scene.Show();
+        RandomEvents events(scene, seed);
+        const Support::ModalWatcher watcher([&](QWidget* window) {
+            const QPointer<QWidget> guard(window);
+            // A file dialog could change files.
+            for (int i = 0; i < 4 && guard && guard->isVisible() && !qobject_cast<QFileDialog*>(guard); ++i)
+                events.Next();
+            if (guard)
+                Support::Dismiss(guard);
+        });
+        for (int i = 0; i < EVENTS_IN_ONE_STATE && scene.widget; ++i) {
+            if (qobject_cast<QFileDialog*>(events.TopWindow()))
+                Settle();
+            else
                 events.Next();
         }
-        QVERIFY2(widget, "the widget deleted itself");
-        // Whatever it has gone through, it can still be shown, painted and taken away.
-        widget->resize(widget->sizeHint());
-        host.setUpdatesEnabled(true);
-        host.show();
-        QCoreApplication::processEvents();
-        QVERIFY(!host.grab().isNull());
+        QVERIFY2(scene.widget, "the widget deleted itself");
+        scene.widget->resize(scene.widget->sizeHint());
+        scene.window->setUpdatesEnabled(true);
+        scene.window->show();
+        Settle();
+        QVERIFY(!scene.window->grab().isNull());
     }
 };
 
@@ -97,20 +190,17 @@ int main(int argc, char* argv[])
     QApplication application(argc, argv);
     const Support::UrlHandlerStub links;
     tst_CatalogueRandomEvents test;
-    const QHash<QString, std::function<void(const QString&)>> options{
-        {"--seed", [&test](const QString& value) { test.seed = value.toULongLong(); }},
-        {"--events", [&test](const QString& value) { test.eventCount = value.toInt(); }},
-        {"--widget", [&test](const QString& value) { test.onlyWidget = value; }}};
-    // The arguments that are not ours are the test framework's.
-    QStringList rest = application.arguments();
-    for (auto option = options.begin(); option != options.end(); ++option) {
-        const int place = rest.indexOf(option.key());
-        if (place >= 0 && place + 1 < rest.size()) {
-            option.value()(rest.takeAt(place + 1));
-            rest.removeAt(place);
-        }
-    }
-    return QTest::qExec(&test, rest);
+    QStringList arguments = application.arguments();
+    const auto takeOption = [&arguments](const QString& name, auto& value) {
+        const int place = arguments.indexOf(name);
+        if (place < 0 || place + 1 >= arguments.size())
+            return;
+        value = std::decay_t<decltype(value)>(arguments.takeAt(place + 1).toUInt());
+        arguments.removeAt(place);
+    };
+    takeOption("--seed", test.seed);
+    takeOption("--events", test.eventCount);
+    return QTest::qExec(&test, arguments);
 }
 
 #include "tst_CatalogueRandomEvents.moc"

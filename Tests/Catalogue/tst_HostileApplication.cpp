@@ -1,7 +1,7 @@
-#include <Catalogue/Scene.h>
+#include <Catalogue/EntryWindow.h>
+#include <Catalogue/SignalRecorder.h>
 #include <Examples/Support/BuiltInStyleSheets.h>
 
-#include <Support/AnySignalSpy.h>
 #include <Support/LeakCheck.h>
 #include <Support/ModalWatcher.h>
 #include <Support/TestCase.h>
@@ -11,7 +11,8 @@
 #include <QMetaEnum>
 #include <QSet>
 
-#include <deque>
+#include <array>
+#include <utility>
 
 using namespace Zelkor::Catalogue;
 using Zelkor::Examples::LoadStyleSheet;
@@ -21,79 +22,52 @@ namespace {
 constexpr Qt::Key KEYS[] = {Qt::Key_Space,  Qt::Key_Right, Qt::Key_Left,   Qt::Key_Up, Qt::Key_Down,
                             Qt::Key_Return, Qt::Key_Home,  Qt::Key_Delete, Qt::Key_7,  Qt::Key_Tab};
 
-// What a person does before the next thing: closes what is open.
-void CloseAll()
+void ClosePopUps()
 {
     while (QWidget* popUp = QApplication::activePopupWidget())
         popUp->close();
     Settle();
 }
 
-// Operates each part with keys and mouse, as long as the scene exists; types another digit each time, which changes a
-// text that is typed once more.
-void Work(Scene& scene)
+// Sends keys and mouse events to each part while the window exists. Types a different digit at each call, so that a
+// text changes each time.
+void Operate(EntryWindow& scene)
 {
-    static int times = 0;
-    ++times;
+    static int calls = 0;
+    ++calls;
     for (const QPointer<QWidget>& part : scene.KeyboardParts()) {
         if (!part)
             continue;
         part->setFocus(Qt::TabFocusReason);
         for (const Qt::Key key : KEYS) {
-            if (!scene.Type(key == Qt::Key_7 ? Qt::Key(Qt::Key_0 + times % 10) : key))
+            if (!scene.Type(key == Qt::Key_7 ? Qt::Key(Qt::Key_0 + calls % 10) : key))
                 return;
         }
     }
     for (const QPointer<QWidget>& part : PartsOf(scene.widget)) {
         if (!part || !part->isVisible() || part->window() != scene.window)
             continue;
-        // There and back, which leaves what can be dragged in its place.
+        // Returns to the start, so that a dragged part keeps its place.
         const QPoint center = part->mapTo(scene.window, part->rect().center());
         QTest::mousePress(scene.window->windowHandle(), Qt::LeftButton, Qt::NoModifier, center);
-        for (const QPoint& place : {center + QPoint(9, 9), center}) {
+        for (const QPoint& point : {center + QPoint(9, 9), center}) {
             if (scene.window)
-                QTest::mouseMove(scene.window->windowHandle(), place);
+                QTest::mouseMove(scene.window->windowHandle(), point);
         }
         if (scene.window)
             QTest::mouseRelease(scene.window->windowHandle(), Qt::LeftButton, Qt::NoModifier, center);
     }
+    ClosePopUps();
 }
 
-/// The signals that a widget and its parts emit, each with the first part that does; the same signal of other parts of
-/// the same class is not distinguished.
-using PartSignals = QMap<QString, int>;
-
-QString NameOf(const QWidget* part, const QMetaMethod& signal)
+EmittedSignals SignalsOfOperating(EntryWindow& scene)
 {
-    return QStringLiteral("%1::%2").arg(part->metaObject()->className(), QString(signal.methodSignature()));
+    SignalRecorder recorder(scene.widget);
+    Operate(scene);
+    return recorder.emitted;
 }
 
-// Parts in pop-ups are left out: where a pop-up covers the widget depends on what is open. So are signals about what
-// can be copied or undone: they depend on what was selected and typed before.
-PartSignals SignalsOfWork(Scene& scene)
-{
-    PartSignals emitted;
-    std::deque<Support::AnySignalSpy> loggers;
-    const auto parts = PartsOf(scene.widget);
-    for (int i = 0; i < parts.size(); ++i) {
-        if (parts[i]->window() != scene.window)
-            continue;
-        for (const QMetaMethod& signal : Support::SignalsOf(parts[i])) {
-            if (signal.name().endsWith("Available"))
-                continue;
-            loggers.emplace_back(parts[i], QVector<QMetaMethod>{signal},
-                                 [&emitted, i, name = NameOf(parts[i], signal)] {
-                                     if (!emitted.contains(name))
-                                         emitted[name] = i;
-                                 });
-        }
-    }
-    Work(scene);
-    CloseAll();
-    return emitted;
-}
-
-QMetaMethod SignalOf(const QWidget* part, const QString& name)
+QMetaMethod FindSignal(const QWidget* part, const QString& name)
 {
     for (const QMetaMethod& signal : part ? Support::SignalsOf(part) : QVector<QMetaMethod>()) {
         if (NameOf(part, signal) == name)
@@ -102,148 +76,97 @@ QMetaMethod SignalOf(const QWidget* part, const QString& name)
     return {};
 }
 
-/// What a widget does in a calm application.
-struct Calm
+/// What a widget does without interference.
+struct Baseline
 {
-    PartSignals first;   ///< what it emits when it is operated for the first time
-    PartSignals answers; ///< the same without what it does not emit the second time
-    QSet<QEvent::Type> kinds;
+    EmittedSignals first;    ///< when it is operated for the first time
+    EmittedSignals repeated; ///< the same without signals that it does not emit the second time
+    QSet<QEvent::Type> events;
 };
 
-QStringList Lost(const PartSignals& expected, const PartSignals& now)
-{
-    QStringList lost;
-    for (const QString& name : expected.keys()) {
-        if (!now.contains(name))
-            lost += name;
-    }
-    return lost;
-}
-
-// Sliders are left out: they emit in the middle of the work of Qt's own slider, which continues afterwards.
+// Sliders are excluded: QAbstractSlider emits inside its own event handlers and then continues.
 bool MayDeleteIn(const QMetaMethod& signal, const QWidget* part)
 {
     const QString declaredBy = signal.enclosingMetaObject()->className();
     return (!declaredBy.startsWith('Q') || FindEntry(declaredBy)) && !qobject_cast<const QAbstractSlider*>(part);
 }
 
-/// What a slot of the application does to the widget that called it.
+/// What a slot of the application does to the sender.
 struct Attack
 {
     const char* name;
-    void (*act)(Scene& scene, QWidget* elsewhere);
+    void (*act)(EntryWindow& scene, QWidget* elsewhere);
 };
 
 const Attack ATTACKS[] = {
-    {"deleted", [](Scene& scene, QWidget*) { delete scene.widget; }},
-    {"deleted later", [](Scene& scene, QWidget*) { scene.widget->deleteLater(); }},
-    {"disabled", [](Scene& scene, QWidget*) { scene.widget->setEnabled(false); }},
-    {"hidden", [](Scene& scene, QWidget*) { scene.widget->hide(); }},
-    {"moved to another window", [](Scene& scene, QWidget* elsewhere) { scene.widget->setParent(elsewhere); }},
-    {"operated again", [](Scene& scene, QWidget*) { scene.Type(Qt::Key_Down); }},
-    {"event loop", [](Scene&, QWidget*) { QCoreApplication::processEvents(); }},
+    {"deleted", [](EntryWindow& scene, QWidget*) { delete scene.widget; }},
+    {"deleted later", [](EntryWindow& scene, QWidget*) { scene.widget->deleteLater(); }},
+    {"disabled", [](EntryWindow& scene, QWidget*) { scene.widget->setEnabled(false); }},
+    {"hidden", [](EntryWindow& scene, QWidget*) { scene.widget->hide(); }},
+    {"moved to another window", [](EntryWindow& scene, QWidget* elsewhere) { scene.widget->setParent(elsewhere); }},
+    {"operated again", [](EntryWindow& scene, QWidget*) { scene.Type(Qt::Key_Down); }},
+    {"event loop", [](EntryWindow&, QWidget*) { QCoreApplication::processEvents(); }},
 };
 
-/// Swallows the first event of one kind that goes to a widget or to something that a widget owns; to the whole
-/// application it looks as if that event had never been sent.
-class EventThief : public QObject
+/// Application event filter that calls a function for the events of widgets and of objects that widgets own, and
+/// filters those for which it returns true.
+class WidgetEventFilter : public QObject
 {
 public:
-    explicit EventThief(QEvent::Type type) : type(type) { qApp->installEventFilter(this); }
-
-    bool hasStolen = false;
+    explicit WidgetEventFilter(std::function<bool(QEvent::Type)> filter) : filter(std::move(filter))
+    {
+        qApp->installEventFilter(this);
+    }
 
 private:
     bool eventFilter(QObject* object, QEvent* event) override
     {
-        if (hasStolen || event->type() != type)
-            return false;
-        for (; object; object = object->parent())
-            hasStolen = hasStolen || object->isWidgetType();
-        return hasStolen;
+        while (object && !object->isWidgetType())
+            object = object->parent();
+        return object && filter(event->type());
     }
 
-    QEvent::Type type;
-};
-
-/// Collects the kinds of event that a widget and its parts receive.
-class EventKinds : public QObject
-{
-public:
-    EventKinds() { qApp->installEventFilter(this); }
-
-    QSet<QEvent::Type> kinds;
-
-private:
-    // Left out: Qt's own widgets learn of their actions by events alone, and a window closes that cannot refuse to.
-    static bool MustArrive(QEvent::Type type)
-    {
-        return type == QEvent::ActionAdded || type == QEvent::ActionRemoved || type == QEvent::Close;
-    }
-
-    bool eventFilter(QObject* object, QEvent* event) override
-    {
-        if (MustArrive(event->type()))
-            return false;
-        if (object->isWidgetType() || (object->parent() && object->parent()->isWidgetType()))
-            kinds.insert(event->type());
-        return false;
-    }
+    std::function<bool(QEvent::Type)> filter;
 };
 
 } // namespace
 
-/// The widget in an application that does its worst: slots that take the widget away or run the event loop in the
-/// middle of its work, and an event filter that swallows what it needs.
+/// Widgets survive slots that delete, hide or reparent them, and event filters that swallow events.
 class tst_HostileApplication : public Support::TestCase
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    // Without a sheet: most of the time would go into applying it to each of the many widgets.
+    // Without a style sheet, which would take most of the time.
     void initTestCase() { ZStyleSheet{QString(), LoadStyleSheet("dark")->iconFolder}.apply(); }
 
-    void worksAfterAttackInSlot_data()
-    {
-        QTest::addColumn<QString>("className");
-        QTest::addColumn<int>("state");
-        QTest::addColumn<int>("attack");
-        for (const Entry& entry : Entries()) {
-            for (const int state : TestedStates(entry)) {
-                for (int attack = 0; attack < int(std::size(ATTACKS)); ++attack)
-                    QTest::addRow("%s, %s, %s", qPrintable(entry.className), qPrintable(entry.states[state].name),
-                                  ATTACKS[attack].name)
-                        << entry.className << state << attack;
-            }
-        }
-    }
+    void worksAfterAttackInSlot_data() { AddRows(TestedStates, NamesOf(ATTACKS)); }
 
     void worksAfterAttackInSlot()
     {
-        const Support::LeakCheck census;
+        const Support::LeakCheck leakCheck;
         const Support::UrlHandlerStub links;
-        const Support::ModalWatcher loops(Support::Dismiss);
-        QFETCH(int, attack);
-        const bool isDeletion = attack == 0;
-        const Calm calm = CalmOfThisRow();
-        QStringList deaf;
-        for (auto target = calm.first.begin(); target != calm.first.end(); ++target) {
-            const auto scene = SceneOfThisRow();
+        const Support::ModalWatcher watcher(Support::Dismiss);
+        QFETCH(int, variant);
+        const Attack& attack = ATTACKS[variant];
+        const Baseline baseline = BaselineOfRow();
+        QStringList missing;
+        for (auto target = baseline.first.begin(); target != baseline.first.end(); ++target) {
+            const auto scene = WindowOfRow();
             scene->Show();
             QWidget* sender = PartsOf(scene->widget).value(target.value());
-            const QMetaMethod signal = SignalOf(sender, target.key());
-            if (!signal.isValid() || (isDeletion && !MayDeleteIn(signal, sender)))
+            const QMetaMethod signal = FindSignal(sender, target.key());
+            if (!signal.isValid() || (variant == 0 && !MayDeleteIn(signal, sender)))
                 continue;
             QWidget elsewhere;
             elsewhere.show();
             {
                 bool isOver = false;
-                const Support::AnySignalSpy tap(sender, {signal}, [&] {
+                const Support::AnySignalSpy spy(sender, {signal}, [&] {
                     if (!std::exchange(isOver, true) && scene->widget)
-                        ATTACKS[attack].act(*scene, &elsewhere);
+                        attack.act(*scene, &elsewhere);
                 });
-                Work(*scene);
-                CloseAll();
+                Operate(*scene);
             }
             if (!scene->widget)
                 continue;
@@ -251,60 +174,84 @@ private Q_SLOTS:
             scene->widget->setEnabled(true);
             scene->widget->show();
             scene->Show();
-            for (const QString& lost : Lost(calm.answers, SignalsOfWork(*scene)))
-                deaf += target.key() + QStringLiteral(" -> ") + lost;
+            for (const QString& name : Missing(baseline.repeated, SignalsOfOperating(*scene)))
+                missing += target.key() + QStringLiteral(" -> ") + name;
         }
-        QCOMPARE(deaf.join("; "), QString());
+        QCOMPARE(missing.join("; "), QString());
     }
 
-    void worksAfterLosingAnEvent_data() { AddRowsOfStates(TestedStates); }
+    void worksAfterLosingAnEvent_data() { AddRows(TestedStates); }
 
     void worksAfterLosingAnEvent()
     {
         const Support::UrlHandlerStub links;
-        const Calm calm = CalmOfThisRow();
-        QStringList deaf;
-        for (const QEvent::Type kind : calm.kinds) {
-            auto thief = std::make_unique<EventThief>(kind);
-            // Sees each event before the thief does, or no dialog would ever close.
-            const Support::ModalWatcher loops(Support::Dismiss);
-            const auto scene = SceneOfThisRow();
+        const Baseline baseline = BaselineOfRow();
+        QStringList missing;
+        for (const QEvent::Type lost : baseline.events) {
+            bool isLost = false;
+            auto filter = std::make_unique<WidgetEventFilter>(
+                [&](QEvent::Type type) { return type == lost && !std::exchange(isLost, true); });
+            // Installed later, so that it sees each event before the filter.
+            const Support::ModalWatcher watcher(Support::Dismiss);
+            const auto scene = WindowOfRow();
             scene->Show();
-            Work(*scene);
-            CloseAll();
-            thief.reset();
+            Operate(*scene);
+            filter.reset();
             scene->window->hide();
             scene->widget->show();
             scene->Show();
-            const QString name = QMetaEnum::fromType<QEvent::Type>().valueToKey(kind);
-            for (const QString& lost : Lost(calm.answers, SignalsOfWork(*scene)))
-                deaf += name + QStringLiteral(" -> ") + lost;
+            const QString event = QMetaEnum::fromType<QEvent::Type>().valueToKey(lost);
+            for (const QString& name : Missing(baseline.repeated, SignalsOfOperating(*scene)))
+                missing += event + QStringLiteral(" -> ") + name;
         }
-        QCOMPARE(deaf.join("; "), QString());
+        QCOMPARE(missing.join("; "), QString());
+    }
+
+    void windowIsDeletedWhilePopUpIsOpen_data() { AddRows(AllStates, {"Space", "Down", "F4"}); }
+
+    // Dialogs and menus lose their parent inside exec().
+    void windowIsDeletedWhilePopUpIsOpen()
+    {
+        const Support::LeakCheck leakCheck;
+        QFETCH(int, variant);
+        const auto scene = WindowOfRow();
+        scene->Show();
+        const Support::ModalWatcher watcher([&scene](QWidget*) { delete scene->window; });
+        for (const QPointer<QWidget>& part : scene->KeyboardParts()) {
+            if (!part)
+                continue;
+            part->setFocus(Qt::TabFocusReason);
+            scene->Type(std::array{Qt::Key_Space, Qt::Key_Down, Qt::Key_F4}[size_t(variant)]);
+            Settle();
+        }
     }
 
 private:
-    // Found once for each state.
-    const Calm& CalmOfThisRow()
+    // Cached for each state.
+    Baseline BaselineOfRow()
     {
-        QFETCH(QString, className);
-        QFETCH(int, state);
-        const QString key = QStringLiteral("%1 %2").arg(className).arg(state);
-        if (!calms.contains(key)) {
-            const EventKinds seen;
-            const Support::ModalWatcher loops(Support::Dismiss);
-            const auto scene = SceneOfThisRow();
+        const auto key = qMakePair(EntryOfRow().className, StateOfRow().name);
+        if (!baselines.contains(key)) {
+            Baseline baseline;
+            const WidgetEventFilter filter([&baseline](QEvent::Type type) {
+                // QWidget updates its actions by events only, and a closing window ignores event filters.
+                if (type != QEvent::ActionAdded && type != QEvent::ActionRemoved && type != QEvent::Close)
+                    baseline.events.insert(type);
+                return false;
+            });
+            const Support::ModalWatcher watcher(Support::Dismiss);
+            const auto scene = WindowOfRow();
             scene->Show();
-            const PartSignals first = SignalsOfWork(*scene);
-            PartSignals answers = first;
-            for (const QString& lost : Lost(answers, SignalsOfWork(*scene)))
-                answers.remove(lost);
-            calms[key] = {first, answers, seen.kinds};
+            baseline.first = SignalsOfOperating(*scene);
+            baseline.repeated = baseline.first;
+            for (const QString& name : Missing(baseline.first, SignalsOfOperating(*scene)))
+                baseline.repeated.remove(name);
+            baselines[key] = baseline;
         }
-        return calms[key];
+        return baselines[key];
     }
 
-    QMap<QString, Calm> calms;
+    QMap<QPair<QString, QString>, Baseline> baselines;
 };
 
 VX_TEST_MAIN(tst_HostileApplication)

@@ -5,14 +5,11 @@
 
 #include <QColor>
 #include <QFile>
-#include <QFileInfo>
 #include <QImage>
 #include <QMetaProperty>
-#include <QPointF>
 #include <QRegularExpression>
-#include <QSet>
 
-#include <memory>
+#include <algorithm>
 
 using namespace Zelkor::Catalogue;
 using Zelkor::Examples::LoadStyleSheet;
@@ -21,7 +18,7 @@ namespace {
 
 using Rows = QVector<QStringList>;
 
-/// What the reference says about one class.
+/// The section of a class in the reference.
 struct Part
 {
     QMap<QString, Rows> tables; ///< by the heading of their first column
@@ -37,7 +34,7 @@ QStringList Cells(const QString& line)
     return cells.mid(1, cells.size() - 2);
 }
 
-/// The parts of the document by class, with its namespace.
+/// Returns the sections of the document by qualified class name.
 QMap<QString, Part> ReadReference(const QString& fileName)
 {
     QFile file(fileName);
@@ -65,7 +62,7 @@ QMap<QString, Part> ReadReference(const QString& fileName)
     return parts;
 }
 
-/// The names in a cell, as patterns: `name` stands for itself, *name* for anything.
+/// Returns the names in a cell as regular expressions: `name` is literal, *name* a placeholder.
 QStringList Patterns(const QString& cell)
 {
     static const QRegularExpression PLACEHOLDER(R"(\*[a-z]+\*)");
@@ -80,61 +77,52 @@ bool IsOf(const QObject* object, QString className)
     return object->inherits(className.remove('`').replace("--", "::").toLatin1());
 }
 
-bool HasType(const QMetaProperty& property, const QString& type)
+QString TypeOf(const QMetaProperty& property)
 {
-    static const QMap<QString, int> TYPES = {
-        {"bool", QMetaType::Bool},       {"int", QMetaType::Int},        {"int64", QMetaType::LongLong},
-        {"number", QMetaType::Double},   {"string", QMetaType::QString}, {"string list", QMetaType::QStringList},
-        {"colour", QMetaType::QColor},   {"image", QMetaType::QImage},   {"picture", QMetaType::QPixmap},
-        {"rectangle", QMetaType::QRect}, {"point", QMetaType::QPointF},
+    static const QMap<int, QString> TYPES = {
+        {QMetaType::Bool, "bool"},       {QMetaType::Int, "int"},        {QMetaType::LongLong, "int64"},
+        {QMetaType::Double, "number"},   {QMetaType::QString, "string"}, {QMetaType::QStringList, "string list"},
+        {QMetaType::QColor, "colour"},   {QMetaType::QImage, "image"},   {QMetaType::QPixmap, "picture"},
+        {QMetaType::QRect, "rectangle"}, {QMetaType::QPointF, "point"},
     };
-    if (type == "enumeration" || type == "flags")
-        return property.isEnumType() && property.isFlagType() == (type == "flags");
-    return !property.isEnumType() && TYPES.value(type, QMetaType::UnknownType) == property.userType();
+    if (property.isEnumType())
+        return property.isFlagType() ? "flags" : "enumeration";
+    return TYPES.value(property.userType(), property.typeName());
 }
 
-bool HasDefault(const QMetaProperty& property, QObject* object, QString text)
+/// The value of a property as the reference writes it.
+QString TextOf(const QMetaProperty& property, const QObject* object)
 {
-    text.remove('`').remove('"');
     const QVariant value = property.read(object);
-    if (property.isEnumType()) {
-        bool known = false;
-        return property.enumerator().keysToValue(text.toLatin1(), &known) == value.toInt() && known;
-    }
+    if (property.isEnumType())
+        return QString(property.enumerator().valueToKeys(value.toInt())).replace("AlignLeading", "AlignLeft");
     switch (property.userType()) {
     case QMetaType::QColor:
-        return QColor::isValidColor(text) && QColor(text) == value.value<QColor>();
+        return value.value<QColor>().name(QColor::HexArgb);
     case QMetaType::QImage:
-        return text == "none" && value.value<QImage>().isNull();
+        return value.value<QImage>().isNull() ? "none" : "an image";
     case QMetaType::QPixmap:
-        return text == "none" && value.value<QPixmap>().isNull();
+        return value.value<QPixmap>().isNull() ? "none" : "a picture";
     case QMetaType::QPointF:
-        return text == "0, 0" && value.toPointF().isNull();
-    case QMetaType::QRect: {
-        // There is no rectangle that is the same for all sizes.
-        auto* widget = qobject_cast<QWidget*>(object);
-        widget->resize(widget->size() + QSize(100, 100));
-        widget->grab();
-        return text == "by the size" && property.read(object) != value;
-    }
-    default: {
-        const bool isList = property.userType() == QMetaType::QStringList;
-        return (text == "empty" ? QString() : text) == (isList ? value.toStringList().join(',') : value.toString());
-    }
+        return QString("%1, %2").arg(value.toPointF().x()).arg(value.toPointF().y());
+    case QMetaType::QRect:
+        return "by the size";
+    case QMetaType::QStringList:
+        return value.toStringList().isEmpty() ? "empty" : value.toStringList().join(',');
+    default:
+        return value.toString().isEmpty() ? "empty" : value.toString();
     }
 }
 
-/// An object of a class that has no entry of its own because it is a piece of others; null when there is none.
-QObject* FindPiece(const QString& className, QWidget* parent)
+/// An object of a class without an entry, which is a part of other widgets; null if there is none.
+QObject* FindPart(const QString& className, QWidget* parent)
 {
     for (const Entry& entry : Entries()) {
         for (const State& state : entry.states) {
-            QWidget* widget = CreateInState(entry, state, parent);
-            for (QObject* object : widget->findChildren<QObject*>()) {
+            for (QObject* object : CreateInState(entry, state, parent)->findChildren<QObject*>()) {
                 if (IsOf(object, className))
                     return object;
             }
-            delete widget;
         }
     }
     return nullptr;
@@ -146,111 +134,109 @@ class tst_Reference : public Support::TestCase
 {
     Q_OBJECT
 
-    QMap<QString, Part> parts;
-
-    void AddRows(bool withPieces)
-    {
-        QTest::addColumn<QString>("className");
-        for (const QString& className : parts.keys()) {
-            if (withPieces || FindEntry(className.section("::", -1)))
-                QTest::newRow(qPrintable(className)) << className;
-        }
-    }
+    QMap<QString, Part> parts; ///< by class
 
 private Q_SLOTS:
     void initTestCase()
     {
         parts = ReadReference(VX_DOCS "/StyleSheets.md");
         QVERIFY(!parts.isEmpty());
-        // The icons that states ask for, without the look around them.
-        QString error;
-        std::optional<ZStyleSheet> sheet = LoadStyleSheet("dark");
-        QVERIFY2(sheet, qPrintable(error));
-        sheet->text.clear();
-        sheet->apply();
+        // The icons without the style.
+        ZStyleSheet{QString(), LoadStyleSheet("dark")->iconFolder}.apply();
     }
 
-    void everyEntryHasItsPart()
+    void everyEntryIsDescribed_data()
     {
-        for (const Entry& entry : Entries()) {
-            InRow(entry.className);
-            const std::unique_ptr<QWidget> parent(new QWidget);
-            const QObject* object = CreateBare(entry, parent.get());
-            const QString className = object->metaObject()->className();
-            QCOMPARE(className.section("::", -1), entry.className);
-            QVERIFY2(parts.contains(className), qPrintable(className));
-            const QString text = parts[className].text;
-            const QString picture = QString("pictures/%1.png").arg(entry.className);
-            QVERIFY2(text.contains("](" + picture + ')'), "the part does not show its picture");
-            QVERIFY2(!QImage(VX_DOCS "/" + picture).isNull(), "the picture is missing; tools/make-pictures makes it");
-            QVERIFY2(text.contains("\n```css\n") || text.contains("\n```cpp\n"), "the part has no example");
-        }
+        QTest::addColumn<QString>("className");
+        for (const Entry& entry : Entries())
+            QTest::newRow(qPrintable(entry.className)) << entry.className;
     }
 
-    void properties_data() { AddRows(true); }
-
-    void properties()
+    void everyEntryIsDescribed()
     {
         QFETCH(QString, className);
-        const std::unique_ptr<QWidget> parent(new QWidget);
-        const Entry* entry = FindEntry(className.section("::", -1));
-        QObject* object = entry ? CreateBare(*entry, parent.get()) : FindPiece(className, parent.get());
-        QVERIFY2(object, "no entry shows such an object");
+        QWidget parent;
+        const QString fullName = CreateBare(*FindEntry(className), &parent)->metaObject()->className();
+        QVERIFY2(parts.contains(fullName), qPrintable(fullName));
+        const QString text = parts[fullName].text;
+        const QString picture = QString("pictures/%1.png").arg(className);
+        QVERIFY2(text.contains("](" + picture + ')'), "shows no picture");
+        QVERIFY2(!QImage(VX_DOCS "/" + picture).isNull(), "the picture is missing; run tools/make-pictures");
+        QVERIFY2(text.contains("\n```css\n") || text.contains("\n```cpp\n"), "has no example");
+    }
+
+    void propertiesHaveTypeAndDefault_data()
+    {
+        QTest::addColumn<QString>("fullName");
+        for (const QString& fullName : parts.keys())
+            QTest::newRow(qPrintable(fullName)) << fullName;
+    }
+
+    void propertiesHaveTypeAndDefault()
+    {
+        QFETCH(QString, fullName);
+        QWidget parent;
+        const Entry* entry = FindEntry(fullName.section("::", -1));
+        const QObject* object = entry ? CreateBare(*entry, &parent) : FindPart(fullName, &parent);
+        QVERIFY2(object, "no entry contains such an object");
         const QMetaObject* meta = object->metaObject();
-        while (meta && className != meta->className())
+        while (meta && fullName != meta->className())
             meta = meta->superClass();
-        QVERIFY2(meta, object->metaObject()->className());
-        QSet<QString> declared;
-        for (int i = meta->propertyOffset(); i < meta->propertyCount(); ++i)
-            declared.insert(meta->property(i).name());
-        for (const QStringList& row : parts[className].tables["property"]) {
-            const QString name = QString(row[0]).remove('`');
-            InRow(name);
-            QVERIFY2(declared.remove(name), "the class declares no such property");
-            const QMetaProperty property = meta->property(meta->indexOfProperty(name.toLatin1()));
-            QVERIFY2(HasType(property, row[1]), property.typeName());
-            // The values of a piece are those that the widget around it gave it.
-            if (entry)
-                QVERIFY2(HasDefault(property, object, row[2]), qPrintable(property.read(object).toString()));
+        QVERIFY(meta);
+        QStringList expected;
+        for (int i = meta->propertyOffset(); i < meta->propertyCount(); ++i) {
+            const QMetaProperty property = meta->property(i);
+            // The owner of a part sets its values.
+            expected +=
+                QStringList{property.name(), TypeOf(property), entry ? TextOf(property, object) : ""}.join(" | ");
         }
-        QVERIFY2(declared.isEmpty(), qPrintable("without a row: " + declared.values().join(' ')));
+        QStringList written;
+        for (QStringList row : parts[fullName].tables["property"]) {
+            row.replaceInStrings("`", "").replaceInStrings("\"", "");
+            const QColor color(row[2]);
+            if (row[1] == "colour" && color.isValid())
+                row[2] = color.name(QColor::HexArgb);
+            written += QStringList{row[0], row[1], entry ? row[2] : ""}.join(" | ");
+        }
+        expected.sort();
+        written.sort();
+        QCOMPARE(written.join('\n'), expected.join('\n'));
     }
 
-    void names_data() { AddRows(false); }
+    void namesMatchTheWidget_data() { everyEntryIsDescribed_data(); }
 
-    // What is in the tables exists in some state, and what the widget names and marks is in the tables.
-    void names()
+    // Every name in the tables exists in a state, and every name of a new widget is in the tables.
+    void namesMatchTheWidget()
     {
         QFETCH(QString, className);
-        const Entry& entry = *FindEntry(className.section("::", -1));
+        const Entry& entry = *FindEntry(className);
         QWidget backdrop;
         backdrop.show();
         QObject* bare = CreateBare(entry, &backdrop);
-        QObjectList own = bare->findChildren<QObject*>();
-        own.append(bare);
+        const QObjectList own = QObjectList{bare} + bare->findChildren<QObject*>();
         for (const State& state : entry.states)
             CreateInState(entry, state, &backdrop)->show();
         const auto all = backdrop.findChildren<QObject*>();
+        const Part& part = parts[bare->metaObject()->className()];
 
-        QStringList listed;
-        for (const QStringList& row : parts[className].tables["object name"]) {
+        // Names that Qt sets are not listed.
+        QStringList listed{"^$", "^qt_", "^Scroll(Left|Right)Button$"};
+        for (const QStringList& row : part.tables["object name"]) {
             for (const QString& pattern : Patterns(row[0])) {
-                InRow(pattern);
-                QVERIFY2(std::any_of(all.begin(), all.end(),
-                                     [&](const QObject* object) {
-                                         return QRegularExpression(pattern).match(object->objectName()).hasMatch() &&
-                                                IsOf(object, row[2]);
-                                     }),
-                         "no object of this class has such a name");
+                const QRegularExpression expression(pattern);
+                const auto matches = [&](const QObject* object) {
+                    return expression.match(object->objectName()).hasMatch() && IsOf(object, row[2]);
+                };
+                QVERIFY2(std::any_of(all.begin(), all.end(), matches), qPrintable(pattern + " does not exist"));
                 listed.append(pattern);
             }
         }
-        QStringList marks;
-        for (const QStringList& row : parts[className].tables["dynamic property"])
-            marks.append(QString(row[0]).remove('`'));
-        const QRegularExpression pattern(listed.join('|') + "|^$|^qt_");
+        QByteArrayList marks;
+        for (const QStringList& row : part.tables["dynamic property"])
+            marks.append(QString(row[0]).remove('`').toLatin1());
         for (const QObject* object : own) {
-            QVERIFY2(pattern.match(object->objectName()).hasMatch(), qPrintable(object->objectName()));
+            QVERIFY2(QRegularExpression(listed.join('|')).match(object->objectName()).hasMatch(),
+                     qPrintable(object->objectName()));
             for (const QByteArray& mark : object->dynamicPropertyNames())
                 QVERIFY2(mark.startsWith('_') || marks.contains(mark), mark);
         }

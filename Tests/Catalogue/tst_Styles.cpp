@@ -1,6 +1,6 @@
 #include <Catalogue/Catalogue.h>
+#include <Catalogue/Contrast.h>
 #include <Examples/Support/BuiltInStyleSheets.h>
-#include <UI/Widgets/HorizontalTabBar.h>
 
 #include <Support/TestCase.h>
 
@@ -9,9 +9,6 @@
 #include <QLabel>
 #include <QRegularExpression>
 #include <QTemporaryDir>
-
-#include <algorithm>
-#include <cmath>
 
 using namespace Zelkor::Catalogue;
 using Zelkor::Examples::LoadStyleSheet;
@@ -35,18 +32,6 @@ QMap<QString, QColor> ReadPalette(const QString& name)
     return palette;
 }
 
-double Luminance(const QColor& color)
-{
-    const auto linear = [](double x) { return x <= 0.04045 ? x / 12.92 : std::pow((x + 0.055) / 1.055, 2.4); };
-    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
-}
-
-double Contrast(const QColor& a, const QColor& b)
-{
-    const auto [darker, lighter] = std::minmax({Luminance(a), Luminance(b)});
-    return (lighter + 0.05) / (darker + 0.05);
-}
-
 } // namespace
 
 class tst_Styles : public Support::TestCase
@@ -61,39 +46,41 @@ private Q_SLOTS:
         QTest::newRow("light") << "Light";
     }
 
-    void textIsReadable_data()
+    void contrastIsSufficient_data()
     {
         QTest::addColumn<QString>("front");
-        QTest::addColumn<QStringList>("backs");
-        QTest::addColumn<double>("smallest");
-        const QStringList plain = {"window", "surface", "raised"};
-        const QStringList areas = plain + QStringList{"control", "control-hover"};
-        QTest::newRow("text") << "text" << areas + QStringList{"control-pressed", "selection", "preview"} << 4.5;
+        QTest::addColumn<QString>("backs");
+        QTest::addColumn<double>("least");
+        const QString plain = "window surface raised";
+        const QString areas = plain + " control control-hover";
+        QTest::newRow("text") << "text" << areas + " control-pressed selection preview" << 4.5;
         QTest::newRow("muted text") << "text-muted" << plain << 4.5;
         QTest::newRow("accent as text") << "accent-line" << plain << 4.5;
-        QTest::newRow("on accent") << "on-accent" << QStringList{"accent", "accent-hover", "accent-pressed"} << 4.5;
-        QTest::newRow("on danger") << "on-accent" << QStringList{"danger", "danger-pressed"} << 4.5;
-        QTest::newRow("error") << "danger-text" << QStringList{"danger-surface"} << 4.5;
+        QTest::newRow("on accent") << "on-accent"
+                                   << "accent accent-hover accent-pressed danger danger-pressed" << 4.5;
+        QTest::newRow("error") << "danger-text"
+                               << "danger-surface" << 4.5;
         QTest::newRow("keyboard focus") << "accent-line" << areas << 3.0;
         QTest::newRow("edge of fields") << "border-strong" << plain << 3.0;
-        QTest::newRow("recording") << "recording" << QStringList{"window", "surface"} << 3.0;
+        QTest::newRow("recording") << "recording"
+                                   << "window surface" << 3.0;
     }
 
-    void textIsReadable()
+    void contrastIsSufficient()
     {
         QFETCH_GLOBAL(QString, name);
         QFETCH(QString, front);
-        QFETCH(QStringList, backs);
-        QFETCH(double, smallest);
+        QFETCH(QString, backs);
+        QFETCH(double, least);
         const auto palette = ReadPalette(name);
-        for (const QString& back : backs) {
-            QVERIFY2(palette.contains(front) && palette.contains(back), qPrintable(front + " on " + back));
-            const double contrast = Contrast(palette[front], palette[back]);
-            QVERIFY2(contrast >= smallest, qPrintable(QString("%1 on %2: %3").arg(front, back).arg(contrast)));
+        QVERIFY(palette.contains(front));
+        for (const QString& back : backs.split(' ')) {
+            QVERIFY2(palette.contains(back), qPrintable(back));
+            QVERIFY2(Contrast(palette[front], palette[back]) >= least, qPrintable(back));
         }
     }
 
-    void iconsNeverComeFromTheCurrentFolder()
+    void iconsNeverLoadFromTheCurrentFolder()
     {
         QTemporaryDir folder;
         const QString previous = QDir::currentPath();
@@ -101,7 +88,7 @@ private Q_SLOTS:
         QImage red(16, 16, QImage::Format_RGB32);
         red.fill(Qt::red);
         QVERIFY(red.save("vxstyle:mark.svg", "PNG"));
-        QVERIFY(QImage("vxstyle:mark.svg") == red);
+        QCOMPARE(QImage("vxstyle:mark.svg"), red);
 
         QFETCH_GLOBAL(QString, name);
         ZStyleSheet sheet = *LoadStyleSheet(name.toLower());
@@ -109,62 +96,41 @@ private Q_SLOTS:
         sheet.apply();
         QLabel label;
         label.resize(16, 16);
-        // Qt says for each attempt that there is no such icon.
+        // Qt warns at each attempt to load the missing icon, also in its variants for high resolutions.
         for (const char* icon : {"mark.svg", "mark.svg", "mark.svg", "mark.svg", "mark.svg", "mark-dis", "mark-dis"})
             ExpectWarning(icon);
         QVERIFY(label.grab().toImage().pixelColor(8, 8) != Qt::red);
-        // Qt prefers the icons for dense screens, and the sheet may lack some.
         QVERIFY(!qApp->styleSheet().contains("vxstyle:"));
         QVERIFY(ZStyleSheet::icon("mark").pixmap(16).isNull());
         QVERIFY(QDir::setCurrent(previous));
     }
 
-    void disabledTabLooksDisabled()
+    void styleSheetIsComplete()
     {
         QFETCH_GLOBAL(QString, name);
-        LoadStyleSheet(name.toLower())->apply();
-        Zelkor::Vx::HorizontalTabBar bar(nullptr);
-        bar.addTab("l");
-        bar.addTab("l");
-        bar.show();
-        const auto inside = [&] { return bar.grab(bar.tabRect(1).adjusted(4, 4, -4, -4)).toImage(); };
-        const QImage enabled = inside();
-        bar.setTabEnabled(1, false);
-        const QImage disabled = inside();
-        int changed = 0;
-        for (int i = 0; i < enabled.width() * enabled.height(); ++i) {
-            const QPoint pixel(i % enabled.width(), i / enabled.width());
-            changed += enabled.pixel(pixel) != disabled.pixel(pixel);
-        }
-        QVERIFY(changed > enabled.width() * enabled.height() / 10);
-    }
-
-    void sheetIsWhole()
-    {
-        QFETCH_GLOBAL(QString, name);
-        QString error;
         const auto sheet = LoadStyleSheet(name.toLower());
-        QVERIFY2(sheet, qPrintable(error));
+        QVERIFY(sheet);
         static const QRegularExpression PLACEHOLDER("@[a-z-]+@");
         QVERIFY(!sheet->text.contains(PLACEHOLDER));
-
         QStringList urls = sheet->text.split("url(").mid(1);
-        QVERIFY(!urls.isEmpty());
         for (const Entry& entry : Entries()) {
             QVERIFY2(sheet->text.contains("/* ==== " + entry.styleSection + " ="), qPrintable(entry.className));
             urls.append("vxstyle:" + entry.icon + ".svg");
         }
-        // A mistake in the sheet would be a warning, which fails the test.
+        // A syntax error is a warning, which fails the test.
         sheet->apply();
-        QCOMPARE(qApp->styleSheet(), sheet->text);
         QWidget().ensurePolished();
         for (const QString& url : urls) {
             const QString icon = url.section(')', 0, 0);
-            QVERIFY2(icon.startsWith("vxstyle:") && !QImage(icon).isNull(), qPrintable(icon));
+            QVERIFY2(icon.startsWith("vxstyle:"), qPrintable(icon));
+            QVERIFY2(!QImage(icon).isNull(), qPrintable(icon));
             QVERIFY2(!ReadText(icon).contains(PLACEHOLDER), qPrintable(icon));
         }
+    }
 
-        // A colour that is missing leaves a placeholder; what is left is one that has no use.
+    void everyColourIsUsed()
+    {
+        QFETCH_GLOBAL(QString, name);
         QString templates = ReadText(VX_STYLES_SOURCE "/Template.qss.in");
         for (const QFileInfo& icon : QDir(VX_STYLES_SOURCE "/icons").entryInfoList({"*.svg.in"}))
             templates += ReadText(icon.filePath());

@@ -7,5 +7,5 @@ find_package(Qt5 5.15 REQUIRED COMPONENTS Designer Xml)
 vx_test(Designer/tst_DesignerPlugin.cpp LIBRARIES VxCatalogue Qt5::Designer Qt5::Xml)
 add_dependencies(tst_DesignerPlugin VxUiWidgetsDesigner)
 target_compile_definitions(
-  tst_DesignerPlugin PRIVATE VX_PLUGIN="$<TARGET_FILE:VxUiWidgetsDesigner>" VX_UIC="$<TARGET_FILE:Qt5::uic>"
+  tst_DesignerPlugin PRIVATE VX_PLUGIN="$<TARGET_FILE:VxUiWidgetsDesigner>"
                              VX_HEADERS="${PROJECT_SOURCE_DIR}/Lib")

@@ -10,11 +10,11 @@
 
 namespace {
 
-constexpr int TIME_LIMIT = 60000;
+constexpr int TIMEOUT_MS = 60000;
 
-QStringList PageNames()
+QStringList ClassNames()
 {
-    QStringList names{"Start"};
+    QStringList names;
     for (const auto& entry : Zelkor::Catalogue::Entries())
         names.append(entry.className);
     return names;
@@ -22,151 +22,125 @@ QStringList PageNames()
 
 } // namespace
 
+/// Runs the program with command lines.
 class tst_Gallery : public Support::TestCase
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase()
+    void listsAllPages() { QCOMPARE(Run("--list"), QStringList{"Start"} + ClassNames() + QStringList{"exit 0"}); }
+
+    void writesAPictureOfEachPage()
     {
-        QFile file(folder.filePath("file"));
-        QVERIFY(file.open(QIODevice::WriteOnly));
+        QCOMPARE(Run("--shots new/pages --size 900x640 --after 50 --style light --rtl"), QStringList{"exit 0"});
+        const QStringList pages = QStringList{"Start"} + ClassNames();
+        for (const QString& page : pages)
+            QCOMPARE(QImage(folder.filePath("new/pages/" + page + ".png")).size(), QSize(900, 640));
+        QCOMPARE(QDir(folder.filePath("new/pages")).entryList(QDir::Files).size(), pages.size());
     }
 
-    void listsAndWritesAllPages()
+    void writesAPictureOfEachWidget()
     {
-        QCOMPARE(RunGallery({"--list"}, ""), PageNames() + QStringList{"exit 0"});
-        const QDir target(folder.filePath("new/pages"));
-        const QStringList arguments = {"--shots", target.path(), "--size", "900x640", "--after", "50"};
-        QCOMPARE(RunGallery(arguments + QStringList{"--style", "light", "--rtl"}), QStringList{"exit 0"});
-        for (const QString& page : PageNames())
-            QVERIFY2(QImage(target.filePath(page + ".png")).size() == QSize(900, 640), qPrintable(page));
-        QCOMPARE(target.entryList(QDir::Files).size(), PageNames().size());
-
-        const QDir small(folder.filePath("widgets"));
-        QCOMPARE(RunGallery({"--pictures", small.path(), "--after", "0"}), QStringList{"exit 0"});
-        for (const auto& entry : Zelkor::Catalogue::Entries())
-            QVERIFY2(!QImage(small.filePath(entry.className + ".png")).isNull(), qPrintable(entry.className));
+        QCOMPARE(Run("--pictures widgets --after 0"), QStringList{"exit 0"});
+        for (const QString& name : ClassNames())
+            QVERIFY2(!QImage(folder.filePath("widgets/" + name + ".png")).isNull(), qPrintable(name));
     }
 
-    void takesSizeScaleAndAnotherStyleSheet()
+    void appliesSizeScaleAndStyleSheet()
     {
         QFile file(folder.filePath("Mine.qss"));
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write("QWidget:window { background-color: #123456; }") > 0);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        QVERIFY(file.write("QWidget:window { background-color: #123456; }") > 0);
         file.close();
-        // The icons that are not there may be missed in words.
-        const QStringList look = {"--style", "Mine.qss", "--size", "700x300", "--scale", "1.5"};
-        QCOMPARE(RunGallery(look + QStringList{"--shot", "mine.png", "--after", "50"}).last(), QString("exit 0"));
+        QCOMPARE(Run("--style Mine.qss --size 700x300 --scale 1.5 --shot mine.png --after 50").last(),
+                 QString("exit 0"));
         const QImage shot(folder.filePath("mine.png"));
         QCOMPARE(shot.size(), QSize(1050, 450));
         QCOMPARE(shot.pixelColor(2, 2), QColor("#123456"));
     }
 
-    void pressesAButtonAndShowsItsPanel()
+    void pictureContainsAPopUp()
     {
-        const QStringList scene = {"--page", "ButtonWithPopUpContainer", "--size", "1000x700", "--after", "100"};
-        const QImage closed = Shot(scene);
-        const QImage open = Shot(scene + QStringList{"--press", "Quality"});
+        const QString page = "--page ButtonWithPopUpContainer --size 1000x700 --after 100 ";
+        QCOMPARE(Run(page + "--shot closed.png"), QStringList{"exit 0"});
+        QCOMPARE(Run(page + "--shot open.png --press Quality"), QStringList{"exit 0"});
+        const QImage closed(folder.filePath("closed.png"));
+        const QImage open(folder.filePath("open.png"));
         int changedRows = 0;
         for (int y = 0; y < closed.height(); ++y)
             changedRows += closed.copy(0, y, closed.width(), 1) != open.copy(0, y, open.width(), 1);
-        QVERIFY2(changedRows > 100, "no panel opened");
+        QVERIFY(changedRows > 100);
     }
 
-    void directionLooksTheSameWhenItChanges()
+    void switchedDirectionLooksLikeAStartInThatDirection()
     {
-        const QStringList scene = {"--page", "PixmapWidget", "--size", "1300x700", "--after", "100"};
-        QCOMPARE(Shot(scene + QStringList{"--press", "Right to left"}), Shot(scene + QStringList{"--rtl"}));
+        const QString page = "--page PixmapWidget --size 1300x700 --after 100 ";
+        QCOMPARE(Run(page + "--shot started.png --rtl"), QStringList{"exit 0"});
+        QCOMPARE(Run(page + "--shot switched.png", {"--press", "Right to left"}), QStringList{"exit 0"});
+        QCOMPARE(QImage(folder.filePath("switched.png")), QImage(folder.filePath("started.png")));
     }
 
-    void goesOnWithoutADisplayAndALanguage()
+    void runsWithoutDisplayAndTranslation()
     {
 #if defined(Q_OS_WIN)
         QSKIP("There is always a display");
 #endif
-        const QStringList lines =
-            RunGallery({"--fallback-shot", "fallback.png", "--language", "tlh", "--after", "200"}, "");
+        const QStringList lines = Run("--fallback-shot fallback.png --language tlh --after 200", {}, "");
         QCOMPARE(lines.size(), 3);
-        QVERIFY2(lines[0].startsWith("error: ") && lines[0].contains("fallback.png"), qPrintable(lines[0]));
-        QVERIFY2(lines[1].startsWith("error: ") && lines[1].contains("tlh"), qPrintable(lines[1]));
+        QVERIFY2(lines[0].contains("fallback.png"), qPrintable(lines[0]));
+        QVERIFY2(lines[1].contains("tlh"), qPrintable(lines[1]));
         QCOMPARE(lines[2], QString("exit 0"));
         QVERIFY(!QImage(folder.filePath("fallback.png")).isNull());
     }
 
-    void refusesBadUse_data()
+    void rejectsBadArguments_data()
     {
         QTest::addColumn<int>("exitCode");
-        for (const char* line : {"--no-such-option",
-                                 "ZLabel",
-                                 "--page NoWidget",
-                                 "--page ",
-                                 "--shot",
-                                 "--shot ",
-                                 "--size 100x",
-                                 "--size -5x10",
-                                 "--size 0x0",
-                                 "--size 99999x99999",
-                                 "--scale 4 --size 8192x8192",
-                                 "--scale big",
-                                 "--scale nan",
-                                 "--scale 1000",
-                                 "--after soon",
-                                 "--after -1",
-                                 "--style no-such-sheet.qss",
-                                 "--style .",
-                                 "--style /dev/null",
-                                 "--shot file --shots shots",
-                                 "--shot file --press Nothing"})
+        for (const char* line : {"--no-such-option", "ZLabel", "--page NoWidget", "--shot", "--size 100x", "--size 0x0",
+                                 "--scale 4 --size 8192x8192", "--scale nan", "--after -1", "--style no-such-sheet.qss",
+                                 "--shot file --shots shots", "--shot file --press Nothing"})
             QTest::newRow(line) << 2;
-        for (const char* line :
-             {"--after 0 --shot no/such/folder.png", "--shots file/folder", "--pictures file/folder"})
+        for (const char* line : {"--after 0 --shot no/such/folder.png", "--shots /dev/null/folder"})
             QTest::newRow(line) << 1;
     }
 
-    void refusesBadUse()
+    void rejectsBadArguments()
     {
         QFETCH(int, exitCode);
-        const QStringList arguments = QString(QTest::currentDataTag()).split(' ');
-        // It says what is wrong, which is last in these command lines.
-        const QString culprit = QString(arguments.last()).remove("--");
-        const QStringList lines = RunGallery(arguments);
+        const QString line = QTest::currentDataTag();
+        const QStringList lines = Run(line);
         QCOMPARE(QStringList(lines.mid(1)), QStringList{QString("exit %1").arg(exitCode)});
-        QVERIFY2(lines[0].startsWith("error: ") && lines[0].contains(culprit), qPrintable(lines[0]));
+        // The culprit is the last argument in each of these command lines.
+        QVERIFY2(lines[0].startsWith("error: "), qPrintable(lines[0]));
+        QVERIFY2(lines[0].contains(line.section(' ', -1).remove("--")), qPrintable(lines[0]));
     }
 
 private:
-    /// What the gallery writes, errors marked as such, and how it ends.
-    QStringList RunGallery(const QStringList& arguments, const char* platform = "offscreen")
+    /// Returns the lines that the gallery writes, those to standard error with a prefix, and its exit code.
+    QStringList Run(const QString& arguments, const QStringList& moreArguments = {},
+                    const char* platform = "offscreen")
     {
         for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_SCALE_FACTOR"})
             qunsetenv(name);
         qputenv("QT_QPA_PLATFORM", platform);
         qputenv("XDG_RUNTIME_DIR", QFile::encodeName(folder.path()));
-        // Into files: what is in a pipe of Wine's may come later than the end of the process.
-        const QString written[] = {folder.filePath("output"), folder.filePath("errors")};
+        // Files, because under Wine a pipe may deliver its data after the end of the process.
+        const QString outputs[] = {folder.filePath("output"), folder.filePath("errors")};
         QProcess gallery;
         gallery.setWorkingDirectory(folder.path());
-        gallery.setStandardOutputFile(written[0]);
-        gallery.setStandardErrorFile(written[1]);
-        gallery.start(VX_GALLERY, arguments);
-        if (!gallery.waitForFinished(TIME_LIMIT) || gallery.exitStatus() != QProcess::NormalExit)
+        gallery.setStandardOutputFile(outputs[0]);
+        gallery.setStandardErrorFile(outputs[1]);
+        gallery.start(VX_GALLERY, arguments.split(' ') + moreArguments);
+        if (!gallery.waitForFinished(TIMEOUT_MS) || gallery.exitStatus() != QProcess::NormalExit)
             return {gallery.errorString()};
         QStringList lines;
-        for (const QString& name : written) {
+        for (const QString& name : outputs) {
             QFile file(name);
             [&] { QVERIFY(file.open(QIODevice::ReadOnly)); }();
             for (const QString& line : QString(file.readAll()).remove('\r').split('\n', Qt::SkipEmptyParts))
-                lines.append((name == written[1] ? "error: " : "") + line);
+                lines.append((name == outputs[1] ? "error: " : "") + line);
         }
         return lines << QString("exit %1").arg(gallery.exitCode());
-    }
-
-    QImage Shot(const QStringList& arguments)
-    {
-        const QString file = folder.filePath("shot.png");
-        QFile::remove(file);
-        [&] { QCOMPARE(RunGallery(arguments + QStringList{"--shot", file}), QStringList{"exit 0"}); }();
-        return QImage(file);
     }
 
     QTemporaryDir folder;

@@ -3,7 +3,6 @@
 #include <Examples/Support/BuiltInStyleSheets.h>
 #include <Examples/Support/ScreenFit.h>
 #include <Gallery/Browser/GalleryWindow.h>
-#include <Gallery/Browser/StartPage.h>
 #include <Gallery/Browser/StateCard.h>
 #include <Gallery/Browser/WidgetPage.h>
 
@@ -13,177 +12,154 @@
 #include <QAbstractButton>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QMenu>
-#include <QPointer>
 #include <QScreen>
 #include <QSignalSpy>
-#include <QToolButton>
+
+#include <memory>
 
 using namespace Zelkor;
 using namespace Zelkor::Gallery;
-using Zelkor::Examples::LoadStyleSheet;
-
-namespace {
-
-/// The gallery, shown.
-struct Browser
-{
-    Browser() { gallery.show(); }
-
-    WidgetPage* Page() const { return gallery.findChild<WidgetPage*>(); }
-
-    Examples::Appearance appearance{"VxGallery"};
-    GalleryWindow gallery{&appearance};
-    QListWidget* list = gallery.findChild<QListWidget*>("pageList");
-};
-
-} // namespace
 
 class tst_GalleryWindows : public Support::TestCase
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { LoadStyleSheet("dark")->apply(); }
+    void init()
+    {
+        TestCase::init();
+        Examples::LoadStyleSheet("dark")->apply();
+        gallery = std::make_unique<GalleryWindow>(&appearance);
+        gallery->show();
+        list = gallery->findChild<QListWidget*>("pageList");
+    }
 
-    void tabReachesWhatShiftTabReaches_data()
+    void cleanup()
+    {
+        gallery.reset();
+        TestCase::cleanup();
+    }
+
+    void tabReachesWhatBacktabReaches_data()
     {
         QTest::addColumn<QString>("page");
-        for (const char* page : {"Start", "ZSlider", "ColorButton"})
+        for (const char* page : {"Start", "ColorButton"})
             QTest::newRow(page) << page;
     }
 
-    void tabReachesWhatShiftTabReaches()
+    void tabReachesWhatBacktabReaches()
     {
         QFETCH(QString, page);
-        Browser browser;
-        browser.gallery.OpenPage(page);
-        QVERIFY(QTest::qWaitForWindowActive(&browser.gallery));
-        const QStringList forwards = Support::NamesOnTheWay(browser.gallery, Qt::Key_Tab);
+        gallery->OpenPage(page);
+        QVERIFY(QTest::qWaitForWindowActive(gallery.get()));
+        const QStringList forwards = Support::NamesOnTheWay(*gallery, Qt::Key_Tab);
         QVERIFY2(!forwards.contains(QString()), qPrintable(forwards.join(", ")));
         QVERIFY2(forwards.contains("Search"), qPrintable(forwards.join(", ")));
-        QStringList backwards = Support::NamesOnTheWay(browser.gallery, Qt::Key_Backtab);
-        // Enabled only after a property had the focus, that is on the way back.
+        QStringList backwards = Support::NamesOnTheWay(*gallery, Qt::Key_Backtab);
+        // Enabled after a property had the focus, which is on the way back.
         backwards.removeAll("Copy");
         QCOMPARE(forwards.join(", "), backwards.join(", "));
     }
 
-    void galleryHasOnePageAtATime()
+    void everyPageScrollsInASmallWindow_data()
     {
-        Browser browser;
-        GalleryWindow& gallery = browser.gallery;
-        gallery.OpenPage("NoWidget");
-        QVERIFY(!browser.Page());
-        for (const QString& name : PageNames()) {
-            gallery.OpenPage(name);
-            QCOMPARE(gallery.findChildren<WidgetPage*>().size(), Catalogue::FindEntry(name) ? 1 : 0);
-            QCOMPARE(gallery.findChildren<StartPage*>().size(), name == StartPageName() ? 1 : 0);
-            // A page without room scrolls.
-            QCoreApplication::processEvents();
-            gallery.resize(500, 250);
-            QCOMPARE(gallery.size(), QSize(500, 250));
-        }
+        QTest::addColumn<QString>("page");
+        for (const QString& page : PageNames())
+            QTest::newRow(qPrintable(page)) << page;
+    }
 
-        // The arrow keys walk over the headings of groups.
-        QListWidget* list = browser.list;
-        const QString last = PageNames().constLast();
-        gallery.resize(900, 600);
-        gallery.OpenPage(StartPageName());
-        for (int i = 1; i < PageNames().size(); ++i)
-            QTest::keyClick(list, Qt::Key_Down);
-        QCOMPARE(list->currentItem()->text(), last);
+    void everyPageScrollsInASmallWindow()
+    {
+        QFETCH(QString, page);
+        gallery->OpenPage(page);
+        QCOMPARE(gallery->findChildren<WidgetPage*>().size(), Catalogue::FindEntry(page) ? 1 : 0);
+        QCoreApplication::processEvents();
+        gallery->resize(500, 250);
+        QCOMPARE(gallery->size(), QSize(500, 250));
+    }
 
-        // In a narrow window the list leaves the room to the page, and its names to tool tips.
+    void narrowWindowShowsTheListAsIcons()
+    {
+        gallery->resize(900, 600);
         const int fullWidth = list->width();
-        gallery.resize(500, 600);
+        gallery->resize(500, 600);
         QVERIFY(list->width() < fullWidth / 2);
-        QCOMPARE(list->currentItem()->text() + list->currentItem()->toolTip(), last);
-        gallery.resize(900, 600);
+        gallery->resize(900, 600);
         QCOMPARE(list->width(), fullWidth);
-        QCOMPARE(list->currentItem()->text(), last);
     }
 
-    void searchLeavesTheHitsUnderTheirHeadings()
+    void searchShowsMatchesUnderTheirHeadings()
     {
-        Browser browser;
-        GalleryWindow& gallery = browser.gallery;
-        QVERIFY(QTest::qWaitForWindowActive(&gallery));
-        auto* search = gallery.findChild<QLineEdit*>("pageSearch");
-        const auto shown = [&] {
-            QStringList texts;
-            for (int row = 0; row < browser.list->count(); ++row)
-                texts +=
-                    browser.list->item(row)->isHidden() ? QStringList() : QStringList(browser.list->item(row)->text());
-            return texts;
-        };
-        const QStringList all = shown();
-        // In a narrow window a search needs the names.
-        for (const int width : {900, 500}) {
-            gallery.resize(width, 600);
-            QCOMPARE(search->isVisible(), width == 900);
-            QTest::keyClick(&gallery, Qt::Key_F, Qt::ControlModifier);
-            QTRY_VERIFY(search->hasFocus());
-            QTest::keyClicks(search, "colorb");
-            QCOMPARE(shown(), QStringList({"Buttons", "ColorButton"}));
-            QTest::keyClick(search, Qt::Key_Return);
-            QCOMPARE(browser.list->currentItem()->data(Qt::UserRole), QVariant("ColorButton"));
-            QTest::keyClick(search, Qt::Key_Escape);
-            if (width == 900)
-                QCOMPARE(shown(), all);
-        }
-        QVERIFY(!search->isVisible());
+        QVERIFY(QTest::qWaitForWindowActive(gallery.get()));
+        auto* search = gallery->findChild<QLineEdit*>("pageSearch");
+        const int pages = VisiblePages().size();
+        QTest::keyClick(gallery.get(), Qt::Key_F, Qt::ControlModifier);
+        QTRY_VERIFY(search->hasFocus());
+        QTest::keyClicks(search, "colorb");
+        QCOMPARE(VisiblePages(), QStringList({"Buttons", "ColorButton"}));
+        QTest::keyClick(search, Qt::Key_Return);
+        QCOMPARE(list->currentItem()->text(), QString("ColorButton"));
+        QTest::keyClick(search, Qt::Key_Escape);
+        QCOMPARE(VisiblePages().size(), pages);
     }
 
-    void sceneChangesWhileAPageIsOpen()
+    void languageChangesWhileAPageIsOpen()
     {
-        Browser browser;
-        GalleryWindow& gallery = browser.gallery;
-        gallery.OpenPage("ColorButton");
-        const auto caption = [&] { return browser.Page()->findChildren<StateCard*>().last()->accessibleName(); };
-        browser.Page()->SelectState(2);
-        connect(&browser.appearance, &Examples::Appearance::LanguageChanged, &gallery,
+        connect(&appearance, &Examples::Appearance::LanguageChanged, gallery.get(),
                 [] { Catalogue::RetranslateEntries(); });
-        for (QAction* action : gallery.findChild<QToolButton*>("languageButton")->menu()->actions()) {
-            if (action->text() == "Deutsch")
-                action->trigger();
-        }
-        QTRY_COMPARE(caption(), QString("Deaktiviert"));
-        QCOMPARE(browser.Page()->SelectedState(), 2);
-        browser.appearance.SetLanguage("en");
-        QTRY_COMPARE(caption(), QString("Disabled"));
+        gallery->OpenPage("ColorButton");
+        Page()->SelectState(2);
+        QVERIFY(appearance.SetLanguage("de"));
+        QTRY_COMPARE(Page()->findChildren<StateCard*>().last()->accessibleName(), QString("Deaktiviert"));
+        QCOMPARE(Page()->SelectedState(), 2);
+        appearance.SetLanguage("en");
+        QTRY_COMPARE(Page()->findChildren<StateCard*>().last()->accessibleName(), QString("Disabled"));
+    }
 
-        QSignalSpy restarts(&gallery, &GalleryWindow::RestartRequested);
-        const auto scales = gallery.findChild<QToolButton*>("scaleButton")->menu()->actions();
-        scales.first()->trigger();
-        scales.last()->trigger();
-        QCOMPARE(restarts, QList<QVariantList>({{2.0, "ColorButton"}}));
-
-        const QPointer<WidgetPage> old = browser.Page();
+    void directionChangesWhileAPageIsOpen()
+    {
+        gallery->OpenPage("ColorButton");
         QApplication::setLayoutDirection(Qt::RightToLeft);
-        QTRY_VERIFY(!old && browser.Page());
-        QCOMPARE(browser.Page()->SelectedState(), 2);
+        QTRY_COMPARE(Page()->layoutDirection(), Qt::RightToLeft);
         QApplication::setLayoutDirection(Qt::LeftToRight);
-        QTRY_COMPARE(browser.Page()->layoutDirection(), Qt::LeftToRight);
+        QTRY_COMPARE(Page()->layoutDirection(), Qt::LeftToRight);
     }
 
     void startPageOpensTheRecorder()
     {
-        Browser browser;
-        browser.gallery.OpenPage(StartPageName());
-        QSignalSpy requests(&browser.gallery, &GalleryWindow::RecorderRequested);
-        browser.gallery.findChild<QAbstractButton*>("recorderButton")->click();
+        gallery->OpenPage(StartPageName());
+        const QSignalSpy requests(gallery.get(), &GalleryWindow::RecorderRequested);
+        gallery->findChild<QAbstractButton*>("recorderButton")->click();
         QCOMPARE(requests.size(), 1);
     }
 
-    void windowsFitTheScreen()
+    void windowShrinksToFitTheScreen()
     {
         QWidget window;
         const QRect screen = window.screen()->availableGeometry();
         window.resize(200, 2 * screen.height());
         Examples::FitToScreen(&window);
         QCOMPARE(window.width(), 200);
-        QVERIFY(window.height() < screen.height() && window.height() > screen.height() / 2);
+        QVERIFY(window.height() < screen.height());
+        QVERIFY(window.height() > screen.height() / 2);
     }
+
+private:
+    WidgetPage* Page() const { return gallery->findChild<WidgetPage*>(); }
+
+    QStringList VisiblePages() const
+    {
+        QStringList names;
+        for (int row = 0; row < list->count(); ++row) {
+            if (!list->item(row)->isHidden())
+                names.append(list->item(row)->text());
+        }
+        return names;
+    }
+
+    Examples::Appearance appearance{"VxGallery"};
+    std::unique_ptr<GalleryWindow> gallery;
+    QListWidget* list = nullptr;
 };
 
 VX_TEST_MAIN(tst_GalleryWindows)

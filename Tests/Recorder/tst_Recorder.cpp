@@ -2,16 +2,13 @@
 #include <Examples/Recorder/Preferences.h>
 #include <Examples/Recorder/RecorderModel.h>
 #include <Examples/Recorder/RecorderWindow.h>
-#include <Examples/Recorder/SettingsDialog.h>
 #include <Examples/Recorder/TrimPage.h>
 #include <Examples/Support/Appearance.h>
 #include <UI/Kit/ZSliderThumb.h>
 #include <UI/Kit/ZTimeEdit.h>
 #include <UI/Kit/ZTimelineSlider.h>
-#include <UI/Widgets/ButtonWithPopUpList.h>
 #include <UI/Widgets/CountdownIndicatorWidget.h>
 #include <UI/Widgets/MaskedToolTip.h>
-#include <UI/Widgets/SliderWithTickLabels.h>
 #include <UI/Widgets/VideoPreviewWidget.h>
 #include <UI/Widgets/VolumeSlider.h>
 
@@ -59,6 +56,7 @@ class tst_Recorder : public Support::TestCase
 private Q_SLOTS:
     void init()
     {
+        TestCase::init();
         appearance = std::make_unique<Examples::Appearance>("VxRecorder");
         QVERIFY(appearance->SetStyle("dark"));
         preferences = {};
@@ -73,6 +71,7 @@ private Q_SLOTS:
     {
         window.reset();
         QVERIFY(StandIn::WaitForEngineIdle(20s));
+        TestCase::cleanup();
     }
 
     void busyCameraShowsAnErrorUntilAnotherDeviceIsChosen()
@@ -116,15 +115,6 @@ private Q_SLOTS:
         QCOMPARE(model->GetStatus(), RecorderModel::Status::Running);
     }
 
-    void shortcutChoosesTheRecordingModeEverywhere()
-    {
-        QVERIFY(QTest::qWaitForWindowActive(window.get()));
-        QTest::keyClick(window.get(), Qt::Key_2, Qt::ControlModifier);
-        QCOMPARE(model->CurrentRecordingMode(), RecorderModel::RecordingMode::Window);
-        QCOMPARE(Child<Vx::ButtonWithPopUpList>("recordingModes")->CurrentIndex(), 1);
-        QVERIFY(Button("Window")->isChecked());
-    }
-
     void recordingCountsDownAndNeedsAPicture()
     {
         auto* countdown = window->findChild<Vx::CountdownIndicatorWidget*>();
@@ -150,39 +140,11 @@ private Q_SLOTS:
         QCOMPARE(forwards, Support::NamesOnTheWay(*window, Qt::Key_Backtab));
     }
 
-    void settingsTakeEffectAtOnce()
-    {
-        Button("Settings")->click();
-        Button("Settings")->click();
-        QCOMPARE(window->findChildren<SettingsDialog*>().size(), 1);
-        Child<Vx::SliderWithTickLabels>("countdown")->SetCurrentIndex(3);
-        QCOMPARE(preferences.countdownSeconds, 10);
-        auto* style = Child<QComboBox>("styleCombo");
-        Choose(style, style->findData("light"));
-        QCOMPARE(appearance->StyleName(), QString("light"));
-    }
-
-    void languageSwitchesAtRunTime_data()
-    {
-        QTest::addColumn<QString>("record");
-        QTest::addColumn<QString>("device");
-        QTest::addColumn<QString>("hours");
-        QTest::newRow("de") << "Aufnehmen"
-                            << "Testbild"
-                            << "Std";
-        QTest::newRow("fr") << "Enregistrer"
-                            << "Mire"
-                            << "h";
-        QTest::newRow("ja") << QString::fromUtf8("録画") << QString::fromUtf8("テスト映像") << QString::fromUtf8("時");
-    }
-
     void languageSwitchesAtRunTime()
     {
-        QFETCH(QString, record);
-        QVERIFY(appearance->SetLanguage(QTest::currentDataTag()));
-        QTRY_VERIFY(Button(record));
-        QTEST(Child<QComboBox>("deviceCombo")->currentText(), "device");
-        QTEST(Child<QLabel>("caption1Label")->text(), "hours");
+        QVERIFY(appearance->SetLanguage("de"));
+        QTRY_VERIFY(Button("Aufnehmen"));
+        QCOMPARE(Child<QComboBox>("deviceCombo")->currentText(), QString("Testbild"));
         QVERIFY(!appearance->SetLanguage("xx"));
         QTRY_VERIFY(Button("Record"));
     }
@@ -209,31 +171,14 @@ private Q_SLOTS:
         QCOMPARE(slider->grab().toImage(), silent);
     }
 
-    void escapeCancelsTheDragOfABracket()
-    {
-        TrimPage page;
-        page.resize(900, 500);
-        page.show();
-        ZSliderThumb* start = page.findChild<ZTimelineSlider*>("timeline")->thumb("left");
-        const QPoint grip = start->rect().center();
-        QTest::mousePress(start, Qt::LeftButton, {}, grip);
-        for (int i = 0; i < 10; ++i)
-            Support::MoveMouse(start, grip + QPoint(10, 0));
-        QVERIFY(start->value() > 0);
-        QTest::keyClick(&page, Qt::Key_Escape);
-        Support::MoveMouse(start, grip + QPoint(10, 0));
-        QTest::mouseRelease(start, Qt::LeftButton, {}, grip);
-        QCOMPARE(start->value(), 0);
-    }
-
-    void trimmerMayBeDestroyedDuringADrag()
+    void trimmerIsDestroyedDuringADrag()
     {
         TrimPage page;
         page.show();
-        ZSliderThumb* start = page.findChild<ZTimelineSlider*>("timeline")->thumb("left");
-        QTest::mousePress(start, Qt::LeftButton);
-        Support::MoveMouse(start, QPoint(60, 5));
-        QVERIFY(page.findChild<ZTimelineSlider*>("timeline")->isSliderDown());
+        auto* timeline = page.findChild<ZTimelineSlider*>("timeline");
+        QTest::mousePress(timeline->thumb("left"), Qt::LeftButton);
+        Support::MoveMouse(timeline->thumb("left"), QPoint(60, 5));
+        QVERIFY(timeline->isSliderDown());
     }
 
     void keyboardTrimsCutsAndUndoes()

@@ -19,7 +19,8 @@ protected:
     /// Sets the name of a table row, which a failure message then contains. Prefer `_data()` functions.
     void InRow(const QString& name);
 
-private Q_SLOTS:
+    // A test class with functions of the same names calls these first.
+protected Q_SLOTS:
     void init();
     void cleanup();
 };

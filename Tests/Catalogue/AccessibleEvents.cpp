@@ -1,4 +1,4 @@
-#include <Catalogue/Hearing.h>
+#include <Catalogue/AccessibleEvents.h>
 
 #if defined(VX_WITH_QT_PRIVATE)
 #include <private/qguiapplication_p.h>
@@ -13,15 +13,15 @@
 
 namespace {
 
-EventLog* current = nullptr;
+AccessibleEventLog* current = nullptr;
 
-struct Bit
+struct StateBit
 {
     const char* name;
-    bool (*of)(QAccessible::State);
+    bool (*read)(QAccessible::State);
 };
 
-constexpr Bit BITS[] = {
+constexpr StateBit STATE_BITS[] = {
     {"checked", [](QAccessible::State state) { return bool(state.checked); }},
     {"mixed", [](QAccessible::State state) { return bool(state.checkStateMixed); }},
     {"expanded", [](QAccessible::State state) { return bool(state.expanded); }},
@@ -36,7 +36,7 @@ const QVector<QAccessible::Event> SELECTION_EVENTS = {QAccessible::Selection, QA
                                                       QAccessible::SelectionRemove, QAccessible::SelectionWithin,
                                                       QAccessible::Focus};
 
-struct Place
+struct Node
 {
     QAccessibleInterface* interface;
     QObject* owner;
@@ -45,7 +45,7 @@ struct Place
 
 } // namespace
 
-bool TurnAccessibilityOn()
+bool EnableAccessibility()
 {
 #if defined(VX_WITH_QT_PRIVATE)
     QGuiApplicationPrivate::platformIntegration()->accessibility()->setActive(true);
@@ -56,26 +56,26 @@ bool TurnAccessibilityOn()
 void VisitAccessible(QAccessibleInterface* root,
                      const std::function<void(QAccessibleInterface&, QObject*, const QString&)>& visit)
 {
-    std::deque<Place> left{{root, nullptr, {}}};
-    for (; !left.empty(); left.pop_front()) {
-        const auto [interface, parent, path] = left.front();
+    std::deque<Node> queue{{root, nullptr, {}}};
+    for (; !queue.empty(); queue.pop_front()) {
+        const auto [interface, parent, path] = queue.front();
         if (!interface || !interface->isValid() || interface->state().invisible)
             continue;
         QObject* owner = interface->object() ? interface->object() : parent;
         const QString place = interface->object() ? QString() : path;
         visit(*interface, owner, place);
         for (int i = 0; i < interface->childCount(); ++i)
-            left.push_back({interface->child(i), owner, place + '/' + QString::number(i)});
+            queue.push_back({interface->child(i), owner, place + '/' + QString::number(i)});
     }
 }
 
-Reading::Reading(QWidget* widget)
+AccessibleSnapshot::AccessibleSnapshot(QWidget* widget)
 {
     if (!widget)
         return;
     VisitAccessible(QAccessible::queryAccessibleInterface(widget),
                     [this](QAccessibleInterface& interface, QObject* owner, const QString& place) {
-                        // Qt reads out the tool tip where there is no description, and announces none.
+                        // Without a description Qt returns the tool tip, and sends no event when that changes.
                         const auto* owned = qobject_cast<QWidget*>(interface.object());
                         Part part{interface.text(QAccessible::Name),
                                   owned ? owned->accessibleDescription() : QString(),
@@ -90,23 +90,18 @@ Reading::Reading(QWidget* widget)
                     });
 }
 
-EventLog::EventLog() : previous(QAccessible::installUpdateHandler(Keep))
+AccessibleEventLog::AccessibleEventLog() : previous(QAccessible::installUpdateHandler(Record))
 {
     current = this;
 }
 
-EventLog::~EventLog()
+AccessibleEventLog::~AccessibleEventLog()
 {
     QAccessible::installUpdateHandler(previous);
     current = nullptr;
 }
 
-void EventLog::Clear()
-{
-    events.clear();
-}
-
-void EventLog::Keep(QAccessibleEvent* event)
+void AccessibleEventLog::Record(QAccessibleEvent* event)
 {
     QAccessible::State changed;
     if (event->type() == QAccessible::StateChanged)
@@ -117,28 +112,28 @@ void EventLog::Keep(QAccessibleEvent* event)
     current->events.append({object, event->type(), changed});
 }
 
-bool EventLog::Has(QObject* object, const QVector<QAccessible::Event>& types) const
+bool AccessibleEventLog::Has(QObject* object, const QVector<QAccessible::Event>& types) const
 {
     return std::any_of(events.begin(), events.end(),
                        [&](const Event& event) { return event.object == object && types.contains(event.type); });
 }
 
-// Of the field of an editable combo box, for instance.
-bool EventLog::HasTextInside(QObject* object) const
+// Includes events of the line edit of an editable combo box.
+bool AccessibleEventLog::HasText(QObject* object) const
 {
     return std::any_of(events.begin(), events.end(), [&](const Event& event) {
-        return TEXT_EVENTS.contains(event.type) && event.object->parent() == object;
+        return TEXT_EVENTS.contains(event.type) && (event.object == object || event.object->parent() == object);
     });
 }
 
-bool EventLog::HasStateChange(QObject* object, bool (*wasChanged)(QAccessible::State)) const
+bool AccessibleEventLog::HasStateChange(QObject* object, bool (*hasChanged)(QAccessible::State)) const
 {
     return std::any_of(events.begin(), events.end(), [&](const Event& event) {
-        return event.object == object && event.type == QAccessible::StateChanged && wasChanged(event.changed);
+        return event.object == object && event.type == QAccessible::StateChanged && hasChanged(event.changed);
     });
 }
 
-QStringList EventLog::Unannounced(const Reading& before, const Reading& after) const
+QStringList AccessibleEventLog::MissingEvents(const AccessibleSnapshot& before, const AccessibleSnapshot& after) const
 {
     QStringList faults;
     for (auto part = after.parts.begin(); part != after.parts.end(); ++part) {
@@ -146,15 +141,14 @@ QStringList EventLog::Unannounced(const Reading& before, const Reading& after) c
         if (found == before.parts.end())
             continue;
         const auto [object, place] = part.key();
-        const Reading::Part& was = *found;
-        const Reading::Part& is = *part;
+        const AccessibleSnapshot::Part& was = *found;
+        const AccessibleSnapshot::Part& is = *part;
         const auto complain = [&, object = object, place = place](const QString& what) {
             faults += QStringLiteral("%1 %2%3: %4 of \"%5\"")
                           .arg(object->metaObject()->className(), object->objectName(), place, what, is.name);
         };
-        const bool hasText = Has(object, TEXT_EVENTS) || HasTextInside(object);
-        // The name of a tab bar is that of the selected tab, if any. What has no object counts by its place, which may
-        // move.
+        const bool hasText = HasText(object);
+        // A tab bar is named after the selected tab. Interfaces without an object may change places with each other.
         if (was.name != is.name && !is.name.isEmpty() && place.isEmpty() && !hasText &&
             !Has(object, {QAccessible::NameChanged, QAccessible::ValueChanged, QAccessible::Selection}))
             complain("name");
@@ -164,7 +158,7 @@ QStringList EventLog::Unannounced(const Reading& before, const Reading& after) c
             complain("text");
         if (was.value != is.value && !hasText && !Has(object, {QAccessible::ValueChanged, QAccessible::NameChanged}))
             complain("value");
-        // Others say that they are focused when their focus proxy is.
+        // A widget reports the focus of its focus proxy as its own.
         const bool hasFocus = object == QApplication::focusWidget() && place.isEmpty();
         if (hasFocus && !was.state.focused && is.state.focused && !Has(object, {QAccessible::Focus}))
             complain("focus");
@@ -172,8 +166,8 @@ QStringList EventLog::Unannounced(const Reading& before, const Reading& after) c
         if (was.state.selected != is.state.selected && !Has(object, SELECTION_EVENTS) &&
             !HasStateChange(object, isSelected))
             complain("selected");
-        for (const Bit& bit : BITS) {
-            if (bit.of(was.state) != bit.of(is.state) && !HasStateChange(object, bit.of))
+        for (const StateBit& bit : STATE_BITS) {
+            if (bit.read(was.state) != bit.read(is.state) && !HasStateChange(object, bit.read))
                 complain(bit.name);
         }
     }
