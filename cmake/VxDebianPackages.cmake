@@ -7,7 +7,7 @@ set(CPACK_GENERATOR DEB)
 set(CPACK_STRIP_FILES ON)
 set(CPACK_VERBATIM_VARIABLES ON)
 set(CPACK_COMPONENTS_ALL runtime development)
-if(TARGET VxGallery OR TARGET VxUiWidgetsDesigner)
+if(TARGET VxRecorder OR TARGET VxGallery OR TARGET VxUiWidgetsDesigner)
   list(APPEND CPACK_COMPONENTS_ALL tools)
 endif()
 
