@@ -117,8 +117,7 @@ private Q_SLOTS:
 
 private:
     /// Returns the lines that the gallery writes, those to standard error with a prefix, and its exit code.
-    QStringList Run(const QString& arguments, const QStringList& moreArguments = {},
-                    const char* platform = "offscreen")
+    QStringList Run(const QString& arguments, const QStringList& moreArguments = {}, const char* platform = "offscreen")
     {
         for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_SCALE_FACTOR"})
             qunsetenv(name);

@@ -15,8 +15,9 @@ struct ZStyleSheet
     /// `Dark.qss`. Returns nothing and sets `error` when the sheet cannot be read.
     static std::optional<ZStyleSheet> load(const QString& fileName, QString* error = nullptr);
 
-    /// Sets the sheet and its icons for the application, above the style "Fusion", which draws the same on all platforms.
-    /// From then on, rules with the selector `[layoutDirection="1"]` follow the layout direction at run time.
+    /// Sets the sheet and its icons for the application, above the style "Fusion", which draws the same on all
+    /// platforms. From then on, rules with the selector `[layoutDirection="1"]` follow the layout direction at run
+    /// time.
     void apply() const;
 
     /// The icon NAME of this sheet in its plain and its disabled tint (NAME-disabled.svg).
