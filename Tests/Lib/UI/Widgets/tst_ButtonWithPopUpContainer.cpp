@@ -188,10 +188,11 @@ private Q_SLOTS:
         ButtonWithPopUpContainer button(page);
         window.show();
         button.ShowPopup();
+        QCoreApplication::processEvents();
         page->move(30, 5);
-        QTRY_COMPARE(PopUpOf(button)->pos(), Below(button));
-        button.resize(70, 30);
-        QTRY_COMPARE(PopUpOf(button)->pos(), Below(button));
+        QCOMPARE(PopUpOf(button)->pos(), Below(button));
+        button.resize(70, 50);
+        QCOMPARE(PopUpOf(button)->pos(), Below(button));
         window.move(350, 280);
         QTRY_COMPARE(PopUpOf(button)->pos(), Below(button));
     }
