@@ -96,17 +96,6 @@ private Q_SLOTS:
         }
     }
 
-    void fitsTheScreen()
-    {
-        const auto position = [](const QRect& button, const QSize& popUp, int anchor) {
-            return Position({button, popUp, 0, 0}, anchor, 0, true);
-        };
-        // One pixel is free at the bottom and at the right.
-        QCOMPARE(position(QRect(-600, 1070, 40, 30), QSize(100, 50), 1), QPoint(-580, 1049));
-        QCOMPARE(position(QRect(-220, 700, 20, 20), QSize(100, 50), 3), QPoint(-301, 720));
-        QCOMPARE(position(QRect(-600, 700, 40, 30), QSize(900, 50), 3), QPoint(-1000, 730));
-    }
-
     void widgetsAreInsertedAndDeleted()
     {
         Support::LogCapture log;

@@ -68,7 +68,6 @@ private Q_SLOTS:
         const Action none = [](auto&) {};
         const Action clear = &ButtonWithPopUpList::Clear;
         QTest::newRow("set") << set(2) << none << Indexes{2} << 2;
-        QTest::newRow("set the current one") << set(1) << none << Indexes{1} << 1;
         QTest::newRow("set a negative index") << set(-3) << none << Indexes{-3, 0} << 0;
         QTest::newRow("set past the end, append") << set(3) << Action(Append) << Indexes{3} << 3;
         QTest::newRow("remove an earlier one") << remove(0) << none << Indexes{} << 0;
@@ -108,19 +107,6 @@ private Q_SLOTS:
         QCOMPARE(button.CurrentData(), QVariant(1));
     }
 
-    void separatorsAreReused()
-    {
-        List button;
-        for (const int index : {0, 1, 2}) {
-            button.RemoveItem(index);
-            Append(button);
-        }
-        QString kinds;
-        for (const QAction* action : button.menu()->actions())
-            kinds += action->isSeparator() ? '-' : '*';
-        QCOMPARE(kinds, QString("*-*-*-"));
-    }
-
     void menuClosesWithItsLastItemAndMayBeDeleted()
     {
         List button;
@@ -149,17 +135,6 @@ private Q_SLOTS:
         button.showMenu();
         QCOMPARE(highlighted, QStringList({"1", "none"}));
         QVERIFY(accessible->state().collapsed);
-    }
-
-    void accessibleDescriptionOfTheApplicationIsKept()
-    {
-        List button;
-        button.AppendItem("&Last", 0);
-        button.SetCurrentIndex(3);
-        QCOMPARE(button.accessibleDescription(), QString("Last"));
-        button.setAccessibleDescription("Own");
-        button.SetCurrentIndex(0);
-        QCOMPARE(button.accessibleDescription(), QString("Own"));
     }
 };
 

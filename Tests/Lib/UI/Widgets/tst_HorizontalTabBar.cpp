@@ -80,10 +80,6 @@ private Q_SLOTS:
         bar.setCurrentIndex(0);
         bar.moveTab(2, 1);
         QCOMPARE(icons(), QString("#00ffff none #ff00ff"));
-        bar.insertTab(0, "d");
-        QCOMPARE(icons(), QString("#00ff00 #00ffff #ff00ff none"));
-        bar.removeTab(0);
-        QCOMPARE(icons(), QString("#00ffff none #ff00ff"));
         bar.SetPathsNormalIcons(normal); // clears the cache
         QCOMPARE(icons(), QString("none none #ff00ff"));
     }

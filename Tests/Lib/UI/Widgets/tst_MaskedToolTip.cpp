@@ -60,7 +60,6 @@ private Q_SLOTS:
     {
         MaskedToolTip tip(nullptr);
         tip.SetText("Hint");
-        tip.SetDisplayTime(-5);
         tip.Show(QPoint(50, 40));
         QTest::mousePress(&tip, Qt::RightButton);
         QVERIFY(!tip.isVisible());

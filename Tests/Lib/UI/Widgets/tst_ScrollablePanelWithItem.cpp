@@ -108,17 +108,6 @@ private Q_SLOTS:
         QTRY_COMPARE(panel.area->widget()->findChildren<QToolButton*>().size(), 0);
     }
 
-    void panelIsAsHighAsItsVisibleItems()
-    {
-        Panel panel(1);
-        panel.items[0]->setFixedHeight(90);
-        QToolButton hidden;
-        hidden.hide();
-        panel.widget->Append(&hidden);
-        QTRY_COMPARE(panel.widget->sizeHint().height(), 90 + 2 * panel.area->frameWidth());
-        QVERIFY(!hidden.isVisible());
-    }
-
     void slotOfDestroyedMayUseThePanel()
     {
         Panel panel(3);

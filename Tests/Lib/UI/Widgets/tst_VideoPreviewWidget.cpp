@@ -100,18 +100,10 @@ private Q_SLOTS:
         }
     }
 
-    void frameIsOpaque_data()
-    {
-        QTest::addColumn<QSize>("size");
-        QTest::newRow("equal") << QSize(64, 48);
-        QTest::newRow("larger") << QSize(128, 96);
-    }
-
     void frameIsOpaque()
     {
-        QFETCH(QSize, size);
         Preview preview({64, 48});
-        preview.UpdateView(SolidFrame(size, QColor(10, 200, 30), 0));
+        preview.UpdateView(SolidFrame({64, 48}, QColor(10, 200, 30), 0));
         QImage window(64, 48, QImage::Format_ARGB32_Premultiplied);
         window.fill(Qt::transparent);
         preview.render(&window, QPoint(), QRegion(), QWidget::RenderFlags());
