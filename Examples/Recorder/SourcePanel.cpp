@@ -2,7 +2,6 @@
 #include "RecorderModel.h"
 
 #include <Examples/Support/WidgetTexts.h>
-#include <UI/Common/TextMarks.h>
 #include <UI/Kit/ZStyleSheet.h>
 
 #include <QComboBox>
@@ -19,6 +18,8 @@ namespace {
 constexpr int FIELD_WIDTH = 264;
 constexpr int LABEL_DISTANCE = 4;
 constexpr int FIELD_DISTANCE = 12;
+constexpr QChar LEFT_TO_RIGHT_EMBEDDING(0x202a);
+constexpr QChar POP_DIRECTIONAL_FORMATTING(0x202c);
 
 QString IconOf(StandIn::CaptureDevice::Kind kind)
 {
@@ -87,9 +88,9 @@ void SourcePanel::Refresh()
     Select(device.combo, model->CurrentDeviceId());
 
     mode.combo->clear();
-    // "1920×1080" is not to be read backwards.
+    // Keeps "1920×1080" from left to right in a right-to-left layout.
     for (const QString& name : model->Modes())
-        mode.combo->addItem(Vx::UI::Common::Embed(name), name);
+        mode.combo->addItem(LEFT_TO_RIGHT_EMBEDDING + name + POP_DIRECTIONAL_FORMATTING, name);
     Select(mode.combo, model->CurrentMode());
 
     frameRate.combo->clear();

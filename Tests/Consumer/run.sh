@@ -116,6 +116,18 @@ take_picture() {
     [ -s "$folder/$program.png" ] || fail "$program wrote no picture"
 }
 
+build_examples() {
+    # The examples use only what is installed: built from a copy, they cannot find headers of the source tree.
+    cp -r "$source/Examples" "$folder/Examples"
+    cmake -S "$folder/Examples" -B "$folder/examples" -G Ninja -DCMAKE_PREFIX_PATH="$prefix" >"$folder/examples.log" 2>&1 &&
+        cmake --build "$folder/examples" >>"$folder/examples.log" 2>&1 || fail "$(tail -n 40 "$folder/examples.log")"
+    runs_from_here "$folder/examples/VxRecorder"
+    "$folder/examples/VxRecorder" --style light --shot "$folder/recorder.png" --after 0 ||
+        fail "the recorder does not run with the installed library"
+    # A window without widgets or style sheet is a file of a few kilobytes.
+    [ "$(stat -c %s "$folder/recorder.png")" -gt 10000 ] || fail "the recorder's picture is empty"
+}
+
 run_tools() {
     # Under Wine, Qt must find its plugins by the qt.conf of the zip.
     [ "$mode" != zip ] || export QT_PLUGIN_PATH='Z:\nowhere'
@@ -147,3 +159,6 @@ if [ "$mode" != zip ]; then
     check_libraries
 fi
 run_tools
+if [ "$mode" = installed ]; then
+    build_examples
+fi
