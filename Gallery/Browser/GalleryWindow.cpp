@@ -30,7 +30,7 @@ GalleryWindow::GalleryWindow(Examples::Appearance* appearance, double scale, QWi
     layout->addWidget(list);
     layout->addLayout(body, 1);
     renewal.setSingleShot(true);
-    connect(&renewal, &QTimer::timeout, this, &GalleryWindow::MakePageAnew);
+    connect(&renewal, &QTimer::timeout, this, &GalleryWindow::RecreatePage);
     connect(list, &PageList::PageChosen, this, &GalleryWindow::ShowPage);
     connect(bar, &SceneBar::StyleEditorRequested, this, &GalleryWindow::StyleEditorRequested);
     connect(bar, &SceneBar::RestartRequested, this,
@@ -82,12 +82,12 @@ void GalleryWindow::Retranslate()
     bar->Retranslate();
 }
 
-// The pages of the catalogue have the texts and the alignment with which they were made.
-void GalleryWindow::MakePageAnew()
+// Pages keep the texts and the alignment that they were created with.
+void GalleryWindow::RecreatePage()
 {
-    auto* old = qobject_cast<WidgetPage*>(page);
+    const auto* old = qobject_cast<WidgetPage*>(page);
     if (!old)
-        return;
+        return ShowPage(list->CurrentPage());
     const int state = old->SelectedState();
     const bool hasInspector = old->IsInspectorVisible();
     ShowPage(list->CurrentPage());

@@ -45,7 +45,7 @@ private:
     QWidget* CreateStartPage();
     WidgetPage* CreateWidgetPage(const QString& name);
     void Retranslate();
-    void MakePageAnew();
+    void RecreatePage();
 
     PageList* list;
     SceneBar* bar;

@@ -1,14 +1,11 @@
 #pragma once
 
-#include <QWidget>
-
-class QLabel;
-class QPushButton;
+#include <QScrollArea>
 
 namespace Zelkor::Gallery {
 
-/// The page that the gallery opens with: what there is to see, and a button that starts the recorder.
-class StartPage : public QWidget
+/// The first page: a live preview among a few of the widgets, and a button that starts the recorder.
+class StartPage : public QScrollArea
 {
     Q_OBJECT
 
@@ -17,17 +14,6 @@ public:
 
 Q_SIGNALS:
     void RecorderRequested();
-
-protected:
-    void changeEvent(QEvent* event) override;
-
-private:
-    void Retranslate();
-
-    QLabel* title;
-    QLabel* description;
-    QPushButton* recorderButton;
-    QLabel* hint;
 };
 
 } // namespace Zelkor::Gallery
