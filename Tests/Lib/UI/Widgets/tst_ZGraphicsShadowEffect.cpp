@@ -95,13 +95,17 @@ private Q_SLOTS:
     void effectIsOffAtFirst()
     {
         QWidget window;
-        const QImage plain = window.grab().toImage();
-        auto* effect = new ZGraphicsShadowEffect(&window);
+        window.resize(60, 50);
+        QWidget widget(&window);
+        const QImage plain = Support::Render(window, Qt::white);
+        auto* effect = new ZGraphicsShadowEffect(&widget);
         effect->SetOffset(5);
-        window.setGraphicsEffect(effect);
-        QCOMPARE(window.grab().toImage(), plain);
+        widget.setGraphicsEffect(effect);
+        QCOMPARE(Support::Render(window, Qt::white), plain);
         effect->SetBrightnessLevel(std::nan(""));
-        QCOMPARE(window.grab().toImage(), plain);
+        QCOMPARE(Support::Render(window, Qt::white), plain);
+        effect->SetBrightnessLevel(1);
+        QVERIFY(Support::Render(window, Qt::white) != plain);
     }
 
     void everyPixelIsShaded_data()
