@@ -13,7 +13,6 @@ namespace {
 std::mutex mutex;
 QStringList expected;
 QStringList stray;
-QString row;
 QtMessageHandler previousHandler = nullptr;
 
 // Returns whether a message is one of the limitations of the offscreen platform.
@@ -47,22 +46,14 @@ void TestCase::ExpectWarning(const QString& text)
     expected += text;
 }
 
-void TestCase::InRow(const QString& name)
-{
-    row = name;
-}
-
 void TestCase::init()
 {
-    row.clear();
     previousHandler = qInstallMessageHandler(HandleMessage);
 }
 
 void TestCase::cleanup()
 {
     qInstallMessageHandler(previousHandler);
-    if (QTest::currentTestFailed() && !row.isEmpty())
-        qInfo("%s", qPrintable(QStringLiteral("in the row: ") + row));
     QStringList strayNow;
     QStringList missingNow;
     {

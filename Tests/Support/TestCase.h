@@ -16,9 +16,6 @@ protected:
     /// Expects one warning that contains `text`. Call it before the code that warns.
     void ExpectWarning(const QString& text);
 
-    /// Sets the name of a table row, which a failure message then contains. Prefer `_data()` functions.
-    void InRow(const QString& name);
-
     // A test class with functions of the same names calls these first.
 protected Q_SLOTS:
     void init();

@@ -115,7 +115,7 @@ private Q_SLOTS:
             QTest::addRow("device pixel ratio %g", ratio) << ratio;
     }
 
-    // Each device pixel has the colour of one of the logical pixels that it intersects.
+    // A device pixel is coloured like one of the logical pixels that it intersects.
     void everyPixelIsShaded()
     {
         QFETCH(qreal, ratio);
