@@ -16,7 +16,7 @@ using Zelkor::Examples::LoadStyleSheet;
 namespace {
 
 #if defined(__SANITIZE_ADDRESS__)
-// The sanitizer finds leaks by itself, and is slow.
+// The sanitizer detects leaks without a growth measurement, and is slow.
 constexpr int LIVES = 60;
 constexpr int WARM_UP = 20;
 #else

@@ -53,7 +53,7 @@ QVariantList EnumValues(const QMetaProperty& property)
     QVariantList values;
     for (int i = 0; i < keys.keyCount(); ++i)
         values.append(keys.value(i));
-    // Qt does not check enumerators of its own.
+    // Qt does not validate its enumerators.
     if (IsOurs(property) && qstrcmp(keys.scope(), "Qt") != 0)
         values += QVariantList{keys.keyCount(), -1, INT_MAX, INT_MIN};
     return values;
