@@ -20,59 +20,58 @@ class EntryText
     Q_DECLARE_TR_FUNCTIONS(EntryText)
 };
 
-/// A situation in which a widget is worth looking at.
+/// A state of a widget that the gallery shows and the tests cover.
 struct State
 {
     QString name;
-    std::function<void(QWidget*)> apply; ///< brings a fresh widget of the entry, not shown yet, into this state
-    std::function<QWidget*(QWidget* parent)> create = nullptr; ///< where the constructor decides; else the entry's
+    std::function<void(QWidget*)> apply; ///< applies the state to a new, hidden widget of the entry
+    std::function<QWidget*(QWidget* parent)> create = nullptr; ///< replaces the entry's `create` if set
 };
 
-/// What form editors, and forms that are loaded at run time, need to know of a widget.
+/// Properties of a widget in form editors and in forms that are loaded at run time.
 struct FormUse
 {
-    const QMetaObject* metaObject = nullptr; ///< null for what is not for forms
-    QVariantMap properties;                  ///< numbers and texts that a new one starts with
-    QString reasonAgainst;                   ///< why it is not for forms
+    const QMetaObject* metaObject = nullptr; ///< null if forms cannot contain the widget
+    QVariantMap properties;                  ///< initial numbers and texts
+    QString reasonAgainst;                   ///< why forms cannot contain it
 };
 
 /// One widget of the catalogue.
 ///
-/// What `create` makes needs nothing from outside, may be shown or deleted at any time, and gives no warnings. The
-/// parent owns it. GUI thread.
+/// A created widget is self-contained: it can be shown or deleted at any time, and causes no warnings. The parent owns
+/// it. GUI thread.
 struct Entry
 {
     QString className;    ///< without namespace; the name of the page
     QString group;        ///< the heading under which the page is listed
     QString description;  ///< one sentence
-    QString styleSection; ///< the heading of its part in the style sheets
-    QString icon;         ///< base name of an icon of the style sheets
+    QString styleSection; ///< the heading of its section in the style sheets
+    QString icon;         ///< base name of a style sheet icon
     std::function<QWidget*(QWidget* parent)> create;
     QVector<State> states; ///< at least one
-    /// The object that the entry is about, as its constructor leaves it, where `create` makes another one or sets
-    /// properties of it.
+    /// Creates an object of the entry's class with default properties, where `create` returns a different object or
+    /// sets properties.
     std::function<QObject*(QWidget* parent)> bare = nullptr;
-    int pictured = 0;  ///< the state of which the reference has a picture
-    FormUse form = {}; ///< said of every exported class by InForms or NotInForms
+    int pictured = 0;  ///< index of the state in the pictures of the reference
+    FormUse form = {}; ///< set for every exported class by InForms() or NotInForms()
 };
 
-/// Every widget, in the order of the pages: gallery, Designer, pictures and the tests over every widget are driven by
-/// this. A new widget is a new entry in the function of its group.
+/// Returns all entries, in the order of the gallery's pages. Add a widget in the function of its group.
 const QVector<Entry>& Entries();
 
 /// Recreates the entries with texts in the current language. References to earlier entries become invalid. GUI thread.
 void RetranslateEntries();
 
-/// The entry of a class, null for a class that is not in the catalogue.
+/// Returns the entry of a class without its namespace, or null.
 const Entry* FindEntry(const QString& className);
 
-/// A new widget of `entry` in `state`, owned by `parent`.
+/// Creates a widget of `entry` in `state`, owned by `parent`.
 QWidget* CreateInState(const Entry& entry, const State& state, QWidget* parent);
 
-/// A new object of the entry's own class with the defaults of its properties, owned by `parent`.
+/// Creates an object of the entry's class with default properties, owned by `parent`.
 QObject* CreateBare(const Entry& entry, QWidget* parent);
 
-// The groups, each in a file of its own.
+// One function and one source file per group.
 QVector<Entry> ButtonEntries();
 QVector<Entry> LabelledButtonEntries();
 QVector<Entry> ChoiceEntries();
@@ -91,27 +90,27 @@ QVector<Entry> MatrixEntries();
 QVector<Entry> FieldEntries();
 QVector<Entry> EditorEntries();
 
-/// A state whose function takes the widget as what it is.
+/// Returns a state whose function takes the widget by its type.
 template<class Widget, class Function>
 State MakeState(const QString& name, Function apply)
 {
     return {name, [apply](QWidget* widget) { apply(*static_cast<Widget*>(widget)); }};
 }
 
-/// For `Entry::bare`, where nothing but the parent goes into the constructor.
+/// For `Entry::bare`: constructs an object from its parent alone.
 template<class Object>
 QObject* MakeBare(QWidget* parent)
 {
     return new Object(parent);
 }
 
-/// A state for which a widget is made in a way of its own.
+/// Returns a state with its own function that creates the widget.
 State MadeState(const QString& name, std::function<QWidget*(QWidget* parent)> create);
 
-/// Gives a stack a page for each text. The button of each leads to the next one.
+/// Adds a page for each text to a stack. The button of a page opens the next one.
 void AddSamplePages(QStackedWidget* stack, const QStringList& texts);
 
-/// The entry of a widget for forms, which starts with `properties` there.
+/// Returns the entry with form support; a new widget in a form starts with `properties`.
 template<class Widget>
 Entry InForms(Entry entry, const QVariantMap& properties = {})
 {
@@ -120,10 +119,10 @@ Entry InForms(Entry entry, const QVariantMap& properties = {})
     return entry;
 }
 
-/// The entry of an exported class that has no place in a form.
+/// Returns the entry of an exported class that forms cannot contain.
 Entry NotInForms(Entry entry, const QString& reason);
 
-/// A state for any widget: as it comes, but disabled.
+/// Returns a state that only disables the widget.
 State DisabledState();
 
 } // namespace Zelkor::Catalogue

@@ -10,7 +10,7 @@ namespace {
 
 QImage DrawColorBars(const QSize& size)
 {
-    // Three quarters of full amplitude, in falling order of brightness.
+    // 75 % colour bars, in order of decreasing luminance.
     constexpr QRgb BARS[] = {0xbfbfbf, 0xbfbf00, 0x00bfbf, 0x00bf00, 0xbf00bf, 0xbf0000, 0x0000bf};
     constexpr int BAR_COUNT = int(sizeof(BARS) / sizeof(BARS[0]));
     QImage image(size, QImage::Format_RGB32);
@@ -54,7 +54,7 @@ QImage PortraitImage(const QSize& size)
     QPainter painter(&image);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
-    // From here on the picture is 4 wide and 3 high.
+    // Uses a coordinate system of 4 by 3 units.
     painter.scale(size.width() / 4., size.height() / 3.);
     QLinearGradient wall(0, 0, 4, 3);
     wall.setColorAt(0, QColor(0x5f, 0x86, 0xc9));

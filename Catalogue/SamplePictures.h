@@ -6,10 +6,10 @@
 
 namespace Zelkor::Catalogue {
 
-/// A still frame: colour bars above a grey ramp, with a white rim along its edges.
+/// Returns a still frame: colour bars above a grey ramp, with a white border.
 boost::intrusive_ptr<StandIn::VideoFrame> ColorBarsFrame(const QSize& size);
 
-/// A drawn portrait: head and shoulders in front of a wall with a window. Null for an empty size.
+/// Returns a drawn portrait, head and shoulders in front of a window; null for an empty size.
 QImage PortraitImage(const QSize& size);
 
 } // namespace Zelkor::Catalogue

@@ -37,7 +37,7 @@ QStringList ManyTexts()
     return texts;
 }
 
-// The button says what is chosen, as an application would have it.
+// Shows the chosen item on the button, as applications do.
 QWidget* CreateList(QWidget* parent)
 {
     auto* button = new ButtonWithPopUpList(parent);

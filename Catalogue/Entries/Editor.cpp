@@ -12,7 +12,7 @@ namespace {
 constexpr QSize BENCH_SIZE(520, 480);
 constexpr int DISTANCE = 12;
 
-const char SHEET[] = "/* The sample above wears this sheet. */\n"
+const char SHEET[] = "/* This sheet styles the sample above. */\n"
                      "QPushButton {\n"
                      "    color: #ffffff;\n"
                      "    background-color: #3567e0;\n"
@@ -33,7 +33,7 @@ const char SHEET_WITH_MISTAKES[] = "QPushButton {\n"
                                    "    color: gray;\n"
                                    "}\n";
 
-/// The editor as a part of the page, and a sample that it works on instead of the application.
+/// The editor, embedded in the page, with a sample that it styles instead of the application.
 class EditorBench : public QWidget
 {
 public:

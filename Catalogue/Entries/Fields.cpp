@@ -36,10 +36,10 @@ QWidget* CreateCombo(QWidget* parent)
     return combo;
 }
 
-// What is chosen stands in check boxes, and the combo box says how much it is.
+// A pop-up with check boxes; the combo box shows the number of checked ones.
 void OpenCheckBoxes(ZComboBox& combo)
 {
-    // Not a child of the combo box: style sheets would take the frame for its list.
+    // Not a child of the combo box: style sheets would style the frame as its list.
     auto* window = new ZFrame(combo.parentWidget(), Qt::Popup);
     QObject::connect(&combo, &QObject::destroyed, window, [window] { delete window; });
     auto* layout = new QVBoxLayout(window);
@@ -120,7 +120,7 @@ State EditState(
     const QString& name, const QString& text, void (*apply)(ZLineEdit&) = [](ZLineEdit&) {})
 {
     return MakeState<ZLineEdit>(name, [text, apply](ZLineEdit& edit) {
-        // What the field is like shows with the next text.
+        // Takes effect with the next text.
         apply(edit);
         edit.setOriginalText(text);
     });

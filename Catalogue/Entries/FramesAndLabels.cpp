@@ -13,7 +13,7 @@ namespace {
 
 constexpr int LABEL_WIDTH = 200;
 
-// A card with four buttons, whose distances the style sheet or the state sets.
+// A card with four buttons, with spacing set by the style sheet or the state.
 QWidget* CreateFrame(QWidget* parent)
 {
     auto* frame = new ZFrame(parent);
@@ -47,7 +47,7 @@ State LabelText(const QString& name, const QString& text)
     return MakeState<ZLabel>(name, [text](ZLabel& label) { label.setOriginalText(text); });
 }
 
-// Two pages of different size; the button of each leads to the other.
+// Two pages of different size; the button of each opens the other.
 QWidget* CreateStack(QWidget* parent)
 {
     auto* stack = new ZStackedWidget(parent);

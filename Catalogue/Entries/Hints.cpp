@@ -21,7 +21,7 @@ constexpr int HINT_DISTANCE = 12;
 constexpr int HINT_TIME_MS = 5000;
 constexpr QSize BUBBLE_SIZE(264, 96);
 
-/// The hint's look in its place, and the hint itself, a window, when the button is pressed.
+/// A static copy of the hint, and a button that opens the hint itself, which is a window.
 class HintHost : public QWidget
 {
 public:
@@ -39,7 +39,7 @@ public:
         layout->addWidget(look, 0, Qt::AlignLeading);
         layout->addWidget(button, 0, Qt::AlignLeading);
         connect(button, &QPushButton::clicked, this, [this] {
-            // The point counts from where the window stood the last time.
+            // The point is relative to the last position of the window.
             hint->move(0, 0);
             // A speech bubble points down at the button.
             const bool isBubble = !hint->GetMask().isNull();
@@ -70,7 +70,7 @@ public:
                 shape();
                 if (tip != look || !look->isVisible())
                     return;
-                // Takes the new shape, and moves.
+                // Applies the new mask and moves the window.
                 const QPoint place = look->pos();
                 look->Show(QPoint());
                 look->move(place);

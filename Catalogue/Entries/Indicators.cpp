@@ -95,7 +95,7 @@ Entry CursorHighlightEntry()
             MadeState(EntryText::tr("Thick border"),
                       [](QWidget* parent) {
                           QWidget* preview = CreateFramed(THICK_BORDER, parent);
-                          // What the application's style sheet sets would come back with every change of it.
+                          // The application's style sheet would reset the property whenever it changes.
                           preview->setStyleSheet(THICK_BORDER_SHEET);
                           return preview;
                       }),

@@ -14,7 +14,7 @@ namespace Zelkor::Catalogue {
 
 namespace {
 
-// The style sheets draw a hot key as a key, which would be empty for a button without one.
+// The style sheets draw a key around the hot key, which would be empty.
 void HideEmptyHotKey(QWidget* button)
 {
     for (auto* label : button->findChildren<QLabel*>()) {
@@ -45,7 +45,7 @@ QWidget* CreateVertical(QWidget* parent)
 
 QWidget* CreatePreset(const QString& type, const QString& text, const QKeySequence& shortcut, QWidget* parent)
 {
-    // Without a parent, the action becomes the button's.
+    // The button takes ownership of an action without a parent.
     auto* action = new QAction(text);
     action->setProperty("PresetType", type);
     action->setShortcut(shortcut);

@@ -12,7 +12,7 @@ namespace {
 constexpr int BIG_BOARD = 64;
 constexpr QSize WIDE_PLACE(320, 120);
 
-// "REC", and a dot: a line for each row.
+// A dot and "REC"; one string per row.
 constexpr const char* SIGN[] = {
     "                       ", //
     "       gggg gggg  gggg ", //

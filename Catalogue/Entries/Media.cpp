@@ -29,7 +29,7 @@ QWidget* CreatePreview(QWidget* parent)
 
 void DrawDefaultImage(VideoPreviewWidget& preview)
 {
-    // The colour of text is the style sheet's only from here on.
+    // Applies the text colour of the style sheet to the palette.
     preview.ensurePolished();
     preview.SetDefaultImage(
         NoPictureImage(PREVIEW_SIZE, preview.palette().color(QPalette::Text), EntryText::tr("No picture")));

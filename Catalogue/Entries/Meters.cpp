@@ -40,7 +40,7 @@ State MeterState(const QString& name, float volume, float level)
 
 void RoundMeter(VolumeSlider& slider)
 {
-    // The style sheet has its say first, and only once.
+    // The style sheet sets the property once, when it is polished.
     slider.ensurePolished();
     slider.setProperty("borderRadius", METER_RADIUS);
 }

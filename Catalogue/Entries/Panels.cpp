@@ -22,7 +22,7 @@ constexpr int NARROW_WIDTH = 260;
 constexpr int SLIDER_WIDTH = 400;
 constexpr int NARROW_SLIDER_WIDTH = 200;
 
-/// A strip of drawing tools, of which one is chosen.
+/// A row of drawing tools, one of them checked.
 void AppendTools(ScrollablePanelWithItem& panel, int count)
 {
     static const struct
@@ -73,14 +73,14 @@ State ToolsState(const QString& name, int count, int width)
     });
 }
 
-/// Scrolls to the middle once the range is known and the panel has shown the selected item.
+/// Scrolls to the middle when the range is known and the selected item is visible.
 void ScrollToMiddle(ScrollablePanelWithItem& panel)
 {
     panel.setFixedWidth(NARROW_WIDTH);
     auto* bar = panel.findChild<QScrollArea*>()->horizontalScrollBar();
     const auto scroll = [bar] { bar->setValue(bar->maximum() / 2); };
     QObject::connect(bar, &QScrollBar::rangeChanged, bar, scroll, Qt::QueuedConnection);
-    QMetaObject::invokeMethod(bar, scroll, Qt::QueuedConnection); // the range may be the same already
+    QMetaObject::invokeMethod(bar, scroll, Qt::QueuedConnection); // the range may not change
 }
 
 Entry ScrollablePanelEntry()
@@ -110,7 +110,7 @@ QWidget* CreateSlider(const QStringList& texts, int current, int width, QWidget*
 {
     auto* slider = new SliderWithTickLabels(parent);
     slider->setAccessibleName(EntryText::tr("Quality"));
-    // Without a value, there is nothing that the part with the keyboard could be named after.
+    // Without items, the focused part has no value to be named after.
     if (texts.isEmpty())
         slider->focusProxy()->setAccessibleName(slider->accessibleName());
     slider->setFixedWidth(width);

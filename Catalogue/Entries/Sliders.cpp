@@ -12,7 +12,7 @@ constexpr int LENGTH = 320;
 constexpr int STEP = 5;
 constexpr int STEP_UNITS = 120;
 
-// The owner decides what a step is. The values of an upright slider grow downwards, so its thumb moves up with fewer.
+// Converts key steps to values. The values of a vertical slider increase downwards.
 void Step(ZSlider& slider, ZSliderThumb* thumb)
 {
     QObject::connect(thumb, &ZSliderThumb::stepped, thumb, [&slider, thumb](int factor) {
@@ -47,7 +47,7 @@ QWidget* CreateHorizontalSlider(QWidget* parent)
     return CreateSlider(Qt::Horizontal, parent);
 }
 
-// Two brackets that do not pass each other, and what lies between them.
+// Two brackets that cannot pass each other, and the range between them.
 void Trim(ZSlider& slider)
 {
     slider.setProperty("role", QStringLiteral("trim"));

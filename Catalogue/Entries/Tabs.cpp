@@ -29,7 +29,7 @@ QWidget* CreateTabBar(QWidget* parent)
     return bar;
 }
 
-// The style sheet has the icons of the tabs with this role, and room for them.
+// The style sheet sets icons and padding for tabs with this role.
 void ShowIcons(QTabBar& bar)
 {
     Util::ApplyWidgetStyle(&bar, QStringLiteral("sources"), "role");
@@ -78,7 +78,7 @@ QWidget* CreateTabWidget(QWidget* parent)
     return tabs;
 }
 
-// Three pages of different size; the button of each leads to the next.
+// Three pages of different size; the button of each opens the next one.
 QWidget* CreateStack(QWidget* parent)
 {
     auto* stack = new ResizableStackedWidget(parent);

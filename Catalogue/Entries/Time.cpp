@@ -30,7 +30,7 @@ QWidget* CreateTimeline(QWidget* parent)
     return slider;
 }
 
-// Brackets at the ends of what is kept, which confine the position while the whole recording is shown.
+// Brackets that mark the kept range and confine the position; the timeline shows the whole recording.
 void ShowBounds(ZTimelineSlider& slider)
 {
     slider.setProperty("role", QStringLiteral("trim"));

@@ -28,7 +28,7 @@ constexpr int DISTANCE = 12;
 constexpr Qt::WindowFlags CLOSE_BUTTON = Qt::WindowCloseButtonHint;
 constexpr Qt::WindowFlags BOTH_BUTTONS = CLOSE_BUTTON | Qt::WindowMinimizeButtonHint;
 
-/// A window within the page, for a title bar. It can be dragged about, but neither minimised nor closed.
+/// A window inside the page, for a title bar. It can be moved, but not minimised or closed.
 class SampleWindow : public QFrame
 {
 public:
@@ -61,7 +61,7 @@ protected:
     }
 };
 
-/// The piece of a screen on which the sample lies.
+/// The screen background around the sample.
 class SampleDesktop : public QFrame
 {
 public:
@@ -132,7 +132,7 @@ Entry CustomTitleBarEntry()
     };
 }
 
-/// The dialog's look in its place: always there, and without taking the keyboard from the page.
+/// A static copy of the dialog that is always visible and never takes the focus.
 class AboutLook : public StyledAboutBoxDialog
 {
 public:
@@ -149,7 +149,7 @@ protected:
     void showEvent(QShowEvent* event) override { QWidget::showEvent(event); }
 };
 
-/// The dialog's look, and the dialog itself when the button is pressed.
+/// The static copy, and a button that opens the dialog itself.
 class AboutHost : public QWidget
 {
 public:
@@ -203,7 +203,7 @@ Entry StyledAboutBoxDialogEntry()
 
 QVector<Entry> WindowEntries()
 {
-    // A form editor's window would lose its frame and its layout to the title bar.
+    // The title bar would remove the frame and layout of a form editor's window.
     return {NotInForms(CustomTitleBarEntry(), "it rebuilds its window"),
             NotInForms(StyledAboutBoxDialogEntry(), "it is a dialog, whole as it is")};
 }
