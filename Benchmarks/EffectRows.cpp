@@ -22,7 +22,7 @@ namespace {
 constexpr QSize LARGE(1920, 1080);
 constexpr int SHADOW_WIDTH = 12;
 
-// A plain surface, so that what is measured is the effect and not the widget.
+// A plain widget, so that the effect dominates the time.
 class Surface : public QWidget
 {
 public:
@@ -58,7 +58,7 @@ Rounds ShadowEffect()
     return Interleave(Render(ours), Render(theirs), 9, 10);
 }
 
-// Has what was asked for painted.
+// Processes pending paint events.
 void PaintNow()
 {
     QCoreApplication::sendPostedEvents();
@@ -97,7 +97,7 @@ Rounds VolumeStep()
         61, 100);
 }
 
-// Not a time: the number of paint events, beside one.
+// Not a time: the number of paint events, relative to one.
 Rounds VolumeAtRest()
 {
     struct PaintCounter : QObject
@@ -152,9 +152,9 @@ Rounds PixmapResizeStep()
 }
 
 constexpr int SMALL_HIGHLIGHT = 60;
-constexpr int LARGE_HIGHLIGHT = 512; // larger discs are not made
+constexpr int LARGE_HIGHLIGHT = 512; // the largest disc
 
-// Gives the disc another colour at each call.
+// Changes the colour of the disc at each call.
 std::function<void()> ChangeHighlight(Vx::UI::CursorHighlightPreviewWidget& preview, int times)
 {
     return [&preview, times, hue = 0]() mutable {
@@ -171,7 +171,7 @@ Rounds LargeHighlight()
     ours.SetRadius(LARGE_HIGHLIGHT);
     Vx::UI::CursorHighlightPreviewWidget theirs(nullptr);
     theirs.SetRadius(SMALL_HIGHLIGHT);
-    // So many small discs have the area of the large one.
+    // As many small discs as cover the area of the large one.
     const int many = LARGE_HIGHLIGHT * LARGE_HIGHLIGHT / (SMALL_HIGHLIGHT * SMALL_HIGHLIGHT);
     return Interleave(ChangeHighlight(ours, 1), ChangeHighlight(theirs, many), 31, 2);
 }
@@ -214,7 +214,7 @@ void PrintShadowCurve()
         Surface plain(QSize(edge, edge));
         Surface rimmed(QSize(edge, edge));
         AddRim(rimmed);
-        // The source goes through a pixmap all the same, and nothing is drawn over it.
+        // Renders the source through a pixmap without drawing a shadow over it.
         Surface sourceOnly(QSize(edge, edge));
         AddRim(sourceOnly)->SetOffset(0);
         const Rounds rounds = Interleave(Render(rimmed), Render(sourceOnly), 21, 4);

@@ -57,7 +57,7 @@ Rounds LedMatrix()
                       31, 4);
 }
 
-// Has what was asked for painted.
+// Processes pending paint events.
 void PaintNow()
 {
     QCoreApplication::sendPostedEvents();
@@ -84,7 +84,7 @@ Rounds OneLed()
         31, 20);
 }
 
-// Everything there and back on a new stack, commands included.
+// Undoes and redoes all commands on a new stack, including their creation.
 template<class Stack>
 std::function<void()> History()
 {
@@ -104,7 +104,7 @@ Rounds UndoStack()
     return Interleave(History<ZUndoStack>(), History<QUndoStack>(), 5, 1);
 }
 
-// Up to what a person sees: a plain label puts all its work off until it is painted.
+// Includes painting: QLabel defers all work until then.
 template<class Label>
 std::function<void()> ShowTexts(Label& label, void (Label::*set)(const QString&))
 {
@@ -125,7 +125,7 @@ Rounds LabelText()
     return Interleave(ShowTexts(ours, &ZLabel::setOriginalText), ShowTexts(theirs, &QLabel::setText), 61, 200);
 }
 
-// A new combo box each time, up to the first paint of its list.
+// Opens a new combo box each time, up to the first paint of its list.
 template<class Combo>
 std::function<void()> OpenLongList(QAbstractItemModel& items)
 {
@@ -148,7 +148,7 @@ Rounds LongList()
     return Interleave(OpenLongList<ZComboBox>(items), OpenLongList<QComboBox>(items), 5, 1);
 }
 
-// New times for a field with a list of formats, of which none shows them without loss.
+// Sets times that no format of the field shows without loss.
 std::function<void()> UpdateTime(ZTimeEdit& field, int formats)
 {
     const QString parts[] = {QStringLiteral("hh"), QStringLiteral("hh:mm"), QStringLiteral("mm"),

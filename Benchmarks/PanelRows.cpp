@@ -16,7 +16,7 @@ namespace {
 constexpr int LABEL_COUNT = 500;
 constexpr int BUTTON_COUNT = 500;
 
-// Has what was asked for laid out and painted.
+// Processes pending layout and paint events.
 void FinishEvents()
 {
     QCoreApplication::sendPostedEvents();
@@ -31,7 +31,7 @@ QStringList Texts(int count)
     return texts;
 }
 
-// One widget, shown while it is filled, from its making until it has laid out its labels.
+// From the constructor until the layout of the labels, filled while visible.
 void FillSlider(const QStringList& texts)
 {
     Vx::SliderWithTickLabels slider(nullptr);
@@ -50,7 +50,7 @@ Rounds AddLabels()
     return Interleave([&] { FillSlider(twice); }, [&] { FillSlider(texts); }, 11, 1);
 }
 
-// Both sides show a window, put buttons into a frame that is as wide as they are, and have all of it laid out.
+// Both sides show a window, add buttons to a frame of their width, and lay it out.
 template<class Append>
 void AppendButtons(QWidget& window, Append append)
 {

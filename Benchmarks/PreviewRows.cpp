@@ -57,7 +57,7 @@ std::unique_ptr<Vx::UI::VideoPreviewWidget> MakePreview()
     return preview;
 }
 
-// The bare conversion, into memory that is there.
+// Only the conversion, into allocated memory.
 class BareConversion
 {
 public:
@@ -88,7 +88,7 @@ Rounds UpdateViewConverted()
 Rounds UpdateViewUnconverted()
 {
     const auto preview = MakePreview();
-    // More than the cache holds, as it is with a camera.
+    // Exceeds the cache, as with a camera.
     std::vector<boost::intrusive_ptr<StandIn::VideoFrame>> frames(12);
     std::generate(frames.begin(), frames.end(), [] { return MakeFrame(Proc::PixFmt::BGRA); });
     std::size_t shown = 0;
@@ -98,7 +98,7 @@ Rounds UpdateViewUnconverted()
                       [&] {
                           const auto& frame = frames[++copied % frames.size()];
                           std::memcpy(copy.data(), frame->GetPlanes()[0].data, copy.size());
-                          // The copy is for somebody, as far as the compiler knows.
+                          // Keeps the compiler from removing the copy.
                           asm volatile("" : : "r"(copy.data()) : "memory");
                       },
                       61, 20);
@@ -124,8 +124,8 @@ Rounds PaintUnchangedFrame()
 
 constexpr std::chrono::milliseconds PERIOD(1000 / FRAME_RATE);
 
-// A device that delivers a few frames in turn: what costs is the reading, not the capturing. It delivers in the
-// middle between two reads, so that each read gets another frame.
+// A device that delivers a few frames in turn, so that reading dominates the time. It delivers halfway between two
+// reads, so that each read returns a different frame.
 class FewFramesDevice : public StandIn::CaptureDevice
 {
 public:
@@ -165,7 +165,7 @@ private:
     const std::size_t count;
 };
 
-// Seconds of processor time, of all threads, while the event loop runs.
+// Returns the CPU time of all threads, in seconds, while the event loop runs.
 double ProcessorTimeOf(std::chrono::milliseconds duration)
 {
     QEventLoop loop;
@@ -179,7 +179,7 @@ Rounds WorkerAtSixtyFrames()
 {
     constexpr std::chrono::milliseconds ROUND(1000);
     constexpr int ROUNDS = 5;
-    const auto preview = MakePreview(); // not shown: the GUI thread has nothing to paint
+    const auto preview = MakePreview(); // hidden: the GUI thread paints nothing
     auto* stream = new Vx::WebCameraPreviewStream(preview.get());
     const boost::intrusive_ptr<StandIn::CaptureDevice> device(new FewFramesDevice(3));
     BareConversion conversion(MakeFrame(Proc::PixFmt::NV12));
@@ -188,7 +188,7 @@ Rounds WorkerAtSixtyFrames()
     for (int i = 0; i < ROUNDS; ++i) {
         stream->SetDevice(device, "only", FRAME_RATE);
         stream->StartStream();
-        ProcessorTimeOf(std::chrono::milliseconds(200)); // until it runs
+        ProcessorTimeOf(std::chrono::milliseconds(200)); // until the stream runs
         result.path.push_back(ProcessorTimeOf(ROUND));
         stream->StopStream();
         StandIn::WaitForEngineIdle(std::chrono::seconds(5));
@@ -206,8 +206,8 @@ Rounds WorkerAtSixtyFrames()
     return result;
 }
 
-// Conversions while the device delivers one frame again and again, after the first one. Each one has the preview ask
-// the GUI thread for a repaint.
+// Returns the number of conversions after the first one while the device repeats one frame. Each conversion requests a
+// repaint from the GUI thread.
 Rounds ShownFrame()
 {
     struct RequestCounter : QObject

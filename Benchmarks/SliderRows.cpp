@@ -31,7 +31,7 @@ std::function<void()> Steps(QSlider& slider)
     };
 }
 
-// A page that ends at the value: the groove has to be drawn anew for each.
+// A page ends at the value, so that the groove is redrawn for each value.
 Rounds SliderStep()
 {
     ZSlider ours;
@@ -51,7 +51,7 @@ Rounds SliderStep()
 
 constexpr int THUMBS = 1000;
 
-// From an empty slider that is shown until it has laid out its thumbs, and back.
+// Adds thumbs to a visible, empty slider, up to their layout, and removes them.
 void AddThumbs(int count)
 {
     ZSlider slider;

@@ -3,11 +3,11 @@
 #include <functional>
 #include <vector>
 
-/// The table of hot paths: each is measured beside its rival in one run, and the ratio is what counts.
+/// The table of hot paths. Each is measured next to a baseline in the same run; the result is the ratio.
 namespace SpeedTable {
 
-/// Seconds that each side took, one entry per round. The sides are measured in turn, so that a machine whose speed
-/// drifts is as slow for the one as for the other.
+/// The seconds of each side, one entry per round. The sides alternate, so that a drift of the machine's speed affects
+/// both.
 struct Rounds
 {
     std::vector<double> path;
@@ -19,11 +19,11 @@ struct Row
     const char* name;  ///< for `--row`
     const char* path;  ///< what is measured
     const char* rival; ///< what it is measured against
-    double goal;       ///< the ratio that the path shall not exceed
+    double goal;       ///< upper limit of the ratio
     std::function<Rounds()> measure;
 };
 
-/// Runs both sides in turn after one warm-up, each `repeats` times a round, by the wall clock.
+/// Alternates both sides after one warm-up, each `repeats` times per round. Measures wall-clock time.
 Rounds Interleave(const std::function<void()>& path, const std::function<void()>& rival, int rounds, int repeats);
 
 double Median(std::vector<double> values);
@@ -35,7 +35,7 @@ std::vector<Row> KitRows();
 std::vector<Row> SliderRows();
 std::vector<Row> StartRows();
 
-/// Prints what the shadow's rim costs on widgets of growing size.
+/// Prints the cost of the inner shadow for widgets of increasing size.
 void PrintShadowCurve();
 
 } // namespace SpeedTable

@@ -28,7 +28,7 @@ QWidget* MakeChoice(int number)
     return button;
 }
 
-/// Notes that a widget was painted.
+/// Records whether a widget was painted.
 class PaintWatch : public QObject
 {
 public:
@@ -43,7 +43,7 @@ public:
     bool painted = false;
 };
 
-// Seconds from the click until the last choice has been painted, after all that lies beneath and before it.
+// Returns the seconds from the click until the last item of the list is painted.
 double TimeToPaint(QToolButton& button, QWidget* lastChoice)
 {
     button.show();
@@ -60,7 +60,7 @@ double TimeToPaint(QToolButton& button, QWidget* lastChoice)
     return double(timer.nsecsElapsed()) * NANOSECOND;
 }
 
-// Each opening is the first of its button: later ones may find the window painted.
+// Opens each list for the first time only: later the window may be painted already.
 double OpenPanel()
 {
     ButtonWithPopUpContainer button;
@@ -97,8 +97,7 @@ Rounds OpenPopUp()
     return rounds;
 }
 
-// The output of a program beside this one. Ends the measurement when the program fails: no number is better than one
-// that means something else.
+// Returns the output of a program in the same folder. Exits when that program fails, because the number would be wrong.
 QByteArray RunHelper(const QString& name, const QStringList& arguments)
 {
     QProcess process;

@@ -42,8 +42,8 @@ QString FormWidget::includeFile() const
     return QStringLiteral("UI/Widgets/%1.h").arg(entry.className);
 }
 
-// The sheets' search path is the application's; Designer has none, and shall keep none. Its widget box takes icons only
-// that know their sizes.
+// Uses ZStyleSheet::ownIcon(), because Designer has no search path for the icons. Its widget box ignores icons without
+// available sizes.
 QIcon FormWidget::icon() const
 {
     const bool isDark = QGuiApplication::palette().color(QPalette::Window).lightness() < 128;
@@ -69,7 +69,7 @@ void FormWidget::initialize(QDesignerFormEditorInterface*)
 QWidget* FormWidget::createWidget(QWidget* parent)
 {
     auto* widget = static_cast<QWidget*>(CreateBare(entry, parent));
-    // A stack that is fixed to the size of its page could not be given a size in the editor, nor its empty pages.
+    // In Designer, a stack of fixed size and its empty pages could not be resized.
     if (auto* stack = qobject_cast<QStackedWidget*>(widget); stack && isInEditor)
         QObject::disconnect(stack, &QStackedWidget::currentChanged, stack, nullptr);
     return widget;

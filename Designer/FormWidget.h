@@ -8,7 +8,7 @@ struct Entry;
 
 namespace Zelkor::Designer {
 
-/// One widget of the catalogue, as Qt Designer wants to know it. Refers to the entry. GUI thread only.
+/// Describes one widget of the catalogue to Qt Designer. The entry must outlive it. GUI thread.
 class FormWidget : public QDesignerCustomWidgetInterface
 {
 public:
@@ -22,7 +22,7 @@ public:
     QIcon icon() const override;
     bool isContainer() const override;
 
-    /// Called by a form editor, and not where forms are loaded at run time.
+    /// Called by form editors, but not when forms are loaded at run time.
     void initialize(QDesignerFormEditorInterface* editor) override;
     bool isInitialized() const override { return isInEditor; }
 

@@ -16,7 +16,7 @@ namespace {
 constexpr int FIRST_PAGES = 2;
 constexpr QSize SIZE_WITH_PAGES(240, 160);
 constexpr QSize SIZE_WHILE_EMPTY(120, 32);
-constexpr int SMALLEST_LENGTH = 12; ///< less can hardly be seen and grasped
+constexpr int SMALLEST_LENGTH = 12; ///< smaller widgets are hard to see and select
 
 // "Zelkor::Vx::ColorButton" becomes "colorButton".
 QString ObjectName(const QMetaObject& metaObject)
@@ -26,7 +26,7 @@ QString ObjectName(const QMetaObject& metaObject)
     return name;
 }
 
-// The nearest class of Qt: form tools know what becomes of its children.
+// Returns the nearest Qt base class, whose children form tools can handle.
 QString ExtendedClass(const QMetaObject& metaObject)
 {
     const QMetaObject* base = metaObject.superClass();
@@ -52,7 +52,7 @@ void WriteProperty(QXmlStreamWriter& xml, const QString& name, const QVariant& v
 {
     xml.writeStartElement("property");
     xml.writeAttribute("name", name);
-    // Setters of another name than "set..." cannot be called by code that knows the property alone.
+    // Otherwise uic calls a setter "set...", which may not exist.
     xml.writeAttribute("stdset", "0");
     xml.writeTextElement(value.type() == QVariant::Int ? "number" : "string", value.toString());
     xml.writeEndElement();

@@ -10,10 +10,10 @@ struct Entry;
 
 namespace Zelkor::Designer {
 
-/// Whether widgets of this class hold pages, which a form may add to and which are containers themselves.
+/// Returns whether widgets of this class have pages that a form can add.
 bool HasPages(const QMetaObject& metaObject);
 
-/// The piece of a form that a new widget starts from: name, size, first properties, first pages, and what it extends.
+/// Returns the form XML of a new widget: name, size, properties, pages and base class.
 QString FormXml(const Catalogue::Entry& entry);
 
 } // namespace Zelkor::Designer

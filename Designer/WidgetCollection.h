@@ -8,7 +8,7 @@
 
 namespace Zelkor::Designer {
 
-/// The plugin: every widget of the catalogue that is for forms. It owns what it hands out.
+/// The plugin: all widgets of the catalogue with form support. Owns the descriptions it returns.
 class WidgetCollection : public QObject, public QDesignerCustomWidgetCollectionInterface
 {
     Q_OBJECT

@@ -1,5 +1,4 @@
-// Constructs the Qt classes that the arguments name, once each, and ends at once: what a start costs without the
-// library.
+// Constructs each Qt class of the arguments once and exits: the start-up cost without the library.
 
 #include <QApplication>
 #include <QComboBox>
@@ -18,7 +17,7 @@
 
 namespace {
 
-// The base of effects is abstract.
+// QGraphicsEffect is abstract.
 class PlainEffect : public QGraphicsEffect
 {
 public:

@@ -1,5 +1,5 @@
-// Constructs each exported class once and ends at once: what a start with the library costs. With --bases it prints
-// the Qt classes below them instead.
+// Constructs each exported class once and exits: the start-up cost with the library. With --bases it prints their Qt
+// base classes instead.
 
 #include <StartIncludes.h>
 
@@ -19,7 +19,7 @@ namespace {
 template<class Object>
 void Make(QWidget* window)
 {
-    // The window owns what is made; the program ends before it would delete it.
+    // The window owns the objects; the program exits before it deletes them.
     if constexpr (std::is_constructible_v<Object, QWidget*>)
         new Object(window);
     else if constexpr (std::is_constructible_v<Object, Qt::Orientation, QWidget*>)
