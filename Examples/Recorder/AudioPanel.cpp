@@ -19,7 +19,7 @@ namespace {
 constexpr int COLUMN_WIDTH = 112;
 constexpr int LABEL_DISTANCE = 4;
 constexpr float FIRST_VOLUME = 0.8F;
-constexpr QChar NO_REMARK(0xa0); ///< keeps the line, so that nothing moves when a remark comes
+constexpr QChar NO_REMARK(0xa0); ///< reserves the line of a remark
 
 float VolumeOf(const VolumeSlider& slider)
 {
@@ -71,7 +71,7 @@ void AudioPanel::ShowLevel(Channel& channel, double decibels)
     const auto now = std::chrono::steady_clock::now();
     channel.level.TakePeak(decibels, now);
     channel.slider->SetVolumes(VolumeOf(*channel.slider), float(channel.level.LevelAt(now)));
-    // Nobody shall take the signal for a microphone that hears something.
+    // Labels the test signal, which is not the microphone.
     channel.remark->setText(channel.source->IsTestSignal() ? tr("Test signal") : QString(NO_REMARK));
 }
 

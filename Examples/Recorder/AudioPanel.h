@@ -17,9 +17,9 @@ class VolumeSlider;
 
 namespace Zelkor::Recorder {
 
-/// How loud the microphone and the sound of the system are recorded, each with its level now.
+/// Sets the recording volumes of the microphone and the system sound, and shows their levels.
 ///
-/// The microphone is open only while the panel shows.
+/// Opens the microphone only while the panel is visible.
 class AudioPanel : public QWidget
 {
     Q_OBJECT

@@ -28,20 +28,20 @@ using Mode = RecorderModel::RecordingMode;
 using Sound = RecorderModel::ClickSound;
 
 constexpr int SPACING = 8;
-constexpr int SOUND_CHARACTERS = 6; ///< that can be read of a click sound at least
+constexpr int SOUND_CHARACTERS = 6; ///< minimum width of a click sound's name
 constexpr int LARGEST_SOUND_WIDTH = 140;
-constexpr int SOUND_STRETCH = 1000; ///< it grows before the free room beside it
+constexpr int SOUND_STRETCH = 1000; ///< greater than that of the stretch beside it
 
-constexpr int BEFORE_CHOICES = 1; ///< the place in the row between presets and choices
+constexpr int BEFORE_CHOICES = 1; ///< index of the space between presets and choices
 
 struct ModeLook
 {
     Mode mode;
     const char* icon;
-    const char* presetType; ///< by which the style sheet knows the preset; null for a mode without one
+    const char* presetType; ///< for style sheet selectors; null for a mode without a preset
 };
 
-// In the order of the list; the presets have the shortcuts Ctrl+1, Ctrl+2 and so on.
+// In the order of the list. The shortcuts of the presets are Ctrl+1, Ctrl+2 and so on.
 constexpr ModeLook MODES[] = {
     {Mode::FullScreen, "full-screen", "FullScreen"},
     {Mode::Window, "window", "Window"},
@@ -117,7 +117,7 @@ void CaptureBar::AddPresets()
         layout->addWidget(button);
         presets.append(button);
     }
-    // The bar may become narrower than the presets, which then go.
+    // Lets the bar become narrower than the presets, which it then hides.
     presetGroup->setMinimumWidth(1);
     row->addWidget(presetGroup);
 }
@@ -138,7 +138,7 @@ void CaptureBar::AddChoices()
     StyleItems(sound);
     sound->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     sound->setMinimumContentsLength(SOUND_CHARACTERS);
-    // Everything in the bar is as high as the highest.
+    // Gives all controls the height of the tallest one.
     modes->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Minimum);
     color->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Minimum);
     sound->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Minimum);
@@ -153,7 +153,7 @@ void CaptureBar::Connect()
     for (QAction* action : actions())
         connect(action, &QAction::triggered, this,
                 [this, action] { model->ChooseRecordingMode(Mode(action->data().toInt())); });
-    // A click on the preset of now has unchecked it.
+    // A click on the current preset unchecks it.
     for (FastPresetButton* button : qAsConst(presets))
         connect(button, &FastPresetButton::Clicked, this, &CaptureBar::Refresh);
     connect(modes, &ButtonWithPopUpList::CurrentIndexChanged, this,
@@ -187,7 +187,7 @@ void CaptureBar::Retranslate()
         action->setToolTip(tr("Recording mode: %1").arg(action->text()));
     }
     {
-        // While the lists are filled, nobody chooses anything.
+        // Filling the lists is not user input.
         const QSignalBlocker blocker(modes);
         modes->Clear();
         int width = 0;
@@ -197,7 +197,7 @@ void CaptureBar::Retranslate()
             SetTextBesideIcon(modes, NameOf(look.mode));
             width = qMax(width, modes->sizeHint().width());
         }
-        // The bar stands still whatever is chosen.
+        // Keeps the width for all choices.
         modes->setMinimumWidth(width);
     }
     sound->clear();
@@ -211,7 +211,7 @@ void CaptureBar::Retranslate()
     Refresh();
 }
 
-// What the bar would like to have, whether the presets show or not.
+// The size hint includes the presets even while they are hidden.
 QSize CaptureBar::sizeHint() const
 {
     return QSize(FullWidth(), row->sizeHint().height());
@@ -229,7 +229,7 @@ void CaptureBar::ShowWhatFits()
 {
     const bool presetsFit = width() >= FullWidth();
     presetGroup->setVisible(presetsFit);
-    // The choices are at the end beside the presets, else at the start.
+    // Aligns the choices at the end beside the presets, otherwise at the start.
     row->setStretch(BEFORE_CHOICES, presetsFit);
     row->setStretch(row->count() - 1, !presetsFit);
 }

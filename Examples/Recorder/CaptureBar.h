@@ -19,11 +19,10 @@ namespace Zelkor::Recorder {
 
 class RecorderModel;
 
-/// How to record: presets for the usual recording modes, the list of all modes, drawing colour and click sound.
+/// Sets recording mode, drawing colour and click sound, with presets for the usual recording modes.
 ///
-/// Where there is no room for the presets, the list is enough. Their actions, which have shortcuts, are the `actions()`
-/// of the bar; a window adds them to itself so that the shortcuts work everywhere in it. The model has to outlive the
-/// bar.
+/// A narrow bar hides the presets; the list contains all modes. The actions of the presets are the `actions()` of the
+/// bar: add them to the window so that their shortcuts work everywhere in it. The model must outlive the bar.
 class CaptureBar : public QWidget
 {
     Q_OBJECT

@@ -37,7 +37,7 @@ void ShowSourceHint(QAbstractButton* button)
     hint->SetTitle(FirstHint::tr("Start here"));
     hint->SetText(FirstHint::tr("Choose what is shown: a camera, the screen or the test picture."));
     hint->SetDisplayTime(DISPLAY_TIME_MS);
-    // It belongs to a window that is not active yet at the start.
+    // The window is not active yet at the start of the program.
     hint->SetHideOnDeactivate(false);
     QObject::connect(button, &QAbstractButton::pressed, hint, &QWidget::close);
     const int x = button->layoutDirection() == Qt::RightToLeft ? button->width() - BUBBLE_SIZE.width() : 0;

@@ -12,7 +12,7 @@ class FittingScrollArea : public QScrollArea
 public:
     explicit FittingScrollArea(QWidget* content, QWidget* parent = nullptr);
 
-    /// Returns that of the content, while QScrollArea bounds its hint.
+    /// Returns the size hint of the content, which QScrollArea would limit.
     QSize sizeHint() const override;
 };
 

@@ -7,7 +7,7 @@ namespace Zelkor::Recorder {
 void LevelBallistics::TakePeak(double peak, Time time)
 {
     const double falling = DecibelsAt(time);
-    // The other way round, what is not a number would stay.
+    // With the operands swapped, NaN would remain.
     decibels = peak > falling ? std::min(peak, 0.0) : falling;
     since = std::max(since, time);
 }

@@ -4,22 +4,22 @@
 
 namespace Zelkor::Recorder {
 
-/// Makes a steady meter level of measured peaks: it rises at once and falls slowly, so that an eye can follow.
+/// Computes a meter level from peaks: it rises at once and falls slowly.
 ///
-/// Time comes from outside. Any thread, one at a time.
+/// The caller passes the time. Reentrant.
 class LevelBallistics
 {
 public:
     using Time = std::chrono::steady_clock::time_point;
 
-    static constexpr double FLOOR_DB = -60; ///< shows as silence, and all below
+    static constexpr double FLOOR_DB = -60; ///< the meter's zero
     static constexpr double RELEASE_DB_PER_SECOND = 20;
 
-    /// Takes a peak in decibels of full scale, measured at `time`. What is not a number counts as silence.
+    /// Adds a peak in dBFS that was measured at `time`. NaN counts as silence.
     void TakePeak(double decibels, Time time);
 
-    /// The level at `time`, from 0 for the floor and below to 1 for full scale and above. A time before that of the
-    /// last peak counts as that one.
+    /// Returns the level at `time`, from 0 (the floor or lower) to 1 (full scale or higher). A time before the last
+    /// peak counts as the time of that peak.
     double LevelAt(Time time) const;
 
 private:

@@ -4,13 +4,13 @@
 
 namespace Zelkor::Recorder {
 
-/// What the settings dialog sets.
+/// The values of the settings dialog.
 struct Preferences
 {
-    int countdownSeconds = 3; ///< from the click on the record button to the recording
-    int quality = 2;          ///< index, from the smallest file up
+    int countdownSeconds = 3; ///< between the click on the record button and the recording
+    int quality = 2;          ///< index, in order of increasing file size
     QColor highlightColor{255, 214, 0, 200};
-    int highlightDiameter = 56; ///< of the disc around the pointer, in pixels
+    int highlightDiameter = 56; ///< diameter of the disc around the pointer, in pixels
 };
 
 } // namespace Zelkor::Recorder

@@ -18,14 +18,14 @@ constexpr QSize SHAPE(16, 9);
 constexpr QSize PREFERRED_SIZE(896, 504);
 constexpr QSize SMALLEST_SIZE(160, 90);
 
-// Sets the picture into the window, without darkening it.
+// A slight inner shadow.
 constexpr qreal SHADOW_WIDTH = 10;
 constexpr qreal SHADOW_STRENGTH = 0.35;
 
 QRect LargestOfShape(const QRect& area)
 {
     const QSize size = SHAPE.scaled(area.size(), Qt::KeepAspectRatio);
-    // The shadow leaves the middle row and column of odd sides clear.
+    // The shadow omits the middle row and column of odd sizes.
     QRect rect(0, 0, size.width() & ~1, size.height() & ~1);
     rect.moveCenter(area.center());
     return rect;

@@ -8,10 +8,10 @@ class VideoPreviewWidget;
 
 namespace Zelkor::Recorder {
 
-/// The place of a preview: keeps it as large as the place allows, in the shape of a screen, in the middle.
+/// Centres a preview at the largest size with the aspect ratio of a screen.
 ///
-/// The preview draws the default image where it was when it was set, so the stage sets a new one for each size; as
-/// that ends a live picture for a moment, it waits while one runs.
+/// The preview does not scale its default image, so the stage sets a new one for each size. That would interrupt a live
+/// picture, so the stage waits while a stream runs.
 class PreviewStage : public QFrame
 {
     Q_OBJECT
@@ -21,16 +21,16 @@ public:
 
     Vx::UI::VideoPreviewWidget* Preview() const { return preview; }
 
-    /// What the preview says when it has no picture.
+    /// Sets the text of the default image.
     void SetIdleText(const QString& text);
 
-    /// Whether a live picture runs. Without one the preview shows its default image.
+    /// Sets whether a stream runs. Otherwise the preview shows its default image.
     void SetLive(bool isLive);
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
-    /// What lies over the preview does not decide about the height of the stage.
+    /// Ignores the height-for-width of the widgets over the preview.
     bool hasHeightForWidth() const override { return false; }
 
 protected:

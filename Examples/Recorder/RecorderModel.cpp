@@ -13,11 +13,11 @@ using Kind = StandIn::CaptureDevice::Kind;
 using Mode = boost::intrusive_ptr<StandIn::VideoMode>;
 using Device = RecorderModel::Device;
 
-// What a preview needs at most, and what looks fluent.
+// Limits for the default mode: a larger picture is wasted on a preview, a slower one is not fluent.
 constexpr int LARGEST_USEFUL_AREA = 1920 * 1080;
 constexpr double FLUENT_RATE = 24;
 constexpr double PREFERRED_RATE = 30;
-// Slower rates are no video, and the preview does not take them.
+// The preview rejects slower rates.
 constexpr double LOWEST_RATE = 1;
 
 QString IdOf(const Device& device)
@@ -25,7 +25,7 @@ QString IdOf(const Device& device)
     return QString::fromStdString(device->GetId());
 }
 
-// Cameras have the name that they come with. The test picture is ours, and is called what its settings dialog calls it.
+// Cameras have names of their own; the test picture is named like its settings dialog.
 QString NameOf(const Device& device)
 {
     switch (device->GetKind()) {
@@ -59,7 +59,7 @@ double PreferredRate(const QVector<double>& rates)
     return rates.contains(PREFERRED_RATE) ? PREFERRED_RATE : rates.last();
 }
 
-// The largest mode that is fluent and not larger than anybody can see in a preview, else the first usable one.
+// Returns the largest mode within the limits, otherwise the first usable one.
 QString PreferredMode(const StandIn::CaptureDevice& device)
 {
     Mode best;
@@ -108,7 +108,7 @@ void RecorderModel::SetDevices(const QList<Device>& newDevices)
         Take(camera ? camera : testPicture ? testPicture : devices.value(0));
         RestartUnlessStopped();
     } else if (same && (same != current || status == Status::Failed)) {
-        // Plugged in again: the choice holds for the device's new object as far as that offers it.
+        // Plugged in again: keeps the choices that the new device object supports.
         const QString previousMode = mode;
         const double previousRate = frameRate;
         Take(same);
@@ -270,7 +270,7 @@ void RecorderModel::RestartUnlessStopped()
 
 void RecorderModel::Restart()
 {
-    // Nobody would tell that a device without a usable mode does not run.
+    // The stream does not report an error for a device without a usable mode.
     const bool canRun = current && frameRate > 0;
     SetStatus(canRun ? Status::Running : Status::Failed);
     if (canRun)
@@ -282,7 +282,7 @@ bool RecorderModel::IsCurrentPresent() const
     return current && FindById(devices, IdOf(current));
 }
 
-// The preview takes the first mode of a name, so this is the one whose rates are on offer.
+// The preview uses the first mode with a name, so its rates apply.
 const StandIn::VideoMode* RecorderModel::FindMode(const QString& name) const
 {
     if (!current)

@@ -9,10 +9,10 @@
 
 namespace Zelkor::Recorder {
 
-/// What the recorder shows: which devices, modes and rates there are, which are chosen, and whether the picture runs.
+/// The available devices, modes and frame rates, the current ones, and the status of the stream.
 ///
-/// Knows no widget. Until a person chooses a device, the model takes a camera as soon as there is one, the test picture
-/// before that. A chosen device that is unplugged stays chosen, and is taken up again when it comes back. GUI thread.
+/// Independent of widgets. Until the user chooses a device, the model uses the first camera, or the test picture
+/// without one. An unplugged device remains current, and resumes when it returns. GUI thread.
 class RecorderModel : public QObject
 {
     Q_OBJECT
@@ -21,18 +21,18 @@ public:
     using Device = StandIn::DeviceList::Device;
 
     enum class Status {
-        Stopped, ///< the person stopped it
+        Stopped, ///< stopped by the user
         Running,
         Failed, ///< the device could not be opened, or was lost
     };
 
-    /// What of the screen is recorded.
+    /// The recorded part of the screen.
     enum class RecordingMode { FullScreen, Window, Region, AroundPointer, SoundOnly };
 
-    /// What is heard in the recording when the person clicks.
+    /// The sound of a mouse click in the recording.
     enum class ClickSound { None, SoftClick, MechanicalKeyboard, Typewriter };
 
-    /// A device as the person sees it; `isPresent` is false for the chosen one while it is unplugged.
+    /// A device in the list; `isPresent` is false for the current one while it is unplugged.
     struct DeviceItem
     {
         QString id;
@@ -43,56 +43,56 @@ public:
 
     explicit RecorderModel(QObject* parent = nullptr);
 
-    /// The devices that there are now. Keeps the choice where it can.
+    /// Sets the available devices. Keeps the current choices if possible.
     void SetDevices(const QList<Device>& newDevices);
 
     QVector<DeviceItem> Devices() const;
     QStringList Modes() const;
     QVector<double> FrameRates() const;
 
-    /// What is chosen; empty and 0 while there is no device.
+    /// The current choices; empty and 0 without a device.
     QString CurrentDeviceId() const;
     QString CurrentDeviceName() const;
     QString CurrentMode() const { return mode; }
     double CurrentFrameRate() const { return frameRate; }
     Device CurrentDevice() const { return current; }
 
-    /// Choices of the person. What is not on offer is ignored; the choice of now again does nothing.
+    /// Choices of the user. Unavailable and current values are ignored.
     void ChooseDevice(const QString& id);
     void ChooseMode(const QString& name);
     void ChooseFrameRate(double rate);
 
-    /// How to record. The drawing colour lets through what lies under it: its opacity is at most the maximum.
+    /// Settings of the recording. The drawing colour is translucent: its opacity is at most the maximum.
     static constexpr double MAXIMUM_DRAWING_ALPHA = 0.8;
     RecordingMode CurrentRecordingMode() const { return recordingMode; }
     QColor CurrentDrawingColor() const { return drawingColor; }
     ClickSound CurrentClickSound() const { return clickSound; }
 
-    /// Choices of the person, as above: what there is not is ignored.
+    /// Choices of the user. Invalid values are ignored.
     void ChooseRecordingMode(RecordingMode newMode);
     void ChooseDrawingColor(QColor color);
     void ChooseClickSound(ClickSound sound);
 
     Status GetStatus() const { return status; }
 
-    /// Starts, or starts again after a failure.
+    /// Starts the stream, also after a failure.
     void Start();
     void Stop();
 
-    /// To be called when the device turned out not to work. Ignored unless it should run.
+    /// Call it when the device fails. Ignored unless the stream runs.
     void ReportFailure();
 
 Q_SIGNALS:
-    /// The offer of devices, modes or rates, or the choice among them, is another one.
+    /// Emitted when the available or current devices, modes or rates change.
     void OfferChanged();
 
-    /// Recording mode, drawing colour or click sound is another one.
+    /// Emitted when the recording mode, drawing colour or click sound changes.
     void RecordingChanged();
 
-    /// The status is another one.
+    /// Emitted when the status changes.
     void StatusChanged();
 
-    /// The picture has to be started with what is chosen now, whether one runs or not.
+    /// Emitted when the stream must be started or restarted with the current choices.
     void RestartNeeded();
 
 private:
@@ -117,7 +117,7 @@ private:
     ClickSound clickSound = ClickSound::SoftClick;
 };
 
-/// A rate for people, without a unit: "30" or "29.97".
+/// Returns a rate without a unit: "30" or "29.97".
 QString FrameRateText(double rate);
 
 } // namespace Zelkor::Recorder

@@ -41,7 +41,7 @@ constexpr int MARGIN = 16;
 constexpr int SPACING = 12;
 constexpr int SMALL_SPACING = 8;
 
-// Minutes and seconds, also of an hour.
+// Returns minutes and seconds; minutes may exceed 59.
 QString DurationText(int seconds)
 {
     return QStringLiteral("%1:%2")
@@ -132,7 +132,7 @@ ButtonWithPopUpContainer* RecorderView::CreatePanelButton(const QString& icon, Q
     button->setFocusPolicy(Qt::StrongFocus);
     button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     button->setIcon(ZStyleSheet::icon(icon));
-    // The bar is at the lower end of the window, and often of the screen.
+    // Opens upwards: the bar is often at the bottom of the screen.
     const bool mirrored = layoutDirection() == Qt::RightToLeft;
     button->SetPreferredPopupAnchor(mirrored ? ButtonWithPopUpContainer::ANCHOR_TOP_RIGHT
                                              : ButtonWithPopUpContainer::ANCHOR_TOP_LEFT);
@@ -160,7 +160,7 @@ void RecorderView::CreateErrorBanner()
     errorBanner->hide();
 }
 
-// What lies over the picture, so that nothing moves when it comes.
+// Widgets over the picture, which do not affect the layout.
 void RecorderView::CoverStage()
 {
     snapshot = new Snapshot(stage->Preview());
@@ -250,7 +250,7 @@ void RecorderView::ShowStatus()
     errorBanner->setVisible(failed);
 }
 
-// The thumbnail is the person in front of the camera; of the screen, it would show itself.
+// Only for cameras: a thumbnail of the screen would contain itself.
 bool RecorderView::CanHaveSnapshot() const
 {
     const auto device = model->CurrentDevice();
@@ -294,7 +294,7 @@ void RecorderView::Retranslate()
     settingsButton->setToolTip(tr("Settings of the device"));
     settingsButton->setAccessibleName(tr("Settings of the device"));
     stage->Preview()->setAccessibleName(tr("Live picture"));
-    // The bar stands still whatever the buttons say.
+    // Keeps the width for all texts of the buttons.
     recordButton->setMinimumWidth(0);
     SetTextBesideIcon(recordButton, tr("End"));
     const int width = recordButton->sizeHint().width();

@@ -24,10 +24,10 @@ class RecorderModel;
 class Recording;
 class Snapshot;
 
-/// The recorder: a large live picture, what it shows above, and the controls below.
+/// The recorder: a large live picture, a status line above it and the controls below.
 ///
-/// The picture runs while the view is visible and the model wants it. Its actions, which have shortcuts, are those of
-/// the capture bar; a window adds them to itself. Model and preferences have to outlive the view.
+/// The stream runs while the view is visible and the model's status is Running. The `actions()` are those of the
+/// capture bar: add them to the window. Model and preferences must outlive the view.
 class RecorderView : public QWidget
 {
     Q_OBJECT
@@ -35,11 +35,10 @@ class RecorderView : public QWidget
 public:
     RecorderView(RecorderModel* model, const Preferences* preferences, QWidget* parent = nullptr);
 
-    /// Gives the focus to the button that starts a recording. The view is no focus proxy: Tab goes straight to the
-    /// proxy of a widget that it comes to, and would pass everything before it.
+    /// Sets the focus on the record button. The view has no focus proxy, because Tab would skip the widgets before it.
     void FocusRecordButton();
 
-    /// Shows new users where to begin. The view must be visible.
+    /// Shows a hint for new users. The view must be visible.
     void ShowFirstHint();
 
 protected:

@@ -41,7 +41,7 @@ RecorderWindow::RecorderWindow(RecorderModel* model, Preferences* preferences, E
         titleBar->AddWidget(button);
     }
     titleBar->AddSeparator();
-    // A frameless window has no edge to take hold of.
+    // A frameless window cannot be resized by its edges.
     sizeGrip = new QSizeGrip(this);
     addActions(view->actions());
     view->FocusRecordButton();

@@ -27,11 +27,11 @@ class RecorderWindow : public QWidget
 public:
     RecorderWindow(RecorderModel* model, Preferences* preferences, Examples::Appearance* appearance);
 
-    /// Shows new users where to begin. The window must be visible.
+    /// Shows a hint for new users. The window must be visible.
     void ShowFirstHint();
 
 Q_SIGNALS:
-    /// A button of the title bar was clicked.
+    /// Emitted when a button of the title bar is clicked.
     void TrimmerRequested();
     void StyleEditorRequested();
 

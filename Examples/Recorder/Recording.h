@@ -7,7 +7,7 @@
 
 namespace Zelkor::Recorder {
 
-/// A recording as the recorder shows it: a countdown first, then the time that has gone by. Nothing is written.
+/// A simulated recording: a countdown, then the elapsed time. Writes no file.
 ///
 /// GUI thread.
 class Recording : public QObject
@@ -17,22 +17,22 @@ class Recording : public QObject
 public:
     enum class State { Idle, CountingDown, Running };
 
-    /// `second` is how long a second takes.
+    /// `second` is the length of a second, which tests shorten.
     explicit Recording(QObject* parent = nullptr, std::chrono::milliseconds second = std::chrono::seconds(1));
 
     State GetState() const { return state; }
 
-    /// What is left of the countdown, or how long the recording runs; 0 when there is none.
+    /// The remaining seconds of the countdown or the elapsed ones of the recording; 0 when idle.
     int Seconds() const { return seconds; }
 
-    /// Begins after a countdown; at once when it is 0 or less. Does nothing unless idle.
+    /// Starts recording after a countdown, at once if that is 0 or less. Does nothing unless idle.
     void Start(int countdownSeconds);
 
-    /// Ends the recording or its countdown.
+    /// Stops the recording or its countdown.
     void Stop();
 
 Q_SIGNALS:
-    /// The state or the seconds are others.
+    /// Emitted when the state or the seconds change.
     void Changed();
 
 private:

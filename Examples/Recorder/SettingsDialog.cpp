@@ -32,7 +32,7 @@ using namespace Examples;
 
 namespace {
 
-constexpr int SPACING = 8; ///< also around the pages, and around what is on them
+constexpr int SPACING = 8; ///< also the margin of the pages and their content
 constexpr int FIELD_WIDTH = 320;
 constexpr int COUNTDOWNS[] = {0, 3, 5, 10};
 constexpr int MEGABYTES_PER_MINUTE[] = {6, 15, 40, 180}; ///< by quality
@@ -62,7 +62,7 @@ QVBoxLayout* MakePageLayout(QWidget* page)
     return layout;
 }
 
-// The items of a slider stay; their texts are those of the language.
+// Translates the items of a slider.
 void SetTexts(SliderWithTickLabels* slider, const QStringList& texts)
 {
     if (slider->CurrentText().isEmpty())
@@ -87,11 +87,11 @@ SettingsDialog::SettingsDialog(Preferences* preferences, Appearance* appearance,
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(SPACING, SPACING, SPACING, SPACING);
     layout->setSpacing(0);
-    // Before what is below it, also for Tab.
+    // Created first, for the tab order.
     new CustomTitleBar(this);
     layout->addWidget(tabs);
     layout->addWidget(pages);
-    // The dialog follows its page.
+    // The dialog resizes with its page.
     this->layout()->setSizeConstraint(QLayout::SetFixedSize);
 
     for (QWidget* page : {CreateGeneralPage(), CreateRecordingPage(), CreatePointerPage()}) {
@@ -246,7 +246,7 @@ void SettingsDialog::Retranslate()
     MeasureCurrentPage();
 }
 
-// The stack measures a page when it comes up, and these texts came later.
+// The stack measures a page when it is shown, which was before its texts changed.
 void SettingsDialog::MeasureCurrentPage()
 {
     const int index = pages->currentIndex();

@@ -24,7 +24,7 @@ namespace Zelkor::Recorder {
 
 struct Preferences;
 
-/// The settings dialog, with one page for each subject. It fits its current page; changes take effect at once.
+/// The settings dialog, with one page per topic. It resizes to its current page; changes take effect at once.
 ///
 /// Preferences and appearance must outlive the dialog.
 class SettingsDialog : public QDialog

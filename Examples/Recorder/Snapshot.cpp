@@ -11,7 +11,7 @@ namespace Zelkor::Recorder {
 namespace {
 
 constexpr int SIDE = 72;
-constexpr int RING = 2; ///< drawn by the style sheet, whose radius goes with the size
+constexpr int RING = 2; ///< drawn by the style sheet, whose radius depends on the size
 constexpr int DISTANCE = 8;
 constexpr int INTERVAL_MS = 400;
 
@@ -64,7 +64,7 @@ void Snapshot::hideEvent(QHideEvent* event)
 {
     QFrame::hideEvent(event);
     timer.stop();
-    // The next picture is another one.
+    // Schedules the next picture.
     thumbnail->SetPixmap(QPixmap());
 }
 

@@ -9,15 +9,15 @@ class PixmapWidget;
 
 namespace Zelkor::Recorder {
 
-/// A round thumbnail of what another widget shows, taken anew a few times a second while it is visible.
+/// A round thumbnail of another widget, updated a few times a second while visible.
 ///
-/// It lies over the upper corner of that widget where lines of text end.
+/// Placed over the upper trailing corner of that widget.
 class Snapshot : public QFrame
 {
     Q_OBJECT
 
 public:
-    /// `source` has the same parent, else it would be on the picture itself, and has to outlive the snapshot.
+    /// `source` must outlive the snapshot and have the same parent, so that the picture does not contain the snapshot.
     explicit Snapshot(QWidget* source);
 
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -33,7 +33,7 @@ QString IconOf(StandIn::CaptureDevice::Kind kind)
     }
 }
 
-// Nothing hears this: the panel listens to what a person activates.
+// Emits nothing that the panel handles: it connects to activated() only.
 template<class Value>
 void Select(QComboBox* combo, const Value& value)
 {

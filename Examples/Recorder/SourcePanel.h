@@ -9,7 +9,7 @@ namespace Zelkor::Recorder {
 
 class RecorderModel;
 
-/// Chooses device, mode and frame rate of a model. The model, which has to outlive the panel, decides what is on offer.
+/// Chooses device, mode and frame rate of a model, which must outlive the panel.
 class SourcePanel : public QWidget
 {
     Q_OBJECT

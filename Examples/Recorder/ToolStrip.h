@@ -10,7 +10,7 @@ class ScrollablePanelWithItem;
 
 namespace Zelkor::Recorder {
 
-/// The tools for drawing on the picture, one of them chosen. Scrolls where there is no room for all.
+/// The tools for drawing on the picture, one of them checked. Scrolls if it is too narrow.
 class ToolStrip : public QWidget
 {
     Q_OBJECT

@@ -8,7 +8,7 @@ namespace {
 
 constexpr qint64 SHORTEST = 40;
 
-// In order; cuts that touch or overlap are one.
+// Sorts cuts and merges those that touch or overlap.
 QVector<TrimModel::Range> Tidy(QVector<TrimModel::Range> cuts)
 {
     std::sort(cuts.begin(), cuts.end(), [](const auto& a, const auto& b) { return a.from < b.from; });
@@ -24,7 +24,7 @@ QVector<TrimModel::Range> Tidy(QVector<TrimModel::Range> cuts)
 
 } // namespace
 
-/// One change of the trim, as it was and as it is.
+/// A change of the trim, with the old and new values.
 class TrimModel::Change : public QUndoCommand
 {
 public:

@@ -7,9 +7,9 @@
 
 namespace Zelkor::Recorder {
 
-/// How a recording is trimmed: where it starts and ends, and what is cut out between. Every change can be undone.
+/// The trim of a recording: its start, its end and the ranges cut out between. Every change can be undone.
 ///
-/// Times are in milliseconds from the beginning of the recording. Knows no widget. GUI thread.
+/// Times are in milliseconds from the start of the recording. Independent of widgets. GUI thread.
 class TrimModel : public QObject
 {
     Q_OBJECT
@@ -26,33 +26,33 @@ public:
     struct Trim
     {
         Range kept;
-        QVector<Range> cuts; ///< in order, without touching each other; also of what is not kept for now
+        QVector<Range> cuts; ///< sorted and disjoint, also outside of the kept range
 
         bool operator==(const Trim& other) const { return kept == other.kept && cuts == other.cuts; }
     };
 
-    /// Keeps all of a recording this long.
+    /// Creates an empty trim of a recording with this duration.
     explicit TrimModel(qint64 duration, QObject* parent = nullptr);
 
     qint64 Duration() const { return duration; }
     const Trim& Current() const { return trim; }
 
-    /// The pieces that make up the result, in order, and how long they are together.
+    /// The remaining ranges, in order, and their total duration.
     QVector<Range> Pieces() const;
     qint64 ResultDuration() const;
 
-    /// Start and end go no closer to each other than a frame of 40 milliseconds.
+    /// Keeps at least a frame of 40 ms between start and end.
     void SetStart(qint64 time);
     void SetEnd(qint64 time);
 
-    /// Takes a stretch out of the middle, whichever of the two times comes first.
+    /// Cuts out the range between two times, in either order.
     void CutOut(qint64 from, qint64 to);
 
-    /// All changes from now on, until the step is finished, are one step to undo. A drag is one.
+    /// Groups the changes until the step is finished into one undo step, for example of a drag.
     void StartStep();
     void FinishStep();
 
-    /// Takes back what was changed since the step started. Does nothing when none has.
+    /// Reverts the changes since the step started. Does nothing without a step.
     void CancelStep();
     bool HasOpenStep() const;
 
@@ -62,7 +62,7 @@ public:
     void Redo();
 
 Q_SIGNALS:
-    /// The trim is another one, or what can be undone is.
+    /// Emitted when the trim or the undo stack changes.
     void Changed();
 
 private:

@@ -30,7 +30,7 @@ constexpr int CARD_SPACING = 16;
 constexpr int DURATION = 5 * 60 * 1000;
 constexpr int TIMELINE_STEPS = 6000; ///< of 50 milliseconds
 constexpr qint64 KEY_STEP = 1000;    ///< milliseconds
-constexpr int STEP_UNITS = 120;      ///< that a thumb tells of one step
+constexpr int STEP_UNITS = 120;      ///< that a thumb reports per step
 const QStringList TIME_FORMATS = {"mm:ss", "mm:ss.zzz", "hh:mm:ss.zzz"};
 const QString CUT_MARK = "mark";
 
@@ -79,7 +79,7 @@ TrimPage::TrimPage(QWidget* parent) : QWidget(parent), model(DURATION)
     ShowPosition();
 }
 
-// A thumb ends its drag when it is hidden, which the base class does after the model is destroyed.
+// A thumb ends its drag when it is hidden, which ~QWidget() causes after the model is destroyed.
 TrimPage::~TrimPage()
 {
     start->disconnect(this);
@@ -187,7 +187,7 @@ qint64 TrimPage::BracketTime(const ZSliderThumb* thumb) const
     return thumb == start ? model.Current().kept.from : model.Current().kept.to;
 }
 
-// The first time marks where the cut begins, the second one where it ends.
+// The first call marks the start of the cut, the second one its end.
 void TrimPage::ToggleCut()
 {
     const qint64 now = timeline->time();
@@ -206,7 +206,7 @@ void TrimPage::ToggleCut()
     Retranslate();
 }
 
-// The mouse still holds the bracket; it lets it go later.
+// The mouse button is still pressed.
 void TrimPage::CancelDrag()
 {
     if (!model.HasOpenStep())

@@ -19,9 +19,9 @@ class CountdownIndicatorWidget;
 
 namespace Zelkor::Recorder {
 
-/// A recording on a timeline: brackets and time fields say what is kept, and stretches are cut out at the position.
+/// Trims a recording on a timeline: brackets and time fields set the kept range; ranges are cut out at the position.
 ///
-/// A drag of a bracket is one step to undo; the Escape key takes it back. GUI thread.
+/// A drag of a bracket is one undo step; Escape cancels it. GUI thread.
 class TrimPage : public QWidget
 {
     Q_OBJECT
@@ -51,8 +51,8 @@ private:
     void Retranslate();
 
     TrimModel model;
-    bool showing = false;       ///< the widgets take what the model has, and not the other way round
-    bool dragCancelled = false; ///< of the drag that goes on
+    bool showing = false;       ///< the widgets are updated from the model
+    bool dragCancelled = false; ///< for the current drag
     std::optional<qint64> cutFrom;
     Vx::CountdownIndicatorWidget* position;
     ZTimelineSlider* timeline;

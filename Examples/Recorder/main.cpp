@@ -26,10 +26,10 @@ using Zelkor::StandIn::DeviceList;
 
 namespace {
 
-constexpr int HINT_DELAY_MS = 800; ///< until the window system has placed the window
+constexpr int HINT_DELAY_MS = 800; ///< until the window system has positioned the window
 const QString HINT_SHOWN = QStringLiteral("firstHintShown");
 
-void Complain(const QString& text)
+void PrintError(const QString& text)
 {
     std::fprintf(stderr, "VxRecorder: %s\n", qPrintable(text));
 }
@@ -78,7 +78,7 @@ int main(int argc, char* argv[])
     QStringList arguments;
     for (int i = 0; i < argc; ++i)
         arguments.append(QString::fromLocal8Bit(argv[i]));
-    // Qt has an option --style as well, and would take ours out of the arguments.
+    // QApplication would remove our option --style, because Qt has one of that name.
     int programOnly = 1;
     QApplication application(programOnly, argv);
     QApplication::setApplicationName("VxRecorder");
@@ -86,7 +86,7 @@ int main(int argc, char* argv[])
     QCommandLineParser parser;
     Declare(parser);
     if (!parser.parse(arguments) || !parser.positionalArguments().isEmpty()) {
-        Complain(parser.errorText().isEmpty() ? "takes options only" : parser.errorText());
+        PrintError(parser.errorText().isEmpty() ? "takes options only" : parser.errorText());
         return 2;
     }
     if (parser.isSet("help")) {
@@ -97,11 +97,11 @@ int main(int argc, char* argv[])
     Appearance appearance("VxRecorder");
     QString error;
     if (!appearance.SetStyle(parser.value("style"), &error)) {
-        Complain(error);
+        PrintError(error);
         return 2;
     }
     if (parser.isSet("language") && !appearance.SetLanguage(parser.value("language")))
-        Complain(QString("there are no translations for '%1'; continuing in English").arg(parser.value("language")));
+        PrintError(QString("there are no translations for '%1'; continuing in English").arg(parser.value("language")));
     if (parser.isSet("rtl"))
         QApplication::setLayoutDirection(Qt::RightToLeft);
     QApplication::setWindowIcon(ZStyleSheet::icon("app"));
@@ -144,7 +144,7 @@ int main(int argc, char* argv[])
     QTimer::singleShot(parser.value("after").toInt(), window, [&] {
         const bool written = window->grab().save(parser.value("shot"), "PNG");
         if (!written)
-            Complain(QString("cannot write the picture '%1'").arg(parser.value("shot")));
+            PrintError(QString("cannot write the picture '%1'").arg(parser.value("shot")));
         QApplication::exit(written ? EXIT_SUCCESS : EXIT_FAILURE);
     });
     return QApplication::exec();

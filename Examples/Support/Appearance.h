@@ -16,7 +16,7 @@ public:
     /// `program` is the base name of the program's own translation files: "VxGallery" for VxGallery_de.qm.
     explicit Appearance(const QString& program, QObject* parent = nullptr);
 
-    /// The code of a language, see `AllLanguages`.
+    /// The code of the current language, see `AllLanguages`.
     QString Language() const { return language; }
 
     /// Returns false and falls back to English when there are no translations for `code`.

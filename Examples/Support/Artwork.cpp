@@ -14,7 +14,7 @@ constexpr int SPACING = 12;
 constexpr double TEXT_OPACITY = 0.75;
 
 constexpr int BUBBLE_RADIUS = 8;
-constexpr int TAIL_INSET = 24; ///< of the tail's tip, from the side of the bubble
+constexpr int TAIL_INSET = 24; ///< distance of the tail's tip from the side of the bubble
 constexpr int TAIL_HALF_WIDTH = 12;
 
 } // namespace

@@ -6,11 +6,11 @@
 
 namespace Zelkor::Examples {
 
-/// The default image of a preview of `size`: an icon of the style sheet above a line of text in `color`, on a
+/// Returns the default image of a preview of `size`: an icon of the style sheet above a line of text in `color`, on a
 /// transparent background. Null for an empty size.
 QImage NoPictureImage(const QSize& size, const QColor& color, const QString& text);
 
-/// The mask of a speech bubble of `size`, opaque inside. Its tail points down near the leading side and is
+/// Returns the mask of a speech bubble of `size`, opaque inside. Its tail points down near the leading side and is
 /// `SPEECH_BUBBLE_TAIL` pixels high.
 QImage SpeechBubbleImage(const QSize& size, Qt::LayoutDirection direction);
 

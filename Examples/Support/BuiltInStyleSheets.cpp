@@ -1,6 +1,6 @@
 #include "BuiltInStyleSheets.h"
 
-// Resources of a static library have to be registered by name, outside of any namespace.
+// Q_INIT_RESOURCE() works outside of namespaces only.
 static void RegisterStyles()
 {
     Q_INIT_RESOURCE(Styles);

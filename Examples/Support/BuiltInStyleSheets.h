@@ -4,11 +4,11 @@
 
 namespace Zelkor::Examples {
 
-/// Loads "dark" or "light", which are linked into the program, or a style sheet from a file. Returns nothing and sets
-/// `error` when that cannot be read.
+/// Loads "dark" or "light", which are linked into the program, or a style sheet from a file. Returns std::nullopt and
+/// sets `error` if the file cannot be read.
 std::optional<ZStyleSheet> LoadStyleSheet(const QString& nameOrFile, QString* error = nullptr);
 
-/// Whether `name` is that of a style sheet linked into the program.
+/// Returns whether `name` is that of a style sheet linked into the program.
 bool IsBuiltInStyleSheet(const QString& name);
 
 } // namespace Zelkor::Examples

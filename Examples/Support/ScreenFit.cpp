@@ -8,7 +8,7 @@ namespace Zelkor::Examples {
 
 void FitToScreen(QWidget* window)
 {
-    // The window system adds the real frame when the window is shown, which is too late.
+    // The real frame is unknown until the window is shown.
     const bool isFramed = !window->windowFlags().testFlag(Qt::FramelessWindowHint);
     const int title = isFramed ? window->style()->pixelMetric(QStyle::PM_TitleBarHeight) : 0;
     const QSize room = window->screen()->availableSize() - QSize(0, title);

@@ -9,7 +9,7 @@ namespace Zelkor::Examples {
 
 namespace {
 
-// In the build folder, in an installed tree, and where Qt has its own.
+// The build folder, the installed tree and the folder of Qt's translations.
 QStringList TranslationFolders()
 {
     const QDir program(QApplication::applicationDirPath());
@@ -55,7 +55,7 @@ bool Translations::Install(const QString& code)
     bool found = false;
     for (const QString& name : {QStringLiteral("qtbase"), QStringLiteral("VxUiWidgets"), program}) {
         auto translator = Load(name + "_" + code);
-        // The last one, the program's own, decides. Qt's need not be installed.
+        // Depends on the last one, that of the program. Qt's need not be installed.
         found = translator != nullptr;
         if (found) {
             QApplication::installTranslator(translator.get());

@@ -12,11 +12,11 @@ namespace Zelkor::Examples {
 
 struct Language
 {
-    QString code; ///< as in the names of the translation files
+    QString code; ///< as in the file names of translations
     QString name; ///< in the language itself
 };
 
-/// The languages with translations; the first is that of the source texts.
+/// Returns the languages with translations, that of the source texts first.
 const QVector<Language>& AllLanguages();
 
 /// Installs the translations of a program, of the library and of Qt. GUI thread.
