@@ -36,22 +36,22 @@ bool MakeFolder(const QString& folder)
 {
     if (QDir().mkpath(folder))
         return true;
-    Complain(QString("cannot make the folder '%1'").arg(folder));
+    PrintError(QString("cannot make the folder '%1'").arg(folder));
     return false;
 }
 
 int Save(const QImage& picture, const QString& file)
 {
-    // Of a PNG, the quality is the effort: 0 makes the smallest file.
+    // For PNG, the quality is the compression: 0 writes the smallest file.
     if (picture.save(file, "PNG", 0))
         return EXIT_SUCCESS;
-    Complain(QString("cannot write the picture '%1'").arg(file));
+    PrintError(QString("cannot write the picture '%1'").arg(file));
     return EXIT_FAILURE;
 }
 
 } // namespace
 
-void Complain(const QString& text)
+void PrintError(const QString& text)
 {
     std::fprintf(stderr, "VxGallery: %s\n", qPrintable(text));
 }
@@ -59,16 +59,16 @@ void Complain(const QString& text)
 Application::Application(Options options) : options(std::move(options)), appearance("VxGallery")
 {
     if (!this->options.language.isEmpty() && !appearance.SetLanguage(this->options.language))
-        Complain(QString("there are no translations for '%1'; continuing in English").arg(this->options.language));
+        PrintError(QString("there are no translations for '%1'; continuing in English").arg(this->options.language));
     if (this->options.rightToLeft)
         QApplication::setLayoutDirection(Qt::RightToLeft);
     appearance.SetStyle(this->options.styleArgument);
     QApplication::setWindowIcon(ZStyleSheet::icon("app"));
-    // Two pictures of a page must differ in nothing but live content.
+    // Two pictures of a page must differ in live content only.
     if (this->options.TakesPictures())
         QApplication::setCursorFlashTime(0);
 
-    // The entries are translated when they are made, and pages are made anew after this.
+    // Entries are translated at creation. Windows recreate their pages after this.
     QObject::connect(&appearance, &Examples::Appearance::LanguageChanged, &editStyle,
                      [] { Catalogue::RetranslateEntries(); });
     editStyle.setShortcut(Qt::Key_F12);
@@ -117,7 +117,7 @@ void Application::MakeGallery()
                      [this](double scale, const QString& page) { Restart(scale, page); });
 }
 
-// What makes another program look as this one does now.
+// Returns the arguments that give another program the current look.
 QStringList Application::LookArguments() const
 {
     const QString style = appearance.StyleName().isEmpty() ? options.styleArgument : appearance.StyleName();
@@ -131,7 +131,7 @@ void Application::StartRecorder()
 {
     const QString program = QDir(QApplication::applicationDirPath()).filePath("VxRecorder");
     if (!QProcess::startDetached(program, LookArguments()))
-        Complain(QString("cannot start '%1'").arg(program));
+        PrintError(QString("cannot start '%1'").arg(program));
 }
 
 void Application::Restart(double scale, const QString& page)
@@ -142,7 +142,7 @@ void Application::Restart(double scale, const QString& page)
     if (QProcess::startDetached(QApplication::applicationFilePath(), arguments))
         QApplication::quit();
     else
-        Complain("cannot start another gallery");
+        PrintError("cannot start another gallery");
 }
 
 void Application::OpenStyleEditor()
@@ -159,12 +159,12 @@ void Application::OpenStyleEditor()
 int Application::TakePictureOfPage(const QString& page, const QString& file)
 {
     QWidget* window = OpenPage(page);
-    // Half of the time goes by before the button is pressed: the window system may still move the window.
+    // Waits before the click as well: the window system may still move the window.
     Wait(options.after / 2);
     if (!options.press.isEmpty()) {
         QAbstractButton* button = FindButton(window, options.press);
         if (!button) {
-            Complain(QString("there is no button '%1' on this page").arg(options.press));
+            PrintError(QString("there is no button '%1' on this page").arg(options.press));
             return EXIT_BAD_USE;
         }
         button->click();
@@ -191,7 +191,7 @@ int Application::TakePicturesOfWidgets()
         return EXIT_FAILURE;
     for (const Catalogue::Entry& entry : Catalogue::Entries()) {
         QWidget backdrop;
-        // Else the widget would have the focus, and show it.
+        // Keeps the focus off the widget.
         backdrop.setFocusPolicy(Qt::StrongFocus);
         backdrop.setFocus();
         QWidget* widget = CreateInState(entry, entry.states[entry.pictured], &backdrop);

@@ -14,14 +14,14 @@ namespace Zelkor::Gallery {
 
 class GalleryWindow;
 
-/// The program behind its command line: windows, devices, and pictures. Needs a `QApplication`.
+/// Runs the program with its options: opens windows or writes pictures. Needs a `QApplication`.
 class Application
 {
 public:
     explicit Application(Options options);
     ~Application();
 
-    /// Shows the window, or takes the pictures that were asked for. The program's exit code.
+    /// Shows the window or writes the requested pictures. Returns the program's exit code.
     int Run();
 
 private:
@@ -37,12 +37,12 @@ private:
 
     const Options options;
     Examples::Appearance appearance;
-    QAction editStyle; ///< with its shortcut in every window
+    QAction editStyle; ///< with a shortcut for every window
     std::unique_ptr<GalleryWindow> gallery;
     std::unique_ptr<ZRuntimeStylesheetEditor> styleEditor;
 };
 
-/// Writes one line to standard error, under the program's name.
-void Complain(const QString& text);
+/// Writes one line to standard error, prefixed with the program's name.
+void PrintError(const QString& text);
 
 } // namespace Zelkor::Gallery

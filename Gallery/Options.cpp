@@ -57,7 +57,7 @@ std::optional<QSize> ParseSize(const QString& text)
 
 QString HelpText(const QCommandLineParser& parser, const QStringList& arguments)
 {
-    // The parser takes the program's name from an application object.
+    // QCommandLineParser gets the program's name from an application object.
     QByteArray name = QFileInfo(arguments.value(0)).fileName().toLocal8Bit();
     char* argument = name.data();
     int count = 1;
@@ -65,7 +65,7 @@ QString HelpText(const QCommandLineParser& parser, const QStringList& arguments)
     return parser.helpText().trimmed();
 }
 
-// What the values have to be; an empty text when they are. The rest of the options is taken over on the way.
+// Sets the options from the values. Returns an error, or an empty text.
 QString TakeValues(const QCommandLineParser& parser, Options& options)
 {
     if (parser.isSet("size")) {

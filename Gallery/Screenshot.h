@@ -8,11 +8,11 @@ class QWidget;
 
 namespace Zelkor::Gallery {
 
-/// The picture of a window, with the pop-ups and dialogs that lie over it.
+/// Returns a picture of a window with its pop-ups and dialogs.
 QImage TakePicture(QWidget* window);
 
-/// The visible button in `window` that shows `text`, with or without its mnemonic mark, or is named so for assistive
-/// technology; null when there is none.
+/// Returns the visible button in `window` with `text` as its text, with or without the mnemonic, or as its accessible
+/// name; otherwise null.
 QAbstractButton* FindButton(const QWidget* window, const QString& text);
 
 } // namespace Zelkor::Gallery

@@ -27,7 +27,7 @@ QStringList ArgumentsOf(int argc, char* argv[])
     return arguments;
 }
 
-// On Windows a program with windows has no console. What it prints goes to the one that it was started from, if any.
+// On Windows a GUI program has no console. Attaches to that of the parent process, if any.
 void FindConsole()
 {
 #if defined(Q_OS_WIN)
@@ -38,7 +38,7 @@ void FindConsole()
 #endif
 }
 
-// Only where windows come from a server that may not be there.
+// Only for platforms with a display server.
 bool IsWithoutDisplay()
 {
 #if defined(Q_OS_UNIX) && !defined(Q_OS_MACOS)
@@ -53,11 +53,11 @@ void GoWithoutDisplay(Options& options)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     if (options.TakesPictures()) {
-        Complain("there is no display; running without a window");
+        PrintError("there is no display; running without a window");
         return;
     }
     options.shot = options.fallbackShot;
-    Complain(QString("there is no display; running without a window, the picture goes to '%1'").arg(options.shot));
+    PrintError(QString("there is no display; running without a window, the picture goes to '%1'").arg(options.shot));
 }
 
 } // namespace
@@ -72,7 +72,7 @@ int main(int argc, char* argv[])
         if (ending->exitCode == 0)
             std::puts(qPrintable(ending->text));
         else
-            Complain(ending->text);
+            PrintError(ending->text);
         return ending->exitCode;
     }
 
@@ -87,20 +87,20 @@ int main(int argc, char* argv[])
         qputenv("QT_SCALE_FACTOR", QByteArray::number(options.scale));
     QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
-    // The options are ours: Qt has one called --style as well.
+    // QApplication would remove our option --style, because Qt has one of that name.
     int programOnly = 1;
     QApplication qtApplication(programOnly, argv);
     QApplication::setApplicationName("VxGallery");
     Zelkor::Examples::AdaptToOffscreen();
-    // The scale of the screen, and of the environment, comes on top.
+    // The device pixel ratio also includes the scale of the screen and the environment.
     const QSize pixels = options.size * qtApplication.devicePixelRatio();
     if (qMax(pixels.width(), pixels.height()) > LARGEST_SIDE) {
-        Complain(QString("--size %1x%2 is %3x%4 pixels at this scale; sides may have up to %5")
-                     .arg(options.size.width())
-                     .arg(options.size.height())
-                     .arg(pixels.width())
-                     .arg(pixels.height())
-                     .arg(LARGEST_SIDE));
+        PrintError(QString("--size %1x%2 is %3x%4 pixels at this scale; sides may have up to %5")
+                       .arg(options.size.width())
+                       .arg(options.size.height())
+                       .arg(pixels.width())
+                       .arg(pixels.height())
+                       .arg(LARGEST_SIDE));
         return EXIT_BAD_USE;
     }
     return Application(options).Run();

@@ -52,7 +52,7 @@ void FlowLayout::setGeometry(const QRect& rect)
     Arrange(rect, true);
 }
 
-/// The height that the items take in the width of `rect`; with `place`, they are put there.
+/// Returns the height of the items at the width of `rect`; sets their geometry if `place` is true.
 int FlowLayout::Arrange(const QRect& rect, bool place) const
 {
     const QMargins margins = contentsMargins();

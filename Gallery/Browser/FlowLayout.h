@@ -5,8 +5,7 @@
 
 namespace Zelkor::Gallery {
 
-/// Lays out items one after the other, each at its preferred size, and goes on in a new row where the width ends. Runs
-/// in the direction of its widget. Owns its items as any layout.
+/// Arranges items in rows, each at its size hint, in the layout direction of its widget. Owns its items.
 class FlowLayout : public QLayout
 {
     Q_OBJECT

@@ -12,7 +12,7 @@ namespace Zelkor::Gallery {
 
 namespace {
 
-constexpr int COMPACT_BELOW = 720; ///< width of the window below which the list shows icons only
+constexpr int COMPACT_BELOW = 720; ///< window width below which the list shows icons only
 constexpr QSize PREFERRED_SIZE(1200, 720);
 
 } // namespace

@@ -16,14 +16,14 @@ namespace Zelkor::Gallery {
 class SceneBar;
 class WidgetPage;
 
-/// The window of the gallery: the list of pages, the tool bar, and the current page. Only the current page exists, so
-/// that nothing runs while hidden. `appearance` must outlive the window.
+/// The gallery's window: the list of pages, the tool bar and the current page. Deletes other pages, so that no stream
+/// runs hidden. `appearance` must outlive the window.
 class GalleryWindow : public QWidget
 {
     Q_OBJECT
 
 public:
-    /// `scale` is the one that the program runs with.
+    /// `scale` is the scale factor of the running program.
     explicit GalleryWindow(Examples::Appearance* appearance, double scale = 1, QWidget* parent = nullptr);
 
     /// Opens a page. Unknown names are ignored.
@@ -33,7 +33,7 @@ Q_SIGNALS:
     void RecorderRequested();
     void StyleEditorRequested();
 
-    /// Another scale was chosen, which takes effect when the program starts.
+    /// Emitted when the user chooses a scale factor, which requires a restart.
     void RestartRequested(double scale, const QString& page);
 
 protected:
@@ -50,7 +50,7 @@ private:
     PageList* list;
     SceneBar* bar;
     QVBoxLayout* body;
-    QTimer renewal; ///< of the page, when all who are told of a change know of it
+    QTimer renewal; ///< recreates the page after all receivers of a change event
     QWidget* page = nullptr;
 };
 

@@ -22,7 +22,7 @@ constexpr int ICON_SIZE = 20;
 constexpr int PAGE_NAME_ROLE = Qt::UserRole;
 constexpr int GROUP_ROLE = Qt::UserRole + 1;
 
-// Headings of groups cannot be chosen, so they have no page name.
+// Group headings are not selectable and have no page name.
 QString PageOf(const QListWidgetItem* item)
 {
     return item ? item->data(PAGE_NAME_ROLE).toString() : QString();
@@ -103,7 +103,7 @@ void PageList::Retranslate()
         tr("Search the pages (%1)").arg(QKeySequence(QKeySequence::Find).toString(QKeySequence::NativeText)));
     const QString page = CurrentPage();
     {
-        // The page is the same, in other words.
+        // The current page does not change.
         const QSignalBlocker blocker(list);
         list->clear();
         Fill();

@@ -8,15 +8,15 @@ class QListWidgetItem;
 
 namespace Zelkor::Gallery {
 
-/// The name of the page that the gallery opens with.
+/// Returns the name of the first page.
 QString StartPageName();
 
-/// The names of all pages, in order: the start page, then one for each class of the catalogue.
+/// Returns the names of all pages in order: the start page, then one per class of the catalogue.
 QStringList PageNames();
 
-/// The list of the pages under their groups, with a field to search in it: names and groups that hold the text stay.
+/// The list of pages by group, with a search field that filters by page and group name.
 ///
-/// Ctrl+F goes to the field, from there Down to the list and Return to the first hit, and Escape clears it.
+/// Ctrl+F focuses the field; Down focuses the list, Return opens the first match and Escape clears the field.
 class PageList : public QWidget
 {
     Q_OBJECT
@@ -24,19 +24,19 @@ class PageList : public QWidget
 public:
     explicit PageList(QWidget* parent = nullptr);
 
-    /// Opens a page; a name that is no page is ignored.
+    /// Opens a page. Ignores unknown names.
     void OpenPage(const QString& name);
 
-    /// Gives the focus to the list; as the focus proxy it would keep Tab from the search field.
+    /// Sets the focus on the list. A focus proxy would make Tab skip the search field.
     void FocusList();
 
-    /// The name of the open page, empty for none.
+    /// Returns the name of the current page, empty for none.
     QString CurrentPage() const;
 
-    /// Writes the texts anew, those of the catalogue too. The page stays open.
+    /// Updates all texts, also those of the catalogue, and keeps the current page.
     void Retranslate();
 
-    /// Shows icons only, and tool tips for the names. A search shows all.
+    /// Shows icons with tool tips instead of names, except during a search.
     void SetCompact(bool on);
 
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -26,7 +26,7 @@ QString ScaleText(double scale)
     return SceneBar::tr("%1 %").arg(qRound(scale * 100));
 }
 
-// A button that opens a menu needs no arrow to say so in a row of buttons.
+// Without the arrow of QToolButton, for buttons of equal width.
 QMenu* MakeMenu(QToolButton* button)
 {
     auto* menu = new QMenu(button);
@@ -41,7 +41,7 @@ void Name(QToolButton* button, const QString& text, const QString& toolTip)
     button->setToolTip(toolTip);
 }
 
-// Style sheets choose by this property, and match their rules when they polish.
+// Style sheets evaluate property selectors when they polish.
 void SetButtonStyle(QToolButton* button, Qt::ToolButtonStyle style)
 {
     if (button->toolButtonStyle() == style)
@@ -58,7 +58,7 @@ SceneBar::SceneBar(Appearance* appearance, double scale, QWidget* parent)
       enabled(AddButton("check", true)), styleEditor(AddButton("style", false)), inspector(AddButton("inspector", true))
 {
     setObjectName("sceneBar");
-    // Where the texts have no room, the icons have; a window may be that narrow.
+    // A narrow window shows icons only.
     setMinimumWidth(1);
     setAttribute(Qt::WA_StyledBackground);
     auto* layout = new QHBoxLayout(this);
@@ -169,7 +169,7 @@ void SceneBar::ShowAppearance()
     ShowTexts();
 }
 
-// Where there is no room for all texts, the icons remain.
+// Shows icons only if the texts do not fit.
 void SceneBar::ShowTexts()
 {
     int wanted = 2 * MARGIN + SPACING * buttons.size();

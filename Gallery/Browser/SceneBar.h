@@ -33,7 +33,7 @@ Q_SIGNALS:
     void InspectorRequested(bool on);
     void StyleEditorRequested();
 
-    /// A scale was chosen. Qt reads its scale when a program starts.
+    /// Emitted when the user chooses a scale factor, which Qt reads when a program starts.
     void RestartRequested(double scale);
 
 protected:
@@ -47,7 +47,7 @@ private:
 
     Examples::Appearance* appearance;
     const double scale;
-    QVector<QToolButton*> buttons; ///< all of them, in order
+    QVector<QToolButton*> buttons; ///< all tool buttons, in order
     QToolButton* style;
     QToolButton* direction;
     QToolButton* language;

@@ -72,7 +72,7 @@ StartPage::StartPage(QWidget* parent) : QScrollArea(parent)
     setFrameShape(QFrame::NoFrame);
     // The button and the samples take the focus; QScrollArea scrolls to them.
     setFocusPolicy(Qt::NoFocus);
-    // As narrow as the window: the texts wrap.
+    // The texts wrap, so that the page can be narrow.
     setMinimumWidth(1);
 }
 

@@ -9,8 +9,8 @@ struct State;
 
 namespace Zelkor::Gallery {
 
-/// A captioned card with a widget in one of its states. It can have the focus, so that the keyboard reaches widgets
-/// that take none themselves.
+/// A captioned card with a widget in one of its states. Takes the focus, so that the keyboard can select widgets
+/// without a focus policy.
 class StateCard : public ZFrame
 {
     Q_OBJECT
@@ -20,10 +20,10 @@ public:
 
     QWidget* Widget() const { return widget; }
 
-    /// Whether the card looks chosen.
+    /// Sets whether the card looks selected.
     void SetSelected(bool on);
 
-    /// Disables the widget without touching its own `enabled`, or lets go of it.
+    /// Disables the widget through its parent, or restores its own `enabled` state.
     void SetWidgetEnabled(bool on) { holder->setEnabled(on); }
 
 private:

@@ -26,7 +26,7 @@ namespace {
 constexpr int MARGIN = 24;
 constexpr int HEADING_SPACING = 4;
 constexpr int CARD_SPACING = 16;
-constexpr int NARROW_BELOW = 680; ///< width of the page below which two columns are too many
+constexpr int NARROW_BELOW = 680; ///< page width below which the inspector is below the cards
 constexpr int INSPECTOR_WIDTH = 352;
 
 QLabel* CreateText(const QString& objectName, const QString& text)
@@ -37,7 +37,7 @@ QLabel* CreateText(const QString& objectName, const QString& text)
     return label;
 }
 
-// What the constructor of the class leaves, before any style sheet or state has a say.
+// Returns the defaults of the constructor, without style sheet and state.
 QVariantMap DefaultsOf(const Catalogue::Entry& entry)
 {
     QWidget parent;
@@ -56,9 +56,9 @@ WidgetPage::WidgetPage(const Catalogue::Entry& entry, QWidget* parent)
     scrollArea->setWidget(content);
     content->setAutoFillBackground(false);
     scrollArea->setFrameShape(QFrame::NoFrame);
-    // The cards take the focus, and what they do not want of the keyboard scrolls.
+    // The cards take the focus; keys that they ignore scroll.
     scrollArea->setFocusPolicy(Qt::NoFocus);
-    // The page has to be narrow before it can arrange itself for that.
+    // Allows the page to become narrow, so that it can rearrange itself.
     setMinimumWidth(1);
     splitter->setChildrenCollapsible(false);
     splitter->addWidget(scrollArea);
@@ -69,7 +69,7 @@ WidgetPage::WidgetPage(const Catalogue::Entry& entry, QWidget* parent)
     layout->addWidget(splitter);
 
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) { SelectCardAround(now); });
-    // A press on a widget that takes no focus chooses its card as well.
+    // A press on a widget without a focus policy selects its card as well.
     qApp->installEventFilter(this);
     SelectState(0);
     Arrange();
@@ -77,7 +77,7 @@ WidgetPage::WidgetPage(const Catalogue::Entry& entry, QWidget* parent)
 
 WidgetPage::~WidgetPage()
 {
-    // The focus moves once more while the parts are destroyed, after the page.
+    // The focus changes while ~QWidget() deletes the children.
     disconnect(qApp, nullptr, this, nullptr);
 }
 

@@ -15,8 +15,7 @@ namespace Zelkor::Gallery {
 class Inspector;
 class StateCard;
 
-/// The page of one widget: what it is, its states side by side in captioned cards, and the inspector of the state that
-/// was clicked or has the focus.
+/// The page of one widget: a description, its states in captioned cards, and the inspector of the selected card.
 class WidgetPage : public QWidget
 {
     Q_OBJECT
@@ -25,14 +24,13 @@ public:
     explicit WidgetPage(const Catalogue::Entry& entry, QWidget* parent = nullptr);
     ~WidgetPage() override;
 
-    /// Chooses a state by its index; the first one is chosen from the start. An index that is none is ignored.
+    /// Selects a state by its index, initially 0. Ignores invalid indices.
     void SelectState(int index);
     int SelectedState() const { return selected; }
 
     void SetWidgetsEnabled(bool on);
 
-    /// Without a word from the person, the inspector is there where the page is wide enough. A narrow page has it below
-    /// the states.
+    /// Until the user changes it, the inspector is visible on wide pages only. A narrow page shows it below the states.
     void SetInspectorVisible(bool on);
     bool IsInspectorVisible() const;
 

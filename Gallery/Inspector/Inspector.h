@@ -10,8 +10,7 @@ class ObjectTree;
 class PropertyPanel;
 class SignalLog;
 
-/// What there is to know about a widget of a page, in tabs: its properties, the signals of the page, the objects
-/// inside.
+/// Shows the properties and child objects of a widget and the signals of its page, in tabs.
 class Inspector : public Vx::CustomTabWidget
 {
     Q_OBJECT
@@ -19,8 +18,8 @@ class Inspector : public Vx::CustomTabWidget
 public:
     explicit Inspector(QWidget* parent = nullptr);
 
-    /// Shows `widget`; its properties are those of the part that is of the class `className`, without namespace.
-    /// `defaults` are values by property name. The widget may die at any time.
+    /// Inspects `widget`. Shows the properties of its part of class `className`, without namespace. `defaults` are
+    /// values by property name. The widget may be deleted at any time.
     void Inspect(QWidget* widget, const QString& className, const QVariantMap& defaults);
 
     PropertyPanel* Properties() const { return properties; }

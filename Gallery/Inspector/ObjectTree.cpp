@@ -26,7 +26,7 @@ ObjectTree::ObjectTree(QWidget* parent) : QTreeWidget(parent)
     header()->setSectionsMovable(false);
     setUniformRowHeights(true);
     setAllColumnsShowFocus(true);
-    // Many changes come at a time, when a widget rearranges itself.
+    // Combines the many changes of a widget that rearranges itself.
     rebuildTimer.setSingleShot(true);
     connect(&rebuildTimer, &QTimer::timeout, this, &ObjectTree::Rebuild);
     connect(this, &QTreeWidget::itemCollapsed, this, [this](QTreeWidgetItem* item) { folded.insert(ObjectOf(item)); });
@@ -47,7 +47,7 @@ void ObjectTree::SetObject(QObject* newObject)
 
 bool ObjectTree::eventFilter(QObject* part, QEvent* event)
 {
-    // Whose constructor runs still is not yet of its class, which the rebuild finds later.
+    // During its constructor an object does not have its final class, so the rebuild is delayed.
     if (event->type() == QEvent::ChildAdded || event->type() == QEvent::ChildRemoved)
         rebuildTimer.start(0);
     return QTreeWidget::eventFilter(part, event);

@@ -8,8 +8,8 @@
 
 namespace Zelkor::Gallery {
 
-/// The object names and classes of an object and of everything inside it. It follows what comes, goes and is renamed,
-/// and keeps what is unfolded and chosen. GUI thread.
+/// Shows class and name of an object and its descendants. Updates when objects are added, removed or renamed, and keeps
+/// expansion and selection. GUI thread.
 class ObjectTree : public QTreeWidget
 {
     Q_OBJECT
@@ -17,7 +17,7 @@ class ObjectTree : public QTreeWidget
 public:
     explicit ObjectTree(QWidget* parent = nullptr);
 
-    /// Shows another object, null for none; it may die at any time.
+    /// Sets the root object, null for none. It may be deleted at any time.
     void SetObject(QObject* object);
 
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -30,7 +30,7 @@ private:
     QPointer<QObject> object;
     QTimer rebuildTimer;
     QVector<QPointer<QObject>> watched;
-    QSet<QObject*> folded; ///< by address alone: what has gone is not looked at
+    QSet<QObject*> folded; ///< addresses only; never dereferenced
     QObject* chosen = nullptr;
 };
 

@@ -15,7 +15,7 @@ namespace Zelkor::Gallery {
 
 namespace {
 
-// The numbers of points, sizes and rectangles, one spin box each.
+// The numbers of a point, size or rectangle, one spin box each.
 struct Parts
 {
     QStringList names;
@@ -63,7 +63,7 @@ PropertyControl CreatePartsEditor(int type, QWidget* parent, const ValueListener
             CreateSpinBox<ZDoubleSpinBox>(control, std::numeric_limits<int>::min(), std::numeric_limits<int>::max());
         box->setDecimals(isWhole ? 0 : DECIMALS);
         box->setPrefix(name + ' ');
-        // Two in a row have no room for arrows; the arrow keys do the same.
+        // Two boxes in a row leave no space for arrow buttons; the arrow keys work.
         box->setButtonSymbols(QAbstractSpinBox::NoButtons);
         box->setAccessibleName(name);
         grid->addWidget(box, boxes.size() / 2, boxes.size() % 2);
@@ -83,7 +83,7 @@ PropertyControl CreatePartsEditor(int type, QWidget* parent, const ValueListener
     return {control, [boxes, parts](const QVariant& value) {
                 const QVector<double> numbers = parts.split(value);
                 for (int i = 0; i < boxes.size(); ++i) {
-                    // Nobody entered the numbers that come one after the other.
+                    // Setting the boxes one by one is not user input.
                     const QSignalBlocker blocker(boxes[i]);
                     boxes[i]->setValue(numbers[i]);
                 }

@@ -4,7 +4,7 @@
 
 namespace Zelkor::Gallery {
 
-/// A control for a point, a size or a rectangle: one spin box for each of its numbers. `type` is the property's.
+/// Creates a control for a point, size or rectangle with one spin box per number. `type` is that of the property.
 PropertyControl CreatePartsEditor(int type, QWidget* parent, const ValueListener& listener);
 
 } // namespace Zelkor::Gallery

@@ -40,7 +40,7 @@ PropertyControl CreatePictureEditor(int type, QWidget* parent, const ValueListen
         QObject::connect(dialog, &QFileDialog::fileSelected, path, &ZLineEdit::setOriginalText);
         dialog->open();
     });
-    // Where the picture came from stays; what it is shows while there is no such place.
+    // Shows the path of the picture, or its size if it has no path.
     return {control, [path, type](const QVariant& value) {
                 const QSize size =
                     type == QMetaType::QPixmap ? value.value<QPixmap>().size() : value.value<QImage>().size();

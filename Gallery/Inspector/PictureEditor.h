@@ -4,7 +4,8 @@
 
 namespace Zelkor::Gallery {
 
-/// A control for a picture: the path of a file, and a button that opens a dialog for it. `type` is the property's.
+/// Creates a control for a picture: the path of a file and a button that opens a file dialog. `type` is that of the
+/// property.
 PropertyControl CreatePictureEditor(int type, QWidget* parent, const ValueListener& listener);
 
 } // namespace Zelkor::Gallery

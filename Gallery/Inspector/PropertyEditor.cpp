@@ -29,8 +29,8 @@ using namespace Examples;
 namespace {
 
 constexpr int LIST_LINES = 3;
-constexpr double EXACT_NUMBER = 9.0e15;   ///< up to here, a double counts in ones
-constexpr double LARGEST_NUMBER = 1.0e12; ///< up to here, a spin box keeps its decimals
+constexpr double EXACT_NUMBER = 9.0e15;   ///< a double represents all integers up to this
+constexpr double LARGEST_NUMBER = 1.0e12; ///< a spin box keeps its decimals up to this
 constexpr QChar LEFT_TO_RIGHT_MARK(0x200e);
 
 PropertyControl CreateBoolEditor(QWidget* parent, const ValueListener& listener)
@@ -76,14 +76,14 @@ PropertyControl CreateNumberEditor(int type, QWidget* parent, const ValueListene
 PropertyControl CreateTextEditor(QWidget* parent, const ValueListener& listener)
 {
     auto* edit = new ZLineEdit(parent);
-    // Return tells the text as well, where a line edit of the kit waits for the focus to leave.
+    // Return commits the text as well; ZLineEdit commits when it loses the focus.
     QObject::connect(edit, &QLineEdit::returnPressed, edit, [edit, listener] { listener(edit->text(), QString()); });
     QObject::connect(edit, &ZLineEdit::originalTextChanged, edit,
                      [listener](const QString& text) { listener(text, QString()); });
     return {edit, [edit](const QVariant& value) { edit->setOriginalText(value.toString()); }};
 }
 
-// Tells the lines when the focus leaves.
+// Commits the text when the editor loses the focus.
 class LinesEdit : public QPlainTextEdit
 {
 public:
@@ -121,7 +121,7 @@ PropertyControl CreateLinesEditor(QWidget* parent, const ValueListener& listener
     return {edit, [edit](const QVariant& value) { edit->Show(value.toStringList()); }};
 }
 
-// The number sign stays before the digits, whichever way the texts around run.
+// Keeps the number sign before the digits in right-to-left text.
 QString ColorText(const QColor& color)
 {
     return LEFT_TO_RIGHT_MARK + color.name(QColor::HexArgb);

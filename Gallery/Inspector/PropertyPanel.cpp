@@ -25,7 +25,7 @@ namespace {
 constexpr int MARGIN = 12;
 constexpr int SPACING = 8;
 constexpr int ROW_SPACING = 4;
-constexpr int REFRESH_MS = 500; ///< many properties tell nobody that they change
+constexpr int REFRESH_MS = 500; ///< many properties have no change signal
 constexpr QChar ZERO_WIDTH_SPACE(0x200b);
 const char* const ROW_PROPERTY = "rowOfPanel";
 
@@ -38,7 +38,7 @@ bool HasWritable(const QMetaObject& meta)
     return false;
 }
 
-// A property that a class declares anew belongs to the class that is derived most.
+// A redeclared property belongs to the most derived class.
 bool IsDeclaredBy(const QMetaObject& whole, const QMetaProperty& property, int index)
 {
     return whole.indexOfProperty(property.name()) == index;
@@ -53,7 +53,7 @@ void SetDynamic(QWidget* widget, const char* name, bool value)
     widget->style()->polish(widget);
 }
 
-// Names are long words; they may go on in another line before each capital letter.
+// Allows a line break in long names before each capital letter.
 QString BreakableName(const QString& name)
 {
     QString result;
@@ -121,7 +121,7 @@ PropertyPanel::PropertyPanel(QWidget* parent)
 
 void PropertyPanel::SetObject(QObject* newObject, const QVariantMap& newDefaults)
 {
-    // What is being entered is for the object it was entered for.
+    // Commits pending input to the old object.
     if (HasFocusWithin(area))
         QApplication::focusWidget()->clearFocus();
     ++generation;
@@ -135,7 +135,7 @@ void PropertyPanel::SetObject(QObject* newObject, const QVariantMap& newDefaults
     list = new QVBoxLayout(content);
     list->setContentsMargins(MARGIN, MARGIN, MARGIN, 0);
     list->setSpacing(ROW_SPACING);
-    // The old content goes later, in case one of its controls is telling something.
+    // Deletes the old content later, because one of its controls may be the sender.
     if (QWidget* old = area->takeWidget()) {
         old->setParent(nullptr);
         old->deleteLater();
@@ -235,7 +235,7 @@ void PropertyPanel::AddRow(const QMetaProperty& property, QGridLayout* grid)
         }
     }
     control->setMinimumWidth(1);
-    // Values are code, which runs from left to right everywhere; the colour is in the text's own hands.
+    // Values are code, which always runs from left to right; the colour text sets its own direction.
     if (property.userType() != QMetaType::QColor)
         control->setLayoutDirection(Qt::LeftToRight);
     QSizePolicy policy = row.reset->sizePolicy();
@@ -267,7 +267,7 @@ void PropertyPanel::Write(int index, const QVariant& value, const QString& file)
     if (AreSame(property, ReadProperty(property, target), value) && file == rows[index].file)
         return ShowLine(index);
     property.write(target, value);
-    // Who takes the value may do anything with it, and end itself and the rows.
+    // A receiver may delete the object and the rows.
     if (!target || writtenFor != generation)
         return;
     rows[index].file = file;

@@ -20,10 +20,9 @@ namespace Zelkor::Gallery {
 
 /// The writable properties of an object, each with a control, under the classes that declare them: its own class first.
 ///
-/// A value that is not the default stands out, and a button beside it goes back. The line at the bottom is what a style
-/// sheet says to set the property that is being edited. The controls of a class are made when it is unfolded; they
-/// follow the object while they are seen. Object names of the parts of a row: "edit:NAME", "value:NAME" for a
-/// type that is shown only, "reset:NAME".
+/// Highlights values other than the default, with a button that resets them. The line at the bottom is the style sheet
+/// declaration of the edited property. The controls of a class are created when its group is expanded, and follow the
+/// object while visible. Object names in a row: "edit:NAME", "value:NAME" for a read-only type, "reset:NAME".
 class PropertyPanel : public QWidget
 {
     Q_OBJECT
@@ -31,10 +30,10 @@ class PropertyPanel : public QWidget
 public:
     explicit PropertyPanel(QWidget* parent = nullptr);
 
-    /// Shows another object, null for none; it may die at any time. `defaults` are values by property name.
+    /// Sets the object, null for none. It may be deleted at any time. `defaults` are values by property name.
     void SetObject(QObject* object, const QVariantMap& defaults);
 
-    /// Reads the values anew. A control that has the focus keeps what is being entered.
+    /// Updates the values, except in a control that has the focus.
     void Refresh();
 
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -51,7 +50,7 @@ private:
         QString file; ///< of a picture
         PropertyControl editor;
         QLabel* name;
-        QLineEdit* text; ///< null where there is a control
+        QLineEdit* text; ///< null if the type has a control
         QToolButton* reset;
     };
 
@@ -81,11 +80,11 @@ private:
     QLineEdit* line;
     QToolButton* copyButton;
     int currentRow = -1;
-    int generation = 0;   ///< of rows; controls of earlier ones may still tell something
-    bool showing = false; ///< what controls tell was not entered
+    int generation = 0;   ///< of the rows; controls of earlier rows may still emit signals
+    bool showing = false; ///< signals of controls are not user input
 };
 
-/// The values of the writable properties of an object, by name.
+/// Returns the values of the writable properties of an object by name.
 QVariantMap PropertyValues(const QObject& object);
 
 } // namespace Zelkor::Gallery

@@ -10,7 +10,7 @@ namespace Zelkor::Gallery {
 
 namespace {
 
-constexpr int LONGEST_TEXT = 80; ///< characters of a value shown
+constexpr int LONGEST_TEXT = 80; ///< maximum characters of a value
 
 } // namespace
 
@@ -34,7 +34,7 @@ QString PropertyText(const QMetaProperty& property, const QVariant& value)
         text = value.toString();
     else
         QDebug(&text).nospace().noquote() << value;
-    // Qt names the type before the value, and the type is told elsewhere.
+    // Removes the type name that QDebug writes before the value.
     if (text.startsWith("QVariant("))
         text = text.section(", ", 1).chopped(1);
     text = text.simplified();

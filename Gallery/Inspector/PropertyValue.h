@@ -6,13 +6,13 @@
 
 namespace Zelkor::Gallery {
 
-/// The value of a property; invalid, where `read` would warn, for a type that Qt does not know.
+/// Returns the value of a property; invalid for a type unknown to Qt, for which QMetaProperty::read() warns.
 QVariant ReadProperty(const QMetaProperty& property, const QObject* object);
 
-/// A value as one line of text.
+/// Returns a value as one line of text.
 QString PropertyText(const QMetaProperty& property, const QVariant& value);
 
-/// Whether two values of one property are the same; not known, and so false, for a type that cannot be compared.
+/// Returns whether two values of a property are equal; false for types without comparison.
 bool AreSame(const QMetaProperty& property, const QVariant& a, const QVariant& b);
 
 } // namespace Zelkor::Gallery

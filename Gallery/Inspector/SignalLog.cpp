@@ -14,11 +14,11 @@ namespace Zelkor::Gallery {
 namespace {
 
 constexpr int LARGEST_LINE_COUNT = 500;
-constexpr int LONGEST_TEXT = 200; ///< characters of an argument
+constexpr int LONGEST_TEXT = 200; ///< maximum characters of an argument
 constexpr int MARGIN = 12;
 constexpr int SPACING = 8;
 
-// The class among those of `object` that has this name, null when there is none.
+// Returns the class of `object` or its base class with this name, or null.
 const QMetaObject* FindClass(const QObject& object, const QString& className)
 {
     const QMetaObject* meta = object.metaObject();
@@ -75,13 +75,13 @@ QString ArgumentText(int metaType, const void* argument)
     return value.canConvert<QString>() ? text : QString(value.typeName());
 }
 
-SignalTap::SignalTap(Listener listener, QObject* parent) : QObject(parent), listener(std::move(listener))
+SignalListener::SignalListener(Listener listener, QObject* parent) : QObject(parent), listener(std::move(listener))
 {
-    // Where a class is but declared beside a signal, Qt does not know by itself how to read a pointer to it.
+    // Qt cannot read pointers to classes that are only forward-declared where the signal is declared.
     qRegisterMetaType<QAction*>();
 }
 
-int SignalTap::Watch(QObject* object, const QString& className, const QString& title)
+int SignalListener::Watch(QObject* object, const QString& className, const QString& title)
 {
     const QMetaObject* declaring = FindClass(*object, className);
     if (!declaring)
@@ -95,15 +95,15 @@ int SignalTap::Watch(QObject* object, const QString& className, const QString& t
     return count;
 }
 
-int SignalTap::ConnectSignals(QObject* object, const QMetaObject& declaring, const QString& title)
+int SignalListener::ConnectSignals(QObject* object, const QMetaObject& declaring, const QString& title)
 {
     int count = 0;
     for (int i = declaring.methodOffset(); i < declaring.methodCount(); ++i) {
         const QMetaMethod signal = declaring.method(i);
-        // A clone is the same signal with a default argument left out.
+        // Cloned methods are signals without a default argument.
         if (signal.methodType() != QMetaMethod::Signal || (signal.attributes() & QMetaMethod::Cloned))
             continue;
-        // Numbers past the methods of QObject come to qt_metacall, where they are those of the connections.
+        // Qt passes method indices beyond those of QObject to qt_metacall(), which treats them as connection indices.
         QMetaObject::connect(object, i, this, QObject::staticMetaObject.methodCount() + connections.size(),
                              Qt::DirectConnection);
         connections.append({signal, title});
@@ -112,7 +112,7 @@ int SignalTap::ConnectSignals(QObject* object, const QMetaObject& declaring, con
     return count;
 }
 
-int SignalTap::qt_metacall(QMetaObject::Call call, int id, void** arguments)
+int SignalListener::qt_metacall(QMetaObject::Call call, int id, void** arguments)
 {
     id = QObject::qt_metacall(call, id, arguments);
     if (id < 0 || call != QMetaObject::InvokeMetaMethod)

@@ -10,19 +10,19 @@ class QPlainTextEdit;
 
 namespace Zelkor::Gallery {
 
-/// Calls a function for each signal of the objects that it watches, whatever their classes are.
+/// Calls a function for each signal of the watched objects of any class.
 ///
-/// An object may die at any time, also while one of its signals is told. GUI thread only: signals that come on another
-/// thread are not for it.
-class SignalTap : public QObject
+/// An object may be deleted at any time, also by a receiver of its signal. GUI thread; ignores signals from other
+/// threads.
+class SignalListener : public QObject
 {
 public:
     using Listener = std::function<void(const QString& objectTitle, const QString& call)>;
 
-    explicit SignalTap(Listener listener, QObject* parent = nullptr);
+    explicit SignalListener(Listener listener, QObject* parent = nullptr);
 
-    /// Tells the signals that the class of `object` named `className`, without namespace, declares; where there are
-    /// none, those of its bases below QWidget. Returns the number of signals.
+    /// Watches the signals that the class `className` of `object`, without namespace, declares; without any, those of
+    /// its base classes below QWidget. Returns the number of signals.
     int Watch(QObject* object, const QString& className, const QString& title);
 
     int qt_metacall(QMetaObject::Call call, int id, void** arguments) override;
@@ -40,13 +40,13 @@ private:
     QVector<Connection> connections;
 };
 
-/// What a page is about: `widget`, or the part of it that is of the class `className`, without namespace.
+/// Returns the object in `widget` of the class `className`, without namespace, or `widget` itself.
 QObject* FindObject(QWidget* widget, const QString& className);
 
-/// The value behind an argument of a signal, as text: colours as "#aarrggbb", objects as class and object name.
+/// Returns an argument of a signal as text: colours as "#aarrggbb", objects as class and object name.
 QString ArgumentText(int metaType, const void* argument);
 
-/// Lists the signals of watched objects, the newest last, and forgets the oldest ones.
+/// Lists the latest signals of watched objects, the newest last.
 class SignalLog : public QWidget
 {
     Q_OBJECT
@@ -54,11 +54,11 @@ class SignalLog : public QWidget
 public:
     explicit SignalLog(QWidget* parent = nullptr);
 
-    /// Lists the signals of `widget`, or of the part of it that is of the class `className`, under `title`.
+    /// Watches the object in `widget` of the class `className`; `title` is its name in the list.
     void Watch(QWidget* widget, const QString& className, const QString& title);
 
 private:
-    SignalTap tap;
+    SignalListener tap;
     QPlainTextEdit* lines;
     int watchedSignals = 0;
 };

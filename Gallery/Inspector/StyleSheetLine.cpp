@@ -14,15 +14,14 @@ namespace {
 
 constexpr int DOUBLE_DECIMALS = 12;
 
-// What Qt sets by itself for the backgrounds and the hover rules of a style sheet, after the lines.
+// Properties that Qt sets for backgrounds and hover rules, after the declarations.
 bool IsOfStyleSheets(const char* property)
 {
     return qstrcmp(property, "autoFillBackground") == 0 || qstrcmp(property, "mouseTracking") == 0;
 }
 
-// A style sheet writes characters by number as up to six digits. The scanner puts them in before it looks for strings,
-// so what means something there has to come out behind a backslash that is written by number as well: a plain one
-// before a digit would be taken as the start of a number.
+// Style sheets escape characters as up to six hexadecimal digits. Qt resolves escapes before it scans strings, so a
+// special character needs an escaped backslash before it; a plain one before a digit would start another escape.
 QString Quoted(const QString& text)
 {
     QString result = "\"";
@@ -36,7 +35,7 @@ QString Quoted(const QString& text)
     return result + '"';
 }
 
-// Without an exponent, which style sheets do not know.
+// Without an exponent, which style sheets do not support.
 QString NumberText(double number)
 {
     if (!std::isfinite(number))
@@ -46,11 +45,11 @@ QString NumberText(double number)
         text.chop(1);
     if (text.endsWith('.'))
         text.chop(1);
-    // Too small or too long to be written in these decimals.
+    // Too small or too long for these decimals.
     return text.toDouble() == number ? text : QString();
 }
 
-// Words are quoted, because some of them mean a number of their own in a style sheet.
+// Quotes words, because style sheets convert some of them to numbers.
 QString EnumText(const QMetaEnum& type, int number)
 {
     const QByteArray keys = type.isFlag() ? type.valueToKeys(number) : QByteArray(type.valueToKey(number));
@@ -79,7 +78,7 @@ QString ValueText(const QVariant& value, const QString& file)
     case QMetaType::QString:
         return Quoted(value.toString());
     case QMetaType::QStringList: {
-        // A declaration has one text, which becomes a list of one.
+        // A declaration contains one text, which Qt converts to a list of one.
         const QStringList list = value.toStringList();
         return list.size() == 1 ? Quoted(list.first()) : QString();
     }
@@ -105,7 +104,7 @@ QString ValueText(const QVariant& value, const QString& file)
 
 int EnumNumber(const QVariant& value)
 {
-    // Types of enums and flags are as wide as an int, also where Qt knows no conversion.
+    // Enums and flags have the size of an int, also without a registered conversion.
     return value.userType() == QMetaType::Int || !value.constData() ? value.toInt()
                                                                     : *static_cast<const int*>(value.constData());
 }

@@ -6,11 +6,11 @@
 
 namespace Zelkor::Gallery {
 
-/// The number behind a value of an enum or flags property, whichever type its meta-object gives it.
+/// Returns the number of an enum or flags value of any type.
 int EnumNumber(const QVariant& value);
 
-/// The declaration that has a style sheet give a property this value, `qproperty-name: value;`. Empty when style sheets
-/// cannot set the property or not to this value. `file` is where a picture came from; values do not know.
+/// Returns the declaration `qproperty-name: value;` that sets a property in a style sheet; empty if style sheets cannot
+/// set the property to this value. `file` is the path of a picture, which values lack.
 QString StyleSheetLine(const QMetaProperty& property, const QVariant& value, const QString& file = {});
 
 } // namespace Zelkor::Gallery
