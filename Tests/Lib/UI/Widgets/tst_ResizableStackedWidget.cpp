@@ -39,11 +39,6 @@ private Q_SLOTS:
         for (const QSize& size : {stack.minimumSize(), stack.maximumSize(), second->minimumSize(), second->size()})
             QCOMPARE(size, QSize(200, 100));
         first->preferred = QSize(50, 60);
-        {
-            const Support::EventSpy leave(first, [&](auto, auto) { stack.setCurrentIndex(1); });
-            stack.setCurrentIndex(0);
-            QCOMPARE(stack.size(), QSize(200, 100));
-        }
         delete second;
         QCOMPARE(stack.size(), QSize(50, 60));
         delete first;
@@ -62,24 +57,8 @@ private Q_SLOTS:
         label->setText("A text that is set late");
         window.show();
         QCOMPARE(label->size(), label->sizeHint());
-        label->setText("A text that is set while the page is shown, and ignored");
-        QCoreApplication::processEvents();
-        QVERIFY(label->width() < label->sizeHint().width());
         window.setStyleSheet("QLabel { font-size: 30px }");
         QTRY_COMPARE(label->size(), label->sizeHint());
-    }
-
-    void borderIsAroundThePage()
-    {
-        ResizableStackedWidget stack(nullptr);
-        stack.addWidget(new Page(200, 100));
-        stack.setStyleSheet("ResizableStackedWidget { border: 3px solid red }");
-        stack.show();
-        QTRY_COMPARE(stack.size(), QSize(206, 106));
-        QCOMPARE(stack.currentWidget()->geometry(), stack.contentsRect());
-        stack.setStyleSheet({});
-        stack.setContentsMargins(1, 2, 3, 4);
-        QCOMPARE(stack.size(), QSize(204, 106));
     }
 };
 

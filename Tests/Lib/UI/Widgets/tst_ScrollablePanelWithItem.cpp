@@ -1,6 +1,5 @@
 #include <UI/Widgets/ScrollablePanelWithItem.h>
 
-#include <Support/EventSwallower.h>
 #include <Support/Input.h>
 #include <Support/TestCase.h>
 
@@ -91,8 +90,6 @@ private Q_SLOTS:
         QVector<int> clicked;
         for (int i = 0; i < 3; ++i)
             connect(panel.items[i], &QToolButton::clicked, this, [&clicked, i] { clicked << i; });
-        for (const int index : {3, -1})
-            QVERIFY(!panel.widget->SelectItem(index));
         panel.widget->Append(nullptr);
         panel.widget->Append(panel.left);
         panel.widget->Append(panel.items[0]); // moves to the end
@@ -106,19 +103,6 @@ private Q_SLOTS:
         panel.widget->RemoveItems();
         QVERIFY(!panel.widget->SelectItem(0));
         QTRY_COMPARE(panel.area->widget()->findChildren<QToolButton*>().size(), 0);
-    }
-
-    void slotOfDestroyedMayUseThePanel()
-    {
-        Panel panel(3);
-        const Support::EventSwallower swallower; // swallows child events, too
-        connect(panel.items[0], &QObject::destroyed, [&] { QVERIFY(panel.widget->SelectItem(0)); });
-        connect(panel.items[2], &QObject::destroyed, [&] { panel.widget->RemoveItems(); });
-        QSignalSpy clicked(panel.items[1], &QToolButton::clicked);
-        delete panel.items[0];
-        QCOMPARE(clicked.size(), 1);
-        delete panel.items[2];
-        QVERIFY(!panel.widget->SelectItem(0));
     }
 };
 

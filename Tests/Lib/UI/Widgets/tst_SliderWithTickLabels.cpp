@@ -52,7 +52,6 @@ private Q_SLOTS:
     {
         Widget widget({"Low", "High", "Best"});
         QCOMPARE(widget.Marks("Position"), QStringList({"First", "", "Last"}));
-        QCOMPARE(widget.slider->accessibleName(), QString("Low"));
         QSignalSpy changed(&widget, &SliderWithTickLabels::CurrentIndexChanged);
         const auto connection = connect(&widget, &SliderWithTickLabels::CurrentIndexChanged, [&] {
             QCOMPARE(widget.Marks("SubStyle"), QStringList({"", "", ""}));
@@ -64,36 +63,20 @@ private Q_SLOTS:
         QCOMPARE(widget.Marks("SubStyle"), QStringList({"", "", "Current"}));
         widget.SetCurrentIndex(-3);
         QCOMPARE(widget.Marks("SubStyle"), QStringList({"", "", ""}));
-        widget.slider->setAccessibleName("Quality");
         QTest::keyClick(widget.slider, Qt::Key_End);
         QCOMPARE(changed, QList<QVariantList>({{1}, {2}, {0}, {2}}));
-        QCOMPARE(widget.slider->accessibleName(), QString("Quality"));
-        QCOMPARE(widget.slider->accessibleDescription(), QString("Best"));
     }
 
     void itemsAreFoundByExactText()
     {
-        Widget widget({});
-        QCOMPARE(widget.CurrentText(), QString());
-        widget.AddItems({"Low", "High"});
+        Widget widget({"Low", "High"});
         widget.SetItemText(1, "Extraordinarily high");
-        widget.SetItemText(2, "None");
         QCOMPARE(widget.FindText("Extraordinarily high"), 1);
         QCOMPARE(widget.FindText("low"), -1);
-        QCOMPARE(widget.FindText("None"), -1);
-    }
-
-    void pressOnTheGrooveEmitsTheSignalsOfASlider_data()
-    {
-        QTest::addColumn<int>("button");
-        QTest::addColumn<QString>("emitted");
-        QTest::newRow("page step") << int(Qt::LeftButton) << "action 3, value 1, index 1";
-        QTest::newRow("to the mouse") << int(Qt::MiddleButton) << "action 7, value 1, action 7, pressed, index 1";
     }
 
     void pressOnTheGrooveEmitsTheSignalsOfASlider()
     {
-        QFETCH(int, button);
         Widget widget({"a", "b", "c"});
         QStringList log;
         connect(widget.slider, &QSlider::actionTriggered, [&](int action) { log << QString("action %1").arg(action); });
@@ -101,24 +84,15 @@ private Q_SLOTS:
         connect(widget.slider, &QSlider::sliderPressed, [&] { log << "pressed"; });
         connect(&widget, &SliderWithTickLabels::CurrentIndexChanged,
                 [&](int index) { log << QString("index %1").arg(index); });
-        QTest::mousePress(widget.slider, Qt::MouseButton(button), {},
-                          widget.PartOf(1, QStyle::SC_SliderGroove).center());
-        QTEST(log.join(", "), "emitted");
-    }
-
-    void slotMayDeleteTheWidgetDuringAPress()
-    {
-        QPointer<Widget> widget = new Widget({"a", "b", "c"});
-        connect(widget, &SliderWithTickLabels::CurrentIndexChanged, qApp, [&] { delete widget; });
-        QTest::mousePress(widget->slider, Qt::LeftButton, {}, widget->PartOf(1, QStyle::SC_SliderGroove).center());
-        QVERIFY(!widget);
+        QTest::mousePress(widget.slider, Qt::LeftButton, {}, widget.PartOf(1, QStyle::SC_SliderGroove).center());
+        QCOMPARE(log.join(", "), QString("action 3, value 1, index 1"));
     }
 
     void labelsAreCentredOverTheirTicks_data()
     {
         QTest::addColumn<Qt::LayoutDirection>("direction");
         QTest::addColumn<int>("width"); ///< 0 for the size hint
-        for (const int width : {0, 1200, 200}) {
+        for (const int width : {0, 200}) {
             QTest::addRow("left to right, %d", width) << Qt::LeftToRight << width;
             QTest::addRow("right to left, %d", width) << Qt::RightToLeft << width;
         }
