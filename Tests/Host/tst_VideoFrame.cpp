@@ -326,6 +326,16 @@ private Q_SLOTS:
         QCOMPARE(Bytes(held), before);
     }
 
+    void memoryOfAnotherSizeIsNotReused()
+    {
+        const Effect effect = CreateConverter();
+        const Frame larger = MakeNoise({PixFmt::I420, 99, 77});
+        Frame small = Converted(effect, MakeNoise(SMALL_NV12));
+        const std::uint8_t* const released = FirstByte(Converted(effect, larger));
+        small = nullptr;
+        QCOMPARE(FirstByte(Converted(effect, larger)), released);
+    }
+
     void framesMayBeReleasedOnOtherThreads()
     {
         const Effect effect = CreateConverter();
