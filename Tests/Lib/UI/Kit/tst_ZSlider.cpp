@@ -299,6 +299,17 @@ private Q_SLOTS:
         QCOMPARE(thumb->value(), 70);
     }
 
+    void hidingEndsADragOnTheGroove()
+    {
+        ZSlider slider;
+        slider.resize(30, 200);
+        slider.show();
+        QTest::mousePress(&slider, Qt::LeftButton, {}, QPoint(15, 150));
+        QVERIFY(slider.isSliderDown());
+        slider.hide();
+        QVERIFY(!slider.isSliderDown());
+    }
+
     void pressOnTheGrooveMovesAThumb()
     {
         Trimmer slider;
