@@ -4,6 +4,10 @@
 #include <Support/TestCase.h>
 
 #include <QSet>
+#include <QToolButton>
+
+#include <algorithm>
+#include <memory>
 
 using namespace Zelkor::Catalogue;
 using Zelkor::Examples::LoadStyleSheet;
@@ -47,6 +51,20 @@ private Q_SLOTS:
         delete CreateInState(EntryOfRow(), StateOfRow(), &parent);
         QVERIFY(parent.children().isEmpty());
         QCOMPARE(CreateInState(EntryOfRow(), StateOfRow(), &parent)->parentWidget(), &parent);
+    }
+
+    void upKeyMovesTheThumbOfAnUprightSliderUp()
+    {
+        const Entry& entry = *FindEntry("ZSlider");
+        const auto upright = std::find_if(entry.states.begin(), entry.states.end(),
+                                          [](const State& state) { return state.name == "Upright"; });
+        QVERIFY(upright != entry.states.end());
+        const std::unique_ptr<QWidget> slider(CreateInState(entry, *upright, nullptr));
+        slider->show();
+        auto* thumb = slider->findChild<QToolButton*>();
+        const int before = thumb->y();
+        QTest::keyClick(thumb, Qt::Key_Up);
+        QVERIFY(thumb->y() < before);
     }
 };
 
