@@ -239,6 +239,7 @@ void TrimPage::ShowPosition()
 
 void TrimPage::Retranslate()
 {
+    setWindowTitle(tr("Trimmer"));
     title->setText(tr("Trim a recording"));
     description->setText(tr("Drag the brackets or type the times. A cut begins where the position is and ends where it "
                             "is the next time. Everything can be undone; Escape takes back a drag."));

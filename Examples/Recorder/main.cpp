@@ -69,6 +69,32 @@ void Raise(QWidget& window)
     window.activateWindow();
 }
 
+// Returns false for a style sheet that cannot be read. Falls back to English without translations.
+bool SetAppearance(const QCommandLineParser& parser, Appearance& appearance)
+{
+    QString error;
+    if (!appearance.SetStyle(parser.value("style"), &error)) {
+        PrintError(error);
+        return false;
+    }
+    const QString language = parser.value("language");
+    if (!language.isEmpty() && !appearance.SetLanguage(language))
+        PrintError(QString("there are no translations for '%1'; continuing in English").arg(language));
+    if (parser.isSet("rtl"))
+        QApplication::setLayoutDirection(Qt::RightToLeft);
+    QApplication::setWindowIcon(ZStyleSheet::icon("app"));
+    return true;
+}
+
+// Returns the exit code of the program.
+int WritePicture(QWidget& window, const QString& file)
+{
+    if (window.grab().save(file, "PNG"))
+        return EXIT_SUCCESS;
+    PrintError(QString("cannot write the picture '%1'").arg(file));
+    return EXIT_FAILURE;
+}
+
 } // namespace
 
 int main(int argc, char* argv[])
@@ -95,16 +121,8 @@ int main(int argc, char* argv[])
     }
 
     Appearance appearance("VxRecorder");
-    QString error;
-    if (!appearance.SetStyle(parser.value("style"), &error)) {
-        PrintError(error);
+    if (!SetAppearance(parser, appearance))
         return 2;
-    }
-    if (parser.isSet("language") && !appearance.SetLanguage(parser.value("language")))
-        PrintError(QString("there are no translations for '%1'; continuing in English").arg(parser.value("language")));
-    if (parser.isSet("rtl"))
-        QApplication::setLayoutDirection(Qt::RightToLeft);
-    QApplication::setWindowIcon(ZStyleSheet::icon("app"));
 
     Preferences preferences;
     DeviceList devices;
@@ -113,8 +131,10 @@ int main(int argc, char* argv[])
     model.SetDevices(devices.GetDevices());
     RecorderWindow recorder(&model, &preferences, &appearance);
     recorder.resize(recorder.sizeHint());
-    FittingScrollArea trimmer(new TrimPage);
-    trimmer.setWindowTitle(TrimPage::tr("Trimmer"));
+    auto* trimPage = new TrimPage;
+    FittingScrollArea trimmer(trimPage);
+    trimmer.setWindowTitle(trimPage->windowTitle());
+    QObject::connect(trimPage, &QWidget::windowTitleChanged, &trimmer, &QWidget::setWindowTitle);
     ZRuntimeStylesheetEditor styleEditor;
     QAction editStyle;
     editStyle.setShortcut(Qt::Key_F12);
@@ -141,11 +161,7 @@ int main(int argc, char* argv[])
         GreetOnce(recorder);
         return QApplication::exec();
     }
-    QTimer::singleShot(parser.value("after").toInt(), window, [&] {
-        const bool written = window->grab().save(parser.value("shot"), "PNG");
-        if (!written)
-            PrintError(QString("cannot write the picture '%1'").arg(parser.value("shot")));
-        QApplication::exit(written ? EXIT_SUCCESS : EXIT_FAILURE);
-    });
+    QTimer::singleShot(parser.value("after").toInt(), window,
+                       [&] { QApplication::exit(WritePicture(*window, parser.value("shot"))); });
     return QApplication::exec();
 }
