@@ -1,14 +1,12 @@
 #include "Options.h"
 
 #include <Examples/Support/BuiltInStyleSheets.h>
+#include <Examples/Support/PictureOptions.h>
 #include <Gallery/Browser/PageList.h>
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
 #include <QFileInfo>
-#include <QRegularExpression>
-
-#include <optional>
 
 namespace Zelkor::Gallery {
 
@@ -18,7 +16,6 @@ namespace {
 
 constexpr double SMALLEST_SCALE = 0.5;
 constexpr double LARGEST_SCALE = 4;
-constexpr int LONGEST_WAIT = 600000;
 
 void Declare(QCommandLineParser& parser)
 {
@@ -45,16 +42,6 @@ void Declare(QCommandLineParser& parser)
     });
 }
 
-std::optional<QSize> ParseSize(const QString& text)
-{
-    static const QRegularExpression PATTERN("^([0-9]{1,5})x([0-9]{1,5})$");
-    const QRegularExpressionMatch match = PATTERN.match(text);
-    const QSize size(match.captured(1).toInt(), match.captured(2).toInt());
-    if (size.isEmpty() || size.width() > LARGEST_SIDE || size.height() > LARGEST_SIDE)
-        return std::nullopt;
-    return size;
-}
-
 QString HelpText(const QCommandLineParser& parser, const QStringList& arguments)
 {
     // QCommandLineParser gets the program's name from an application object.
@@ -68,21 +55,15 @@ QString HelpText(const QCommandLineParser& parser, const QStringList& arguments)
 // Sets the options from the values. Returns an error, or an empty text.
 QString TakeValues(const QCommandLineParser& parser, Options& options)
 {
-    if (parser.isSet("size")) {
-        const std::optional<QSize> size = ParseSize(parser.value("size"));
-        if (!size)
-            return QString("--size takes WIDTHxHEIGHT with sides up to %1, not '%2'")
-                .arg(LARGEST_SIDE)
-                .arg(parser.value("size"));
-        options.size = *size;
-    }
+    QString error;
+    options.size = ParseSize(parser, &error);
+    options.after = ParseDelay(parser, &error);
+    if (!error.isEmpty())
+        return error;
     bool isNumber = false;
     options.scale = parser.value("scale").toDouble(&isNumber);
     if (!isNumber || !(options.scale >= SMALLEST_SCALE && options.scale <= LARGEST_SCALE))
         return QString("--scale takes a number from 0.5 to 4, not '%1'").arg(parser.value("scale"));
-    options.after = parser.value("after").toInt(&isNumber);
-    if (!isNumber || options.after < 0 || options.after > LONGEST_WAIT)
-        return QString("--after takes milliseconds up to %1, not '%2'").arg(LONGEST_WAIT).arg(parser.value("after"));
     if (parser.isSet("page") && !PageNames().contains(options.page))
         return QString("there is no page '%1'; --list names them").arg(options.page);
     for (const char* name : {"shot", "shots", "pictures", "press", "language", "fallback-shot"}) {
@@ -94,7 +75,6 @@ QString TakeValues(const QCommandLineParser& parser, Options& options)
     if (parser.isSet("pictures") &&
         (parser.isSet("shots") || parser.isSet("shot") || parser.isSet("page") || parser.isSet("press")))
         return "--pictures shows no page, so --shot, --shots, --page and --press do not go with it";
-    QString error;
     options.styleArgument = parser.value("style");
     Examples::LoadStyleSheet(options.styleArgument, &error);
     return error;

@@ -9,7 +9,6 @@
 namespace Zelkor::Gallery {
 
 constexpr int EXIT_BAD_USE = 2;
-constexpr int LARGEST_SIDE = 8192; ///< of a window, in physical pixels
 
 /// The options of a valid command line.
 struct Options

@@ -2,6 +2,7 @@
 #include "Options.h"
 
 #include <Examples/Support/Offscreen.h>
+#include <Examples/Support/PictureOptions.h>
 
 #include <Gallery/Browser/PageList.h>
 
@@ -16,6 +17,7 @@
 #endif
 
 using namespace Zelkor::Gallery;
+using Zelkor::Examples::LARGEST_SIDE;
 
 namespace {
 

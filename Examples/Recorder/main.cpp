@@ -6,6 +6,7 @@
 
 #include <Examples/Support/Appearance.h>
 #include <Examples/Support/Offscreen.h>
+#include <Examples/Support/PictureOptions.h>
 #include <Examples/Support/ScreenFit.h>
 #include <UI/Kit/ZRuntimeStylesheetEditor.h>
 #include <UI/Kit/ZStyleSheet.h>
@@ -119,6 +120,13 @@ int main(int argc, char* argv[])
         std::puts(qPrintable(parser.helpText().trimmed()));
         return EXIT_SUCCESS;
     }
+    QString error;
+    const QSize size = Zelkor::Examples::ParseSize(parser, &error);
+    const int delay = Zelkor::Examples::ParseDelay(parser, &error);
+    if (!error.isEmpty()) {
+        PrintError(error);
+        return 2;
+    }
 
     Appearance appearance("VxRecorder");
     if (!SetAppearance(parser, appearance))
@@ -151,9 +159,7 @@ int main(int argc, char* argv[])
         window = &trimmer;
         window->setAttribute(Qt::WA_QuitOnClose);
     }
-    const QStringList sides = parser.value("size").split('x');
-    const QSize size(sides.value(0).toInt(), sides.value(1).toInt());
-    if (!size.isEmpty())
+    if (size.isValid())
         window->resize(size);
     Zelkor::Examples::FitToScreen(window);
     window->show();
@@ -161,7 +167,6 @@ int main(int argc, char* argv[])
         GreetOnce(recorder);
         return QApplication::exec();
     }
-    QTimer::singleShot(parser.value("after").toInt(), window,
-                       [&] { QApplication::exit(WritePicture(*window, parser.value("shot"))); });
+    QTimer::singleShot(delay, window, [&] { QApplication::exit(WritePicture(*window, parser.value("shot"))); });
     return QApplication::exec();
 }
