@@ -20,6 +20,7 @@
 #include <QTimer>
 
 #include <cstdio>
+#include <memory>
 
 using namespace Zelkor::Recorder;
 using Zelkor::Examples::Appearance;
@@ -68,6 +69,15 @@ void Raise(QWidget& window)
     window.show();
     window.raise();
     window.activateWindow();
+}
+
+void OpenStyleEditor(std::unique_ptr<ZRuntimeStylesheetEditor>& editor)
+{
+    if (!editor) {
+        editor = std::make_unique<ZRuntimeStylesheetEditor>();
+        editor->setAttribute(Qt::WA_QuitOnClose, false);
+    }
+    Raise(*editor);
 }
 
 // Returns false for a style sheet that cannot be read. Falls back to English without translations.
@@ -143,15 +153,14 @@ int main(int argc, char* argv[])
     FittingScrollArea trimmer(trimPage);
     trimmer.setWindowTitle(trimPage->windowTitle());
     QObject::connect(trimPage, &QWidget::windowTitleChanged, &trimmer, &QWidget::setWindowTitle);
-    ZRuntimeStylesheetEditor styleEditor;
+    trimmer.setAttribute(Qt::WA_QuitOnClose, false);
+    std::unique_ptr<ZRuntimeStylesheetEditor> styleEditor;
     QAction editStyle;
     editStyle.setShortcut(Qt::Key_F12);
     editStyle.setShortcutContext(Qt::ApplicationShortcut);
     recorder.addAction(&editStyle);
-    for (QWidget* window : {static_cast<QWidget*>(&trimmer), static_cast<QWidget*>(&styleEditor)})
-        window->setAttribute(Qt::WA_QuitOnClose, false);
-    QObject::connect(&editStyle, &QAction::triggered, &styleEditor, [&] { Raise(styleEditor); });
-    QObject::connect(&recorder, &RecorderWindow::StyleEditorRequested, &styleEditor, [&] { Raise(styleEditor); });
+    QObject::connect(&editStyle, &QAction::triggered, &recorder, [&] { OpenStyleEditor(styleEditor); });
+    QObject::connect(&recorder, &RecorderWindow::StyleEditorRequested, &editStyle, &QAction::trigger);
     QObject::connect(&recorder, &RecorderWindow::TrimmerRequested, &trimmer, [&] { Raise(trimmer); });
 
     QWidget* window = &recorder;
