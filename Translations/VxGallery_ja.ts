@@ -1214,40 +1214,6 @@ and not wide</source>
     </message>
 </context>
 <context>
-    <name>TestPicture</name>
-    <message>
-        <source>Test picture</source>
-        <translation>テスト映像</translation>
-    </message>
-    <message>
-        <source>Show &amp;counter</source>
-        <translation>カウンターを表示(&amp;C)</translation>
-    </message>
-    <message>
-        <source>&amp;Speed</source>
-        <translation>速度(&amp;S)</translation>
-    </message>
-</context>
-<context>
-    <name>Zelkor::App::AboutBoxDialog</name>
-    <message>
-        <source>About %1</source>
-        <translation>%1 のバージョン情報</translation>
-    </message>
-    <message>
-        <source>Visit the home page</source>
-        <translation>Web サイトを開く</translation>
-    </message>
-    <message>
-        <source>Write to support</source>
-        <translation>サポートに連絡</translation>
-    </message>
-    <message>
-        <source>OK</source>
-        <translation>OK</translation>
-    </message>
-</context>
-<context>
     <name>Zelkor::Gallery::GalleryWindow</name>
     <message>
         <source>VxUiWidgets Gallery</source>

@@ -13,40 +13,6 @@
     </message>
 </context>
 <context>
-    <name>TestPicture</name>
-    <message>
-        <source>Test picture</source>
-        <translation>Testbild</translation>
-    </message>
-    <message>
-        <source>Show &amp;counter</source>
-        <translation>&amp;Zähler anzeigen</translation>
-    </message>
-    <message>
-        <source>&amp;Speed</source>
-        <translation>&amp;Geschwindigkeit</translation>
-    </message>
-</context>
-<context>
-    <name>Zelkor::App::AboutBoxDialog</name>
-    <message>
-        <source>About %1</source>
-        <translation>Über %1</translation>
-    </message>
-    <message>
-        <source>Visit the home page</source>
-        <translation>Website besuchen</translation>
-    </message>
-    <message>
-        <source>Write to support</source>
-        <translation>An den Support schreiben</translation>
-    </message>
-    <message>
-        <source>OK</source>
-        <translation>OK</translation>
-    </message>
-</context>
-<context>
     <name>Zelkor::Recorder::AudioPanel</name>
     <message>
         <source>Test signal</source>
@@ -126,6 +92,10 @@
 </context>
 <context>
     <name>Zelkor::Recorder::RecorderModel</name>
+    <message>
+        <source>Test picture</source>
+        <translation>Testbild</translation>
+    </message>
     <message>
         <source>Screen</source>
         <translation>Bildschirm</translation>

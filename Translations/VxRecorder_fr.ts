@@ -13,40 +13,6 @@
     </message>
 </context>
 <context>
-    <name>TestPicture</name>
-    <message>
-        <source>Test picture</source>
-        <translation>Mire</translation>
-    </message>
-    <message>
-        <source>Show &amp;counter</source>
-        <translation>Afficher le &amp;compteur</translation>
-    </message>
-    <message>
-        <source>&amp;Speed</source>
-        <translation>&amp;Vitesse</translation>
-    </message>
-</context>
-<context>
-    <name>Zelkor::App::AboutBoxDialog</name>
-    <message>
-        <source>About %1</source>
-        <translation>À propos de %1</translation>
-    </message>
-    <message>
-        <source>Visit the home page</source>
-        <translation>Visiter le site web</translation>
-    </message>
-    <message>
-        <source>Write to support</source>
-        <translation>Écrire au support</translation>
-    </message>
-    <message>
-        <source>OK</source>
-        <translation>OK</translation>
-    </message>
-</context>
-<context>
     <name>Zelkor::Recorder::AudioPanel</name>
     <message>
         <source>Test signal</source>
@@ -126,6 +92,10 @@
 </context>
 <context>
     <name>Zelkor::Recorder::RecorderModel</name>
+    <message>
+        <source>Test picture</source>
+        <translation>Mire</translation>
+    </message>
     <message>
         <source>Screen</source>
         <translation>Écran</translation>

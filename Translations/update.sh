@@ -11,5 +11,6 @@ update() {
     "$lupdate" -silent -no-obsolete -locations none "$@" -ts "$folder/$name"_*.ts
 }
 update VxUiWidgets -I Lib Lib
-update VxGallery Gallery Catalogue Examples/Support Host
-update VxRecorder Examples Host
+update VxHost Host
+update VxGallery Gallery Catalogue Examples/Support
+update VxRecorder Examples

@@ -24,7 +24,7 @@ set(CPACK_DEBIAN_RUNTIME_PACKAGE_NAME ${runtime_package})
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_SECTION libs)
 set(CPACK_COMPONENT_RUNTIME_DESCRIPTION
     "The shared libraries that applications link, and the
-translations of the library's texts.")
+translations of their texts.")
 # shlibs gives other packages their dependency on this one; triggers update the linker's cache.
 set(shlibs "")
 foreach(library IN LISTS libraries)

@@ -86,8 +86,10 @@ foreach(package VxUiWidgets VxUiWidgetsKit)
 endforeach()
 
 set(translations ${PROJECT_BINARY_DIR}/Translations/)
-install(DIRECTORY ${translations} DESTINATION ${data_folder}/Translations COMPONENT runtime
-        FILES_MATCHING PATTERN "VxUiWidgets_*.qm" PATTERN CMakeFiles EXCLUDE)
+foreach(library IN LISTS libraries)
+  install(DIRECTORY ${translations} DESTINATION ${data_folder}/Translations COMPONENT runtime
+          FILES_MATCHING PATTERN "${library}_*.qm" PATTERN CMakeFiles EXCLUDE)
+endforeach()
 # Applications can start their own style sheet from one of these.
 install(DIRECTORY ${PROJECT_BINARY_DIR}/Styles/ DESTINATION ${data_folder}/Styles COMPONENT development
         FILES_MATCHING PATTERN "*.qss" PATTERN "*.svg" PATTERN CMakeFiles EXCLUDE)

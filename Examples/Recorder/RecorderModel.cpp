@@ -1,6 +1,5 @@
 #include "RecorderModel.h"
 
-#include <QCoreApplication>
 #include <QLocale>
 
 #include <algorithm>
@@ -25,12 +24,12 @@ QString IdOf(const Device& device)
     return QString::fromStdString(device->GetId());
 }
 
-// Cameras have names of their own; the test picture is named like its settings dialog.
+// Translates the names of the stand-in's own devices, which are English.
 QString NameOf(const Device& device)
 {
     switch (device->GetKind()) {
     case Kind::TestPicture:
-        return QCoreApplication::translate("TestPicture", "Test picture");
+        return RecorderModel::tr("Test picture");
     case Kind::Screen:
         return RecorderModel::tr("Screen");
     default:

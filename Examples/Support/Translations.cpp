@@ -53,7 +53,8 @@ bool Translations::Use(const QString& code)
 bool Translations::Install(const QString& code)
 {
     bool found = false;
-    for (const QString& name : {QStringLiteral("qtbase"), QStringLiteral("VxUiWidgets"), program}) {
+    for (const QString& name :
+         {QStringLiteral("qtbase"), QStringLiteral("VxUiWidgets"), QStringLiteral("VxHost"), program}) {
         auto translator = Load(name + "_" + code);
         // Depends on the last one, that of the program. Qt's need not be installed.
         found = translator != nullptr;

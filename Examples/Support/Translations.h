@@ -19,7 +19,7 @@ struct Language
 /// Returns the languages with translations, that of the source texts first.
 const QVector<Language>& AllLanguages();
 
-/// Installs the translations of a program, of the library and of Qt. GUI thread.
+/// Installs the translations of a program, the stand-in, the library and Qt. GUI thread.
 class Translations
 {
 public:

@@ -145,6 +145,7 @@ private Q_SLOTS:
         QVERIFY(appearance->SetLanguage("de"));
         QTRY_VERIFY(Button("Aufnehmen"));
         QCOMPARE(Child<QComboBox>("deviceCombo")->currentText(), QString("Testbild"));
+        QCOMPARE(QCoreApplication::translate("TestPicture", "&Speed"), QString("&Geschwindigkeit"));
         QVERIFY(!appearance->SetLanguage("xx"));
         QTRY_VERIFY(Button("Record"));
     }
