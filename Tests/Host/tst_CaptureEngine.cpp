@@ -6,7 +6,8 @@
 
 #include <Zelkor/StandIn/CaptureEngine.h>
 
-#include <QElapsedTimer>
+#include <QDeadlineTimer>
+#include <QSemaphore>
 
 #include <atomic>
 #include <future>
@@ -22,8 +23,8 @@ using Run = CallbackDevice::Run;
 using Session = boost::intrusive_ptr<Acquis::ICaptureSession>;
 using Unit = Acquis::CaptureSessionInitializer::Unit;
 
-constexpr std::chrono::seconds LIMIT(20);
-constexpr qint64 AT_ONCE = 1000; // milliseconds; much shorter than the blocked devices of these tests
+constexpr std::chrono::milliseconds LIMIT(20000);
+constexpr int AT_ONCE = 1000; // milliseconds; much shorter than the blocked devices of these tests
 const QStringList ONE_RUN{"started", "stopped"};
 
 Session CreateSession(Run run, const std::shared_ptr<const Time::IChronometer>& chronometer = nullptr)
@@ -45,31 +46,6 @@ CaptureError DeliverUntilStopped(SourceChannel& channel)
     return CaptureError::None;
 }
 
-// Blocks a thread until the test opens it.
-class Barrier
-{
-public:
-    void Pass()
-    {
-        reached.set_value();
-        opened.get_future().wait();
-    }
-    void WaitUntilReached() { QCOMPARE(reached.get_future().wait_for(LIMIT), std::future_status::ready); }
-    void Open() { opened.set_value(); }
-
-private:
-    std::promise<void> reached;
-    std::promise<void> opened;
-};
-
-qint64 MillisecondsToStop(Acquis::ICaptureSession& session)
-{
-    QElapsedTimer timer;
-    timer.start();
-    session.Stop();
-    return timer.elapsed();
-}
-
 } // namespace
 
 Q_DECLARE_METATYPE(Run)
@@ -79,6 +55,19 @@ class tst_CaptureEngine : public Support::TestCase
     Q_OBJECT
 
 private Q_SLOTS:
+    void init()
+    {
+        TestCase::init();
+        observer = std::make_shared<ObserverSpy>();
+    }
+
+    void cleanup()
+    {
+        QVERIFY(WaitForEngineIdle(LIMIT));
+        QCOMPARE(observer.use_count(), 1L);
+        TestCase::cleanup();
+    }
+
     void reportsTheOutcomeOfEachRun_data()
     {
         QTest::addColumn<QStringList>("calls");
@@ -89,7 +78,6 @@ private Q_SLOTS:
         row("device is gone", {"error 1"}, nullptr);
         row("cannot open", {"error 1"}, [](auto&) { return CaptureError::CannotOpen; });
         row("ends without a frame", {"error 1"}, [](auto&) { return CaptureError::None; });
-        row("throws", {"error 3"}, [](auto&) -> CaptureError { throw std::runtime_error("broken"); });
         row("throws a string", {"error 3"}, [](auto&) -> CaptureError { throw "broken"; });
         row("ends after a frame", ONE_RUN, [](auto& channel) { return Deliver(channel, 1); });
         row("is lost", {"started", "error 2"}, [](auto& channel) { return Deliver(channel, 1, CaptureError::Lost); });
@@ -103,21 +91,17 @@ private Q_SLOTS:
     {
         QFETCH(Run, run);
         QFETCH(QStringList, calls);
-        const Session session = CreateSession(run);
-        for (int i = 0; i < 2; ++i) {
-            const auto observer = Start(session);
-            QVERIFY(observer->WaitFor(calls));
-            QVERIFY(WaitForEngineIdle(LIMIT));
-            session->Stop();
-            QCOMPARE(observer->Calls(), calls);
-            QCOMPARE(observer.use_count(), 1L);
-        }
+        const Session session = Start(run);
+        QVERIFY(observer->WaitFor(calls));
+        QVERIFY(WaitForEngineIdle(LIMIT));
+        session->Stop();
+        session->Start(observer);
+        QVERIFY(observer->WaitFor(calls + calls));
     }
 
     void observerIsCalledOnceOnAnEngineThread()
     {
         const Session session = CreateSession(DeliverUntilStopped);
-        const auto observer = std::make_shared<ObserverSpy>();
         std::atomic<int> wrongCalls{0};
         observer->onCall = [&, caller = std::this_thread::get_id()](auto& call, auto* sender) {
             wrongCalls += std::this_thread::get_id() == caller;
@@ -125,61 +109,47 @@ private Q_SLOTS:
         };
         session->Start(observer);
         QVERIFY(observer->WaitFor({"started"}));
-        const auto ignored = Start(session); // it runs already
+        const auto ignored = Support::Start(session); // it runs already
         session->Stop();
         session->Stop();
         QCOMPARE(observer->Calls(), ONE_RUN);
         QCOMPARE(ignored->Calls(), QStringList());
         QCOMPARE(int(wrongCalls), 0);
-        QCOMPARE(observer.use_count(), 1L);
         QCOMPARE(session->GetRefCount(), 1);
-    }
-
-    void chronometerSetsTheTimeOfFrames()
-    {
-        struct Clock : Time::IChronometer
-        {
-            std::int64_t Now() const override { return 500; }
-        };
-        const Session session = CreateSession(DeliverUntilStopped, std::make_shared<Clock>());
-        const auto observer = Start(session);
-        QVERIFY(observer->WaitFor({"started"}));
-        QCOMPARE(observer->startTime, std::int64_t(500));
-        QCOMPARE(ReadFrame(*observer->CreateOutput())->GetTime(), std::int64_t(500));
     }
 
     void stopDoesNotWaitForAnOpeningDevice()
     {
-        const auto opening = std::make_shared<Barrier>();
-        const Session session = CreateSession([opening](SourceChannel& channel) {
-            opening->Pass();
+        const Session session = Start([this](SourceChannel& channel) {
+            Block();
             return Deliver(channel, 2, CaptureError::Failed);
         });
-        const auto observer = Start(session);
-        opening->WaitUntilReached();
-        QVERIFY(MillisecondsToStop(*session) < AT_ONCE);
+        QVERIFY(blocked.tryAcquire(1, int(LIMIT.count())));
+        const QDeadlineTimer limit(AT_ONCE);
+        session->Stop();
+        QVERIFY(!limit.hasExpired());
         QCOMPARE(observer.use_count(), 1L);
         QVERIFY(!WaitForEngineIdle(std::chrono::milliseconds(20)));
-        opening->Open();
+        unblocked.release();
         QVERIFY(WaitForEngineIdle(LIMIT));
         QCOMPARE(observer->Calls(), QStringList());
     }
 
     void stopDoesNotWaitForAClosingDevice()
     {
-        const auto closing = std::make_shared<Barrier>();
-        const Session session = CreateSession([closing](SourceChannel& channel) {
+        const Session session = Start([this](SourceChannel& channel) {
             DeliverUntilStopped(channel);
-            closing->Pass();
+            Block();
             return Deliver(channel, 2, CaptureError::Failed);
         });
-        const auto observer = Start(session);
         QVERIFY(observer->WaitFor({"started"}));
         const auto output = observer->CreateOutput();
         QVERIFY(ReadFrame(*output));
-        QVERIFY(MillisecondsToStop(*session) < AT_ONCE);
-        QCOMPARE(observer->Calls(), ONE_RUN);
-        closing->Open();
+        const QDeadlineTimer limit(AT_ONCE);
+        session->Stop();
+        QVERIFY(!limit.hasExpired());
+        QVERIFY(blocked.tryAcquire(1, int(LIMIT.count())));
+        unblocked.release();
         QVERIFY(WaitForEngineIdle(LIMIT));
         QVERIFY(!ReadFrame(*output));
         QCOMPARE(observer->Calls(), ONE_RUN);
@@ -187,18 +157,15 @@ private Q_SLOTS:
 
     void stopWaitsForARunningObserverCall()
     {
-        const Session session = CreateSession(DeliverUntilStopped);
-        const auto observer = std::make_shared<ObserverSpy>();
-        Barrier call;
-        observer->onCall = [&](auto& name, auto*) {
-            if (name == "started")
-                call.Pass();
+        observer->onCall = [this](auto& call, auto*) {
+            if (call == "started")
+                Block();
         };
-        session->Start(observer);
-        call.WaitUntilReached();
+        const Session session = Start(DeliverUntilStopped);
+        QVERIFY(blocked.tryAcquire(1, int(LIMIT.count())));
         const auto stopped = std::async(std::launch::async, [&] { session->Stop(); });
         QCOMPARE(stopped.wait_for(std::chrono::milliseconds(50)), std::future_status::timeout);
-        call.Open();
+        unblocked.release();
         QCOMPARE(stopped.wait_for(LIMIT), std::future_status::ready);
         QCOMPARE(observer->Calls(), ONE_RUN);
     }
@@ -209,7 +176,6 @@ private Q_SLOTS:
         const Session session = CreateSession([&](SourceChannel& channel) {
             return ++runs < 4 ? CaptureError::CannotOpen : DeliverUntilStopped(channel);
         });
-        const auto observer = std::make_shared<ObserverSpy>();
         observer->onCall = [&, starts = 0](auto& call, auto* sender) mutable {
             if (call == "started") {
                 sender->Stop();
@@ -222,74 +188,68 @@ private Q_SLOTS:
         session->Start(observer);
         QVERIFY(observer->WaitFor(QStringList{"error 1", "error 1", "error 1"} + ONE_RUN + ONE_RUN + ONE_RUN));
         QVERIFY(WaitForEngineIdle(LIMIT));
-        QCOMPARE(observer.use_count(), 1L);
     }
 
-    void releaseOfTheLastReferenceStops_data()
+    void releaseInAnObserverCallStops_data()
     {
         QTest::addColumn<QStringList>("calls");
         QTest::addColumn<QString>("releasedIn");
         QTest::addColumn<Run>("run");
-        QTest::newRow("in no call") << ONE_RUN << "" << Run(DeliverUntilStopped);
-        QTest::newRow("in handleStarted") << ONE_RUN << "started" << Run(DeliverUntilStopped);
-        QTest::newRow("in handleStopped") << ONE_RUN << "stopped" << Run([](auto& c) { return Deliver(c, 1); });
-        QTest::newRow("in handleError") << QStringList{"started", "error 2"} << "error 2"
-                                        << Run([](auto& c) { return Deliver(c, 1, CaptureError::Lost); });
+        QTest::newRow("handleStarted") << ONE_RUN << "started" << Run(DeliverUntilStopped);
+        QTest::newRow("handleStopped") << ONE_RUN << "stopped" << Run([](auto& c) { return Deliver(c, 1); });
+        QTest::newRow("handleError") << QStringList{"started", "error 2"} << "error 2"
+                                     << Run([](auto& c) { return Deliver(c, 1, CaptureError::Lost); });
     }
 
-    void releaseOfTheLastReferenceStops()
+    void releaseInAnObserverCallStops()
     {
         QFETCH(QStringList, calls);
         QFETCH(QString, releasedIn);
         QFETCH(Run, run);
         Session session = CreateSession(run);
-        const auto observer = std::make_shared<ObserverSpy>();
         observer->onCall = [&](auto& call, auto*) {
             if (call == releasedIn)
                 session = nullptr;
         };
         session->Start(observer);
-        if (releasedIn.isEmpty()) {
-            QVERIFY(observer->WaitFor({"started"}));
-            session = nullptr;
-        }
         QVERIFY(observer->WaitFor(calls));
         QVERIFY(WaitForEngineIdle(LIMIT));
         QCOMPARE(observer->Calls(), calls);
-        QCOMPARE(observer.use_count(), 1L);
     }
 
     void releaseMayCoincideWithAnError()
     {
         for (int i = 0; i < 500; ++i)
-            Start(CreateSession([](auto&) { return CaptureError::CannotOpen; }));
-        QVERIFY(WaitForEngineIdle(LIMIT));
+            Support::Start(CreateSession([](auto&) { return CaptureError::CannotOpen; }));
     }
 
     void outputReadsTheNewestFrameInItsOwnTime()
     {
+        struct Clock : Time::IChronometer
+        {
+            std::int64_t Now() const override { return now += 100; }
+            mutable std::atomic<std::int64_t> now{0};
+        };
         struct Shift : Acquis::TimeShift
         {
             std::int64_t MapTime(std::int64_t time) const override { return time + 40; }
         };
-        const Session session = CreateSession([](SourceChannel& channel) {
-            Deliver(channel, 5);
-            Deliver(channel, 6);
+        const auto twoFrames = [](SourceChannel& channel) {
+            Deliver(channel, 1);
             channel.Deliver(nullptr);
-            channel.WaitForEnd(std::chrono::steady_clock::now() + LIMIT);
-            return CaptureError::None;
-        });
-        const auto observer = Start(session);
+            return DeliverUntilStopped(channel);
+        };
+        const Session session = Start(twoFrames, std::make_shared<Clock>());
         QVERIFY(observer->WaitFor({"started"}));
-        QCOMPARE(observer->startTime, std::int64_t(5));
+        QCOMPARE(observer->startTime, std::int64_t(100));
 
         const auto plain = observer->CreateOutput();
         const auto shifted = observer->CreateOutput();
         shifted->SetTimeShift(new Shift);
-        QTRY_COMPARE(ReadFrame(*plain)->GetTime(), std::int64_t(6));
+        QTRY_COMPARE(ReadFrame(*plain)->GetTime(), std::int64_t(200));
         const auto frame = ReadFrame(*plain);
         const auto later = ReadFrame(*shifted);
-        QCOMPARE(later->GetTime(), std::int64_t(46));
+        QCOMPARE(later->GetTime(), std::int64_t(240));
         QCOMPARE(later->GetPlanes()[0].data, frame->GetPlanes()[0].data);
         QCOMPARE(ReadFrame(*shifted), later);
         QCOMPARE(ReadFrame(*plain), frame);
@@ -300,10 +260,11 @@ private Q_SLOTS:
         QCOMPARE(frame->GetRefCount(), 1);
     }
 
-    void factoryRefusesWhatItCannotCapture()
+    void invalidArgumentsAreLogged()
     {
         const boost::intrusive_ptr<CaptureDevice> device(new CallbackDevice(DeliverUntilStopped));
-        const Unit unit(device, device->GetModes()[0]);
+        const auto mode = device->GetModes()[0];
+        const Unit unit(device, mode);
         const auto create = [](const std::vector<Unit>& units, Proc::PixFmt pixFmt, const char* implName = "Default") {
             Session session;
             Acquis::CaptureFactory::Create()->CreateSession(session, {units, nullptr, nullptr, pixFmt}, implName);
@@ -318,24 +279,16 @@ private Q_SLOTS:
         QVERIFY(!create({{OrdinaryDevice(), nullptr}}, Proc::PixFmt::None));
         QVERIFY(!create({unit}, Proc::PixFmt::NV12));
         QVERIFY(!create({unit}, Proc::PixFmt::None, "Other"));
-        QCOMPARE(log.Take().filter(QRegularExpression("^E ")).size(), 6);
-    }
-
-    void invalidArgumentsAreLogged()
-    {
-        const LogCapture log;
         CreateSession(DeliverUntilStopped)->Start(nullptr);
-        const auto mode = CallbackDevice(nullptr).GetModes()[0];
         mode->SetFrameRate({15, 1});
         mode->SetFrameRate({0, 1});
         QCOMPARE(mode->GetFrameRate().numerator, std::int64_t(15));
-        QCOMPARE(log.Lines().filter(QRegularExpression("^E ")).size(), 2);
+        QCOMPARE(log.Take().filter(QRegularExpression("^E ")).size(), 8);
     }
 
     void startAndStopFromTwoThreadsAlternate()
     {
         const Session session = CreateSession(DeliverUntilStopped);
-        const auto observer = std::make_shared<ObserverSpy>();
         const auto startAndStop = [&] {
             for (int i = 0; i < 500; ++i) {
                 session->Start(observer);
@@ -354,20 +307,38 @@ private Q_SLOTS:
         QCOMPARE(observer->Calls(), expected + ONE_RUN);
     }
 
-    // Must be the last function: the process exits while one session runs and the device of another is blocked.
-    void processMayExitWhileSessionsRun()
+    // The process exits while one session runs and the device of another is blocked.
+    void cleanupTestCase()
     {
-        static const auto observer = std::make_shared<ObserverSpy>();
+        static const auto lastObserver = std::make_shared<ObserverSpy>();
         static const Session running = CreateSession(DeliverUntilStopped);
-        static const Session blocked = CreateSession([](SourceChannel& channel) {
-            Barrier().Pass();
+        static const Session hanging = CreateSession([](SourceChannel& channel) {
+            std::promise<void>().get_future().wait();
             return DeliverUntilStopped(channel);
         });
-        running->Start(observer);
-        blocked->Start(observer);
-        blocked->Stop();
-        QVERIFY(observer->WaitFor({"started"}));
+        running->Start(lastObserver);
+        hanging->Start(lastObserver);
+        hanging->Stop();
+        QVERIFY(lastObserver->WaitFor({"started"}));
     }
+
+private:
+    Session Start(Run run, const std::shared_ptr<const Time::IChronometer>& chronometer = nullptr)
+    {
+        const Session session = CreateSession(std::move(run), chronometer);
+        session->Start(observer);
+        return session;
+    }
+
+    void Block()
+    {
+        blocked.release();
+        unblocked.acquire();
+    }
+
+    std::shared_ptr<ObserverSpy> observer;
+    QSemaphore blocked;   ///< available when a thread waits for `unblocked`
+    QSemaphore unblocked; ///< ends `Block`
 };
 
 VX_TEST_MAIN(tst_CaptureEngine)
