@@ -63,14 +63,16 @@ private Q_SLOTS:
         TestCase::cleanup();
     }
 
-    void pictureRunsWhileTheWindowIsVisible()
+    void pictureAndLevelsRunWhileTheWindowIsVisible()
     {
         const QImage idle = Picture();
         QTRY_VERIFY_WITH_TIMEOUT(Picture() != idle, CAMERA_TIMEOUT_MS);
         Choose(Child<QComboBox>("modeCombo"), 1);
         QTRY_VERIFY_WITH_TIMEOUT(Picture() != idle, CAMERA_TIMEOUT_MS);
+        Button("Audio")->click(); // opens the panel of the levels
         window->hide();
         QTRY_COMPARE(Picture(), idle);
+        QVERIFY(StandIn::WaitForEngineIdle(20s));
         QCOMPARE(model->GetStatus(), RecorderModel::Status::Running);
     }
 
