@@ -2,8 +2,7 @@ vx_test(Host/tst_VideoFrame.cpp)
 vx_test(Host/tst_HostUtilities.cpp)
 
 vx_test(Host/tst_CaptureEngine.cpp LABELS threads)
-vx_test(Host/tst_TestPicture.cpp LABELS threads)
-vx_test(Host/tst_AudioLevelSource.cpp LABELS threads)
+vx_test(Host/tst_Devices.cpp LABELS threads)
 
 if(VX_WITH_GSTREAMER AND VX_GSTREAMER_FOUND)
   # The host does not export these sources, so the test compiles them.

@@ -3,6 +3,8 @@
 #include <Support/ObserverSpy.h>
 #include <Support/TestCase.h>
 
+#include <Zelkor/StandIn/AudioLevelSource.h>
+#include <Zelkor/StandIn/CaptureEngine.h>
 #include <Zelkor/StandIn/DeviceList.h>
 
 #include <QCheckBox>
@@ -11,6 +13,7 @@
 #include <QSignalSpy>
 #include <QSlider>
 
+#include <algorithm>
 #include <set>
 #include <thread>
 
@@ -31,7 +34,7 @@ QDialog* OpenDialog()
 
 } // namespace
 
-class tst_TestPicture : public Support::TestCase
+class tst_Devices : public Support::TestCase
 {
     Q_OBJECT
 
@@ -146,7 +149,44 @@ private Q_SLOTS:
             QVERIFY(!limit.hasExpired());
         }
     }
+
+    void testSignalVariesUntilItIsStopped()
+    {
+        AudioLevelSource source(AudioLevelSource::Input::TestSignal);
+        const Support::EventSwallower swallower;
+        QSignalSpy spy(&source, &AudioLevelSource::PeakMeasured);
+        source.Start();
+        source.Start();
+        QTRY_VERIFY(spy.size() >= 40);
+        QVERIFY(source.IsTestSignal());
+        const auto [lowest, highest] = std::minmax_element(spy.begin(), spy.end());
+        QVERIFY(lowest->value(0).toDouble() >= AudioLevelSource::SILENCE_DB);
+        QVERIFY(highest->value(0).toDouble() <= 0);
+        QVERIFY(highest->value(0).toDouble() - lowest->value(0).toDouble() > 20);
+
+        QTest::qSleep(200); // the next peaks are pending when the source is stopped
+        source.Stop();
+        source.Stop();
+        const int count = spy.size();
+        QVERIFY(WaitForEngineIdle(std::chrono::seconds(10)));
+        QCoreApplication::processEvents();
+        QCOMPARE(spy.size(), count);
+        source.Start();
+        QTRY_VERIFY(spy.size() > count);
+    }
+
+    // Passes with and without a microphone.
+    void microphoneSourceMayBeDeletedInItsSignal()
+    {
+        auto source = std::make_unique<AudioLevelSource>(AudioLevelSource::Input::Microphone);
+        source->Start();
+        source = std::make_unique<AudioLevelSource>(AudioLevelSource::Input::Microphone);
+        connect(source.get(), &AudioLevelSource::PeakMeasured, this, [&source] { source.reset(); });
+        source->Start();
+        QTRY_VERIFY_WITH_TIMEOUT(!source, 20000);
+        QVERIFY(WaitForEngineIdle(std::chrono::seconds(20)));
+    }
 };
 
-VX_TEST_MAIN(tst_TestPicture)
-#include "tst_TestPicture.moc"
+VX_TEST_MAIN(tst_Devices)
+#include "tst_Devices.moc"
