@@ -124,10 +124,10 @@ private Q_SLOTS:
             Block();
             return Deliver(channel, 2, CaptureError::Failed);
         });
-        QVERIFY(blocked.tryAcquire(1, int(LIMIT.count())));
-        const QDeadlineTimer limit(AT_ONCE);
+        QVERIFY(WaitUntilBlocked());
+        const QDeadlineTimer deadline(AT_ONCE);
         session->Stop();
-        QVERIFY(!limit.hasExpired());
+        QVERIFY(!deadline.hasExpired());
         QCOMPARE(observer.use_count(), 1L);
         QVERIFY(!WaitForEngineIdle(std::chrono::milliseconds(20)));
         unblocked.release();
@@ -145,10 +145,10 @@ private Q_SLOTS:
         QVERIFY(observer->WaitFor({"started"}));
         const auto output = observer->CreateOutput();
         QVERIFY(ReadFrame(*output));
-        const QDeadlineTimer limit(AT_ONCE);
+        const QDeadlineTimer deadline(AT_ONCE);
         session->Stop();
-        QVERIFY(!limit.hasExpired());
-        QVERIFY(blocked.tryAcquire(1, int(LIMIT.count())));
+        QVERIFY(!deadline.hasExpired());
+        QVERIFY(WaitUntilBlocked());
         unblocked.release();
         QVERIFY(WaitForEngineIdle(LIMIT));
         QVERIFY(!ReadFrame(*output));
@@ -162,7 +162,7 @@ private Q_SLOTS:
                 Block();
         };
         const Session session = Start(DeliverUntilStopped);
-        QVERIFY(blocked.tryAcquire(1, int(LIMIT.count())));
+        QVERIFY(WaitUntilBlocked());
         const auto stopped = std::async(std::launch::async, [&] { session->Stop(); });
         QCOMPARE(stopped.wait_for(std::chrono::milliseconds(50)), std::future_status::timeout);
         unblocked.release();
@@ -335,6 +335,8 @@ private:
         blocked.release();
         unblocked.acquire();
     }
+
+    bool WaitUntilBlocked() { return blocked.tryAcquire(1, int(LIMIT.count())); }
 
     std::shared_ptr<ObserverSpy> observer;
     QSemaphore blocked;   ///< available when a thread waits for `unblocked`

@@ -144,9 +144,9 @@ private Q_SLOTS:
         for (int i = 0; i < 50; ++i) {
             auto list = std::make_unique<DeviceList>();
             QTest::qWait(i % 10);
-            const QDeadlineTimer limit(200);
+            const QDeadlineTimer deadline(200);
             list.reset();
-            QVERIFY(!limit.hasExpired());
+            QVERIFY(!deadline.hasExpired());
         }
     }
 
