@@ -93,9 +93,10 @@ private Q_SLOTS:
         QCOMPARE(OpenDialog(), dialog.data());
 
         const auto isStill = [output = observer->CreateOutput()] {
-            const QImage first = ImageOf(ReadFrame(*output));
-            QTest::qWait(300);
-            return ImageOf(ReadFrame(*output)) == first;
+            const auto first = ReadFrame(*output);
+            auto next = first;
+            const auto isNew = [&] { return (next = ReadFrame(*output))->GetTime() != first->GetTime(); };
+            return QTest::qWaitFor(isNew) && ImageOf(next) == ImageOf(first);
         };
         dialog->findChild<QCheckBox*>()->setChecked(false);
         dialog->findChild<QSlider*>()->setValue(0);
