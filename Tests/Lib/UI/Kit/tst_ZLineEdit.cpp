@@ -168,6 +168,9 @@ private Q_SLOTS:
         QRegularExpressionValidator validator(QRegularExpression("[A-Za-z ]+"));
         Fixture fixture;
         ZLineEdit& edit = fixture.edit;
+        QPalette palette;
+        palette.setColor(QPalette::Text, Qt::red);
+        fixture.window.setPalette(palette);
         const QImage elided = edit.grab().toImage();
         edit.setValidator(&validator);
         edit.resize(61, 30);

@@ -129,9 +129,10 @@ private Q_SLOTS:
                  {QString("push X"), start, commit, rollBack, QString("clear"), QString("undo"), QString("redo"),
                   rollBack + ", push X", commit + ", undo", commit + ", undo, push X", QString("undo, push X"),
                   QString("delete"), commit + ", " + commit + ", undo, delete"}) {
-                for (const QString& after : {QString("undo"), "undo, " + rollBack, "undo, " + commit + ", undo",
-                                             QString("undo, undo"), QString("undo, redo"), "undo, redo, " + rollBack,
-                                             "undo, redo, " + commit + ", undo", QString("undo, redo, undo, redo")})
+                for (const QString& after :
+                     {QString("undo"), rollBack, "undo, " + rollBack, "undo, " + commit + ", undo",
+                      QString("undo, undo"), QString("undo, redo"), "undo, redo, " + rollBack,
+                      "undo, redo, " + commit + ", undo", QString("undo, redo, undo, redo")})
                     QTest::newRow(qPrintable(before + "; " + within + "; " + after)) << before << within << after;
             }
         }
