@@ -9,7 +9,6 @@
 using namespace Zelkor::Vx::UI::Kit;
 
 using Numbers = QVector<int>;
-Q_DECLARE_METATYPE(SliderTrack)
 
 /// The groove of a slider: positions of thumbs and segments, presses and drags.
 class tst_ZSlider : public Support::TestCase
@@ -22,28 +21,19 @@ class tst_ZSlider : public Support::TestCase
     }
 
 private Q_SLOTS:
-    void trackConvertsValuesAndPixels_data()
-    {
-        QTest::addColumn<SliderTrack>("track");
-        QTest::addColumn<Numbers>("numbers"); // a value with its pixel for a thumb and a segment; a pixel and its value
-        QTest::newRow("middle") << SliderTrack{212, 6, 0, 100} << Numbers{50, 106, 106, 106, 50};
-        QTest::newRow("beyond the end") << SliderTrack{212, 6, 0, 100} << Numbers{100, 206, 206, 500, 100};
-        QTest::newRow("thumbs ignore the minimum") << SliderTrack{212, 6, 10, 110} << Numbers{10, 26, 6, 6, 10};
-        QTest::newRow("rounding") << SliderTrack{19, 6, -10, 10} << Numbers{3, 7, 10, 9, -1};
-        QTest::newRow("empty range") << SliderTrack{212, 6, 7, 7} << Numbers{1, 206, -1194, 100, 7};
-        QTest::newRow("range of int") << SliderTrack{212, 6, INT_MIN, INT_MAX}
-                                      << Numbers{INT_MAX, 106, 206, 206, INT_MAX};
-        QTest::newRow("no groove") << SliderTrack{0, 6, INT_MAX - 1, INT_MAX}
-                                   << Numbers{INT_MAX, 6 - (1 << 24), -6, 0, INT_MAX - 1};
-    }
-
     void trackConvertsValuesAndPixels()
     {
-        QFETCH(SliderTrack, track);
-        QFETCH(Numbers, numbers);
-        QCOMPARE(track.pixelOfThumb(numbers[0]), numbers[1]);
-        QCOMPARE(track.pixelOfSegment(numbers[0]), numbers[2]);
-        QCOMPARE(track.valueAt(numbers[3]), numbers[4]);
+        // The pixels of a thumb and a segment at a value, and the value at a pixel.
+        const auto converted = [](const SliderTrack& track, int value, int pixel) {
+            return Numbers{track.pixelOfThumb(value), track.pixelOfSegment(value), track.valueAt(pixel)};
+        };
+        QCOMPARE(converted({212, 6, 0, 100}, 50, 106), Numbers({106, 106, 50}));
+        QCOMPARE(converted({212, 6, 0, 100}, 100, 500), Numbers({206, 206, 100}));
+        QCOMPARE(converted({212, 6, 10, 110}, 10, 6), Numbers({26, 6, 10})); // thumbs ignore the minimum
+        QCOMPARE(converted({19, 6, -10, 10}, 3, 9), Numbers({7, 10, -1}));
+        QCOMPARE(converted({212, 6, 7, 7}, 1, 100), Numbers({206, -1194, 7}));
+        QCOMPARE(converted({212, 6, INT_MIN, INT_MAX}, INT_MAX, 206), Numbers({106, 206, INT_MAX}));
+        QCOMPARE(converted({0, 6, INT_MAX - 1, INT_MAX}, INT_MAX, 0), Numbers({6 - (1 << 24), -6, INT_MAX - 1}));
     }
 
     void thumbsAreAtTheirValues()

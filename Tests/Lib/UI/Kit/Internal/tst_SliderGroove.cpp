@@ -1,5 +1,4 @@
-#include <UI/Kit/ZSlider.h>
-#include <UI/Kit/ZSliderThumb.h>
+#include <Lib/UI/Kit/SliderFixture.h>
 
 #include <Support/PaintSpy.h>
 #include <Support/Picture.h>
@@ -7,14 +6,11 @@
 
 namespace {
 
-/// 0 to 100 over 200 pixels, with a colour for each part and no thumb.
-struct Slider : ZSlider
+/// With a colour for each part and no thumb.
+struct Slider : Trimmer
 {
     Slider()
     {
-        setOrientation(Qt::Horizontal);
-        setRange(0, 100);
-        resize(212, 30);
         setGrooveEmptyStyle("background: white");
         setGrooveNormalStyle("background: lime");
         setGrooveSelectedStyle("background: blue");
@@ -28,10 +24,9 @@ struct Slider : ZSlider
         static const QMap<QRgb, QString> NAMES{{0xffffffff, "white"}, {0xff00ff00, "lime"}, {0xff0000ff, "blue"},
                                                {0xffff0000, "red"},   {0xff808080, "gray"}, {0, "none"}};
         const QImage image = grab().toImage();
-        const bool isHorizontal = orientation() == Qt::Horizontal;
         QStringList names;
         for (const int pixel : pixels) {
-            const QPoint point = isHorizontal ? QPoint(pixel, 15) : QPoint(15, pixel);
+            const QPoint point = orientation() == Qt::Horizontal ? QPoint(pixel, 15) : QPoint(15, pixel);
             names << NAMES.value(Support::ColorAt(image, point).rgba(), "?");
         }
         return names.join(' ');
