@@ -19,16 +19,13 @@ private Q_SLOTS:
     {
         QTest::addColumn<QLayout*>("layout");
         QTest::addColumn<QVector<int>>("spacings"); // common, horizontal, vertical
-        const auto row = [](const char* name, QLayout* layout, const QVector<int>& spacings) {
-            QTest::newRow(name) << layout << spacings;
-        };
-        row("QHBoxLayout", new QHBoxLayout, {7, 7, -1});
-        row("QVBoxLayout", new QVBoxLayout, {9, -1, 9});
-        row("QBoxLayout", new QBoxLayout(QBoxLayout::Down), {3, -1, -1});
-        row("QGridLayout", new QGridLayout, {-1, 7, 9});
-        row("QFormLayout", new QFormLayout, {-1, 7, 9});
-        row("QStackedLayout", new QStackedLayout, {3, -1, -1});
-        row("no layout", nullptr, {-1, -1, -1});
+        QTest::newRow("horizontal") << static_cast<QLayout*>(new QHBoxLayout) << QVector<int>{7, 7, -1};
+        QTest::newRow("vertical") << static_cast<QLayout*>(new QVBoxLayout) << QVector<int>{9, -1, 9};
+        QTest::newRow("box") << static_cast<QLayout*>(new QBoxLayout(QBoxLayout::Down)) << QVector<int>{3, -1, -1};
+        QTest::newRow("grid") << static_cast<QLayout*>(new QGridLayout) << QVector<int>{-1, 7, 9};
+        QTest::newRow("form") << static_cast<QLayout*>(new QFormLayout) << QVector<int>{-1, 7, 9};
+        QTest::newRow("stack") << static_cast<QLayout*>(new QStackedLayout) << QVector<int>{3, -1, -1};
+        QTest::newRow("none") << static_cast<QLayout*>(nullptr) << QVector<int>{-1, -1, -1};
     }
 
     void framePropertiesDependOnTheLayout()
@@ -95,21 +92,17 @@ private Q_SLOTS:
 
     void labelEmitsClickedOnPress()
     {
-        QPointer<ZLabel> label = new ZLabel;
-        label->resize(100, 30);
-        QSignalSpy clicked(label, &ZLabel::clicked);
-        QTest::mouseClick(label, Qt::LeftButton);
-        QTest::mousePress(label, Qt::RightButton);
+        ZLabel label;
+        label.setOriginalText("Text");
+        QSignalSpy clicked(&label, &ZLabel::clicked);
+        QTest::mouseClick(&label, Qt::LeftButton);
+        QTest::mousePress(&label, Qt::RightButton);
         QCOMPARE(clicked.size(), 2);
-        label->setClickable(false);
-        label->setTextInteractionFlags(Qt::TextSelectableByMouse);
-        QTest::mouseDClick(label, Qt::LeftButton, {}, QPoint(5, 15));
+        label.setClickable(false);
+        label.setTextInteractionFlags(Qt::TextSelectableByMouse);
+        QTest::mouseDClick(&label, Qt::LeftButton);
         QCOMPARE(clicked.size(), 2);
-        QVERIFY(label->hasSelectedText());
-        label->setClickable(true);
-        connect(label, &ZLabel::clicked, label, [label] { delete label; });
-        QTest::mousePress(label, Qt::LeftButton);
-        QVERIFY(!label);
+        QVERIFY(label.hasSelectedText());
     }
 
     void stackHasTheSizeOfItsCurrentPage()

@@ -16,6 +16,27 @@
 
 constexpr double INF = std::numeric_limits<double>::infinity();
 
+namespace {
+
+/// Rounds typed numbers to its step.
+struct SteppedField : ZDoubleSpinBox
+{
+    explicit SteppedField(bool isTracking)
+    {
+        setFixupWithStep(true);
+        setKeyboardTracking(isTracking);
+        setLocale(QLocale::c());
+    }
+
+    void type(const QString& number)
+    {
+        selectAll();
+        QTest::keyClicks(this, number);
+    }
+};
+
+} // namespace
+
 class tst_KitFields : public Support::TestCase
 {
     Q_OBJECT
@@ -72,12 +93,11 @@ private Q_SLOTS:
     {
         ZComboBox combo;
         combo.addItems({"a", "b"});
-        combo.setMouseWheelEnabled(false);
-        QVERIFY(!Support::TurnWheel(&combo, {0, -120}));
-        QCOMPARE(combo.currentIndex(), 0);
-        combo.setMouseWheelEnabled(true);
-        QVERIFY(Support::TurnWheel(&combo, {0, -120}));
-        QCOMPARE(combo.currentIndex(), 1);
+        for (const bool enabled : {false, true}) {
+            combo.setMouseWheelEnabled(enabled);
+            QCOMPARE(Support::TurnWheel(&combo, {0, -120}), enabled);
+            QCOMPARE(combo.currentIndex(), int(enabled));
+        }
         QCOMPARE(combo.focusPolicy(), Qt::StrongFocus);
     }
 
@@ -116,12 +136,11 @@ private Q_SLOTS:
         slider.setDoubleValue(2.46);
         slider.setDoubleValue(qQNaN());
         QCOMPARE(changed, (QList<QVariantList>{{2.5}, {2.5}}));
-        const QVector<QPair<double, int>> rows{{2.44, 24},   {2.46, 25}, {-2.46, -24},  {-2.56, -25}, {11, 100},
-                                               {1e300, 100}, {INF, 100}, {-1e300, -50}, {-INF, -50}};
-        for (const auto& row : rows) {
-            slider.setDoubleValue(row.first);
-            QCOMPARE(slider.value(), row.second);
-            QCOMPARE(changed.last(), QVariantList{row.second * 0.1});
+        const QMap<double, int> positions{{-INF, -50}, {-2.56, -25}, {-2.46, -24}, {2.44, 24}, {11, 100}, {INF, 100}};
+        for (const double value : positions.keys()) {
+            slider.setDoubleValue(value);
+            QCOMPARE(slider.value(), positions[value]);
+            QCOMPARE(changed.last(), QVariantList{positions[value] * 0.1});
         }
         // With a negative multiplier, the minimum of the position is the maximum of the value.
         slider.setMultiplier(-0.5);
@@ -155,11 +174,8 @@ private Q_SLOTS:
         QFETCH(double, step);
         QFETCH(QString, typed);
         QFETCH(double, expected);
-        for (const bool tracking : {true, false}) {
-            ZDoubleSpinBox field;
-            field.setFixupWithStep(true);
-            field.setKeyboardTracking(tracking);
-            field.setLocale(QLocale::c());
+        for (const bool isTracking : {true, false}) {
+            SteppedField field(isTracking);
             field.setRange(minimum, 10);
             field.setSingleStep(step);
             field.setSuffix(" s");
@@ -167,47 +183,27 @@ private Q_SLOTS:
             QVector<double> finished;
             connect(&field, &QDoubleSpinBox::editingFinished, &field, [&] { finished += field.value(); });
             QSignalSpy changed(&field, QOverload<double>::of(&QDoubleSpinBox::valueChanged));
-            field.selectAll();
-            QTest::keyClicks(&field, typed);
-            QTest::keyClick(&field, Qt::Key_Return);
-            QVERIFY(tracking || changed.size() <= 1);
+            field.type(typed + '\r');
+            QVERIFY(isTracking || changed.size() <= 1);
             QCOMPARE(field.text(), field.textFromValue(expected) + " s");
             QCOMPARE(finished, QVector<double>{expected});
         }
     }
 
-    void onlyTypedNumbersAreRounded_data()
-    {
-        QTest::addColumn<bool>("isTracking");
-        QTest::addColumn<bool>("isStepped");
-        QTest::newRow("code") << true << false;
-        QTest::newRow("code, no tracking") << false << false;
-        QTest::newRow("arrow keys") << true << true;
-        QTest::newRow("arrow keys, no tracking") << false << true;
-    }
-
     void onlyTypedNumbersAreRounded()
     {
-        QFETCH(bool, isTracking);
-        QFETCH(bool, isStepped);
-        ZDoubleSpinBox field;
-        field.setLocale(QLocale::c());
-        field.setFixupWithStep(true);
-        field.setKeyboardTracking(isTracking);
-        field.setSingleStep(0.5);
-        field.selectAll();
-        QTest::keyClicks(&field, "1.3");
-        if (isStepped) {
-            QTest::keyClick(&field, Qt::Key_Up);
-            QTest::keyClick(&field, Qt::Key_Up);
-            QTest::keyClick(&field, Qt::Key_Down);
-        } else {
+        for (const bool isTracking : {true, false}) {
+            SteppedField field(isTracking);
+            field.setSingleStep(0.5);
+            field.type("1.3");
             field.setValue(1.8);
+            QTest::keyClick(&field, Qt::Key_Return);
+            QCOMPARE(field.value(), 1.8);
+            field.type("1.3");
+            for (const Qt::Key key : {Qt::Key_Up, Qt::Key_Up, Qt::Key_Down, Qt::Key_Return})
+                QTest::keyClick(&field, key);
+            QCOMPARE(field.value(), isTracking ? 1.8 : 2);
         }
-        const double value = field.value();
-        QTest::keyClick(&field, Qt::Key_Return);
-        QCOMPARE(field.value(), value);
-        QCOMPARE(value, isStepped && !isTracking ? 2 : 1.8);
     }
 };
 

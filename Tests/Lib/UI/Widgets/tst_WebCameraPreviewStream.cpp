@@ -14,9 +14,6 @@ using namespace Support;
 using Vx::WebCameraPreviewStream;
 using Vx::UI::VideoPreviewWidget;
 
-using Rates = std::vector<Acquis::Rational>;
-Q_DECLARE_METATYPE(Rates)
-
 namespace {
 
 const QColor DEFAULT_COLOR(200, 30, 40);
@@ -76,33 +73,26 @@ class tst_WebCameraPreviewStream : public Support::TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void modeAndRateAreChosen_data()
-    {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<Rates>("rates");
-        QTest::addColumn<QString>("chosen"); ///< rates of the modes "A", "B" and "A"
-        const Rates usual{{15, 1}, {25, 1}, {30, 1}};
-        QTest::newRow("by name and rate") << "B" << usual << "-1 25 -1";
-        QTest::newRow("first of two for an unknown name") << "C" << usual << "25 -1 -1";
-        QTest::newRow("unknown rate") << "A" << Rates{{15, 1}, {30, 1}} << "30 -1 -1";
-        QTest::newRow("zero denominator") << "A" << Rates{{24, 1}, {0, 0}, {30, -1}} << "24 -1 -1";
-        QTest::newRow("nothing usable") << "A" << Rates{{1, 2}, {-30, 1}} << "-1 -1 -1";
-    }
-
     void modeAndRateAreChosen()
     {
-        QFETCH(QString, name);
-        QFETCH(Rates, rates);
-        Stream fixture;
-        boost::intrusive_ptr<ScriptedDevice> device(new ScriptedDevice);
-        boost::intrusive_ptr<ScriptedMode> modes[] = {new ScriptedMode("A", rates), new ScriptedMode("B", rates),
-                                                      new ScriptedMode("A", rates)};
-        device->modes.assign(std::begin(modes), std::end(modes));
-        fixture.stream->SetDevice(device, name, 25);
-        QStringList chosen;
-        for (const auto& mode : modes)
-            chosen << QString::number(mode->chosen.numerator / mode->chosen.denominator);
-        QTEST(chosen.join(' '), "chosen");
+        // The rates of the modes "A", "B" and "A" after 25 Hz were requested.
+        const auto chosen = [](const char* name, const std::vector<Acquis::Rational>& rates) {
+            const Stream fixture;
+            boost::intrusive_ptr<ScriptedDevice> device(new ScriptedDevice);
+            for (const char* mode : {"A", "B", "A"})
+                device->modes.emplace_back(new ScriptedMode(mode, rates));
+            fixture.stream->SetDevice(device, name, 25);
+            QVector<std::int64_t> chosenRates;
+            for (const auto& mode : device->modes)
+                chosenRates += dynamic_cast<ScriptedMode&>(*mode).chosen.numerator;
+            return chosenRates;
+        };
+        using Rates = QVector<std::int64_t>;
+        QCOMPARE(chosen("B", {{15, 1}, {25, 1}, {30, 1}}), Rates({-1, 25, -1}));
+        QCOMPARE(chosen("unknown", {{15, 1}, {25, 1}, {30, 1}}), Rates({25, -1, -1}));
+        QCOMPARE(chosen("A", {{15, 1}, {30, 1}}), Rates({30, -1, -1}));
+        QCOMPARE(chosen("A", {{24, 1}, {0, 0}, {30, -1}}), Rates({24, -1, -1}));
+        QCOMPARE(chosen("A", {{1, 2}, {-30, 1}}), Rates({-1, -1, -1}));
     }
 
     void incompatibleDeviceThrowsAndRefusedSessionIsNotStarted()
