@@ -7,7 +7,6 @@
 
 #include <QAccessible>
 #include <QFormLayout>
-#include <QSignalSpy>
 #include <QStackedLayout>
 
 class tst_Kit : public Support::TestCase

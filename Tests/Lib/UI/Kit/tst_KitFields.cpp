@@ -8,7 +8,6 @@
 #include <Support/TestCase.h>
 
 #include <QAccessible>
-#include <QSignalSpy>
 #include <QWheelEvent>
 #include <QWindow>
 

@@ -5,7 +5,6 @@
 
 #include <QScreen>
 #include <QScrollBar>
-#include <QSignalSpy>
 
 #include <memory>
 

@@ -8,14 +8,14 @@
 #include <QClipboard>
 #include <QMimeData>
 #include <QRegularExpressionValidator>
-#include <QSignalSpy>
 #include <QStyleOptionFrame>
 
 #include <functional>
 
 using Zelkor::Vx::UI::Common::Embed;
 
-Q_DECLARE_METATYPE(std::function<void(ZLineEdit&)>)
+using Edit = std::function<void(ZLineEdit&)>;
+Q_DECLARE_METATYPE(Edit)
 
 const QString LONG_TEXT = QStringLiteral("A text that is far too long for this place");
 
@@ -109,17 +109,24 @@ private Q_SLOTS:
 
     void editsWithoutFocusApplyToTheWholeText_data()
     {
-        using Edit = std::function<void(ZLineEdit&)>;
         QTest::addColumn<Edit>("apply");
         QTest::addColumn<QString>("expected");
-        QTest::newRow("setText") << Edit([](ZLineEdit& edit) { edit.setText("other"); }) << QString("other");
-        QTest::newRow("clear") << Edit([](ZLineEdit& edit) { edit.clear(); }) << QString("");
-        QTest::newRow("insert") << Edit([](ZLineEdit& edit) { edit.end(false), edit.insert("."); })
-                                << QString(LONG_TEXT + ".");
-        QTest::newRow("keys") << Edit([](ZLineEdit& edit) { QTest::keyClicks(&edit, "xy"); })
-                              << QString("xy" + LONG_TEXT);
-        QTest::newRow("input mask") << Edit([](ZLineEdit& edit) { edit.setInputMask("00.00"); }) << QString(LONG_TEXT);
-        const Edit drop = [](ZLineEdit& edit) {
+        const auto row = [](const char* name, const Edit& apply, const QString& expected) {
+            QTest::newRow(name) << apply << expected;
+        };
+        row(
+            "set", [](ZLineEdit& edit) { edit.setText("other"); }, "other");
+        row("clear", &QLineEdit::clear, "");
+        row(
+            "keys", [](ZLineEdit& edit) { QTest::keyClicks(&edit, "xy"); }, "xy" + LONG_TEXT);
+        row(
+            "input mask", [](ZLineEdit& edit) { edit.setInputMask("00.00"); }, LONG_TEXT);
+        const auto insert = [](ZLineEdit& edit) {
+            edit.end(false);
+            edit.insert(".");
+        };
+        row("insert", insert, LONG_TEXT + ".");
+        const auto drop = [](ZLineEdit& edit) {
             const QSignalSpy edited(&edit, &QLineEdit::textEdited);
             QMimeData data;
             data.setText("x");
@@ -129,25 +136,25 @@ private Q_SLOTS:
             QApplication::sendEvent(&edit, &event);
             QCOMPARE(edited, QList<QVariantList>{{"x" + LONG_TEXT}});
         };
-        QTest::newRow("drop") << drop << QString("x" + LONG_TEXT);
-        const Edit copy = [](ZLineEdit& edit) {
+        row("drop", drop, "x" + LONG_TEXT);
+        const auto copy = [](ZLineEdit& edit) {
             edit.selectAll();
             edit.copy();
             QCOMPARE(QGuiApplication::clipboard()->text(), LONG_TEXT);
         };
-        QTest::newRow("copy") << copy << QString(LONG_TEXT);
-        const Edit truncate = [](ZLineEdit& edit) {
+        row("copy", copy, LONG_TEXT);
+        const auto truncate = [](ZLineEdit& edit) {
             edit.setMaxLength(5);
             edit.setFocus();
             QCOMPARE(edit.text(), LONG_TEXT.left(5));
             edit.clearFocus();
         };
-        QTest::newRow("maximum length") << truncate << QString(LONG_TEXT);
+        row("maximum length", truncate, LONG_TEXT);
     }
 
     void editsWithoutFocusApplyToTheWholeText()
     {
-        QFETCH(std::function<void(ZLineEdit&)>, apply);
+        QFETCH(Edit, apply);
         QFETCH(QString, expected);
         for (const bool wasLeftForAnotherWindow : {false, true}) {
             Fixture fixture;

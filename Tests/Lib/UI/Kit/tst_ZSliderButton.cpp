@@ -7,7 +7,6 @@
 #include <QFrame>
 #include <QLineEdit>
 #include <QScreen>
-#include <QSignalSpy>
 #include <QSlider>
 #include <QStackedWidget>
 #include <QToolButton>

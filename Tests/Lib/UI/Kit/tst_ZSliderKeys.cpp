@@ -2,8 +2,6 @@
 
 #include <Support/TestCase.h>
 
-#include <QSignalSpy>
-
 /// Keys and wheel events of a slider and its thumbs.
 class tst_ZSliderKeys : public Support::TestCase
 {

@@ -4,7 +4,6 @@
 #include <Support/TestCase.h>
 
 #include <QAccessible>
-#include <QSignalSpy>
 
 #include <functional>
 

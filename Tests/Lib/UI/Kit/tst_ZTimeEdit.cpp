@@ -6,7 +6,6 @@
 
 #include <QAccessible>
 #include <QLineEdit>
-#include <QSignalSpy>
 
 using namespace Zelkor::Vx::UI::Kit;
 

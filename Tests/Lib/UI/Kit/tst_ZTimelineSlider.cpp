@@ -6,7 +6,6 @@
 #include <Support/TestCase.h>
 
 #include <QAccessible>
-#include <QSignalSpy>
 #include <QTime>
 #include <QToolTip>
 

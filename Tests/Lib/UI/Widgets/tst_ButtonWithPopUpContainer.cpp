@@ -6,7 +6,6 @@
 
 #include <QCheckBox>
 #include <QLabel>
-#include <QSignalSpy>
 
 using namespace Zelkor::Vx::UI;
 using namespace Zelkor::Vx::UI::PopUpPlacement;

@@ -5,7 +5,6 @@
 
 #include <QColorDialog>
 #include <QDialogButtonBox>
-#include <QSignalSpy>
 #include <QTimer>
 
 #include <cmath>

@@ -4,7 +4,6 @@
 
 #include <QAction>
 #include <QLabel>
-#include <QSignalSpy>
 
 using Zelkor::Vx::UI::ButtonWithLabels;
 using Zelkor::Vx::UI::FastPresetButton;

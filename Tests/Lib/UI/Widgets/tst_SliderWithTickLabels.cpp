@@ -3,7 +3,6 @@
 #include <Support/TestCase.h>
 
 #include <QLabel>
-#include <QSignalSpy>
 #include <QSlider>
 #include <QStyle>
 #include <QStyleOptionSlider>

@@ -6,7 +6,6 @@
 #include <Support/Picture.h>
 #include <Support/TestCase.h>
 
-#include <QSignalSpy>
 #include <QToolTip>
 
 #include <cmath>

@@ -8,8 +8,6 @@
 #include <Support/ScriptedEngine.h>
 #include <Support/TestCase.h>
 
-#include <QSignalSpy>
-
 using namespace Support;
 using Vx::WebCameraPreviewStream;
 using Vx::UI::VideoPreviewWidget;
