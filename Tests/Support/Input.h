@@ -4,8 +4,17 @@
 #include <QMouseEvent>
 #include <QWheelEvent>
 #include <QWidget>
+#include <QtTest>
 
 namespace Support {
+
+/// Shows a window, activates it and waits until it is active.
+inline void ShowActive(QWidget& window)
+{
+    window.show();
+    window.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+}
 
 /// Sends a wheel event to a widget. Returns whether the widget accepted it.
 inline bool TurnWheel(QWidget* widget, const QPoint& angle)

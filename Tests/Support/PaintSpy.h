@@ -7,12 +7,13 @@
 #include <QRegion>
 #include <QVector>
 #include <QWidget>
+#include <QtTest>
 
 #include <utility>
 
 namespace Support {
 
-/// Records the paint events of a widget.
+/// Shows a widget and records its paint events.
 class PaintSpy
 {
 public:
@@ -22,6 +23,8 @@ public:
                   paints += static_cast<QPaintEvent*>(event)->region();
           })
     {
+        widget->show();
+        QVERIFY(QTest::qWaitForWindowExposed(widget));
         Take();
     }
 

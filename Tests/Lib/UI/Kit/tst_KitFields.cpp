@@ -68,9 +68,7 @@ private Q_SLOTS:
         QFETCH(QWidget*, field);
         QWidget window;
         field->setParent(&window);
-        window.show();
-        window.activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(&window));
+        Support::ShowActive(window);
         QCOMPARE(PropagatedWheelEvents(field, 1), 0);
         const double before = field->property("value").toDouble();
         QVERIFY(before > 0);
@@ -104,9 +102,7 @@ private Q_SLOTS:
     {
         QWidget window;
         ZCustomSlider slider(&window);
-        window.show();
-        window.activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(&window));
+        Support::ShowActive(window);
         const auto propagated = [&] {
             QVector<int> counts; // down and up at the minimum, in between and at the maximum
             for (const int value : {0, 50, 99}) {

@@ -105,8 +105,6 @@ private Q_SLOTS:
         QLedMatrix matrix;
         Fill(matrix, 10, 20);
         matrix.resize(400, 200);
-        matrix.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&matrix));
         Support::PaintSpy paints(&matrix);
         const auto painted = [&] {
             const QVector<QRegion> regions = paints.Take();

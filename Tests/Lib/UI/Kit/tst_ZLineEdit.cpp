@@ -2,6 +2,7 @@
 
 #include <UI/Common/TextMarks.h>
 
+#include <Support/Input.h>
 #include <Support/TestCase.h>
 
 #include <QAccessible>
@@ -38,9 +39,7 @@ private:
             edit.setOriginalText(LONG_TEXT);
             changed.clear();
             other.setFocus();
-            window.show();
-            window.activateWindow();
-            [&] { QVERIFY(QTest::qWaitForWindowActive(&window)); }();
+            Support::ShowActive(window);
         }
         QString elided() const { return edit.fontMetrics().elidedText(Embed(LONG_TEXT), Qt::ElideRight, 60); }
         void sendFocus(QEvent::Type type, Qt::FocusReason reason)

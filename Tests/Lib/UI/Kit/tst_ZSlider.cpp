@@ -107,8 +107,6 @@ private Q_SLOTS:
         slider.setEnabled(true);
         slider.setGrooveEmptyStyle("background: white");
         slider.defaultThumb()->show();
-        slider.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&slider));
         Support::PaintSpy paints(&slider);
         slider.setValue(91);
         const auto painted = paints.Take();

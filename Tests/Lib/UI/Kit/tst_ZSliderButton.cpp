@@ -28,16 +28,14 @@ struct Fixture
         layout->addWidget(button);
         button->setOnTop(onTop);
         window.move(place);
-        window.show();
         other->setFocus();
-        [&] { QVERIFY(QTest::qWaitForWindowActive(&window)); }();
+        Support::ShowActive(window);
     }
 
     // Else the window system activates the window after the last pop-up has closed, which may close the next one.
     void open()
     {
-        window.activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(&window));
+        Support::ShowActive(window);
         QTest::mouseClick(level(), Qt::LeftButton);
         QTRY_VERIFY(slider->hasFocus());
         QVERIFY(level()->isChecked());

@@ -183,8 +183,7 @@ private Q_SLOTS:
         QWidget window;
         window.setLocale(QLocale("ar_EG"));
         Field field("hh:mm:ss", &window);
-        window.show();
-        QVERIFY(QTest::qWaitForWindowActive(&window));
+        Support::ShowActive(window);
         window.setFocus();
         field.setTimeRange({12, 0}, {12, 0});
         field.setDisplayFormatList({"yyyy", "", "hh:mm", "hh:mm:ss"});

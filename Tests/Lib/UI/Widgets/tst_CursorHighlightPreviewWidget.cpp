@@ -53,8 +53,6 @@ private Q_SLOTS:
     void onlyChangesRepaint()
     {
         CursorHighlightPreviewWidget preview(nullptr);
-        preview.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&preview));
         Support::PaintSpy paints(&preview);
         preview.SetDiameter(2 * preview.GetRadius() + 1);
         preview.SetColor(preview.GetColor());

@@ -1,5 +1,6 @@
 #include <UI/Widgets/CustomTitleBar.h>
 
+#include <Support/Input.h>
 #include <Support/Mouse.h>
 #include <Support/TestCase.h>
 
@@ -39,12 +40,6 @@ public:
         bar->setStyleSheet("QLabel { min-height: 30px; min-width: 60px } QToolButton { min-width: 30px }");
     }
 
-    void ShowActive()
-    {
-        show();
-        QVERIFY(QTest::qWaitForWindowActive(this));
-    }
-
     // Drags at the lower left of a part. Returns by how much the window moved.
     QPoint DragAt(const char* name, int button = 1) const
     {
@@ -69,7 +64,7 @@ private Q_SLOTS:
     {
         Window window(Qt::Window, true);
         QVERIFY(window.isVisible());
-        window.ShowActive();
+        Support::ShowActive(window);
         QVERIFY(window.windowFlags() & Qt::FramelessWindowHint);
         QWidget* content = window.findChild<QWidget*>("contentFrame");
         QCOMPARE(window.findChild<QMenuBar*>()->parentWidget(), content);
@@ -119,7 +114,7 @@ private Q_SLOTS:
     {
         Window window;
         window.bar->AddWidget(new QLabel("user"));
-        window.ShowActive();
+        Support::ShowActive(window);
         // Until this move, the window manager may still report the initial position.
         window.move(310, 310);
         QTRY_COMPARE(window.pos(), QPoint(310, 310));

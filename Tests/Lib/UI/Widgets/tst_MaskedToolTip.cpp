@@ -1,5 +1,6 @@
 #include <UI/Widgets/MaskedToolTip.h>
 
+#include <Support/Input.h>
 #include <Support/Mouse.h>
 #include <Support/TestCase.h>
 
@@ -61,8 +62,7 @@ private Q_SLOTS:
     {
         QWidget window;
         window.setGeometry(400, 300, 200, 100);
-        window.show();
-        QVERIFY(QTest::qWaitForWindowActive(&window));
+        Support::ShowActive(window);
         MaskedToolTip tip(&window);
         tip.SetText("Hint");
         for (const bool hides : {true, false}) {

@@ -1,5 +1,6 @@
 #include <UI/Widgets/ButtonWithPopUpContainer.h>
 
+#include <Support/Input.h>
 #include <Support/Mouse.h>
 #include <Support/TestCase.h>
 
@@ -26,8 +27,7 @@ private Q_SLOTS:
             QTRY_COMPARE(button.isChecked(), opens);
             QCOMPARE(popUp->isVisible(), opens);
         };
-        window.show();
-        QVERIFY(QTest::qWaitForWindowActive(&window));
+        Support::ShowActive(window);
         clickButton(true);
         QCOMPARE(popUp->geometry(), QRect(300, 330, 150, 90));
         Click(popUp->mapToGlobal(QPoint(70, 40)));

@@ -23,9 +23,7 @@ struct Panel
             widget->Append(items.last());
         }
         widget->setFixedSize(300 + left->sizeHint().width() + right->sizeHint().width(), 60);
-        widget->show();
-        widget->activateWindow();
-        (void)QTest::qWaitForWindowActive(widget.get());
+        Support::ShowActive(*widget);
     }
 
     bool TurnWheel(const QPoint& angle) { return Support::TurnWheel(area->viewport(), angle); }

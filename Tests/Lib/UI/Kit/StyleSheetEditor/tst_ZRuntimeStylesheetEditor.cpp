@@ -5,6 +5,7 @@
 #include <UI/Kit/ZCodeEditor.h>
 #include <UI/Kit/ZRuntimeStylesheetEditor.h>
 
+#include <Support/Input.h>
 #include <Support/TestCase.h>
 
 #include <QComboBox>
@@ -286,8 +287,7 @@ private Q_SLOTS:
     void completionIsInserted()
     {
         const QPushButton known;
-        editor->show();
-        QVERIFY(QTest::qWaitForWindowActive(editor.get()));
+        Support::ShowActive(*editor);
         auto* completer = editor->findChild<StyleSheetCompleter*>();
         // Two typed characters open the list, Return inserts the selected name.
         code->setFocus();
