@@ -142,9 +142,10 @@ private Q_SLOTS:
         matrix.setRowCount(2);
         matrix.setColorAt(1, 2, QLedMatrix::Orange);
         for (const QPoint bad : {QPoint(-1, 0), QPoint(3, 0), QPoint(0, 2), QPoint(0, -1)}) {
-            ExpectWarning(QString("::colorAt: coordinate (row=%1, col=%2) out of range").arg(bad.y()).arg(bad.x()));
+            const QString place = QString("coordinate (row=%1, col=%2) out of range").arg(bad.y()).arg(bad.x());
+            ExpectWarning("::colorAt: " + place);
             QCOMPARE(matrix.colorAt(bad.y(), bad.x()), 0xFF222222);
-            ExpectWarning(QString("::setColorAt: coordinate (row=%1, col=%2) out of range").arg(bad.y()).arg(bad.x()));
+            ExpectWarning("::setColorAt: " + place);
             matrix.setColorAt(bad.y(), bad.x(), QLedMatrix::Red);
         }
         // A larger grid keeps its LEDs. New LEDs and those that were off have the new dark colour.
