@@ -1,7 +1,5 @@
 #include <UI/Widgets/ScrollablePanelWithItem.h>
 
-#include <Support/EventSpy.h>
-#include <Support/Picture.h>
 #include <Support/TestCase.h>
 
 #include <QToolButton>
@@ -36,17 +34,6 @@ private Q_SLOTS:
                 QCOMPARE(button->sizeHint().height() > 40, isMirrored);
             }
         }
-    }
-
-    void otherSheetsAreNotAppliedAgain()
-    {
-        ScrollablePanelWithItem panel(nullptr);
-        panel.show();
-        qApp->setStyleSheet("QToolButton { background: red }");
-        int polished = 0;
-        const Support::EventSpy spy(&panel, [&](auto type, auto) { polished += type == QEvent::StyleChange; });
-        QApplication::setLayoutDirection(Qt::RightToLeft);
-        QCOMPARE(polished, 0);
     }
 
     void contradictingRulesTerminate()

@@ -60,14 +60,6 @@ private Q_SLOTS:
         QVERIFY(!StyleSheetChecker::Describe(found[0].problem).isEmpty());
     }
 
-    void sheetThatQtRejectsHasAProblem()
-    {
-        for (const char* sheet :
-             {u8"A { b: \u00e9 }", u8"A {\u00a0b: c }", "A { b: 1px / / 2px }", "A { b: c !important d }",
-              "A { } @import \"a\";", "@media { A { } }", "A[a~^=\"b\"] { }", "A { b: rgb(#) }", "A { b: \x01 }"})
-            QVERIFY2(!Check(QString::fromUtf8(sheet)).isEmpty(), sheet);
-    }
-
     void widgetSheetMayBeDeclarationsOnly()
     {
         QVERIFY(Check("a: b; c: d", StyleSheetScope::WIDGET).isEmpty());

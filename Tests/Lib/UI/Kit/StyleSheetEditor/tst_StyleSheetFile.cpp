@@ -142,37 +142,31 @@ private Q_SLOTS:
     }
 
 #ifdef Q_OS_LINUX
-    void fileInReadOnlyFolderIsNotTruncated()
+    void failedSaveLeavesTheOldFile()
     {
         write("old");
         QVERIFY(QFile::setPermissions(name, QFile::Permissions(0x6666)));
-        QVERIFY(QFile::setPermissions(folder.path(), QFile::Permissions(0x5555)));
         ZRuntimeStylesheetEditor editor;
         editor.setText(RED);
+        QVERIFY(QFile::setPermissions(folder.path(), QFile::Permissions(0x5555)));
         const uid_t user = geteuid();
         QVERIFY(user != 0 || seteuid(65534) == 0); // root ignores permissions
-        const bool isSaved = editor.save(name);
+        const bool isSavedInReadOnlyFolder = editor.save(name);
         QCOMPARE(seteuid(user), 0);
         QVERIFY(QFile::setPermissions(folder.path(), QFile::Permissions(0x7777)));
-        QVERIFY(!isSaved);
+        QVERIFY(!isSavedInReadOnlyFolder);
         QCOMPARE(bytes(), QByteArray("old"));
-    }
 
-    void fullDiskLeavesTheOldFile()
-    {
-        write("old");
-        ZRuntimeStylesheetEditor editor;
-        editor.setText(RED);
         // The largest size of a file stands for the size of the disk.
         const auto handler = std::signal(SIGXFSZ, SIG_IGN);
         rlimit usual;
         QCOMPARE(getrlimit(RLIMIT_FSIZE, &usual), 0);
         const rlimit low{10, usual.rlim_max};
         QCOMPARE(setrlimit(RLIMIT_FSIZE, &low), 0);
-        const bool isSaved = editor.save(name);
+        const bool isSavedOnFullDisk = editor.save(name);
         QCOMPARE(setrlimit(RLIMIT_FSIZE, &usual), 0);
         std::signal(SIGXFSZ, handler);
-        QVERIFY(!isSaved);
+        QVERIFY(!isSavedOnFullDisk);
         QCOMPARE(bytes(), QByteArray("old"));
         QVERIFY2(editor.message().contains(qt_error_string(EFBIG)), qPrintable(editor.message()));
     }
