@@ -3,7 +3,6 @@
 #include <Support/ModalWatcher.h>
 #include <Support/TestCase.h>
 
-#include <QAccessible>
 #include <QMenu>
 
 #include <functional>
@@ -25,18 +24,13 @@ QList<QAction*> ActionsOf(const ButtonWithPopUpList& button)
     return actions;
 }
 
-void Append(ButtonWithPopUpList& button)
-{
-    button.AppendItem("Item", button.Count());
-}
-
 // Three items, of which the second one is current.
 struct List : ButtonWithPopUpList
 {
     List()
     {
-        for (int i = 0; i < 3; ++i)
-            Append(*this);
+        for (const char* text : {"a", "b", "c"})
+            AppendItem(text, text);
         SetCurrentIndex(1);
     }
 };
@@ -58,16 +52,17 @@ private Q_SLOTS:
         const auto remove = [](int index) { return Action([=](auto& button) { button.RemoveItem(index); }); };
         const Action deleteAction = [](auto& button) { delete ActionsOf(button)[1]; };
         const Action trigger = [](auto& button) { ActionsOf(button).last()->trigger(); };
+        const Action append = [](auto& button) { button.AppendItem("d", 0); };
         const Action none = [](auto&) {};
         const Action clear = &ButtonWithPopUpList::Clear;
         QTest::newRow("set") << set(2) << none << Indexes{2} << 2;
         QTest::newRow("set a negative index") << set(-3) << none << Indexes{-3, 0} << 0;
-        QTest::newRow("set past the end, append") << set(3) << Action(Append) << Indexes{3} << 3;
+        QTest::newRow("set past the end, append") << set(3) << append << Indexes{3} << 3;
         QTest::newRow("remove an earlier one, trigger") << remove(0) << trigger << Indexes{1} << 1;
         QTest::newRow("remove the current one") << remove(1) << none << Indexes{0} << 0;
         QTest::newRow("remove out of range") << remove(3) << remove(-1) << Indexes{} << 1;
         QTest::newRow("delete the current action, set") << deleteAction << set(1) << Indexes{0, 1} << 1;
-        QTest::newRow("clear, append") << clear << Action(Append) << Indexes{0} << 0;
+        QTest::newRow("clear, append") << clear << append << Indexes{0} << 0;
     }
 
     void emitsEachIndex()
@@ -87,33 +82,28 @@ private Q_SLOTS:
 
     void itemsAreFoundByValue()
     {
-        ButtonWithPopUpList button;
-        button.AppendItem("One", 1);
-        button.AppendItem("Text", "text");
-        button.AppendItem("Text again", "text");
-        QCOMPARE(button.ItemIndex("text"), 1);
+        List button;
+        button.AppendItem("b again", "b");
+        QCOMPARE(button.ItemIndex("b"), 1);
         QCOMPARE(button.ItemIndex("other"), -1);
-        button.RemoveItem(QVariant("text"));
-        QCOMPARE(ActionsOf(button)[1]->text(), QString("Text again"));
-        QCOMPARE(button.CurrentData(), QVariant(1));
+        button.RemoveItem(QVariant("b"));
+        QCOMPARE(ActionsOf(button)[2]->text(), QString("b again"));
+        QCOMPARE(button.CurrentData(), QVariant("a"));
     }
 
     void menuOpenedByKeyHighlightsTheCurrentItem()
     {
         List button;
         button.show();
-        QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(&button);
         QStringList highlighted;
         const Support::ModalWatcher menus([&](QWidget* menu) {
             QAction* active = static_cast<QMenu*>(menu)->activeAction();
             highlighted += active ? QString::number(ActionsOf(button).indexOf(active)) : "none";
-            QVERIFY(accessible->state().expanded);
             menu->close();
         });
         QTest::keyClick(&button, Qt::Key_Down);
         button.showMenu();
         QCOMPARE(highlighted, QStringList({"1", "none"}));
-        QVERIFY(accessible->state().collapsed);
     }
 };
 

@@ -83,19 +83,7 @@ private Q_SLOTS:
         QVERIFY(window.findChild<QWidget*>("closeButton")->isHidden());
     }
 
-    void iconFollowsTheWindow()
-    {
-        Window window;
-        const auto icon = [&] { return window.findChild<QLabel*>("iconLabel")->pixmap(Qt::ReturnByValue).toImage(); };
-        QPixmap pixmap(64, 64);
-        pixmap.fill(Qt::blue);
-        window.setWindowIcon(pixmap);
-        window.bar->SetWindowIconSize(24);
-        QCOMPARE(icon().width(), 24);
-        QCOMPARE(icon().pixelColor(5, 5), QColor(Qt::blue));
-    }
-
-    void titleMarksModifiedWindows()
+    void titleAndIconFollowTheWindow()
     {
         Window window;
         window.setWindowModified(true);
@@ -108,6 +96,13 @@ private Q_SLOTS:
         QCOMPARE(shown("a[*][*][*]"), QString("a[*]*"));
         window.setWindowModified(false);
         QCOMPARE(shown("[*]a[*] - B"), QString("a - B"));
+        QPixmap pixmap(64, 64);
+        pixmap.fill(Qt::blue);
+        window.setWindowIcon(pixmap);
+        window.bar->SetWindowIconSize(24);
+        const QImage icon = window.findChild<QLabel*>("iconLabel")->pixmap(Qt::ReturnByValue).toImage();
+        QCOMPARE(icon.width(), 24);
+        QCOMPARE(icon.pixelColor(5, 5), QColor(Qt::blue));
     }
 
     void leftButtonDragsByTheHandles()

@@ -23,9 +23,8 @@ const char* const SHEET = "QTabBar::tab { background: white; width: 100px; heigh
 QRect InkOf(QWidget& widget, const QColor& color, const QRect& area)
 {
     const auto isInk = [&](const QColor& pixel) {
-        return qAbs(pixel.red() - color.red()) + qAbs(pixel.green() - color.green()) +
-                   qAbs(pixel.blue() - color.blue()) <
-               200;
+        const int difference = qAbs(pixel.red() - color.red()) + qAbs(pixel.green() - color.green());
+        return difference + qAbs(pixel.blue() - color.blue()) < 200;
     };
     return Support::InkOf(Support::Render(widget, Qt::white).copy(area), isInk).translated(area.topLeft());
 }

@@ -5,6 +5,7 @@
 
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QStyle>
 #include <QToolButton>
 
 using Zelkor::Vx::UI::ScrollablePanelWithItem;
@@ -78,8 +79,7 @@ private Q_SLOTS:
         }
         panel.items[12]->setFixedWidth(500);
         panel.items[12]->setFocus();
-        QCOMPARE(direction == Qt::RightToLeft ? panel.Visible(12).right() : panel.Visible(12).left(),
-                 direction == Qt::RightToLeft ? 499 : 0);
+        QCOMPARE(QStyle::visualRect(direction, {0, 0, 500, 40}, panel.Visible(12)).left(), 0);
     }
 
     void itemsAreSelectedAndRemoved()

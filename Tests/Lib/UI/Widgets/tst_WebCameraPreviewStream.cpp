@@ -132,10 +132,7 @@ private Q_SLOTS:
             running = session;
             timer.start();
             fixture.engine.OnThread([&, session] {
-                if (fixture.engine.starts < 3)
-                    session->ReportError(1);
-                else
-                    session->ReportStarted(fixture.reader);
+                fixture.engine.starts < 3 ? session->ReportError(1) : session->ReportStarted(fixture.reader);
             });
         };
         fixture.Run();
@@ -214,10 +211,7 @@ private Q_SLOTS:
         fixture.engine.onStart = [&](const auto& session) {
             if (fixture.engine.starts > 1)
                 throwIn("start");
-            if (thrower == "start")
-                session->ReportError(1);
-            else
-                session->ReportStarted(fixture.reader);
+            thrower == "start" ? session->ReportError(1) : session->ReportStarted(fixture.reader);
         };
         fixture.engine.onStop = [](const auto&) { throw std::runtime_error("stop"); };
         fixture.Run();
@@ -296,10 +290,7 @@ private Q_SLOTS:
             const auto conversions = [&] { return frames[0]->conversions + frames[1]->conversions; };
             QTRY_VERIFY(conversions() >= 3);
             const int before = conversions();
-            if (i % 2)
-                delete fixture.stream;
-            else
-                fixture.preview.reset();
+            i % 2 ? delete fixture.stream : fixture.preview.reset();
             QVERIFY(conversions() <= before + 1);
             const int reads = fixture.reader->reads;
             QTest::qWait(5); // several periods
@@ -313,10 +304,7 @@ private Q_SLOTS:
         fixture.engine.onStart = [&](const auto& session) {
             fixture.engine.OnThread([&, session] {
                 session->ReportStarted(fixture.reader);
-                if (fixture.engine.starts % 2)
-                    session->ReportError(1);
-                else
-                    session->ReportStopped();
+                fixture.engine.starts % 2 ? session->ReportError(1) : session->ReportStopped();
             });
         };
         fixture.preview->show();
