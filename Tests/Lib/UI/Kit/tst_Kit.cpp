@@ -14,37 +14,41 @@ class tst_Kit : public Support::TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void framePropertiesDependOnTheLayout_data()
+    void spacingsOfAFrameDependOnItsLayout()
     {
-        QTest::addColumn<QLayout*>("layout");
-        QTest::addColumn<QVector<int>>("spacings"); // common, horizontal, vertical
-        QTest::newRow("horizontal") << static_cast<QLayout*>(new QHBoxLayout) << QVector<int>{7, 7, -1};
-        QTest::newRow("box") << static_cast<QLayout*>(new QBoxLayout(QBoxLayout::Down)) << QVector<int>{3, -1, -1};
-        QTest::newRow("grid") << static_cast<QLayout*>(new QGridLayout) << QVector<int>{-1, 7, 9};
-        QTest::newRow("form") << static_cast<QLayout*>(new QFormLayout) << QVector<int>{-1, 7, 9};
-        QTest::newRow("stack") << static_cast<QLayout*>(new QStackedLayout) << QVector<int>{3, -1, -1};
-        QTest::newRow("none") << static_cast<QLayout*>(nullptr) << QVector<int>{-1, -1, -1};
+        // The common spacing, the horizontal and the vertical one.
+        const auto spacings = [](QLayout* layout) {
+            ZFrame frame;
+            if (layout)
+                frame.setLayout(layout);
+            frame.setLayoutSpacing(3);
+            frame.setLayoutHSpacing(7);
+            frame.setLayoutVSpacing(9);
+            return QVector<int>{frame.layoutSpacing(), frame.layoutHSpacing(), frame.layoutVSpacing()};
+        };
+        QCOMPARE(spacings(new QHBoxLayout), QVector<int>({7, 7, -1}));
+        QCOMPARE(spacings(new QVBoxLayout), QVector<int>({9, -1, 9}));
+        QCOMPARE(spacings(new QBoxLayout(QBoxLayout::Down)), QVector<int>({3, -1, -1}));
+        QCOMPARE(spacings(new QGridLayout), QVector<int>({-1, 7, 9}));
+        QCOMPARE(spacings(new QFormLayout), QVector<int>({-1, 7, 9}));
+        QCOMPARE(spacings(new QStackedLayout), QVector<int>({3, -1, -1}));
+        QCOMPARE(spacings(nullptr), QVector<int>({-1, -1, -1}));
     }
 
-    void framePropertiesDependOnTheLayout()
+    void marginOfAFrameIsThatOfAllSides()
     {
-        QFETCH(QLayout*, layout);
         ZFrame frame;
-        if (layout)
-            frame.setLayout(layout);
-        frame.setLayoutSpacing(3);
-        frame.setLayoutHSpacing(7);
-        frame.setLayoutVSpacing(9);
         frame.setLayoutMargin(5);
-        QTEST(QVector<int>({frame.layoutSpacing(), frame.layoutHSpacing(), frame.layoutVSpacing()}), "spacings");
-        QCOMPARE(frame.layoutMargin(), layout ? 5 : -1);
-        QCOMPARE(frame.layoutMarginTop(), layout ? 5 : -1);
+        QCOMPARE(frame.layoutMargin(), -1);
+        QCOMPARE(frame.layoutMarginTop(), -1);
+        QLayout* layout = new QVBoxLayout(&frame);
+        frame.setLayoutMargin(5);
+        QCOMPARE(frame.layoutMargin(), 5);
         frame.setLayoutMarginTop(9);
         frame.setLayoutMarginRight(6);
         frame.setLayoutMarginBottom(4);
         QCOMPARE(frame.layoutMargin(), -1);
-        if (layout)
-            QCOMPARE(layout->contentsMargins(), QMargins(5, 9, 6, 4));
+        QCOMPARE(layout->contentsMargins(), QMargins(5, 9, 6, 4));
     }
 
     void elidedLabelShowsAllOfItsTextAsToolTip()

@@ -127,24 +127,21 @@ private Q_SLOTS:
         const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
         ZComboBox combo;
         prepare(combo);
+        combo.show();
         for (const auto direction : {Qt::LeftToRight, Qt::RightToLeft}) {
+            combo.setLayoutDirection(direction);
             for (const int x : {screen.left(), screen.center().x(), screen.right() - 119}) {
-                for (const int length : {1, 20}) { // wider than the screen
-                    combo.setLayoutDirection(direction);
+                for (const int length : {1, 20}) { // the second one is wider than the screen
                     combo.setItemText(1, LONG_TEXT.repeated(length));
                     combo.move(x, 100);
-                    combo.show();
                     combo.showPopup();
                     const QWidget* popUp = combo.view()->window();
                     const int items = combo.fontMetrics().horizontalAdvance(combo.itemText(1));
-                    QVERIFY(items > 120);
                     QTRY_VERIFY(popUp->width() >= std::min(items, screen.width()));
                     QTRY_VERIFY(screen.contains(popUp->geometry()));
                     // It is aligned with the combo box where the screen has room.
-                    const int begin = direction == Qt::LeftToRight
-                                          ? popUp->x() - combo.geometry().left()
-                                          : popUp->geometry().right() - combo.geometry().right();
-                    QVERIFY(begin == 0 || length > 1 || x != screen.center().x());
+                    const QRect mirrored = QStyle::visualRect(direction, combo.geometry(), popUp->geometry());
+                    QVERIFY(mirrored.left() == combo.x() || length > 1 || x != screen.center().x());
                     combo.hidePopup();
                 }
             }

@@ -15,9 +15,6 @@
 
 using Zelkor::Vx::UI::Common::Embed;
 
-using Edit = std::function<void(ZLineEdit&)>;
-Q_DECLARE_METATYPE(Edit)
-
 const QString LONG_TEXT = QStringLiteral("A text that is far too long for this place");
 
 class tst_ZLineEdit : public Support::TestCase
@@ -54,16 +51,14 @@ private Q_SLOTS:
     {
         Fixture fixture;
         ZLineEdit& edit = fixture.edit;
-        for (int round = 0; round < 2; ++round) {
-            QTRY_COMPARE(edit.text(), fixture.elided());
-            QCOMPARE(edit.toolTip(), Embed(LONG_TEXT));
-            edit.setFocus();
-            QCOMPARE(edit.text(), LONG_TEXT);
-            QCOMPARE(edit.toolTip(), QString());
-            QCOMPARE(edit.cursorPosition(), 0);
-            fixture.other.setFocus();
-            QCOMPARE(edit.text(), LONG_TEXT);
-        }
+        QTRY_COMPARE(edit.text(), fixture.elided());
+        QCOMPARE(edit.toolTip(), Embed(LONG_TEXT));
+        edit.setFocus();
+        QCOMPARE(edit.text(), LONG_TEXT);
+        QCOMPARE(edit.toolTip(), QString());
+        QCOMPARE(edit.cursorPosition(), 0);
+        fixture.other.setFocus();
+        QCOMPARE(edit.text(), LONG_TEXT);
         QTRY_COMPARE(edit.text(), fixture.elided());
         edit.setEliding(false);
         QCOMPARE(edit.text(), fixture.elided());
@@ -108,23 +103,36 @@ private Q_SLOTS:
 
     void editsWithoutFocusApplyToTheWholeText_data()
     {
-        QTest::addColumn<Edit>("apply");
-        QTest::addColumn<QString>("expected");
-        const auto row = [](const char* name, const Edit& apply, const QString& expected) {
-            QTest::newRow(name) << apply << expected;
+        QTest::addColumn<bool>("wasLeftForAnotherWindow");
+        QTest::newRow("never focused") << false;
+        QTest::newRow("left for another window") << true;
+    }
+
+    void editsWithoutFocusApplyToTheWholeText()
+    {
+        QFETCH(bool, wasLeftForAnotherWindow);
+        const auto textAfter = [=](const std::function<void(ZLineEdit&)>& apply) {
+            Fixture fixture;
+            if (wasLeftForAnotherWindow) {
+                fixture.sendFocus(QEvent::FocusIn, Qt::OtherFocusReason);
+                fixture.sendFocus(QEvent::FocusOut, Qt::ActiveWindowFocusReason);
+            }
+            apply(fixture.edit);
+            fixture.edit.resize(59, 30);
+            const QString text = fixture.edit.originalText();
+            [&] { QCOMPARE(fixture.changed.isEmpty(), text == LONG_TEXT); }();
+            [&] { QCOMPARE(fixture.changed.value(fixture.changed.size() - 1, {LONG_TEXT}), QVariantList{text}); }();
+            return text;
         };
-        row(
-            "set", [](ZLineEdit& edit) { edit.setText("other"); }, "other");
-        row("clear", &QLineEdit::clear, "");
-        row(
-            "keys", [](ZLineEdit& edit) { QTest::keyClicks(&edit, "xy"); }, "xy" + LONG_TEXT);
-        row(
-            "input mask", [](ZLineEdit& edit) { edit.setInputMask("00.00"); }, LONG_TEXT);
-        const auto insert = [](ZLineEdit& edit) {
+        QCOMPARE(textAfter([](ZLineEdit& edit) { edit.setText("other"); }), QString("other"));
+        QCOMPARE(textAfter(&QLineEdit::clear), QString());
+        QCOMPARE(textAfter([](ZLineEdit& edit) { QTest::keyClicks(&edit, "xy"); }), QString("xy" + LONG_TEXT));
+        QCOMPARE(textAfter([](ZLineEdit& edit) { edit.setInputMask("00.00"); }), LONG_TEXT);
+        const auto append = [](ZLineEdit& edit) {
             edit.end(false);
             edit.insert(".");
         };
-        row("insert", insert, LONG_TEXT + ".");
+        QCOMPARE(textAfter(append), QString(LONG_TEXT + "."));
         const auto drop = [](ZLineEdit& edit) {
             const QSignalSpy edited(&edit, &QLineEdit::textEdited);
             QMimeData data;
@@ -135,38 +143,20 @@ private Q_SLOTS:
             QApplication::sendEvent(&edit, &event);
             QCOMPARE(edited, QList<QVariantList>{{"x" + LONG_TEXT}});
         };
-        row("drop", drop, "x" + LONG_TEXT);
+        QCOMPARE(textAfter(drop), QString("x" + LONG_TEXT));
         const auto copy = [](ZLineEdit& edit) {
             edit.selectAll();
             edit.copy();
             QCOMPARE(QGuiApplication::clipboard()->text(), LONG_TEXT);
         };
-        row("copy", copy, LONG_TEXT);
+        QCOMPARE(textAfter(copy), LONG_TEXT);
         const auto truncate = [](ZLineEdit& edit) {
             edit.setMaxLength(5);
             edit.setFocus();
             QCOMPARE(edit.text(), LONG_TEXT.left(5));
             edit.clearFocus();
         };
-        row("maximum length", truncate, LONG_TEXT);
-    }
-
-    void editsWithoutFocusApplyToTheWholeText()
-    {
-        QFETCH(Edit, apply);
-        QFETCH(QString, expected);
-        for (const bool wasLeftForAnotherWindow : {false, true}) {
-            Fixture fixture;
-            if (wasLeftForAnotherWindow) {
-                fixture.sendFocus(QEvent::FocusIn, Qt::OtherFocusReason);
-                fixture.sendFocus(QEvent::FocusOut, Qt::ActiveWindowFocusReason);
-            }
-            apply(fixture.edit);
-            fixture.edit.resize(59, 30);
-            QCOMPARE(fixture.edit.originalText(), expected);
-            QCOMPARE(fixture.changed.isEmpty(), expected == LONG_TEXT);
-            QCOMPARE(fixture.changed.value(fixture.changed.size() - 1, {LONG_TEXT}), QVariantList{expected});
-        }
+        QCOMPARE(textAfter(truncate), LONG_TEXT);
     }
 
     void validatedOrHiddenTextIsNotElided()

@@ -10,7 +10,6 @@
 using Zelkor::Vx::ButtonWithPopUpList;
 using Action = std::function<void(ButtonWithPopUpList&)>;
 using Indexes = QList<int>;
-Q_DECLARE_METATYPE(Action)
 
 namespace {
 
@@ -42,42 +41,33 @@ class tst_ButtonWithPopUpList : public Support::TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void emitsEachIndex_data()
-    {
-        QTest::addColumn<Action>("first");
-        QTest::addColumn<Action>("second");
-        QTest::addColumn<Indexes>("emitted");
-        QTest::addColumn<int>("current");
-        const auto set = [](int index) { return Action([=](auto& button) { button.SetCurrentIndex(index); }); };
-        const auto remove = [](int index) { return Action([=](auto& button) { button.RemoveItem(index); }); };
-        const Action deleteAction = [](auto& button) { delete ActionsOf(button)[1]; };
-        const Action trigger = [](auto& button) { ActionsOf(button).last()->trigger(); };
-        const Action append = [](auto& button) { button.AppendItem("d", 0); };
-        const Action none = [](auto&) {};
-        const Action clear = &ButtonWithPopUpList::Clear;
-        QTest::newRow("set") << set(2) << none << Indexes{2} << 2;
-        QTest::newRow("set a negative index") << set(-3) << none << Indexes{-3, 0} << 0;
-        QTest::newRow("set past the end, append") << set(3) << append << Indexes{3} << 3;
-        QTest::newRow("remove an earlier one, trigger") << remove(0) << trigger << Indexes{1} << 1;
-        QTest::newRow("remove the current one") << remove(1) << none << Indexes{0} << 0;
-        QTest::newRow("remove out of range") << remove(3) << remove(-1) << Indexes{} << 1;
-        QTest::newRow("delete the current action, set") << deleteAction << set(1) << Indexes{0, 1} << 1;
-        QTest::newRow("clear, append") << clear << append << Indexes{0} << 0;
-    }
-
     void emitsEachIndex()
     {
-        QFETCH(Action, first);
-        QFETCH(Action, second);
-        List button;
-        Indexes seen;
-        connect(&button, &ButtonWithPopUpList::CurrentIndexChanged, [&](int index) { seen += index; });
-        first(button);
-        second(button);
-        QTEST(seen, "emitted");
-        QTEST(button.CurrentIndex(), "current");
-        for (int i = 0; i < button.Count(); ++i)
-            QCOMPARE(ActionsOf(button).at(i)->isChecked(), i == button.CurrentIndex());
+        // The emitted indexes, and the current one at the end.
+        const auto indexes = [](
+                                 const Action& first, const Action& second = [](auto&) {}) {
+            List button;
+            Indexes seen;
+            connect(&button, &ButtonWithPopUpList::CurrentIndexChanged, [&](int index) { seen += index; });
+            first(button);
+            second(button);
+            for (int i = 0; i < button.Count(); ++i)
+                [&] { QCOMPARE(ActionsOf(button).at(i)->isChecked(), i == button.CurrentIndex()); }();
+            return seen << button.CurrentIndex();
+        };
+        const auto set = [](int index) { return [=](auto& button) { button.SetCurrentIndex(index); }; };
+        const auto remove = [](int index) { return [=](auto& button) { button.RemoveItem(index); }; };
+        const auto append = [](auto& button) { button.AppendItem("d", 0); };
+        const auto deleteAction = [](auto& button) { delete ActionsOf(button)[1]; };
+        const auto trigger = [](auto& button) { ActionsOf(button).last()->trigger(); };
+        QCOMPARE(indexes(set(2)), Indexes({2, 2}));
+        QCOMPARE(indexes(set(-3)), Indexes({-3, 0, 0}));
+        QCOMPARE(indexes(set(3), append), Indexes({3, 3}));
+        QCOMPARE(indexes(remove(0), trigger), Indexes({1, 1}));
+        QCOMPARE(indexes(remove(1)), Indexes({0, 0}));
+        QCOMPARE(indexes(remove(3), remove(-1)), Indexes({1}));
+        QCOMPARE(indexes(deleteAction, set(1)), Indexes({0, 1, 1}));
+        QCOMPARE(indexes(&ButtonWithPopUpList::Clear, append), Indexes({0, 0}));
     }
 
     void itemsAreFoundByValue()

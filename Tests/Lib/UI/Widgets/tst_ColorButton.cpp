@@ -12,9 +12,6 @@
 
 using Zelkor::Vx::ColorButton;
 
-using Action = std::function<void(QColorDialog*, ColorButton*)>;
-Q_DECLARE_METATYPE(Action)
-
 namespace {
 
 // Clicks the button and calls `inside` while the dialog is open.
@@ -54,39 +51,34 @@ private Q_SLOTS:
         QCOMPARE(at(68, 6), QColor(Qt::lightGray));
     }
 
-    void dialogEmitsSignals_data()
-    {
-        QTest::addColumn<Action>("act");
-        QTest::addColumn<QString>("emitted");
-        QTest::newRow("accept") << Action([](auto* dialog, auto*) { Accept(dialog, Qt::green); })
-                                << "opens #00ff00 closed";
-        QTest::newRow("cancel") << Action([](auto* dialog, auto*) { dialog->reject(); }) << "opens closed";
-        QTest::newRow("hide the page") << Action([](auto*, auto* button) { button->parentWidget()->hide(); })
-                                       << "opens closed";
-        QTest::newRow("click again") << Action([](auto* dialog, auto* button) {
-            button->click();
-            Accept(dialog, Qt::green);
-        }) << "opens #00ff00 closed";
-    }
-
     void dialogEmitsSignals()
     {
-        QFETCH(Action, act);
-        QWidget window;
-        auto* button = new ColorButton(new QWidget(&window));
-        window.show();
-        QStringList log;
-        connect(button, &ColorButton::ColorChanged, [&log](const QColor& color) { log += color.name(); });
-        connect(button, &ColorButton::ColorDialogWillBeOpened, [&log] { log += "opens"; });
-        connect(button, &ColorButton::ColorDialogClosed, [&log] { log += "closed"; });
-        Choose(*button, [&](QColorDialog* dialog) {
-            auto* ok = dialog->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok);
-            QCOMPARE(ok->property("SubStyle"), QVariant("Ok"));
-            act(dialog, button);
-        });
-        QTEST(log.join(' '), "emitted");
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        QVERIFY(!button->findChild<QColorDialog*>());
+        const auto emitted = [](const std::function<void(QColorDialog*, ColorButton*)>& act) {
+            QWidget window;
+            auto* button = new ColorButton(new QWidget(&window));
+            window.show();
+            QStringList log;
+            connect(button, &ColorButton::ColorChanged, [&log](const QColor& color) { log += color.name(); });
+            connect(button, &ColorButton::ColorDialogWillBeOpened, [&log] { log += "opens"; });
+            connect(button, &ColorButton::ColorDialogClosed, [&log] { log += "closed"; });
+            Choose(*button, [&](QColorDialog* dialog) {
+                auto* ok = dialog->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok);
+                QCOMPARE(ok->property("SubStyle"), QVariant("Ok"));
+                act(dialog, button);
+            });
+            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+            [&] { QVERIFY(!button->findChild<QColorDialog*>()); }();
+            return log.join(' ');
+        };
+        const auto accept = [](auto* dialog, auto*) { Accept(dialog, Qt::green); };
+        const auto clickAgain = [](auto* dialog, auto* button) {
+            button->click();
+            Accept(dialog, Qt::green);
+        };
+        QCOMPARE(emitted(accept), QString("opens #00ff00 closed"));
+        QCOMPARE(emitted(clickAgain), QString("opens #00ff00 closed"));
+        QCOMPARE(emitted([](auto* dialog, auto*) { dialog->reject(); }), QString("opens closed"));
+        QCOMPARE(emitted([](auto*, auto* button) { button->parentWidget()->hide(); }), QString("opens closed"));
     }
 
     // Alpha, 0 to 255: that of an opaque colour after the limit, of the dialog, and after 128 was chosen in the dialog.

@@ -39,29 +39,25 @@ class tst_VideoPreviewWidget : public Support::TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void frameIsScaledAndCentred_data()
-    {
-        QTest::addColumn<QSize>("size");
-        QTest::addColumn<QRect>("picture");
-        QTest::newRow("larger") << QSize(1280, 720) << QRect(0, 30, 320, 180);
-        QTest::newRow("too wide") << QSize(321, 100) << QRect(0, 70, 320, 99);
-        QTest::newRow("too high") << QSize(100, 241) << QRect(110, 0, 99, 240);
-        QTest::newRow("equal") << QSize(320, 240) << QRect(0, 0, 320, 240);
-        QTest::newRow("smaller, odd") << QSize(101, 101) << QRect(109, 69, 101, 101);
-    }
-
     void frameIsScaledAndCentred()
     {
-        QFETCH(QSize, size);
-        QFETCH(QRect, picture);
-        Preview preview({320, 240});
-        preview.UpdateView(GreyFrame(size, 200));
-        QCOMPARE(preview.Picture(), picture);
-        QVERIFY(qAbs(preview.grab().toImage().pixelColor(picture.center()).green() - 200) <= 2);
-        const auto frame = SolidFrame(size, Qt::green);
-        preview.UpdateView(frame);
-        QCOMPARE(preview.Picture(), picture);
-        QCOMPARE(frame->GetRefCount() > 1, size == picture.size()); // drawn from the memory of the frame
+        const auto pictureOf = [](const QSize& size) {
+            Preview preview({320, 240});
+            preview.UpdateView(GreyFrame(size, 200));
+            const QRect picture = preview.Picture();
+            const int grey = preview.grab().toImage().pixelColor(picture.center()).green();
+            const auto frame = SolidFrame(size, Qt::green);
+            preview.UpdateView(frame);
+            [&] { QVERIFY(qAbs(grey - 200) <= 2); }();
+            [&] { QCOMPARE(preview.Picture(), picture); }();
+            [&] { QCOMPARE(frame->GetRefCount() > 1, size == picture.size()); }(); // drawn from its memory
+            return picture;
+        };
+        QCOMPARE(pictureOf({1280, 720}), QRect(0, 30, 320, 180));
+        QCOMPARE(pictureOf({321, 100}), QRect(0, 70, 320, 99));
+        QCOMPARE(pictureOf({100, 241}), QRect(110, 0, 99, 240));
+        QCOMPARE(pictureOf({320, 240}), QRect(0, 0, 320, 240));
+        QCOMPARE(pictureOf({101, 101}), QRect(109, 69, 101, 101));
     }
 
     void defaultImageIsShownWithoutAFrame()
