@@ -67,50 +67,39 @@ class tst_ZUndoStack : public Support::TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void historyFollowsTheCalls_data()
-    {
-        QTest::addColumn<QString>("calls");
-        QTest::addColumn<QString>("expected");
-        QTest::addColumn<int>("count");
-        QTest::addColumn<QString>("can");
-        const auto row = [](const char* name, const QString& calls, const QString& expected, int count,
-                            const QString& can) { QTest::newRow(name) << calls << expected << count << can; };
-        row("empty stack", "undo, redo, commitTransaction, rollbackTransaction, clear", "", 0, "");
-        row("undo", "push A, push B, undo", "undo B", 1, "undoredo");
-        row("push deletes undone commands", "push A, push B, undo, undo, push C", "undo B, undo A, delete A, delete B",
-            1, "undo");
-        row("transaction is one step", "startTransaction, push A, push B, commitTransaction, undo, redo",
-            "undo B, undo A, redo A, redo B", 1, "undo");
-        row("empty transaction keeps undone commands", "push A, undo, startTransaction, commitTransaction, redo",
-            "undo A, redo A", 1, "undo");
-        row("transaction deletes undone commands", "push A, undo, startTransaction, push B, commitTransaction, redo",
-            "undo A, delete A", 1, "undo");
-        row("undone commands are not committed", "startTransaction, push A, push B, undo, commitTransaction, undo",
-            "undo B, delete B, undo A", 0, "redo");
-        row("rollback undoes the rest", "push X, startTransaction, push A, push B, undo, rollbackTransaction",
-            "undo B, undo A, delete A, delete B", 1, "undo");
-        row("nested rollback",
-            "startTransaction, push A, startTransaction, push B, rollbackTransaction, push C, commitTransaction, undo",
-            "undo B, delete B, undo C, undo A", 0, "redo");
-        row("earlier steps wait for the transaction", "push X, startTransaction, undo", "", 1, "");
-        row("clear keeps transactions", "push A, push B, undo, startTransaction, push C, clear",
-            "undo B, delete A, delete B", 0, "undo");
-        row("push past a transaction", "push A, undo, startTransaction, push B, pushPast C, push D, commitTransaction",
-            "undo A, delete A", 2, "undo");
-    }
-
     void historyFollowsTheCalls()
     {
-        QFETCH(QString, calls);
-        events.clear();
-        {
+        // What the commands record, the number of steps, and whether these can be undone and redone.
+        const auto history = [](const QString& calls) {
+            events.clear();
             ZUndoStack stack;
             stack.push(nullptr);
             Call(&stack, calls);
-            QTEST(QStringList(events).join(", "), "expected");
-            QTEST(stack.count(), "count");
-            QTEST(QString(stack.canUndo() ? "undo" : "") + (stack.canRedo() ? "redo" : ""), "can");
-        }
+            return events.join(", ") + QString("; %1").arg(stack.count()) + (stack.canUndo() ? " undo" : "") +
+                   (stack.canRedo() ? " redo" : "");
+        };
+        QCOMPARE(history("undo, redo, commitTransaction, rollbackTransaction, clear"), QString("; 0"));
+        QCOMPARE(history("push A, push B, undo"), QString("undo B; 1 undo redo"));
+        QCOMPARE(history("push A, push B, undo, undo, push C"), QString("undo B, undo A, delete A, delete B; 1 undo"));
+        // A transaction is one step, unless it is empty, and contains no undone commands.
+        QCOMPARE(history("startTransaction, push A, push B, commitTransaction, undo, redo"),
+                 QString("undo B, undo A, redo A, redo B; 1 undo"));
+        QCOMPARE(history("push A, undo, startTransaction, commitTransaction, redo"), QString("undo A, redo A; 1 undo"));
+        QCOMPARE(history("push A, undo, startTransaction, push B, commitTransaction, redo"),
+                 QString("undo A, delete A; 1 undo"));
+        QCOMPARE(history("startTransaction, push A, push B, undo, commitTransaction, undo"),
+                 QString("undo B, delete B, undo A; 0 redo"));
+        QCOMPARE(history("push X, startTransaction, push A, push B, undo, rollbackTransaction"),
+                 QString("undo B, undo A, delete A, delete B; 1 undo"));
+        QCOMPARE(history("startTransaction, push A, startTransaction, push B, rollbackTransaction, push C, "
+                         "commitTransaction, undo"),
+                 QString("undo B, delete B, undo C, undo A; 0 redo"));
+        // Calls apply to the transaction, with exceptions.
+        QCOMPARE(history("push X, startTransaction, undo"), QString("; 1"));
+        QCOMPARE(history("push A, push B, undo, startTransaction, push C, clear"),
+                 QString("undo B, delete A, delete B; 0 undo"));
+        QCOMPARE(history("push A, undo, startTransaction, push B, pushPast C, push D, commitTransaction"),
+                 QString("undo A, delete A; 2 undo"));
         QCOMPARE(alive, 0);
     }
 
