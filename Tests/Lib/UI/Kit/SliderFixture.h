@@ -3,10 +3,6 @@
 #include <UI/Kit/ZSlider.h>
 #include <UI/Kit/ZSliderThumb.h>
 
-#include <Support/Input.h>
-
-#include <QtTest>
-
 /// Has values from 0 to 100 and 2 pixels per value.
 struct Trimmer : ZSlider
 {
@@ -24,23 +20,3 @@ struct Trimmer : ZSlider
         return thumb;
     }
 };
-
-inline void Click(ZSliderThumb* thumb)
-{
-    QTest::mouseClick(thumb, Qt::LeftButton);
-}
-
-inline void Press(ZSliderThumb* thumb)
-{
-    QTest::mousePress(thumb, Qt::LeftButton);
-}
-
-inline void Move(ZSliderThumb* thumb, int pixels)
-{
-    Support::MoveMouse(thumb, thumb->rect().center() + QPoint(pixels, 0));
-}
-
-inline void Release(ZSliderThumb* thumb)
-{
-    QTest::mouseRelease(thumb, Qt::LeftButton);
-}

@@ -2,6 +2,7 @@
 
 #include <UI/Kit/Internal/SliderTrack.h>
 
+#include <Support/Input.h>
 #include <Support/PaintSpy.h>
 #include <Support/Picture.h>
 #include <Support/TestCase.h>

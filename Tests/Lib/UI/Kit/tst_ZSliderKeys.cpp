@@ -1,5 +1,6 @@
 #include <Lib/UI/Kit/SliderFixture.h>
 
+#include <Support/Input.h>
 #include <Support/TestCase.h>
 
 /// Keys and wheel events of a slider and its thumbs.
@@ -16,7 +17,7 @@ private Q_SLOTS:
             slider.setValue(50);
             QTest::keyClick(&slider, key);
             const int first = slider.value() - 50;
-            Click(slider.defaultThumb());
+            QTest::mouseClick(slider.defaultThumb(), Qt::LeftButton);
             QTest::keyClick(slider.defaultThumb(), key);
             return QPair<int, int>(first, slider.value() - 50);
         };

@@ -1,6 +1,7 @@
 #include <Lib/UI/Kit/SliderFixture.h>
 
 #include <Support/AnySignalSpy.h>
+#include <Support/Input.h>
 #include <Support/TestCase.h>
 
 #include <QAccessible>
@@ -14,11 +15,21 @@ Q_DECLARE_METATYPE(Interference)
 
 namespace {
 
+void Click(Thumb* thumb)
+{
+    QTest::mouseClick(thumb, Qt::LeftButton);
+}
+
+void StartDrag(Thumb* thumb, int pixels)
+{
+    QTest::mousePress(thumb, Qt::LeftButton);
+    Support::MoveMouse(thumb, thumb->rect().center() + QPoint(pixels, 0));
+}
+
 void DragTo(Thumb* thumb, int value)
 {
-    Press(thumb);
-    Move(thumb, 2 * (value - thumb->value()));
-    Release(thumb);
+    StartDrag(thumb, 2 * (value - thumb->value()));
+    QTest::mouseRelease(thumb, Qt::LeftButton);
 }
 
 } // namespace
@@ -157,8 +168,7 @@ private Q_SLOTS:
         QCOMPARE(slider.value(), 70);
         QCOMPARE(takeSignals(), "down moved 70 up");
         // Disabling the slider ends the drag.
-        Press(thumb);
-        Move(thumb, 20);
+        StartDrag(thumb, 20);
         slider.setEnabled(false);
         QCOMPARE(takeSignals(), "down start up finish");
     }
@@ -197,7 +207,9 @@ private Q_SLOTS:
     {
         QFETCH(Interference, interfere);
         using Act = void (*)(Thumb*);
-        const Act drag = [](Thumb* thumb) { Move(thumb, 20); };
+        const Act press = [](Thumb* thumb) { QTest::mousePress(thumb, Qt::LeftButton); };
+        const Act drag = [](Thumb* thumb) { Support::MoveMouse(thumb, {27, 7}); };
+        const Act release = [](Thumb* thumb) { QTest::mouseRelease(thumb, Qt::LeftButton); };
         const Act key = [](Thumb* thumb) { QTest::keyClick(thumb, Qt::Key_Up); };
         int moment = -1;
         for (bool hasInterfered = true; hasInterfered;) {
@@ -213,7 +225,7 @@ private Q_SLOTS:
                     interfere(slider, thumb);
                 }
             });
-            for (const Act act : {Act(Press), drag, Act(Release), Act(Press), Act(Release), key}) {
+            for (const Act act : {press, drag, release, press, release, key}) {
                 if (thumb)
                     act(thumb);
             }
