@@ -256,30 +256,27 @@ private Q_SLOTS:
         QApplication::setFont(before);
     }
 
-    void completerOffersNames_data()
-    {
-        QTest::addColumn<QString>("offered");
-        QTest::newRow("QLabel, #known") << "knownObject";
-        QTest::newRow("QPush") << "QPushButton";
-        QTest::newRow("A { b: c }\nQPushButton {\n qproperty-tex") << "qproperty-text";
-        QTest::newRow("QPushButton { border-ra") << "border-radius";
-        QTest::newRow("QPushButton:pre") << "pressed";
-        QTest::newRow("QPushButton::indi") << "indicator";
-        QTest::newRow("A { color: ora") << "orange";
-        QTest::newRow("QPushButton { qproperty-readO") << QString(); // of another class
-        QTest::newRow("A { } /* QPush") << QString();
-    }
-
     void completerOffersNames()
     {
         QPushButton known;
         known.setObjectName("knownObject");
         editor->show();
         auto* completer = editor->findChild<StyleSheetCompleter*>();
-        code->setPlainText(QTest::currentDataTag());
-        code->moveCursor(QTextCursor::End);
-        completer->open();
-        QTEST(completer->completions().value(0), "offered");
+        const auto offered = [&](const QString& text) {
+            code->setPlainText(text);
+            code->moveCursor(QTextCursor::End);
+            completer->open();
+            return completer->completions().value(0);
+        };
+        QCOMPARE(offered("QLabel, #known"), QString("knownObject"));
+        QCOMPARE(offered("QPush"), QString("QPushButton"));
+        QCOMPARE(offered("A { b: c }\nQPushButton {\n qproperty-tex"), QString("qproperty-text"));
+        QCOMPARE(offered("QPushButton { qproperty-readO"), QString()); // of another class
+        QCOMPARE(offered("QPushButton { border-ra"), QString("border-radius"));
+        QCOMPARE(offered("QPushButton:pre"), QString("pressed"));
+        QCOMPARE(offered("QPushButton::indi"), QString("indicator"));
+        QCOMPARE(offered("A { color: ora"), QString("orange"));
+        QCOMPARE(offered("A { } /* QPush"), QString());
     }
 
     void completionIsInserted()
