@@ -47,8 +47,9 @@ private Q_SLOTS:
         frame.setLayoutMarginTop(9);
         frame.setLayoutMarginRight(6);
         frame.setLayoutMarginBottom(4);
+        frame.setLayoutMarginLeft(3);
         QCOMPARE(frame.layoutMargin(), -1);
-        QCOMPARE(layout->contentsMargins(), QMargins(5, 9, 6, 4));
+        QCOMPARE(layout->contentsMargins(), QMargins(3, 9, 6, 4));
     }
 
     void elidedLabelShowsAllOfItsTextAsToolTip()

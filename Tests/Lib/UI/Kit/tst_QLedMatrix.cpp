@@ -63,6 +63,7 @@ private Q_SLOTS:
         QTest::addColumn<QSize>("grid");
         QTest::newRow("too large for the cache") << QSize(700, 900) << QSize(3, 2);
         QTest::newRow("cached") << QSize(333, 160) << QSize(16, 9);
+        QTest::newRow("overlapping") << QSize(60, 20) << QSize(16, 9);
         QTest::newRow("smaller than pixels") << QSize(60, 20) << QSize(40, 40);
         QTest::newRow("single LED in a tiny widget") << QSize(5, 4) << QSize(1, 1);
     }

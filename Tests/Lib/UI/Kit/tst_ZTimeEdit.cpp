@@ -61,6 +61,7 @@ private Q_SLOTS:
         type("hh:mm:ss", "|12:34:56", "235958", "23:59:58|");
         type("hh:mm:ss", "|12:34:56|", "23", "23:|34:56");
         press("hh:mm:ss", "1|1:11:11", Qt::Key_Backspace, "|01:11:11");
+        press("hh:mm:ss", "12:34:56|", Qt::Key_Backspace, "12:34:5|0");
         press("hh:mm:ss", "|12:34:56|", Qt::Key_Delete, "|00:00:00");
         press("hh:mm:ss", "12|:34:|56", Qt::Key_Backspace, "12|:00:56");
         type("hh:mm:ss", "12:|34:56", "x", "12:|34:56");
@@ -71,6 +72,7 @@ private Q_SLOTS:
         type("h:mm_AP", "|12:30_PM", "0", "|2:30_PM");
         type("h:mm_AP", "1:30_|PM|", "am", "1:30_AM|");
         press("h:mm_AP", "12|:30_PM", Qt::Key_Up, "|1:30_PM");
+        press("h:mm_AP", "1:30_|AM|", Qt::Key_Up, "1:30_|PM");
         press("h:mm_AP", "1:30_|PM|", Qt::Key_Down, "1:30_|AM");
         type("'at'hh'h'", "at1|2h", "5", "at15h|");
         type("mm''ss", u8"|24\u201935", "1122", u8"11\u201922|");
