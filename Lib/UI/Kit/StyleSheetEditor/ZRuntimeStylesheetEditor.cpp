@@ -77,7 +77,7 @@ public:
     QString fileName;
     bool hasByteOrderMark = false; ///< in the file
     bool showsMistake = false;
-    int checkedRevision = -1; ///< revision of the document at the last check
+    QString checkedText; ///< at the last check
     QTimer pause;
     QObject context; ///< of all connections to this record, which is destroyed before the child widgets
 };
@@ -105,9 +105,9 @@ ZRuntimeStylesheetEditor::~ZRuntimeStylesheetEditor() = default;
 void ZRuntimeStylesheetEditor::Impl::connectParts()
 {
     connect(&pause, &QTimer::timeout, &context, [this] { checkAndApply(); });
-    // The highlighter changes the document without a new revision.
+    // Also emitted when the highlighter changes formats, for example after a change of the palette.
     connect(ui.editor, &QPlainTextEdit::textChanged, &context, [this] {
-        if (ui.editor->document()->revision() != checkedRevision)
+        if (ui.editor->toPlainText() != checkedText)
             pause.start();
     });
     connect(ui.editor, &QPlainTextEdit::modificationChanged, window, &QWidget::setWindowModified);
@@ -186,13 +186,12 @@ QString ZRuntimeStylesheetEditor::message() const
 void ZRuntimeStylesheetEditor::Impl::check()
 {
     pause.stop();
-    const bool isChanged = checkedRevision != ui.editor->document()->revision();
-    checkedRevision = ui.editor->document()->revision();
+    const QString before = std::exchange(checkedText, ui.editor->toPlainText());
     ui.editor->check();
     // Messages about an earlier text are outdated; those about a missing target or a running picker are not.
     if (hasMistakes())
         showMessage([this] { return ui.mistakeSummary(); }, true);
-    else if (showsMistake || (isChanged && target.exists() && !picker->isRunning()))
+    else if (showsMistake || (before != checkedText && target.exists() && !picker->isRunning()))
         showMessage({});
     showsMistake = hasMistakes();
 }

@@ -24,6 +24,16 @@ namespace {
 
 const QString RED = "QLabel { color: #ff0000; }";
 
+// Waits at least as long as other editors wait after the last key.
+void WaitForTypingPause()
+{
+    ZRuntimeStylesheetEditor editor;
+    editor.setTarget(&editor);
+    editor.setApplyingWhileTyping(true);
+    QTest::keyClicks(editor.findChild<ZCodeEditor*>(), RED);
+    QTRY_COMPARE(editor.styleSheet(), RED);
+}
+
 QColor ColorOf(QLabel& label)
 {
     label.ensurePolished();
@@ -140,18 +150,35 @@ private Q_SLOTS:
         QTRY_COMPARE(ColorOf(*label), QColor("#00ff00"));
         QVERIFY(code->marks().isEmpty());
         QCOMPARE(applied.size(), 1);
-        // A pending check does not apply the reverted sheet again. The other editor waits at least as long.
+        // A pending check does not apply the reverted sheet again.
         QTest::keyClick(code, Qt::Key_Space);
         editor->revert();
-        ZRuntimeStylesheetEditor later;
-        later.setTarget(&later);
-        later.setApplyingWhileTyping(true);
-        QTest::keyClicks(later.findChild<ZCodeEditor*>(), RED);
-        QTRY_COMPARE(later.styleSheet(), RED);
+        WaitForTypingPause();
         QCOMPARE(label->styleSheet(), QString());
         QCOMPARE(applied.size(), 1);
         editor->setText(RED);
         QTRY_COMPARE(label->styleSheet(), RED);
+    }
+
+    void changeOfColorsIsNoEdit()
+    {
+        editor->setTarget(label.get());
+        editor->setText(RED);
+        editor->show();
+        QVERIFY(editor->apply());
+        const auto setTextColor = [this](const QColor& color) {
+            QPalette palette;
+            palette.setColor(QPalette::Text, color);
+            editor->setPalette(palette);
+            WaitForTypingPause();
+        };
+        setTextColor(Qt::white);
+        QVERIFY2(editor->message().startsWith("Applied"), qPrintable(editor->message()));
+        editor->setApplyingWhileTyping(true);
+        WaitForTypingPause();
+        label->setStyleSheet(QString());
+        setTextColor(Qt::black);
+        QCOMPARE(label->styleSheet(), QString());
     }
 
     void clickPicksTheTarget()
