@@ -195,7 +195,9 @@ void ZCodeEditor::changeEvent(QEvent* event)
     QPlainTextEdit::changeEvent(event);
     if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
         applyFontMetrics();
-    if (event->type() == QEvent::PaletteChange || event->type() == QEvent::StyleChange)
+    // The colour of the current line is that of the text in the current state.
+    if (event->type() == QEvent::PaletteChange || event->type() == QEvent::StyleChange ||
+        event->type() == QEvent::EnabledChange)
         refreshSelections();
 }
 
