@@ -1,6 +1,8 @@
 #pragma once
 
-#include <QStringList>
+#include <QApplication>
+#include <QWidget>
+#include <QtTest>
 
 namespace Support {
 
@@ -8,11 +10,38 @@ namespace Support {
 class LeakCheck
 {
 public:
-    LeakCheck();
-    ~LeakCheck();
+    LeakCheck() : objects(Objects()) {}
+
+    ~LeakCheck()
+    {
+        // The first pass may create objects that are deleted later.
+        for (int i = 0; i < 2; ++i) {
+            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+            QCoreApplication::processEvents();
+        }
+        QStringList more = Objects();
+        for (const QString& name : objects)
+            more.removeOne(name);
+        // Omits the desktop widget, which Qt creates on first use and keeps, and tool tips, which Qt deletes with a
+        // delay.
+        for (const QWidget* widget : QApplication::allWidgets()) {
+            if (widget->windowType() != Qt::Desktop && !widget->inherits("QTipLabel"))
+                more += widget->metaObject()->className();
+        }
+        QCOMPARE(more.join(", "), QString());
+    }
 
 private:
-    QStringList objects;
+    // Omits objects of Qt, some of which are created on first use and kept.
+    static QStringList Objects()
+    {
+        QStringList names;
+        for (const QObject* object : qApp->findChildren<QObject*>())
+            names += object->metaObject()->className();
+        return names.filter(QRegularExpression("^[^Q]"));
+    }
+
+    const QStringList objects;
 };
 
 } // namespace Support

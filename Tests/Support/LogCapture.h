@@ -5,7 +5,7 @@
 #include <QStringList>
 
 #include <mutex>
-#include <vector>
+#include <utility>
 
 namespace Support {
 
@@ -13,18 +13,34 @@ namespace Support {
 class LogCapture : private google::LogSink
 {
 public:
-    LogCapture();
-    ~LogCapture() override;
+    LogCapture() { google::AddLogSink(this); }
+    ~LogCapture() override { google::RemoveLogSink(this); }
 
     /// Returns the lines in order, as severity, file, line and text: "E Lib/UI/Widgets/ColorButton:12 text".
-    QStringList Lines() const;
+    QStringList Lines() const
+    {
+        const std::lock_guard<std::mutex> lock(mutex);
+        return lines;
+    }
 
     /// Returns the lines and removes them.
-    QStringList Take();
+    QStringList Take()
+    {
+        const std::lock_guard<std::mutex> lock(mutex);
+        return std::exchange(lines, {});
+    }
 
 private:
-    void send(google::LogSeverity severity, const char* fullFilename, const char* baseFilename, int line,
-              const google::LogMessageTime& time, const char* message, size_t length) override;
+    void send(google::LogSeverity severity, const char* file, const char*, int line, const google::LogMessageTime&,
+              const char* message, size_t length) override
+    {
+        const std::lock_guard<std::mutex> lock(mutex);
+        lines += QStringLiteral("%1 %2:%3 %4")
+                     .arg(QLatin1Char(google::GetLogSeverityName(severity)[0]))
+                     .arg(QString::fromUtf8(file))
+                     .arg(line)
+                     .arg(QString::fromUtf8(message, int(length)));
+    }
 
     mutable std::mutex mutex;
     QStringList lines;

@@ -1,6 +1,10 @@
 #pragma once
 
-#include <QWidget>
+#include <QApplication>
+#include <QDialog>
+#include <QMenu>
+#include <QPointer>
+#include <QTimer>
 
 #include <functional>
 
@@ -11,15 +15,31 @@ namespace Support {
 class ModalWatcher : public QObject
 {
 public:
-    explicit ModalWatcher(std::function<void(QWidget*)> act);
+    explicit ModalWatcher(std::function<void(QWidget*)> act) : act(std::move(act)) { qApp->installEventFilter(this); }
 
 private:
-    bool eventFilter(QObject* object, QEvent* event) override;
+    bool eventFilter(QObject* object, QEvent* event) override
+    {
+        auto* window = qobject_cast<QWidget*>(object);
+        if (event->type() == QEvent::Show && window && window->isWindow() &&
+            (window->isModal() || qobject_cast<QMenu*>(window)))
+            QTimer::singleShot(0, this, [this, window = QPointer<QWidget>(window)] {
+                if (window)
+                    act(window);
+            });
+        return false;
+    }
 
     std::function<void(QWidget*)> act;
 };
 
 /// Rejects a dialog or closes a menu.
-void Dismiss(QWidget* window);
+inline void Dismiss(QWidget* window)
+{
+    if (auto* dialog = qobject_cast<QDialog*>(window))
+        dialog->reject();
+    else
+        window->close();
+}
 
 } // namespace Support

@@ -17,28 +17,7 @@ namespace Support {
 
 namespace {
 
-#if defined(Q_OS_WIN)
-
-void Send(DWORD what)
-{
-    INPUT input = {};
-    input.type = INPUT_MOUSE;
-    input.mi.dwFlags = what;
-    QCOMPARE(SendInput(1, &input, sizeof input), 1u);
-}
-
-void Press(int button)
-{
-    Send(button == 1 ? MOUSEEVENTF_LEFTDOWN : MOUSEEVENTF_RIGHTDOWN);
-}
-
-void Release(int button)
-{
-    Send(button == 1 ? MOUSEEVENTF_LEFTUP : MOUSEEVENTF_RIGHTUP);
-}
-
-#else
-
+#if !defined(Q_OS_WIN)
 void RunTool(const QStringList& arguments)
 {
     QProcess tool;
@@ -46,20 +25,24 @@ void RunTool(const QStringList& arguments)
     // Processes events, since the window under the pointer may belong to this process.
     while (!tool.waitForFinished(20) && tool.state() != QProcess::NotRunning)
         QCoreApplication::processEvents();
-    QVERIFY2(tool.exitStatus() == QProcess::NormalExit && tool.exitCode() == 0, tool.readAllStandardError());
+    QCOMPARE(tool.exitStatus(), QProcess::NormalExit);
+    QVERIFY2(tool.exitCode() == 0, tool.readAllStandardError());
 }
-
-void Press(int button)
-{
-    RunTool({"mousedown", QString::number(button)});
-}
-
-void Release(int button)
-{
-    RunTool({"mouseup", QString::number(button)});
-}
-
 #endif
+
+void SetPressed(int button, bool isPressed)
+{
+#if defined(Q_OS_WIN)
+    const DWORD press = button == 1 ? MOUSEEVENTF_LEFTDOWN : MOUSEEVENTF_RIGHTDOWN;
+    const DWORD release = button == 1 ? MOUSEEVENTF_LEFTUP : MOUSEEVENTF_RIGHTUP;
+    INPUT input = {};
+    input.type = INPUT_MOUSE;
+    input.mi.dwFlags = isPressed ? press : release;
+    QCOMPARE(SendInput(1, &input, sizeof input), 1u);
+#else
+    RunTool({isPressed ? "mousedown" : "mouseup", QString::number(button)});
+#endif
+}
 
 // Records the position of the last mouse move event in this process.
 struct PointerWatch
@@ -85,8 +68,8 @@ void MovePointer(const QPoint& global)
 void Click(const QPoint& global)
 {
     MovePointer(global);
-    Press(1);
-    Release(1);
+    SetPressed(1, true);
+    SetPressed(1, false);
     QCoreApplication::processEvents();
 }
 
@@ -99,9 +82,9 @@ bool Drag(const QPoint& global, const QPoint& way, int button)
     const QPoint first = global + QPoint(1, 0);
     PointerWatch pointer;
     MovePointer(global);
-    Press(button);
+    SetPressed(button, true);
     const std::function<void()> steps[] = {[&] { MovePointer(first); }, [&] { MovePointer(first + way); },
-                                           [&] { Release(button); }};
+                                           [&] { SetPressed(button, false); }};
     size_t next = 0;
     QTimer timer;
     QObject::connect(&timer, &QTimer::timeout, [&] {
@@ -121,7 +104,7 @@ bool Drag(const QPoint& global, const QPoint& way, int button)
     constexpr int ENOUGH_MS = 500;
     PointerWatch pointer;
     MovePointer(global);
-    Press(button);
+    SetPressed(button, true);
     // The window manager grabs the pointer after the first motion, possibly with a delay.
     bool taken = false;
     for (int step = 1; step <= FIRST_STEPS && !taken; ++step) {
@@ -130,7 +113,7 @@ bool Drag(const QPoint& global, const QPoint& way, int button)
         taken = !QTest::qWaitFor([&] { return pointer.seen == next; }, step == 1 ? LONG_MS : ENOUGH_MS);
     }
     MovePointer(global + QPoint(1, 0) + way);
-    Release(button);
+    SetPressed(button, false);
     return taken;
 }
 

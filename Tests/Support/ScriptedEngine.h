@@ -1,9 +1,11 @@
 #pragma once
 
 #include <Zelkor/Acquis/CaptureFactory.h>
+#include <Zelkor/StandIn/CaptureEngine.h>
 
 #include <atomic>
 #include <functional>
+#include <memory>
 #include <mutex>
 #include <thread>
 #include <vector>
@@ -34,7 +36,12 @@ public:
 class ScriptedDevice : public RefCounted<Acquis::ICaptureDevice>
 {
 public:
-    void GetSettings(std::vector<boost::intrusive_ptr<Acquis::ICaptureSettings>>& list, unsigned) const override;
+    void GetSettings(std::vector<boost::intrusive_ptr<Acquis::ICaptureSettings>>& list, unsigned) const override
+    {
+        list.clear();
+        if (timesAsked++ == 0 || !deniesItsModes)
+            list = modes;
+    }
 
     std::vector<boost::intrusive_ptr<Acquis::ICaptureSettings>> modes;
     bool deniesItsModes = false; ///< lists its modes on the first request only
@@ -42,7 +49,12 @@ public:
 };
 
 /// Creates a device with the mode "only" in one rate.
-boost::intrusive_ptr<ScriptedDevice> OrdinaryDevice(int rate = 100);
+inline boost::intrusive_ptr<ScriptedDevice> OrdinaryDevice(int rate = 100)
+{
+    boost::intrusive_ptr<ScriptedDevice> device(new ScriptedDevice);
+    device->modes.emplace_back(new ScriptedMode("only", {{rate, 1}}));
+    return device;
+}
 
 /// A provider, output and reader in one, which reads the frames of the script.
 class ScriptedReader : public RefCounted<Acquis::IFrameProvider, Acquis::ICaptureOutput, Acquis::IFrameReader>
@@ -52,10 +64,21 @@ public:
 
     explicit ScriptedReader(Read read) : read(std::move(read)) {}
 
-    void CreateOutput(boost::intrusive_ptr<Acquis::ICaptureOutput>& output, const std::string& name, int) override;
+    void CreateOutput(boost::intrusive_ptr<Acquis::ICaptureOutput>& output, const std::string& name, int) override
+    {
+        if (onOutput)
+            onOutput();
+        outputName = name;
+        output = this;
+    }
+
     void SetTimeShift(const boost::intrusive_ptr<Acquis::TimeShift>& newShift) override { shift = newShift; }
     boost::intrusive_ptr<Acquis::IFrameReader> GetFrameReader() override { return this; }
-    void ReadLatestFrame(boost::intrusive_ptr<Proc::IDataVideo>& frame) override;
+    void ReadLatestFrame(boost::intrusive_ptr<Proc::IDataVideo>& frame) override
+    {
+        ++reads;
+        frame = read ? read() : nullptr;
+    }
 
     std::function<void()> onOutput; ///< called when an output is requested
     std::atomic<int> reads{0};
@@ -66,31 +89,7 @@ private:
     Read read;
 };
 
-class ScriptedEngine;
-
-/// A session that follows the script of its engine.
-class ScriptedSession : public RefCounted<Acquis::ICaptureSession>
-{
-public:
-    explicit ScriptedSession(ScriptedEngine& engine);
-    ~ScriptedSession() override;
-
-    void Start(const std::shared_ptr<Acquis::ICaptureSessionObserver>& newObserver) override;
-    void Stop() override;
-    void GetDeviceSettings(std::vector<boost::intrusive_ptr<Acquis::IDeviceSettings>>& handles) const override;
-
-    // Call the last observer on the calling thread, even after the session has ended.
-    void ReportStarted(const boost::intrusive_ptr<ScriptedReader>& reader);
-    void ReportError(int code);
-    void ReportStopped();
-
-private:
-    std::shared_ptr<Acquis::ICaptureSessionObserver> Observer() const;
-
-    ScriptedEngine& engine;
-    mutable std::mutex mutex;
-    std::shared_ptr<Acquis::ICaptureSessionObserver> observer;
-};
+class ScriptedSession;
 
 /// Replaces the capture engine during its lifetime, to simulate faults.
 class ScriptedEngine
@@ -98,12 +97,30 @@ class ScriptedEngine
 public:
     using Session = boost::intrusive_ptr<ScriptedSession>;
 
-    ScriptedEngine();
-    ~ScriptedEngine();
+    ScriptedEngine() { StandIn::OverrideCaptureFactory(new Factory(*this)); }
+    ~ScriptedEngine()
+    {
+        Join();
+        StandIn::OverrideCaptureFactory(nullptr);
+    }
 
     /// Runs `work` on an engine thread, which `Join` and the destructor join.
-    void OnThread(std::function<void()> work);
-    void Join();
+    void OnThread(std::function<void()> work)
+    {
+        const std::lock_guard<std::mutex> lock(mutex);
+        threads.emplace_back(std::move(work));
+    }
+
+    void Join()
+    {
+        std::vector<std::thread> joined;
+        {
+            const std::lock_guard<std::mutex> lock(mutex);
+            joined.swap(threads);
+        }
+        for (std::thread& thread : joined)
+            thread.join();
+    }
 
     // Called in Start and Stop of a session. By default Start does nothing and Stop calls ReportStopped.
     std::function<void(const Session&)> onStart;
@@ -117,10 +134,80 @@ public:
     std::atomic<int> stops{0};
 
 private:
-    class Factory;
+    struct Factory : RefCounted<Acquis::ICaptureFactory>
+    {
+        explicit Factory(ScriptedEngine& engine) : engine(engine) {}
+        void CreateSession(boost::intrusive_ptr<Acquis::ICaptureSession>& session,
+                           const Acquis::CaptureSessionInitializer&, const std::string&) override;
+        ScriptedEngine& engine;
+    };
 
     std::mutex mutex;
     std::vector<std::thread> threads;
 };
+
+/// A session that follows the script of its engine.
+class ScriptedSession : public RefCounted<Acquis::ICaptureSession>
+{
+public:
+    explicit ScriptedSession(ScriptedEngine& engine) : engine(engine)
+    {
+        ++engine.created;
+        ++engine.alive;
+    }
+
+    ~ScriptedSession() override { --engine.alive; }
+
+    void Start(const std::shared_ptr<Acquis::ICaptureSessionObserver>& newObserver) override
+    {
+        std::atomic_store(&observer, newObserver);
+        ++engine.starts;
+        if (engine.onStart)
+            engine.onStart(this);
+    }
+
+    void Stop() override
+    {
+        ++engine.stops;
+        if (engine.onStop)
+            engine.onStop(this);
+        else
+            ReportStopped();
+    }
+
+    void GetDeviceSettings(std::vector<boost::intrusive_ptr<Acquis::IDeviceSettings>>& handles) const override
+    {
+        handles = engine.deviceSettings;
+    }
+
+    // Call the last observer on the calling thread, even after the session has ended.
+    void ReportStarted(const boost::intrusive_ptr<ScriptedReader>& reader)
+    {
+        if (const auto current = std::atomic_load(&observer))
+            current->handleStarted(*this, 0, reader);
+    }
+
+    void ReportError(int code)
+    {
+        if (const auto current = std::atomic_load(&observer))
+            current->handleError(*this, code);
+    }
+
+    void ReportStopped()
+    {
+        if (const auto current = std::atomic_load(&observer))
+            current->handleStopped();
+    }
+
+private:
+    ScriptedEngine& engine;
+    std::shared_ptr<Acquis::ICaptureSessionObserver> observer;
+};
+
+inline void ScriptedEngine::Factory::CreateSession(boost::intrusive_ptr<Acquis::ICaptureSession>& session,
+                                                   const Acquis::CaptureSessionInitializer&, const std::string&)
+{
+    session = engine.refusesSessions ? nullptr : new ScriptedSession(engine);
+}
 
 } // namespace Support

@@ -4,34 +4,31 @@
 
 #include <QStandardPaths>
 
+#include <algorithm>
 #include <mutex>
+#include <utility>
 
 namespace Support {
 
 namespace {
 
-std::mutex mutex;
+std::mutex mutex; ///< guards the lists
 QStringList expected;
 QStringList stray;
 QtMessageHandler previousHandler = nullptr;
 
-// Returns whether a message is one of the limitations of the offscreen platform.
-bool IsPlatformMessage(const QString& message)
-{
-    return message.startsWith(QLatin1String("This plugin does not support "));
-}
-
 void HandleMessage(QtMsgType type, const QMessageLogContext& context, const QString& message)
 {
-    if (IsPlatformMessage(message))
+    // The offscreen platform reports its limitations.
+    if (message.startsWith(QLatin1String("This plugin does not support ")))
         return;
     if (type == QtWarningMsg || type == QtCriticalMsg) {
         const std::lock_guard<std::mutex> lock(mutex);
-        for (int i = 0; i < expected.size(); ++i) {
-            if (message.contains(expected[i])) {
-                expected.removeAt(i);
-                return;
-            }
+        const auto found = std::find_if(expected.begin(), expected.end(),
+                                        [&message](const QString& text) { return message.contains(text); });
+        if (found != expected.end()) {
+            expected.erase(found);
+            return;
         }
         stray += message;
     }
@@ -54,15 +51,11 @@ void TestCase::init()
 void TestCase::cleanup()
 {
     qInstallMessageHandler(previousHandler);
-    QStringList strayNow;
-    QStringList missingNow;
-    {
-        const std::lock_guard<std::mutex> lock(mutex);
-        strayNow.swap(stray);
-        missingNow.swap(expected);
-    }
-    QVERIFY2(strayNow.isEmpty(), qPrintable(QStringLiteral("stray warning: ") + strayNow.join(QStringLiteral("; "))));
-    QVERIFY2(missingNow.isEmpty(), qPrintable(QStringLiteral("no warning: ") + missingNow.join(QStringLiteral("; "))));
+    const std::lock_guard<std::mutex> lock(mutex);
+    const QString strayWarnings = std::exchange(stray, {}).join("; ");
+    const QString missingWarnings = std::exchange(expected, {}).join("; ");
+    QCOMPARE(strayWarnings, QString());
+    QCOMPARE(missingWarnings, QString());
 }
 
 void PrepareProcess(const char* program)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QDesktopServices>
 #include <QObject>
 #include <QUrl>
 
@@ -11,8 +12,11 @@ class UrlHandlerStub : public QObject
     Q_OBJECT
 
 public:
-    UrlHandlerStub();
-    ~UrlHandlerStub() override;
+    UrlHandlerStub()
+    {
+        for (const char* scheme : {"http", "https", "mailto", "file"})
+            QDesktopServices::setUrlHandler(scheme, this, "Ignore"); // until this object is destroyed
+    }
 
 private Q_SLOTS:
     void Ignore(const QUrl&) {}
