@@ -140,6 +140,16 @@ inline void AddRows(QVector<int> (*statesOf)(const Zelkor::Catalogue::Entry&), c
     }
 }
 
+/// Adds a row for each widget that `isWanted` accepts, with the column className.
+inline void AddRowsOfEntries(bool (*isWanted)(const Zelkor::Catalogue::Entry&) = [](auto&) { return true; })
+{
+    QTest::addColumn<QString>("className");
+    for (const auto& entry : Zelkor::Catalogue::Entries()) {
+        if (isWanted(entry))
+            QTest::newRow(qPrintable(entry.className)) << entry.className;
+    }
+}
+
 inline void AddRowsOfAllStates()
 {
     AddRows(AllStates);

@@ -1,5 +1,6 @@
 #include <Catalogue/Comparison.h>
 #include <Catalogue/EntryWindow.h>
+#include <Catalogue/OtherValue.h>
 #include <Examples/Support/BuiltInStyleSheets.h>
 #include <Gallery/Inspector/PropertyValue.h>
 #include <Gallery/Inspector/SignalLog.h>
@@ -98,41 +99,6 @@ const WidgetChange WIDGET_CHANGES[] = {
     {"window hidden and shown", Nothing, HideAndShow<&EntryWindow::window>, Nothing},
     {"narrow and wide", Nothing, NarrowAndWiden, Nothing},
 };
-
-/// A valid value other than `old`; invalid for types without one.
-QVariant OtherValue(const QMetaProperty& property, const QVariant& old)
-{
-    if (property.isEnumType()) {
-        const QMetaEnum keys = property.enumerator();
-        return keys.value(keys.value(0) == EnumNumber(old) ? keys.keyCount() - 1 : 0);
-    }
-    switch (old.userType()) {
-    case QMetaType::Bool:
-        return !old.toBool();
-    case QMetaType::Int:
-        return old.toInt() + 3;
-    case QMetaType::LongLong:
-        return old.toLongLong() + 3000;
-    case QMetaType::Double:
-        return old.toDouble() > 1 ? old.toDouble() / 2 : old.toDouble() + 1;
-    case QMetaType::QString:
-        return QByteArray(property.name()).endsWith("Style") ? "border: 2px solid red;" : "Longer than before, & other";
-    case QMetaType::QStringList:
-        return QStringList{QStringLiteral("h:mm"), QStringLiteral("h:mm:ss")};
-    case QMetaType::QColor:
-        return QColor(53, 103, 17);
-    case QMetaType::QPoint:
-        return old.toPoint() + QPoint(3, 5);
-    case QMetaType::QRect:
-        return QRect(5, 6, 17, 8);
-    case QMetaType::QSize:
-        return old.toSize().expandedTo(QSize(0, 0)) + QSize(5, 7);
-    case QMetaType::QTime:
-        return QTime(1, 2, 3);
-    default:
-        return {};
-    }
-}
 
 QVector<int> StatesToApply(const Entry& entry)
 {
