@@ -1,67 +1,166 @@
 #pragma once
 
 #include <QAccessible>
+#include <QApplication>
 #include <QMap>
-#include <QObject>
-#include <QPair>
-#include <QStringList>
-#include <QVector>
+#include <QSet>
 #include <QWidget>
 
+#if defined(VX_WITH_QT_PRIVATE)
+#include <private/qguiapplication_p.h>
+#include <qpa/qplatformaccessibility.h>
+#include <qpa/qplatformintegration.h>
+#endif
+
+#include <cstring>
 #include <functional>
 
 /// Makes Qt send accessibility events as with a running screen reader. Returns false without Qt's private headers.
-bool EnableAccessibility();
+inline bool EnableAccessibility()
+{
+#if defined(VX_WITH_QT_PRIVATE)
+    QGuiApplicationPrivate::platformIntegration()->accessibility()->setActive(true);
+#endif
+    return QAccessible::isActive();
+}
 
 /// Calls `visit` for an interface and its visible descendants. `owner` is the nearest object, `path` the child indices
 /// from there to an interface without an object, such as a tab of a tab bar.
-void VisitAccessible(QAccessibleInterface* root,
-                     const std::function<void(QAccessibleInterface&, QObject* owner, const QString& path)>& visit);
-
-/// What assistive technology reads of a widget and its parts at one time.
-class AccessibleSnapshot
+inline void
+VisitAccessible(QAccessibleInterface* interface,
+                const std::function<void(QAccessibleInterface&, QObject* owner, const QString& path)>& visit,
+                QObject* owner = nullptr, QString path = {})
 {
-public:
-    explicit AccessibleSnapshot(QWidget* widget);
+    if (!interface || !interface->isValid() || interface->state().invisible)
+        return;
+    if (interface->object()) {
+        owner = interface->object();
+        path.clear();
+    }
+    visit(*interface, owner, path);
+    for (int i = 0; i < interface->childCount(); ++i)
+        VisitAccessible(interface->child(i), visit, owner, path + '/' + QString::number(i));
+}
 
-    struct Part
-    {
-        QString name;
-        QString description;
-        QString value;
-        QString text; ///< of an editable text
-        QAccessible::State state;
-    };
+inline quint64 StateBits(QAccessible::State state)
+{
+    quint64 bits = 0;
+    std::memcpy(&bits, &state, sizeof bits);
+    return bits;
+}
 
-    QMap<QPair<QObject*, QString>, Part> parts;
+/// What assistive technology reads of a part of a widget.
+struct AccessiblePart
+{
+    QString name;
+    QString description;
+    QString value;
+    QString text; ///< of an editable text
+    QAccessible::State state;
 };
+
+using AccessibleSnapshot = QMap<QPair<QObject*, QString>, AccessiblePart>; ///< by owner and path
+
+inline AccessibleSnapshot SnapshotOf(QWidget* widget)
+{
+    AccessibleSnapshot parts;
+    const auto add = [&parts](QAccessibleInterface& interface, QObject* owner, const QString& path) {
+        // Without a description Qt returns the tool tip, and sends no event when that changes.
+        const auto* part = qobject_cast<QWidget*>(interface.object());
+        QString value = interface.text(QAccessible::Value);
+        QString text;
+        if (QAccessibleValueInterface* values = interface.valueInterface())
+            value = values->currentValue().toString();
+        if (QAccessibleTextInterface* texts = interface.textInterface())
+            text = texts->text(0, texts->characterCount());
+        parts[{owner, path}] = {interface.text(QAccessible::Name), part ? part->accessibleDescription() : QString(),
+                                value, text, interface.state()};
+    };
+    VisitAccessible(widget ? QAccessible::queryAccessibleInterface(widget) : nullptr, add);
+    return parts;
+}
 
 /// Records the accessibility events that are sent while it lives.
 class AccessibleEventLog
 {
 public:
-    AccessibleEventLog();
-    ~AccessibleEventLog();
+    AccessibleEventLog() : previous(QAccessible::installUpdateHandler(Record)) { events.clear(); }
+    ~AccessibleEventLog() { QAccessible::installUpdateHandler(previous); }
 
     void Clear() { events.clear(); }
 
     /// Describes each difference between two snapshots without an event for it.
-    QStringList MissingEvents(const AccessibleSnapshot& before, const AccessibleSnapshot& after) const;
+    QStringList MissingEvents(const AccessibleSnapshot& before, const AccessibleSnapshot& after) const
+    {
+        QStringList faults;
+        for (auto part = after.begin(); part != after.end(); ++part) {
+            if (before.contains(part.key()))
+                AppendMissing(part.key(), before[part.key()], *part, faults);
+        }
+        return faults;
+    }
 
 private:
     struct Event
     {
         QObject* object;
         QAccessible::Event type;
-        QAccessible::State changed; ///< of QAccessible::StateChanged
+        quint64 changed; ///< the bits of QAccessible::StateChanged
     };
 
-    bool Has(QObject* object, const QVector<QAccessible::Event>& types) const;
-    bool HasText(QObject* object) const;
-    bool HasStateChange(QObject* object, bool (*hasChanged)(QAccessible::State)) const;
+    static void AppendMissing(const QPair<QObject*, QString>& place, const AccessiblePart& was,
+                              const AccessiblePart& is, QStringList& faults)
+    {
+        const auto [object, path] = place;
+        QSet<int> sent;
+        quint64 sentBits = 0;
+        bool hasText = false;
+        for (const Event& event : qAsConst(events)) {
+            // The line edit of an editable combo box reports its text.
+            const bool isText = event.type >= QAccessible::TextInserted && event.type <= QAccessible::TextUpdated;
+            hasText |= isText && (event.object == object || event.object->parent() == object);
+            if (event.object == object) {
+                sent += event.type;
+                sentBits |= event.changed;
+            }
+        }
+        const auto check = [&](const QString& what, bool hasChanged, const QSet<int>& types) {
+            if (hasChanged && !sent.intersects(types))
+                faults += QStringLiteral("%1 %2%3: %4 of \"%5\"")
+                              .arg(object->metaObject()->className(), object->objectName(), path, what, is.name);
+        };
+        // A tab bar is named after the selected tab. Interfaces without an object may change places with each other.
+        check("name", was.name != is.name && !is.name.isEmpty() && path.isEmpty() && !hasText,
+              {QAccessible::NameChanged, QAccessible::ValueChanged, QAccessible::Selection});
+        check("description", was.description != is.description, {QAccessible::DescriptionChanged});
+        check("text", was.text != is.text && !hasText, {});
+        check("value", was.value != is.value && !hasText, {QAccessible::ValueChanged, QAccessible::NameChanged});
+        // A widget reports the focus of its focus proxy as its own.
+        const bool hasFocus = object == QApplication::focusWidget() && path.isEmpty();
+        check("focus", hasFocus && !was.state.focused && is.state.focused, {QAccessible::Focus});
+        QAccessible::State selected;
+        selected.selected = true;
+        check("selection", was.state.selected != is.state.selected && !(sentBits & StateBits(selected)),
+              {QAccessible::Selection, QAccessible::SelectionAdd, QAccessible::SelectionRemove,
+               QAccessible::SelectionWithin, QAccessible::Focus});
+        QAccessible::State reported;
+        reported.checked = reported.checkStateMixed = reported.expanded = reported.collapsed = true;
+        reported.disabled = reported.readOnly = true;
+        const quint64 silent = (StateBits(was.state) ^ StateBits(is.state)) & StateBits(reported) & ~sentBits;
+        check(QStringLiteral("state bits %1").arg(silent, 0, 16), silent != 0, {});
+    }
 
-    static void Record(QAccessibleEvent* event);
+    static void Record(QAccessibleEvent* event)
+    {
+        QObject* object = event->object();
+        if (!object && event->accessibleInterface())
+            object = event->accessibleInterface()->object();
+        const bool isState = event->type() == QAccessible::StateChanged;
+        if (object)
+            events.append({object, event->type(),
+                           isState ? StateBits(static_cast<QAccessibleStateChangeEvent*>(event)->changedStates()) : 0});
+    }
 
-    QVector<Event> events;
+    inline static QVector<Event> events; ///< of the one log
     QAccessible::UpdateHandler previous;
 };

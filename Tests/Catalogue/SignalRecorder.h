@@ -8,14 +8,14 @@
 
 #include <deque>
 
-/// "Class::signal(types)" of each signal that a widget or one of its parts emits, with the index of the first sender in
-/// PartsOf().
-using EmittedSignals = QMap<QString, int>;
-
-inline QString NameOf(const QWidget* part, const QMetaMethod& signal)
+/// A signal and the index of its first sender in PartsOf().
+struct EmittedSignal
 {
-    return QStringLiteral("%1::%2").arg(part->metaObject()->className(), QString(signal.methodSignature()));
-}
+    int part;
+    QMetaMethod signal;
+};
+
+using EmittedSignals = QMap<QString, EmittedSignal>; ///< by "Class::signal(types)"
 
 /// Records the signals of a widget and its parts. Ignores parts in pop-ups, which may cover the widget or not, and
 /// signals about undo and copy, which depend on earlier input.
@@ -29,14 +29,13 @@ public:
         for (int i = 0; i < parts.size(); ++i) {
             if (parts[i]->window() != widget->window())
                 continue;
-            for (const QMetaMethod& signal : Support::SignalsOf(parts[i])) {
-                if (signal.name().endsWith("Available") || isIgnored(parts[i], signal))
-                    continue;
-                spies.emplace_back(parts[i], QVector<QMetaMethod>{signal}, [this, i, name = NameOf(parts[i], signal)] {
-                    if (isActive && !emitted.contains(name))
-                        emitted[name] = i;
-                });
-            }
+            spies.emplace_back(parts[i], [=, part = parts[i].data()](const QMetaMethod& signal) {
+                if (!isActive || signal.name().endsWith("Available") || isIgnored(part, signal))
+                    return;
+                const QString name = part->metaObject()->className() + QStringLiteral("::") + signal.methodSignature();
+                if (!emitted.contains(name))
+                    emitted[name] = {i, signal};
+            });
         }
     }
 

@@ -3,7 +3,6 @@ if(NOT TARGET VxGalleryWindows)
   return()
 endif()
 
-vx_test(Catalogue/tst_Catalogue.cpp LIBRARIES VxCatalogue)
 vx_test(Catalogue/tst_Styles.cpp LIBRARIES VxCatalogue)
 target_compile_definitions(tst_Styles PRIVATE VX_STYLES_SOURCE="${PROJECT_SOURCE_DIR}/Styles")
 vx_test(Catalogue/tst_Reference.cpp LIBRARIES VxCatalogue)
@@ -20,13 +19,13 @@ endforeach()
 
 vx_test(Catalogue/tst_Properties.cpp LIBRARIES VxGalleryWindows)
 
-vx_test(Catalogue/tst_CatalogueChanges.cpp SOURCES Catalogue/Comparison.cpp LIBRARIES VxGalleryWindows)
+vx_test(Catalogue/tst_CatalogueChanges.cpp LIBRARIES VxGalleryWindows)
 add_dependencies(tst_CatalogueChanges VxTranslations)
 target_compile_definitions(tst_CatalogueChanges PRIVATE VX_TRANSLATIONS="${CMAKE_BINARY_DIR}/Translations")
 
 # Only the platform plugin can activate accessibility; the headers for that are private.
 find_package(Qt5 5.15 REQUIRED COMPONENTS Gui)
-vx_test(Catalogue/tst_CatalogueAccessibility.cpp SOURCES Catalogue/AccessibleEvents.cpp LIBRARIES VxCatalogue)
+vx_test(Catalogue/tst_CatalogueAccessibility.cpp LIBRARIES VxCatalogue)
 if(TARGET Qt5::GuiPrivate)
   target_link_libraries(tst_CatalogueAccessibility PRIVATE Qt5::GuiPrivate)
   target_compile_definitions(tst_CatalogueAccessibility PRIVATE VX_WITH_QT_PRIVATE)
@@ -44,8 +43,7 @@ add_custom_command(
           $<TARGET_FILE:VxFormWriter> ${form}/FormOfAll.ui
   COMMAND Qt5::uic -o ${form}/ui_FormOfAll.h ${form}/FormOfAll.ui
   DEPENDS VxFormWriter VERBATIM)
-vx_test(Catalogue/tst_CatalogueParents.cpp SOURCES Catalogue/Containers.cpp ${form}/ui_FormOfAll.h
-        LIBRARIES VxGalleryWindows)
+vx_test(Catalogue/tst_CatalogueParents.cpp SOURCES ${form}/ui_FormOfAll.h LIBRARIES VxGalleryWindows)
 set_source_files_properties(${form}/ui_FormOfAll.h PROPERTIES SKIP_AUTOGEN ON)
 target_include_directories(tst_CatalogueParents SYSTEM PRIVATE ${form})
 

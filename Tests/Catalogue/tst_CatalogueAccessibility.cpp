@@ -14,7 +14,6 @@
 #include <QButtonGroup>
 #include <QGroupBox>
 #include <QPlainTextEdit>
-#include <QSet>
 
 using namespace Zelkor::Catalogue;
 using Zelkor::Examples::LoadStyleSheet;
@@ -49,49 +48,44 @@ bool IsFrame(QAccessible::Role role)
     return role == QAccessible::Border || role == QAccessible::Grouping || role == QAccessible::LayeredPane;
 }
 
-// Returns an empty string, or how the reported state and actions differ from those of the widget.
-QString StateFault(QAccessibleInterface& interface)
-{
-    const auto* widget = qobject_cast<QWidget*>(interface.object());
-    QAccessibleActionInterface* actions = interface.actionInterface();
-    const QStringList names = actions ? actions->actionNames() : QStringList();
-    if (QSet<QString>(names.begin(), names.end()).size() != names.size())
-        return QStringLiteral("has an action twice: ") + names.join(QStringLiteral(", "));
-    // Qt never reports the list of a combo box as disabled.
-    const bool isList = qobject_cast<const QAbstractItemView*>(widget);
-    if (widget && !isList && interface.state().disabled == widget->isEnabled())
-        return QStringLiteral("disabled state is wrong");
-    const auto* button = qobject_cast<const QAbstractButton*>(widget);
-    if (!button || !button->isEnabled() || interface.role() == QAccessible::Slider)
-        return {};
-    if (names.isEmpty())
-        return QStringLiteral("is a button without an action");
-    if (button->isCheckable() && interface.state().checked != button->isChecked() && !interface.state().checkStateMixed)
-        return QStringLiteral("checked state is wrong");
-    return {};
-}
-
-// Returns an empty string, or a defect of one interface. `isSubject`: it belongs to the class of the entry.
-QString Fault(QAccessibleInterface& interface, bool takesKeyboard, bool isSubject)
+// Returns the defects of an interface. `isSubject`: it belongs to the class of the entry.
+QStringList FaultsOf(QAccessibleInterface& interface, bool takesKeyboard, bool isSubject)
 {
     const QAccessible::Role role = interface.role();
+    const QAccessible::State state = interface.state();
     const QString name = interface.text(QAccessible::Name);
-    if (!interface.isValid() || role == QAccessible::NoRole)
-        return QStringLiteral("has no role");
-    if ((takesKeyboard || isSubject) && (role == QAccessible::Client || role == QAccessible::Window))
-        return QStringLiteral("has no specific role");
-    if (isSubject && IsFrame(role) && interface.childCount() == 0)
-        return QStringLiteral("is an empty frame");
-    if (name.isEmpty() ? takesKeyboard || (isSubject && !IsFrame(role)) : !IsReadable(name))
-        return QStringLiteral("has no readable name");
-    if (takesKeyboard && !interface.state().focusable)
-        return QStringLiteral("takes keys, but is not focusable");
-    if (const QAccessibleValueInterface* values = interface.valueInterface()) {
-        const double value = values->currentValue().toDouble();
-        if (value < values->minimumValue().toDouble() || value > values->maximumValue().toDouble())
-            return QStringLiteral("value %1 is out of range").arg(value);
+    const bool needsName = takesKeyboard || (isSubject && !IsFrame(role));
+    const QAccessibleValueInterface* values = interface.valueInterface();
+    const double value = values ? values->currentValue().toDouble() : 0;
+    QAccessibleActionInterface* actions = interface.actionInterface();
+    const QStringList actionNames = actions ? actions->actionNames() : QStringList();
+    const auto* widget = qobject_cast<QWidget*>(interface.object());
+    // Qt never reports the list of a combo box as disabled.
+    const bool isList = qobject_cast<const QAbstractItemView*>(widget);
+    const auto* button = qobject_cast<const QAbstractButton*>(widget);
+    const bool isPressable = button && button->isEnabled() && role != QAccessible::Slider;
+    const bool hasCheck = isPressable && button->isCheckable() && !state.checkStateMixed;
+
+    const std::pair<bool, const char*> checks[] = {
+        {role == QAccessible::NoRole, "has no role"},
+        {(takesKeyboard || isSubject) && (role == QAccessible::Client || role == QAccessible::Window),
+         "has no specific role"},
+        {isSubject && IsFrame(role) && interface.childCount() == 0, "is an empty frame"},
+        {name.isEmpty() ? needsName : !IsReadable(name), "has no readable name"},
+        {takesKeyboard && !state.focusable, "takes keys, but is not focusable"},
+        {values && value < values->minimumValue().toDouble(), "has a value below the range"},
+        {values && value > values->maximumValue().toDouble(), "has a value above the range"},
+        {QStringList(actionNames).removeDuplicates() > 0, "has an action twice"},
+        {isPressable && actionNames.isEmpty(), "is a button without an action"},
+        {widget && !isList && state.disabled == widget->isEnabled(), "has a wrong disabled state"},
+        {hasCheck && state.checked != button->isChecked(), "has a wrong checked state"},
+    };
+    QStringList faults;
+    for (const auto& [isFault, text] : checks) {
+        if (isFault)
+            faults += Describe(interface) + ' ' + text;
     }
-    return StateFault(interface);
+    return faults;
 }
 
 int CountContrastingPixels(const QImage& before, const QImage& after)
@@ -148,9 +142,7 @@ private Q_SLOTS:
             const bool takesKeyboard = part && keyboardParts.contains(part);
             visited += takesKeyboard;
             const bool isSubject = part && QString(part->metaObject()->className()).section("::", -1) == className;
-            const QString fault = Fault(interface, takesKeyboard, isSubject);
-            if (!fault.isEmpty())
-                faults += Describe(interface) + ": " + fault;
+            faults += FaultsOf(interface, takesKeyboard, isSubject);
         });
         QCOMPARE(faults.join("; "), QString());
         QCOMPARE(visited, keyboardParts.size());
@@ -175,7 +167,7 @@ private Q_SLOTS:
                     action->setText(text);
             }
         }
-        for (const AccessibleSnapshot::Part& part : AccessibleSnapshot(scene->widget).parts) {
+        for (const AccessiblePart& part : SnapshotOf(scene->widget)) {
             QVERIFY2(!part.name.contains(text), qPrintable(part.name));
             QVERIFY2(!part.description.contains(text), qPrintable(part.description));
         }
@@ -256,7 +248,7 @@ private Q_SLOTS:
             QVERIFY2(part, "deleted by keys for another part");
             part->setFocus(Qt::TabFocusReason);
             int effects = 0;
-            const Support::AnySignalSpy spy(part, [&effects] { ++effects; });
+            const Support::AnySignalSpy spy(part, [&effects](auto&) { ++effects; });
             const QString name = QStringLiteral("%1 %2 ").arg(part->metaObject()->className(), part->objectName());
             for (const Qt::Key key : KEYS)
                 effects += CheckEvents(*scene, name + QKeySequence(key).toString(), [&] { scene->Type(key); });
@@ -294,10 +286,10 @@ private:
     {
         AccessibleEventLog events;
         bool opened = false;
-        AccessibleSnapshot last(scene.widget);
+        AccessibleSnapshot last = SnapshotOf(scene.widget);
         QStringList faults;
         const auto compare = [&] {
-            const AccessibleSnapshot now(scene.widget);
+            const AccessibleSnapshot now = SnapshotOf(scene.widget);
             faults += events.MissingEvents(last, now);
             events.Clear();
             last = now;

@@ -8,10 +8,7 @@
 #include <Support/TestCase.h>
 #include <Support/UrlHandlerStub.h>
 
-#include <QGraphicsProxyWidget>
-#include <QGraphicsView>
-#include <QStackedWidget>
-#include <QTabWidget>
+#include <QScopedValueRollback>
 #include <QWindow>
 
 #include <ui_FormOfAll.h>
@@ -55,18 +52,22 @@ bool IsIgnored(const QWidget* part, const QMetaMethod& signal)
     return part;
 }
 
-/// Operates a widget in a container with mouse and keys.
+/// Operates a widget with mouse and keys.
 class Operator
 {
 public:
-    Operator(QWidget* widget, const Container& container)
-        : widget(widget), container(container), recorder(widget, IsIgnored)
+    Operator(QWidget* widget, const OpenFunction& open) : widget(widget), open(open), recorder(widget, IsIgnored)
     {
         recorder.isActive = false;
     }
 
     EmittedSignals Operate()
     {
+        const Support::UrlHandlerStub links;
+        const Support::ModalWatcher watcher([this](QWidget* window) {
+            if (window != widget->window())
+                Support::Dismiss(window);
+        });
         const int width = widget->width();
         const int middle = widget->height() / 2;
         for (const int x : {width / 4, width / 2, width * 3 / 4})
@@ -87,7 +88,7 @@ private:
             if (part && part->windowType() == Qt::Popup && part->isVisible())
                 QTest::keyPress(MapToWindow(part, {}).window, Qt::Key_Escape);
         }
-        container.open();
+        open();
         Settle();
     }
 
@@ -102,12 +103,11 @@ private:
         }
         const WindowPoint start = MapToWindow(widget, from);
         const WindowPoint end = MapToWindow(widget, to);
-        recorder.isActive = true;
+        const QScopedValueRollback<bool> recording(recorder.isActive, true);
         QTest::mousePress(start.window, Qt::LeftButton, {}, start.point);
         if (from != to)
             QTest::mouseMove(start.window, end.point);
         QTest::mouseRelease(start.window, Qt::LeftButton, {}, end.point);
-        recorder.isActive = false;
     }
 
     void Type(const QPointer<QWidget>& part, Qt::Key key)
@@ -119,44 +119,38 @@ private:
         if (!part || !part->isVisible() || !part->isEnabled())
             return;
         part->setFocus(Qt::TabFocusReason);
-        recorder.isActive = true;
+        const QScopedValueRollback<bool> recording(recorder.isActive, true);
         QTest::keyClick(MapToWindow(widget, {}).window, key);
-        recorder.isActive = false;
     }
 
     QWidget* widget;
-    const Container& container;
+    const OpenFunction open;
     SignalRecorder recorder;
 };
 
-void Open(QWidget& window, const Container& container)
+void Show(QWidget& window, const OpenFunction& open)
 {
     window.resize(WINDOW_SIZE);
     window.show();
     QApplication::setActiveWindow(&window);
-    container.open();
+    open();
     QCoreApplication::processEvents();
 }
 
-EmittedSignals Operate(QWidget* widget, const Container& container)
+// Moves a widget to a container, operates it there and deletes it.
+EmittedSignals OperateIn(const Container& container, QWidget* widget)
 {
-    const Support::UrlHandlerStub links;
-    const Support::ModalWatcher watcher([&container](QWidget* window) {
-        if (window != container.popUp)
-            Support::Dismiss(window);
-    });
-    return Operator(widget, container).Operate();
+    QWidget window;
+    const OpenFunction open = container.create(widget, &window);
+    widget->show();
+    Show(window, open);
+    return Operator(widget, open).Operate();
 }
 
 void Compare(const EmittedSignals& emitted, const EmittedSignals& expected)
 {
     QCOMPARE(Missing(expected, emitted).join("; "), QString());
     QCOMPARE(Missing(emitted, expected).join("; "), QString());
-}
-
-QStringList ContainerNames()
-{
-    return NamesOf(ContainerKinds()).mid(1);
 }
 
 } // namespace
@@ -169,39 +163,27 @@ class tst_CatalogueParents : public Support::TestCase
 private Q_SLOTS:
     void initTestCase() { sheet = *LoadStyleSheet("dark"); }
 
-    void widgetWorksInContainer_data() { AddRows(TestedStates, ContainerNames()); }
+    void widgetWorksInContainer_data() { AddRows(TestedStates, NamesOf(CONTAINERS).mid(1)); }
 
-    // Alternately creates the widget in the container and moves it there, so that each widget takes both ways.
+    // Every other widget is moved to the container while it is visible.
     void widgetWorksInContainer()
     {
         const Support::LeakCheck leakCheck;
         QFETCH(int, state);
         QFETCH(int, variant);
-        const bool isMoved = (state + variant) % 2 == 1;
-        const EmittedSignals expected = SignalsInPlainWindow();
-        QWidget plain;
-        QWidget window;
-        const Container container = ContainerKinds()[size_t(variant) + 1].create(&window);
-        QWidget* widget = nullptr;
-        if (isMoved) {
-            widget = CreateIn(plain, PlainContainer(plain));
-            window.resize(WINDOW_SIZE);
-            window.show();
-        } else {
-            widget = CreateAtOwnSize(container.parent);
-        }
-        container.take(widget);
-        Open(window, container);
-        Compare(Operate(widget, container), expected);
+        const auto key = qMakePair(EntryOfRow().className, state);
+        if (!plainSignals.contains(key))
+            plainSignals[key] = OperateIn(CONTAINERS[0], CreateAtOwnSize(nullptr));
+        QWidget first;
+        QWidget* widget = CreateAtOwnSize(&first);
+        if ((state + variant) % 2 == 1)
+            Show(first, Fill(&first, PageWith(widget)));
+        Compare(OperateIn(CONTAINERS[variant + 1], widget), plainSignals[key]);
     }
 
     void widgetWorksInCompiledForm_data()
     {
-        QTest::addColumn<QString>("className");
-        for (const Entry& entry : Entries()) {
-            if (entry.form.metaObject)
-                QTest::newRow(qPrintable(entry.className)) << entry.className;
-        }
+        AddRowsOfEntries([](const Entry& entry) { return entry.form.metaObject != nullptr; });
     }
 
     void widgetWorksInCompiledForm()
@@ -216,37 +198,17 @@ private Q_SLOTS:
         auto* widget = window.findChild<QWidget*>(name);
         QVERIFY(widget);
         QCOMPARE(widget->metaObject(), entry.form.metaObject);
-        const Container container{&window, {}};
-        Open(window, container);
+        const OpenFunction open = [] {};
+        Show(window, open);
 
-        QWidget plain;
-        const Container place = PlainContainer(plain);
-        QWidget* other = CreateLikeForm(entry, place.parent);
-        place.take(other);
+        QWidget* other = CreateLikeForm(entry);
         other->setFixedSize(widget->size());
-        Open(plain, place);
-        const EmittedSignals expected = Operate(other, place);
+        const EmittedSignals expected = OperateIn(CONTAINERS[0], other);
         QApplication::setActiveWindow(&window);
-        Compare(Operate(widget, container), expected);
+        Compare(Operator(widget, open).Operate(), expected);
     }
 
 private:
-    static Container PlainContainer(QWidget& window) { return ContainerKinds().front().create(&window); }
-
-    static QWidget* CreateLikeForm(const Entry& entry, QWidget* parent)
-    {
-        auto* widget = static_cast<QWidget*>(CreateBare(entry, parent));
-        for (auto it = entry.form.properties.begin(); it != entry.form.properties.end(); ++it)
-            widget->setProperty(it.key().toLatin1(), it.value());
-        for (const QString title : {"Tab 1", "Tab 2"}) {
-            if (auto* tabs = qobject_cast<QTabWidget*>(widget))
-                tabs->addTab(new QWidget, title);
-            else if (auto* stack = qobject_cast<QStackedWidget*>(widget))
-                stack->addWidget(new QWidget);
-        }
-        return widget;
-    }
-
     QWidget* CreateAtOwnSize(QWidget* parent)
     {
         // The style sheet editor may have replaced the application's sheet.
@@ -258,28 +220,22 @@ private:
         return widget;
     }
 
-    QWidget* CreateIn(QWidget& window, const Container& container)
+    static QWidget* CreateLikeForm(const Entry& entry)
     {
-        QWidget* widget = CreateAtOwnSize(container.parent);
-        container.take(widget);
-        Open(window, container);
+        auto* widget = static_cast<QWidget*>(CreateBare(entry, nullptr));
+        for (auto it = entry.form.properties.begin(); it != entry.form.properties.end(); ++it)
+            widget->setProperty(it.key().toLatin1(), it.value());
+        for (const QString title : {"Tab 1", "Tab 2"}) {
+            if (auto* tabs = qobject_cast<QTabWidget*>(widget))
+                tabs->addTab(new QWidget, title);
+            else if (auto* stack = qobject_cast<QStackedWidget*>(widget))
+                stack->addWidget(new QWidget);
+        }
         return widget;
     }
 
-    // Cached for each state.
-    EmittedSignals SignalsInPlainWindow()
-    {
-        const auto key = qMakePair(EntryOfRow().className, StateOfRow().name);
-        if (!plainSignals.contains(key)) {
-            QWidget window;
-            const Container container = PlainContainer(window);
-            plainSignals[key] = Operate(CreateIn(window, container), container);
-        }
-        return plainSignals[key];
-    }
-
     ZStyleSheet sheet;
-    QMap<QPair<QString, QString>, EmittedSignals> plainSignals;
+    QMap<QPair<QString, int>, EmittedSignals> plainSignals; ///< by class and state
 };
 
 VX_TEST_MAIN(tst_CatalogueParents)

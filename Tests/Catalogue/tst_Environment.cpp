@@ -4,8 +4,11 @@
 #include <Support/TestCase.h>
 
 #include <QPainter>
+#include <QToolButton>
 
+#include <algorithm>
 #include <cmath>
+#include <memory>
 #include <utility>
 
 using namespace Zelkor::Catalogue;
@@ -45,10 +48,8 @@ void ForceSize(QWidget& widget, const QSize& size)
 // The physical pixels that a logical rectangle touches.
 QRect TouchedPixels(const QRect& rect, qreal ratio)
 {
-    const QPoint first(int(std::floor(rect.left() * ratio)), int(std::floor(rect.top() * ratio)));
-    const QPoint end(int(std::ceil((rect.left() + rect.width()) * ratio)),
-                     int(std::ceil((rect.top() + rect.height()) * ratio)));
-    return {first, end - QPoint(1, 1)};
+    const QRectF scaled(QPointF(rect.topLeft()) * ratio, QSizeF(rect.size()) * ratio);
+    return scaled.toAlignedRect();
 }
 
 } // namespace
@@ -67,7 +68,13 @@ private Q_SLOTS:
     {
         QFETCH(int, state);
         QFETCH(int, variant);
-        ApplyStyle(variant);
+        // Style sheets are slow to parse; the rows are sorted by them.
+        if (std::exchange(style, variant) != variant) {
+            ZStyleSheet sheet = *LoadStyleSheet(variant == 1 ? "light" : "dark");
+            if (variant == 2)
+                sheet.text.clear();
+            sheet.apply();
+        }
         const int turn = state + variant + int(&EntryOfRow() - Entries().data());
         QFont font = QApplication::font();
         font.setPointSize(FONT_SIZES[turn % 3]);
@@ -80,22 +87,28 @@ private Q_SLOTS:
         Settle();
     }
 
-private:
-    // Style sheets are slow to parse; the rows are sorted by them.
-    void ApplyStyle(int style)
+    void upKeyMovesTheThumbOfAnUprightSliderUp()
     {
-        if (std::exchange(current, style) == style)
-            return;
-        ZStyleSheet sheet = *LoadStyleSheet(style == 1 ? "light" : "dark");
-        if (style == 2)
-            sheet.text.clear();
-        sheet.apply();
+        const Entry& entry = *FindEntry("ZSlider");
+        const auto upright = std::find_if(entry.states.begin(), entry.states.end(),
+                                          [](const State& state) { return state.name == "Upright"; });
+        QVERIFY(upright != entry.states.end());
+        const std::unique_ptr<QWidget> slider(CreateInState(entry, *upright, nullptr));
+        slider->show();
+        auto* thumb = slider->findChild<QToolButton*>();
+        const int before = thumb->y();
+        QTest::keyClick(thumb, Qt::Key_Up);
+        QVERIFY(thumb->y() < before);
     }
 
+private:
     static void CheckAtSize(const QSize& size, bool mustPaint)
     {
         Backdrop backdrop;
+        delete CreateInState(EntryOfRow(), StateOfRow(), &backdrop);
+        QVERIFY2(backdrop.children().isEmpty(), "left an object before it was shown");
         QWidget& widget = *CreateInState(EntryOfRow(), StateOfRow(), &backdrop);
+        QCOMPARE(widget.parentWidget(), static_cast<QWidget*>(&backdrop));
         ForceSize(widget, size);
         widget.move(PLACE);
         const QSize least = widget.size() + QSize(PLACE.x() + MARGIN, PLACE.y() + MARGIN);
@@ -118,9 +131,11 @@ private:
         // The widget may have moved or resized itself.
         QPainter(&image).fillRect(TouchedPixels(widget.geometry(), ratio), QColor(BACKDROP));
         QVERIFY2(image == blank, "painted outside of its rectangle");
+        delete &widget;
+        QVERIFY2(backdrop.children().isEmpty(), "left an object after it was shown");
     }
 
-    int current = -1;
+    int style = -1;
 };
 
 VX_TEST_MAIN(tst_Environment)

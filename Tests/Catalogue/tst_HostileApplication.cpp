@@ -67,15 +67,6 @@ EmittedSignals SignalsOfOperating(EntryWindow& scene)
     return recorder.emitted;
 }
 
-QMetaMethod FindSignal(const QWidget* part, const QString& name)
-{
-    for (const QMetaMethod& signal : part ? Support::SignalsOf(part) : QVector<QMetaMethod>()) {
-        if (NameOf(part, signal) == name)
-            return signal;
-    }
-    return {};
-}
-
 /// What a widget does without interference.
 struct Baseline
 {
@@ -154,16 +145,15 @@ private Q_SLOTS:
         for (auto target = baseline.first.begin(); target != baseline.first.end(); ++target) {
             const auto scene = WindowOfRow();
             scene->Show();
-            QWidget* sender = PartsOf(scene->widget).value(target.value());
-            const QMetaMethod signal = FindSignal(sender, target.key());
-            if (!signal.isValid() || (variant == 0 && !MayDeleteIn(signal, sender)))
+            QWidget* sender = PartsOf(scene->widget).value(target->part);
+            if (!sender || (variant == 0 && !MayDeleteIn(target->signal, sender)))
                 continue;
             QWidget elsewhere;
             elsewhere.show();
             {
                 bool isOver = false;
-                const Support::AnySignalSpy spy(sender, {signal}, [&] {
-                    if (!std::exchange(isOver, true) && scene->widget)
+                const Support::AnySignalSpy spy(sender, [&](const QMetaMethod& signal) {
+                    if (signal == target->signal && !std::exchange(isOver, true) && scene->widget)
                         attack.act(*scene, &elsewhere);
                 });
                 Operate(*scene);

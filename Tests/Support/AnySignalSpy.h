@@ -2,29 +2,33 @@
 
 #include <QMetaMethod>
 #include <QObject>
-#include <QVector>
 
 #include <functional>
 
 namespace Support {
 
-/// Returns the signals that the class and its base classes declare, except those of QObject.
-QVector<QMetaMethod> SignalsOf(const QObject* object);
-
-/// Calls a function for all signals of `object`, or for the given ones, regardless of their arguments.
+/// Calls a function for each signal that the class of `object` or a base class other than QObject declares, regardless
+/// of the arguments.
 class AnySignalSpy : public QObject
 {
     Q_OBJECT
 
 public:
-    AnySignalSpy(const QObject* object, std::function<void()> hear);
-    AnySignalSpy(const QObject* object, const QVector<QMetaMethod>& heard, std::function<void()> hear);
+    AnySignalSpy(const QObject* object, std::function<void(const QMetaMethod&)> hear) : hear(std::move(hear))
+    {
+        const QMetaMethod slot = metaObject()->method(metaObject()->indexOfSlot("Hear()"));
+        const QMetaObject* meta = object->metaObject();
+        for (int i = QObject::staticMetaObject.methodCount(); i < meta->methodCount(); ++i) {
+            if (meta->method(i).methodType() == QMetaMethod::Signal)
+                connect(object, meta->method(i), this, slot);
+        }
+    }
 
 private Q_SLOTS:
-    void Hear() { hear(); }
+    void Hear() { hear(sender()->metaObject()->method(senderSignalIndex())); }
 
 private:
-    std::function<void()> hear;
+    std::function<void(const QMetaMethod&)> hear;
 };
 
 } // namespace Support

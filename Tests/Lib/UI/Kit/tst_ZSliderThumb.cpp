@@ -219,7 +219,7 @@ private Q_SLOTS:
             QPointer<Trimmer> slider = new Trimmer;
             QPointer<Thumb> thumb = slider->add("mark", 20);
             slider->show();
-            const Support::AnySignalSpy spy(thumb, [&] {
+            const Support::AnySignalSpy spy(thumb, [&](auto&) {
                 if (count++ == moment) {
                     hasInterfered = true;
                     interfere(slider, thumb);
