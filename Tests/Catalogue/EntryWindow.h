@@ -1,7 +1,9 @@
 #pragma once
 
 #include <Catalogue/Catalogue.h>
+#include <Examples/Support/BuiltInStyleSheets.h>
 
+#include <QApplication>
 #include <QMetaProperty>
 #include <QPointer>
 #include <QPushButton>
@@ -11,6 +13,19 @@
 
 #include <memory>
 #include <numeric>
+#include <utility>
+
+/// Applies a built-in style sheet, or only its icons for an empty name, unless it is in use.
+inline void ApplySheet(const QString& name)
+{
+    static QString current = QStringLiteral("none");
+    ZStyleSheet sheet = *Zelkor::Examples::LoadStyleSheet(name.isEmpty() ? "dark" : name);
+    if (name.isEmpty())
+        sheet.text.clear();
+    // Parsing is slow.
+    if (std::exchange(current, name) != name || qApp->styleSheet() != sheet.text)
+        sheet.apply();
+}
 
 /// Processes events and deferred deletions until the event loop is idle.
 inline void Settle()

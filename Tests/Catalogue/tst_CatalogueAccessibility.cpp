@@ -1,7 +1,6 @@
 #include <Catalogue/AccessibleEvents.h>
 #include <Catalogue/Contrast.h>
 #include <Catalogue/EntryWindow.h>
-#include <Examples/Support/BuiltInStyleSheets.h>
 
 #include <Support/AnySignalSpy.h>
 #include <Support/Input.h>
@@ -16,13 +15,13 @@
 #include <QPlainTextEdit>
 
 using namespace Zelkor::Catalogue;
-using Zelkor::Examples::LoadStyleSheet;
 
 namespace {
 
 constexpr int MOST_TAB_STOPS = 100;    ///< including links in a text and the sections of a time
 constexpr double LEAST_CONTRAST = 3;   ///< between a pixel with and without focus
 constexpr int LEAST_FOCUS_PIXELS = 80; ///< fewer than the ring around a thumb of a slider
+const QStringList SHEETS{"light", "dark"};
 constexpr Qt::Key KEYS[] = {Qt::Key_Space, Qt::Key_Right, Qt::Key_Left, Qt::Key_Up,    Qt::Key_Down,
                             Qt::Key_Home,  Qt::Key_End,   Qt::Key_7,    Qt::Key_Return};
 
@@ -124,7 +123,7 @@ private Q_SLOTS:
         if (!EnableAccessibility())
             QSKIP("Qt's private headers are not installed");
         QApplication::setCursorFlashTime(0);
-        LoadStyleSheet("dark")->apply();
+        ApplySheet("dark");
     }
 
     void roleNameStateAndValueAreRight_data() { AddRowsOfAllStates(); }
@@ -215,14 +214,12 @@ private Q_SLOTS:
         QVERIFY2(left.isEmpty(), left.isEmpty() ? "" : left.first()->metaObject()->className());
     }
 
-    void focusIsVisible_data() { AddRows(AllStates, {"light", "dark"}); }
+    void focusIsVisible_data() { AddRows(AllStates, SHEETS); }
 
     void focusIsVisible()
     {
         QFETCH(int, variant);
-        const ZStyleSheet sheet = *LoadStyleSheet(variant == 0 ? "light" : "dark");
-        if (qApp->styleSheet() != sheet.text)
-            sheet.apply();
+        ApplySheet(SHEETS[variant]);
         const auto scene = WindowOfRow();
         scene->Show();
         const auto pictureWithFocusOn = [&scene](QWidget* focused) {

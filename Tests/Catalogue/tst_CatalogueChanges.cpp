@@ -1,7 +1,6 @@
 #include <Catalogue/Comparison.h>
 #include <Catalogue/EntryWindow.h>
 #include <Catalogue/OtherValue.h>
-#include <Examples/Support/BuiltInStyleSheets.h>
 #include <Gallery/Inspector/PropertyValue.h>
 #include <Gallery/Inspector/SignalLog.h>
 #include <Gallery/Inspector/StyleSheetLine.h>
@@ -16,7 +15,6 @@
 
 using namespace Zelkor::Catalogue;
 using namespace Zelkor::Gallery;
-using Zelkor::Examples::LoadStyleSheet;
 
 namespace {
 
@@ -254,12 +252,7 @@ private:
             if (!wanted.language.isEmpty())
                 QCoreApplication::installTranslator(translators[wanted.language]);
         }
-        if (wanted.sheet != now.sheet) {
-            ZStyleSheet sheet = *LoadStyleSheet(wanted.sheet.isEmpty() ? "dark" : wanted.sheet);
-            if (wanted.sheet.isEmpty())
-                sheet.text.clear();
-            sheet.apply();
-        }
+        ApplySheet(wanted.sheet);
         if (wanted.fontStep != now.fontStep) {
             QFont font = initialFont;
             font.setPointSize(font.pointSize() + wanted.fontStep);

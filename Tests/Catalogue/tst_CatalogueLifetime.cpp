@@ -1,5 +1,4 @@
 #include <Catalogue/EntryWindow.h>
-#include <Examples/Support/BuiltInStyleSheets.h>
 
 #include <Support/LeakCheck.h>
 #include <Support/TestCase.h>
@@ -11,7 +10,6 @@
 #endif
 
 using namespace Zelkor::Catalogue;
-using Zelkor::Examples::LoadStyleSheet;
 
 namespace {
 
@@ -45,7 +43,7 @@ private Q_SLOTS:
     void initTestCase()
     {
         QPixmapCache::setCacheLimit(0);
-        ZStyleSheet{QString(), LoadStyleSheet("dark")->iconFolder}.apply();
+        ApplySheet("");
     }
 
     void memoryDoesNotGrow_data()

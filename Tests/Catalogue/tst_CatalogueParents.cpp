@@ -1,7 +1,6 @@
 #include <Catalogue/Containers.h>
 #include <Catalogue/EntryWindow.h>
 #include <Catalogue/SignalRecorder.h>
-#include <Examples/Support/BuiltInStyleSheets.h>
 
 #include <Support/LeakCheck.h>
 #include <Support/ModalWatcher.h>
@@ -14,7 +13,6 @@
 #include <ui_FormOfAll.h>
 
 using namespace Zelkor::Catalogue;
-using Zelkor::Examples::LoadStyleSheet;
 
 namespace {
 
@@ -161,8 +159,6 @@ class tst_CatalogueParents : public Support::TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { sheet = *LoadStyleSheet("dark"); }
-
     void widgetWorksInContainer_data() { AddRows(TestedStates, NamesOf(CONTAINERS).mid(1)); }
 
     // Every other widget is moved to the container while it is visible.
@@ -212,8 +208,7 @@ private:
     QWidget* CreateAtOwnSize(QWidget* parent)
     {
         // The style sheet editor may have replaced the application's sheet.
-        if (qApp->styleSheet() != sheet.text)
-            sheet.apply();
+        ApplySheet("dark");
         QWidget* widget = CreateInState(EntryOfRow(), StateOfRow(), parent);
         widget->ensurePolished();
         widget->setFixedSize(widget->sizeHint().expandedTo(widget->minimumSize()).boundedTo(widget->maximumSize()));
@@ -234,7 +229,6 @@ private:
         return widget;
     }
 
-    ZStyleSheet sheet;
     QMap<QPair<QString, int>, EmittedSignals> plainSignals; ///< by class and state
 };
 

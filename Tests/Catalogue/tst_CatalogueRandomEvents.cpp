@@ -1,5 +1,4 @@
 #include <Catalogue/EntryWindow.h>
-#include <Examples/Support/BuiltInStyleSheets.h>
 
 #include <Support/Input.h>
 #include <Support/LeakCheck.h>
@@ -13,7 +12,6 @@
 #include <random>
 
 using namespace Zelkor::Catalogue;
-using Zelkor::Examples::LoadStyleSheet;
 
 namespace {
 
@@ -136,12 +134,7 @@ public:
     int eventCount = 20000;
 
 private Q_SLOTS:
-    void survives_data()
-    {
-        QTest::addColumn<QString>("className");
-        for (const Entry& entry : Entries())
-            QTest::newRow(qPrintable(entry.className)) << entry.className;
-    }
+    void survives_data() { AddRowsOfEntries(); }
 
     void survives()
     {
@@ -150,7 +143,7 @@ private Q_SLOTS:
         qInfo("--seed %u --events %d survives:%s", seed, eventCount, qPrintable(entry.className));
         std::mt19937 random(seed + quint32(&entry - Entries().data()));
         const Support::LeakCheck leakCheck;
-        LoadStyleSheet("dark")->apply();
+        ApplySheet("dark");
         for (int sent = 0; sent < eventCount && !QTest::currentTestFailed(); sent += EVENTS_IN_ONE_STATE)
             SendTo(entry, entry.states[int(random() % unsigned(entry.states.size()))], random());
     }

@@ -1,5 +1,4 @@
 #include <Catalogue/EntryWindow.h>
-#include <Examples/Support/BuiltInStyleSheets.h>
 
 #include <Support/TestCase.h>
 
@@ -9,10 +8,8 @@
 #include <algorithm>
 #include <cmath>
 #include <memory>
-#include <utility>
 
 using namespace Zelkor::Catalogue;
-using Zelkor::Examples::LoadStyleSheet;
 
 namespace {
 
@@ -24,7 +21,7 @@ constexpr QSize OWN_SIZE; ///< stands for the size hint
 constexpr QSize SMALL_SIZES[] = {{0, 0}, {1, 1}, {7, 300}, {300, 7}};
 constexpr QSize HUGE_SIZE(4000, 3000);
 constexpr int FONT_SIZES[] = {6, 11, 40};
-const QStringList STYLES{"dark", "light", "no style sheet"};
+const QStringList STYLES{"dark", "light", ""};
 
 /// A widget that fills itself with a known colour.
 class Backdrop : public QWidget
@@ -68,19 +65,13 @@ private Q_SLOTS:
     {
         QFETCH(int, state);
         QFETCH(int, variant);
-        // Style sheets are slow to parse; the rows are sorted by them.
-        if (std::exchange(style, variant) != variant) {
-            ZStyleSheet sheet = *LoadStyleSheet(variant == 1 ? "light" : "dark");
-            if (variant == 2)
-                sheet.text.clear();
-            sheet.apply();
-        }
+        ApplySheet(STYLES[variant]);
         const int turn = state + variant + int(&EntryOfRow() - Entries().data());
         QFont font = QApplication::font();
         font.setPointSize(FONT_SIZES[turn % 3]);
         QApplication::setFont(font);
         QApplication::setLayoutDirection(turn % 2 ? Qt::RightToLeft : Qt::LeftToRight);
-        CheckAtSize(OWN_SIZE, STYLES[variant] != "no style sheet");
+        CheckAtSize(OWN_SIZE, !STYLES[variant].isEmpty());
         CheckAtSize(SMALL_SIZES[turn % 4], false);
         if (state == EntryOfRow().pictured && turn % 3 == 0)
             CheckAtSize(HUGE_SIZE, false);
@@ -134,8 +125,6 @@ private:
         delete &widget;
         QVERIFY2(backdrop.children().isEmpty(), "left an object after it was shown");
     }
-
-    int style = -1;
 };
 
 VX_TEST_MAIN(tst_Environment)

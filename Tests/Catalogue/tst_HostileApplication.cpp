@@ -1,6 +1,5 @@
 #include <Catalogue/EntryWindow.h>
 #include <Catalogue/SignalRecorder.h>
-#include <Examples/Support/BuiltInStyleSheets.h>
 
 #include <Support/LeakCheck.h>
 #include <Support/ModalWatcher.h>
@@ -15,7 +14,6 @@
 #include <utility>
 
 using namespace Zelkor::Catalogue;
-using Zelkor::Examples::LoadStyleSheet;
 
 namespace {
 
@@ -129,7 +127,7 @@ class tst_HostileApplication : public Support::TestCase
 
 private Q_SLOTS:
     // Without a style sheet, which would take most of the time.
-    void initTestCase() { ZStyleSheet{QString(), LoadStyleSheet("dark")->iconFolder}.apply(); }
+    void initTestCase() { ApplySheet(""); }
 
     void worksAfterAttackInSlot_data() { AddRows(TestedStates, NamesOf(ATTACKS)); }
 

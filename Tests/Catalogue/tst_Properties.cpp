@@ -1,5 +1,4 @@
 #include <Catalogue/EntryWindow.h>
-#include <Examples/Support/BuiltInStyleSheets.h>
 #include <Gallery/Inspector/SignalLog.h>
 
 #include <Support/TestCase.h>
@@ -17,7 +16,6 @@
 #endif
 
 using namespace Zelkor::Catalogue;
-using Zelkor::Examples::LoadStyleSheet;
 using Zelkor::Gallery::FindObject;
 
 namespace {
@@ -173,7 +171,7 @@ private Q_SLOTS:
         const rlimit limit{rlim_t(4) << 30, rlim_t(4) << 30};
         QCOMPARE(setrlimit(RLIMIT_AS, &limit), 0);
 #endif
-        LoadStyleSheet("dark")->apply();
+        ApplySheet("dark");
     }
 
     void acceptsExtremeValues_data()

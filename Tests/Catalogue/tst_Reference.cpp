@@ -1,80 +1,36 @@
-#include <Catalogue/Catalogue.h>
-#include <Examples/Support/BuiltInStyleSheets.h>
+#include <Catalogue/EntryWindow.h>
 
 #include <Support/TestCase.h>
 
 #include <QColor>
 #include <QFile>
 #include <QImage>
-#include <QMetaProperty>
 #include <QRegularExpression>
 
 #include <algorithm>
 
 using namespace Zelkor::Catalogue;
-using Zelkor::Examples::LoadStyleSheet;
 
 namespace {
 
-using Rows = QVector<QStringList>;
-
-/// The section of a class in the reference.
-struct Part
+/// Returns the cells of the table that starts with a heading, without backticks and quotation marks.
+QVector<QStringList> RowsOf(const QString& section, const QString& heading)
 {
-    QMap<QString, Rows> tables; ///< by the heading of their first column
-    QString text;
-};
-
-QStringList Cells(const QString& line)
-{
-    static const QRegularExpression BAR(R"((?<!\\)\|)");
-    QStringList cells = line.split(BAR);
-    for (QString& cell : cells)
-        cell = cell.trimmed().replace("\\|", "|");
-    return cells.mid(1, cells.size() - 2);
-}
-
-/// Returns the sections of the document by qualified class name.
-QMap<QString, Part> ReadReference(const QString& fileName)
-{
-    QFile file(fileName);
-    if (!file.open(QIODevice::ReadOnly))
-        return {};
-    static const QRegularExpression HEADING("^### `(.+)`$");
-    QMap<QString, Part> parts;
-    QString className;
-    QString table;
-    for (const QString& line : QString::fromUtf8(file.readAll()).split('\n')) {
-        const QString heading = HEADING.match(line).captured(1);
-        if (line.startsWith("## ") || !heading.isEmpty())
-            className = heading;
-        if (className.isEmpty())
-            continue;
-        Part& part = parts[className];
-        part.text += line + '\n';
-        if (!line.startsWith("| "))
-            table = line.startsWith("|--") ? table : QString();
-        else if (table.isEmpty())
-            table = Cells(line).constFirst();
-        else
-            part.tables[table].append(Cells(line));
+    const QString table = section.section("\n| " + heading + " |", 1, 1).section("\n\n", 0, 0);
+    QVector<QStringList> rows;
+    for (QString line : table.split('\n').mid(2)) {
+        // Bars in a cell are escaped.
+        QStringList cells = line.remove('`').remove('"').replace("\\|", "/").split('|').mid(1);
+        for (QString& cell : cells)
+            cell = cell.trimmed();
+        rows.append(cells);
     }
-    return parts;
+    return rows;
 }
 
-/// Returns the names in a cell as regular expressions: `name` is literal, *name* a placeholder.
-QStringList Patterns(const QString& cell)
+QRegularExpression AnyOf(const QStringList& patterns)
 {
-    static const QRegularExpression PLACEHOLDER(R"(\*[a-z]+\*)");
-    QStringList patterns;
-    for (QString name : cell.split(", "))
-        patterns.append('^' + name.remove('`').replace(PLACEHOLDER, ".*") + '$');
-    return patterns;
-}
-
-bool IsOf(const QObject* object, QString className)
-{
-    return object->inherits(className.remove('`').replace("--", "::").toLatin1());
+    return QRegularExpression(QRegularExpression::anchoredPattern(patterns.join('|')));
 }
 
 QString TypeOf(const QMetaProperty& property)
@@ -90,19 +46,21 @@ QString TypeOf(const QMetaProperty& property)
     return TYPES.value(property.userType(), property.typeName());
 }
 
-/// The value of a property as the reference writes it.
+/// Returns the value of a property as the reference writes it.
 QString TextOf(const QMetaProperty& property, const QObject* object)
 {
     const QVariant value = property.read(object);
-    if (property.isEnumType())
-        return QString(property.enumerator().valueToKeys(value.toInt())).replace("AlignLeading", "AlignLeft");
+    const QString text = value.toString();
+    if (property.isEnumType()) {
+        const QString keys = property.enumerator().valueToKeys(value.toInt());
+        return QString(keys).replace("AlignLeading", "AlignLeft").replace('|', '/');
+    }
     switch (property.userType()) {
     case QMetaType::QColor:
         return value.value<QColor>().name(QColor::HexArgb);
     case QMetaType::QImage:
-        return value.value<QImage>().isNull() ? "none" : "an image";
     case QMetaType::QPixmap:
-        return value.value<QPixmap>().isNull() ? "none" : "a picture";
+        return value.value<QImage>().isNull() ? "none" : "a picture";
     case QMetaType::QPointF:
         return QString("%1, %2").arg(value.toPointF().x()).arg(value.toPointF().y());
     case QMetaType::QRect:
@@ -110,17 +68,17 @@ QString TextOf(const QMetaProperty& property, const QObject* object)
     case QMetaType::QStringList:
         return value.toStringList().isEmpty() ? "empty" : value.toStringList().join(',');
     default:
-        return value.toString().isEmpty() ? "empty" : value.toString();
+        return text.isEmpty() ? "empty" : text;
     }
 }
 
-/// An object of a class without an entry, which is a part of other widgets; null if there is none.
+/// Returns an object of a class without an entry, which is a part of other widgets, or null.
 QObject* FindPart(const QString& className, QWidget* parent)
 {
     for (const Entry& entry : Entries()) {
         for (const State& state : entry.states) {
             for (QObject* object : CreateInState(entry, state, parent)->findChildren<QObject*>()) {
-                if (IsOf(object, className))
+                if (object->inherits(className.toLatin1()))
                     return object;
             }
         }
@@ -134,41 +92,35 @@ class tst_Reference : public Support::TestCase
 {
     Q_OBJECT
 
-    QMap<QString, Part> parts; ///< by class
+    QMap<QString, QString> sections; ///< by qualified class name
 
 private Q_SLOTS:
     void initTestCase()
     {
-        parts = ReadReference(VX_DOCS "/StyleSheets.md");
-        QVERIFY(!parts.isEmpty());
-        // The icons without the style.
-        ZStyleSheet{QString(), LoadStyleSheet("dark")->iconFolder}.apply();
+        QFile file(VX_DOCS "/StyleSheets.md");
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        for (const QString& section : QString::fromUtf8(file.readAll()).split("\n### `").mid(1))
+            sections.insert(section.section('`', 0, 0), section.section("\n## ", 0, 0));
+        ApplySheet("");
     }
 
-    void everyEntryIsDescribed_data()
-    {
-        QTest::addColumn<QString>("className");
-        for (const Entry& entry : Entries())
-            QTest::newRow(qPrintable(entry.className)) << entry.className;
-    }
+    void entryHasPictureAndExample_data() { AddRowsOfEntries(); }
 
-    void everyEntryIsDescribed()
+    void entryHasPictureAndExample()
     {
-        QFETCH(QString, className);
+        const Entry& entry = EntryOfRow();
         QWidget parent;
-        const QString fullName = CreateBare(*FindEntry(className), &parent)->metaObject()->className();
-        QVERIFY2(parts.contains(fullName), qPrintable(fullName));
-        const QString text = parts[fullName].text;
-        const QString picture = QString("pictures/%1.png").arg(className);
-        QVERIFY2(text.contains("](" + picture + ')'), "shows no picture");
+        const QString section = sections[CreateBare(entry, &parent)->metaObject()->className()];
+        const QString picture = "pictures/" + entry.className + ".png";
+        QVERIFY2(section.contains("](" + picture + ')'), "shows no picture");
         QVERIFY2(!QImage(VX_DOCS "/" + picture).isNull(), "the picture is missing; run tools/make-pictures");
-        QVERIFY2(text.contains("\n```css\n") || text.contains("\n```cpp\n"), "has no example");
+        QVERIFY2(section.contains(QRegularExpression("\n```(css|cpp)\n")), "has no example");
     }
 
     void propertiesHaveTypeAndDefault_data()
     {
         QTest::addColumn<QString>("fullName");
-        for (const QString& fullName : parts.keys())
+        for (const QString& fullName : sections.keys())
             QTest::newRow(qPrintable(fullName)) << fullName;
     }
 
@@ -191,8 +143,7 @@ private Q_SLOTS:
                 QStringList{property.name(), TypeOf(property), entry ? TextOf(property, object) : ""}.join(" | ");
         }
         QStringList written;
-        for (QStringList row : parts[fullName].tables["property"]) {
-            row.replaceInStrings("`", "").replaceInStrings("\"", "");
+        for (QStringList row : RowsOf(sections[fullName], "property")) {
             const QColor color(row[2]);
             if (row[1] == "colour" && color.isValid())
                 row[2] = color.name(QColor::HexArgb);
@@ -203,13 +154,12 @@ private Q_SLOTS:
         QCOMPARE(written.join('\n'), expected.join('\n'));
     }
 
-    void namesMatchTheWidget_data() { everyEntryIsDescribed_data(); }
+    void namesMatchTheWidget_data() { AddRowsOfEntries(); }
 
     // Every name in the tables exists in a state, and every name of a new widget is in the tables.
     void namesMatchTheWidget()
     {
-        QFETCH(QString, className);
-        const Entry& entry = *FindEntry(className);
+        const Entry& entry = EntryOfRow();
         QWidget backdrop;
         backdrop.show();
         QObject* bare = CreateBare(entry, &backdrop);
@@ -217,28 +167,28 @@ private Q_SLOTS:
         for (const State& state : entry.states)
             CreateInState(entry, state, &backdrop)->show();
         const auto all = backdrop.findChildren<QObject*>();
-        const Part& part = parts[bare->metaObject()->className()];
+        const QString section = sections[bare->metaObject()->className()];
 
         // Names that Qt sets are not listed.
-        QStringList listed{"^$", "^qt_", "^Scroll(Left|Right)Button$"};
-        for (const QStringList& row : part.tables["object name"]) {
-            for (const QString& pattern : Patterns(row[0])) {
-                const QRegularExpression expression(pattern);
-                const auto matches = [&](const QObject* object) {
-                    return expression.match(object->objectName()).hasMatch() && IsOf(object, row[2]);
+        QStringList names{"", "qt_.*", "Scroll(Left|Right)Button"};
+        for (const QStringList& row : RowsOf(section, "object name")) {
+            const QByteArray className = QString(row[2]).replace("--", "::").toLatin1();
+            // A part in italics is a placeholder.
+            for (const QString& name : QString(row[0]).replace(QRegularExpression("\\*[a-z]+\\*"), ".*").split(", ")) {
+                const auto matches = [name = AnyOf({name}), className](const QObject* object) {
+                    return name.match(object->objectName()).hasMatch() && object->inherits(className);
                 };
-                QVERIFY2(std::any_of(all.begin(), all.end(), matches), qPrintable(pattern + " does not exist"));
-                listed.append(pattern);
+                QVERIFY2(std::any_of(all.begin(), all.end(), matches), qPrintable(name + " does not exist"));
+                names.append(name);
             }
         }
-        QByteArrayList marks;
-        for (const QStringList& row : part.tables["dynamic property"])
-            marks.append(QString(row[0]).remove('`').toLatin1());
+        QStringList marks{"_.*"};
+        for (const QStringList& row : RowsOf(section, "dynamic property"))
+            marks.append(row[0]);
         for (const QObject* object : own) {
-            QVERIFY2(QRegularExpression(listed.join('|')).match(object->objectName()).hasMatch(),
-                     qPrintable(object->objectName()));
+            QVERIFY2(AnyOf(names).match(object->objectName()).hasMatch(), qPrintable(object->objectName()));
             for (const QByteArray& mark : object->dynamicPropertyNames())
-                QVERIFY2(mark.startsWith('_') || marks.contains(mark), mark);
+                QVERIFY2(AnyOf(marks).match(mark).hasMatch(), mark);
         }
     }
 };
