@@ -5,7 +5,6 @@ endif()
 
 vx_test(Gallery/tst_GalleryWindows.cpp LIBRARIES VxGalleryWindows)
 add_dependencies(tst_GalleryWindows VxTranslations)
-vx_test(Gallery/tst_Inspector.cpp LIBRARIES VxGalleryWindows)
 
 vx_test(Gallery/tst_Gallery.cpp LIBRARIES VxCatalogue)
 add_dependencies(tst_Gallery VxGallery)

@@ -5,20 +5,48 @@
 #include <Gallery/Browser/GalleryWindow.h>
 #include <Gallery/Browser/StateCard.h>
 #include <Gallery/Browser/WidgetPage.h>
+#include <Gallery/Inspector/ObjectTree.h>
+#include <Gallery/Inspector/PropertyPanel.h>
+#include <Gallery/Inspector/SignalLog.h>
+#include <UI/Kit/ZLineEdit.h>
+#include <UI/Widgets/ButtonWithPopUpContainer.h>
+#include <UI/Widgets/ColorButton.h>
 
 #include <Support/FocusWalk.h>
 #include <Support/TestCase.h>
 
-#include <QAbstractButton>
+#include <QCheckBox>
+#include <QClipboard>
+#include <QComboBox>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QPlainTextEdit>
+#include <QRegularExpression>
 #include <QScreen>
 #include <QSignalSpy>
+#include <QSpinBox>
+#include <QToolButton>
 
 #include <memory>
 
 using namespace Zelkor;
 using namespace Zelkor::Gallery;
+
+namespace {
+
+// Groups create their controls when they expand.
+void ExpandGroups(const PropertyPanel& panel)
+{
+    for (auto* heading : panel.findChildren<QToolButton*>(QRegularExpression("^group:")))
+        heading->setChecked(true);
+}
+
+QString LogText(const QWidget& page)
+{
+    return page.findChild<SignalLog*>()->findChild<QPlainTextEdit*>()->toPlainText();
+}
+
+} // namespace
 
 class tst_GalleryWindows : public Support::TestCase
 {
@@ -40,17 +68,9 @@ private Q_SLOTS:
         TestCase::cleanup();
     }
 
-    void tabReachesWhatBacktabReaches_data()
-    {
-        QTest::addColumn<QString>("page");
-        for (const char* page : {"Start", "ColorButton"})
-            QTest::newRow(page) << page;
-    }
-
     void tabReachesWhatBacktabReaches()
     {
-        QFETCH(QString, page);
-        gallery->OpenPage(page);
+        gallery->OpenPage("ColorButton");
         QVERIFY(QTest::qWaitForWindowActive(gallery.get()));
         const QStringList forwards = Support::NamesOnTheWay(*gallery, Qt::Key_Tab);
         QVERIFY2(!forwards.contains(QString()), qPrintable(forwards.join(", ")));
@@ -116,15 +136,6 @@ private Q_SLOTS:
         QTRY_COMPARE(Page()->findChildren<StateCard*>().last()->accessibleName(), QString("Disabled"));
     }
 
-    void directionChangesWhileAPageIsOpen()
-    {
-        gallery->OpenPage("ColorButton");
-        QApplication::setLayoutDirection(Qt::RightToLeft);
-        QTRY_COMPARE(Page()->layoutDirection(), Qt::RightToLeft);
-        QApplication::setLayoutDirection(Qt::LeftToRight);
-        QTRY_COMPARE(Page()->layoutDirection(), Qt::LeftToRight);
-    }
-
     void startPageOpensTheRecorder()
     {
         gallery->OpenPage(StartPageName());
@@ -142,6 +153,125 @@ private Q_SLOTS:
         QCOMPARE(window.width(), 200);
         QVERIFY(window.height() < screen.height());
         QVERIFY(window.height() > screen.height() / 2);
+    }
+
+    void panelFollowsTheWidgetAndResetsIt()
+    {
+        Vx::ColorButton button;
+        button.ensurePolished();
+        PropertyPanel panel;
+        panel.SetObject(&button, PropertyValues(button));
+        panel.show();
+        auto* reset = panel.findChild<QToolButton*>("reset:colorRectBorderNormal");
+        const QColor original = button.GetColorRectBorderNormal();
+        QVERIFY(!reset->isVisible());
+        button.SetColorRectBorderNormal(Qt::blue);
+        QTRY_VERIFY(reset->isVisible());
+        QCOMPARE(panel.findChild<Vx::ColorButton*>("edit:colorRectBorderNormal")->GetColor(), QColor(Qt::blue));
+        reset->click();
+        QCOMPARE(button.GetColorRectBorderNormal(), original);
+        panel.findChild<QToolButton*>("copyLine")->click();
+        QVERIFY(QApplication::clipboard()->text().startsWith("qproperty-colorRectBorderNormal: #"));
+    }
+
+    void controlsSetTheProperty()
+    {
+        Vx::UI::ButtonWithPopUpContainer button;
+        PropertyPanel panel;
+        panel.SetObject(&button, {});
+        ExpandGroups(panel);
+        panel.findChild<QCheckBox*>("edit:showPopupOnClick")->click();
+        QVERIFY(!button.property("showPopupOnClick").toBool());
+        panel.findChild<QSpinBox*>("edit:popupVOffset")->setValue(5);
+        QCOMPARE(button.property("popupVOffset").toInt(), 5);
+        panel.findChild<QComboBox*>("edit:layoutDirection")->setCurrentIndex(1);
+        QCOMPARE(button.property("layoutDirection").toInt(), 1);
+        const auto* line = panel.findChild<QLineEdit*>("styleSheetLine");
+        QCOMPARE(line->text(), QString("qproperty-layoutDirection: \"LAYOUT_RIGHT_TO_LEFT\";"));
+    }
+
+    void unfinishedTextIsSetOnItsWidget()
+    {
+        QLineEdit first;
+        QLineEdit second;
+        PropertyPanel panel;
+        panel.SetObject(&first, {});
+        panel.show();
+        QVERIFY(QTest::qWaitForWindowActive(&panel));
+        auto* edit = panel.findChild<ZLineEdit*>("edit:placeholderText");
+        edit->setFocus();
+        QTRY_VERIFY(edit->hasFocus());
+        QTest::keyClicks(edit, "typed");
+        panel.SetObject(&second, {});
+        QCOMPARE(first.placeholderText(), QString("typed"));
+        QCOMPARE(second.placeholderText(), QString());
+    }
+
+    void rowsDisappearWithTheirWidget()
+    {
+        auto edited = std::make_unique<QLineEdit>();
+        PropertyPanel panel;
+        panel.SetObject(edited.get(), {});
+        ExpandGroups(panel);
+        connect(edited.get(), &QObject::objectNameChanged, this, [&] { edited.reset(); });
+        panel.findChild<ZLineEdit*>("edit:objectName")->setOriginalText("deletes it");
+        QVERIFY(!edited);
+        QVERIFY(!panel.findChild<QWidget*>("edit:objectName"));
+    }
+
+    void objectTreeFollowsTheWidget()
+    {
+        QWidget widget;
+        ObjectTree tree;
+        tree.SetObject(&widget);
+        auto* child = new QWidget(&widget);
+        QTRY_COMPARE(tree.topLevelItem(0)->childCount(), 1);
+        child->setObjectName("named");
+        QTRY_COMPARE(tree.topLevelItem(0)->child(0)->text(1), QString("named"));
+        delete child;
+        QTRY_COMPARE(tree.topLevelItem(0)->childCount(), 0);
+    }
+
+    void pageInspectsTheClickedCardAndLogsItsSignals()
+    {
+        WidgetPage page(*Catalogue::FindEntry("ColorButton"));
+        page.resize(900, 600);
+        page.show();
+        const auto cards = page.findChildren<StateCard*>();
+        // The last widget is disabled, so that the card receives the click.
+        QTest::mouseClick(cards.last()->Widget(), Qt::LeftButton);
+        QCOMPARE(page.SelectedState(), cards.size() - 1);
+        page.SelectState(1);
+        page.findChild<Vx::ColorButton*>("edit:colorRectBorderNormal")->SetColor(Qt::green);
+        QCOMPARE(cards[1]->Widget()->property("colorRectBorderNormal").value<QColor>(), QColor(Qt::green));
+        QVERIFY(LogText(page).isEmpty());
+        static_cast<Vx::ColorButton*>(cards[0]->Widget())->SetColor(Qt::black);
+        QVERIFY2(LogText(page).trimmed().endsWith("Opaque   ColorChanged(#ff000000)"), qPrintable(LogText(page)));
+    }
+
+    void logKeepsTheLastLines()
+    {
+        SignalLog log;
+        QCheckBox box;
+        log.Watch(&box, "QCheckBox", "Box");
+        for (int i = 0; i < 600; ++i)
+            box.toggle();
+        const QPlainTextEdit* lines = log.findChild<QPlainTextEdit*>();
+        QCOMPARE(lines->blockCount(), 500);
+        QVERIFY(lines->toPlainText().endsWith("Box   stateChanged(0)"));
+        log.findChild<QToolButton*>()->click();
+        QVERIFY(lines->toPlainText().isEmpty());
+    }
+
+    void logIsDeletedBySlotOfAWatchedSignal()
+    {
+        auto log = std::make_unique<SignalLog>();
+        QCheckBox box;
+        log->Watch(&box, "QCheckBox", "Box");
+        connect(&box, &QCheckBox::stateChanged, this, [&log] { log.reset(); });
+        box.click();
+        QVERIFY(!log);
+        box.click();
     }
 
 private:

@@ -11,6 +11,7 @@
 
 #include <cmath>
 #include <cstdio>
+#include <vector>
 
 int main(int argc, char* argv[])
 {
@@ -28,35 +29,13 @@ int main(int argc, char* argv[])
                      [&] { slider.SetVolumes(0.8F, float(std::abs(std::sin(++step * 0.11)))); });
     feed.start(10);
 
-    // In the first third and in the rest.
-    double peakMemory[2] = {0, 0};
-    double processor[2] = {0, 0};
-    int counted[2] = {0, 0};
-    int second = 0;
-    double last = Support::ProcessorSeconds();
-    QTimer watch;
-    QObject::connect(&watch, &QTimer::timeout, &slider, [&] {
-        const double now = Support::ProcessorSeconds();
-        const int part = 3 * second < seconds ? 0 : 1;
-        if (second > 0) { // without the start-up
-            processor[part] += now - last;
-            ++counted[part];
-        }
-        peakMemory[part] = std::max(peakMemory[part], Support::Resident());
-        if (second % 60 == 0)
-            std::printf("%4d s: %.1f MB, %.2f %% of a processor\n", second, Support::Resident(), 100 * (now - last));
-        std::fflush(stdout);
-        last = now;
-        if (++second >= seconds)
-            QCoreApplication::quit();
-    });
-    watch.start(1000);
-    QApplication::exec();
-
-    const double early = processor[0] / counted[0];
-    const double late = processor[1] / counted[1];
-    std::printf("%d levels; memory %.1f MB, then %.1f MB; processor %.2f %%, then %.2f %%\n", step, peakMemory[0],
-                peakMemory[1], 100 * early, 100 * late);
+    std::vector<double> processor(size_t(seconds) + 1); ///< by second
+    const Support::Peaks memory = Support::WatchMemory(
+        seconds, [&processor](int second) { processor[size_t(second)] = Support::ProcessorSeconds(); });
+    const int third = seconds / 3;
+    const double early = (processor[size_t(third)] - processor[1]) / (third - 1); // without the start-up
+    const double late = (processor.back() - processor[size_t(third)]) / (seconds - third);
+    std::printf("%d levels; processor %.2f %%, then %.2f %%\n", step, 100 * early, 100 * late);
     // On a busy machine timers are late. The resolution of the clock is a percent.
-    return step > seconds * 20 && peakMemory[1] <= peakMemory[0] + 1 && late <= 1.5 * early + 0.01 ? 0 : 1;
+    return step > seconds * 20 && memory.late <= memory.early + 1 && late <= 1.5 * early + 0.01 ? 0 : 1;
 }

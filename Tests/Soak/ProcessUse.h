@@ -1,6 +1,8 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QFile>
+#include <QTimer>
 
 #if defined(Q_OS_WIN)
 #include <QtCore/qt_windows.h>
@@ -10,7 +12,10 @@
 #include <ctime>
 #endif
 
+#include <algorithm>
 #include <cstddef>
+#include <cstdio>
+#include <functional>
 
 #if defined(__SANITIZE_ADDRESS__)
 // Declared here because GCC does not ship the header.
@@ -51,6 +56,37 @@ inline double ProcessorSeconds()
 #else
     return double(std::clock()) / CLOCKS_PER_SEC;
 #endif
+}
+
+/// Memory use in megabytes.
+struct Peaks
+{
+    double early = 0; ///< in the first third of a run
+    double late = 0;  ///< in the rest
+};
+
+/// Runs the event loop for some seconds and calls `act` at the start of each. Returns the peaks of the memory use.
+inline Peaks WatchMemory(int seconds, const std::function<void(int second)>& act)
+{
+    Peaks peaks;
+    int second = 0;
+    const auto tick = [&] {
+        act(second);
+        double& peak = 3 * second <= seconds ? peaks.early : peaks.late;
+        peak = std::max(peak, Resident());
+        if (second % 30 == 0)
+            std::printf("%4d s: %.1f MB\n", second, Resident());
+        std::fflush(stdout);
+        if (++second > seconds)
+            QCoreApplication::quit();
+    };
+    QTimer timer;
+    QObject::connect(&timer, &QTimer::timeout, tick);
+    timer.start(1000);
+    tick();
+    QCoreApplication::exec();
+    std::printf("peak %.1f MB, then %.1f MB\n", peaks.early, peaks.late);
+    return peaks;
 }
 
 } // namespace Support

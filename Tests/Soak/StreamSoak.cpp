@@ -11,8 +11,6 @@
 #include <Zelkor/StandIn/CaptureDevice.h>
 #include <Zelkor/StandIn/CaptureEngine.h>
 
-#include <QTimer>
-
 #include <cstdio>
 
 #if defined(__GLIBC__)
@@ -37,27 +35,12 @@ int main(int argc, char* argv[])
     const auto device = Zelkor::StandIn::CreateTestPictureDevice();
     const auto& modes = device->GetModes();
 
-    int second = 0;
-    double early = 0;
-    double late = 0;
-    const auto restart = [&] {
+    const Support::Peaks memory = Support::WatchMemory(seconds, [&](int second) {
         stream->StopStream();
         const auto& mode = modes[size_t(second) % modes.size()];
         stream->SetDevice(device, QString::fromStdString(mode->GetName()), 60);
         stream->StartStream();
-        double& peak = 3 * second <= seconds ? early : late;
-        peak = std::max(peak, Support::Resident());
-        if (second % 30 == 0)
-            std::printf("%4d s: %.1f MB\n", second, Support::Resident());
-        std::fflush(stdout);
-        if (++second > seconds)
-            QCoreApplication::quit();
-    };
-    QTimer timer;
-    QObject::connect(&timer, &QTimer::timeout, preview, restart);
-    timer.start(1000);
-    restart();
-    QApplication::exec();
+    });
 
     delete preview; // while the stream runs
     if (!Zelkor::StandIn::WaitForEngineIdle(std::chrono::seconds(10))) {
@@ -68,6 +51,5 @@ int main(int argc, char* argv[])
     // time of a measurement.
     constexpr double TOLERANCE = 1.1;
     constexpr double LARGEST_PICTURE = 1920 * 1080 * 4 / 1e6;
-    std::printf("peak %.1f MB, then %.1f MB\n", early, late);
-    return late <= early * TOLERANCE + LARGEST_PICTURE ? 0 : 1;
+    return memory.late <= memory.early * TOLERANCE + LARGEST_PICTURE ? 0 : 1;
 }
