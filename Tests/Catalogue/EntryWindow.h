@@ -139,7 +139,8 @@ inline QVector<int> TestedStates(const Zelkor::Catalogue::Entry& entry)
 }
 
 /// Adds a row for each variant and state of each widget, with the columns className, state and variant (an index).
-inline void AddRows(QVector<int> (*statesOf)(const Zelkor::Catalogue::Entry&), const QStringList& variants = {""})
+inline void AddRows(QVector<int> (*statesOf)(const Zelkor::Catalogue::Entry&) = AllStates,
+                    const QStringList& variants = {""})
 {
     QTest::addColumn<QString>("className");
     QTest::addColumn<int>("state");
@@ -163,11 +164,6 @@ inline void AddRowsOfEntries(bool (*isWanted)(const Zelkor::Catalogue::Entry&) =
         if (isWanted(entry))
             QTest::newRow(qPrintable(entry.className)) << entry.className;
     }
-}
-
-inline void AddRowsOfAllStates()
-{
-    AddRows(AllStates);
 }
 
 /// The names of the rows of a table, which AddRows() takes as variants.

@@ -126,7 +126,7 @@ private Q_SLOTS:
         ApplySheet("dark");
     }
 
-    void roleNameStateAndValueAreRight_data() { AddRowsOfAllStates(); }
+    void roleNameStateAndValueAreRight_data() { AddRows(); }
 
     void roleNameStateAndValueAreRight()
     {
@@ -147,7 +147,7 @@ private Q_SLOTS:
         QCOMPARE(visited, keyboardParts.size());
     }
 
-    void namesLackMnemonics_data() { AddRowsOfAllStates(); }
+    void namesLackMnemonics_data() { AddRows(); }
 
     void namesLackMnemonics()
     {
@@ -172,7 +172,7 @@ private Q_SLOTS:
         }
     }
 
-    void valuesCanBeSet_data() { AddRowsOfAllStates(); }
+    void valuesCanBeSet_data() { AddRows(); }
 
     void valuesCanBeSet()
     {
@@ -234,7 +234,7 @@ private Q_SLOTS:
         }
     }
 
-    void keysHaveAnEffectAndSendEvents_data() { AddRowsOfAllStates(); }
+    void keysHaveAnEffectAndSendEvents_data() { AddRows(); }
 
     // Each part with Qt::TabFocus emits a signal or opens a pop-up for one of the usual keys.
     void keysHaveAnEffectAndSendEvents()
@@ -253,7 +253,7 @@ private Q_SLOTS:
         }
     }
 
-    void clickAndWheelSendEvents_data() { AddRowsOfAllStates(); }
+    void clickAndWheelSendEvents_data() { AddRows(); }
 
     void clickAndWheelSendEvents()
     {

@@ -30,33 +30,6 @@ struct Environment
     Qt::LayoutDirection direction = Qt::LeftToRight;
 };
 
-struct EnvironmentChange
-{
-    const char* name;
-    Environment from;
-    Environment to;
-};
-
-const EnvironmentChange ENVIRONMENT_CHANGES[] = {
-    {"right to left", {}, {"dark", {}, 0, Qt::RightToLeft}},
-    {"left to right", {"dark", {}, 0, Qt::RightToLeft}, {}},
-    {"German", {}, {"dark", "de"}},
-    {"French after Japanese", {"dark", "ja"}, {"dark", "fr"}},
-    // Qt ignores QApplication::setFont() while the application has a style sheet with fonts.
-    {"larger application font", {""}, {"", {}, FONT_STEP}},
-    {"smaller application font", {"", {}, FONT_STEP}, {""}},
-    {"light", {}, {"light"}},
-    {"dark", {"light"}, {}},
-};
-
-struct WidgetChange
-{
-    const char* name;
-    void (*prepare)(EntryWindow&); ///< of the changed widget, before it is shown
-    void (*change)(EntryWindow&);  ///< of the changed widget, which is visible
-    void (*make)(EntryWindow&);    ///< of the other widget, before it is shown
-};
-
 void Nothing(EntryWindow&) {}
 
 void EnlargeFont(EntryWindow& scene)
@@ -66,9 +39,10 @@ void EnlargeFont(EntryWindow& scene)
     scene.window->setFont(font);
 }
 
-void Disable(EntryWindow& scene)
+template<bool on>
+void Enable(EntryWindow& scene)
 {
-    scene.widget->setEnabled(false);
+    scene.window->setEnabled(on);
 }
 
 template<QPointer<QWidget> EntryWindow::*part>
@@ -88,14 +62,33 @@ void NarrowAndWiden(EntryWindow& scene)
     scene.window->resize(size);
 }
 
-const WidgetChange WIDGET_CHANGES[] = {
-    {"disabled", Nothing, Disable, Disable},
-    {"enabled", [](EntryWindow& scene) { scene.window->setEnabled(false); },
-     [](EntryWindow& scene) { scene.window->setEnabled(true); }, Nothing},
-    {"larger font", Nothing, EnlargeFont, EnlargeFont},
-    {"hidden and shown", Nothing, HideAndShow<&EntryWindow::widget>, Nothing},
-    {"window hidden and shown", Nothing, HideAndShow<&EntryWindow::window>, Nothing},
-    {"narrow and wide", Nothing, NarrowAndWiden, Nothing},
+/// A change of a visible widget, and of a new one before it is shown.
+struct Change
+{
+    const char* name;
+    Environment from;
+    Environment to;
+    void (*prepare)(EntryWindow& changed) = Nothing; ///< before it is shown
+    void (*change)(EntryWindow& changed) = Nothing;
+    void (*make)(EntryWindow& made) = Nothing;
+};
+
+const Change CHANGES[] = {
+    {"right to left", {}, {"dark", {}, 0, Qt::RightToLeft}},
+    {"left to right", {"dark", {}, 0, Qt::RightToLeft}, {}},
+    {"German", {}, {"dark", "de"}},
+    {"French after Japanese", {"dark", "ja"}, {"dark", "fr"}},
+    // Qt ignores QApplication::setFont() while the application has a style sheet with fonts.
+    {"larger application font", {""}, {"", {}, FONT_STEP}},
+    {"smaller application font", {"", {}, FONT_STEP}, {""}},
+    {"light", {}, {"light"}},
+    {"dark", {"light"}, {}},
+    {"disabled", {}, {}, Nothing, Enable<false>, Enable<false>},
+    {"enabled", {}, {}, Enable<false>, Enable<true>},
+    {"larger font", {}, {}, Nothing, EnlargeFont, EnlargeFont},
+    {"hidden and shown", {}, {}, Nothing, HideAndShow<&EntryWindow::widget>},
+    {"window hidden and shown", {}, {}, Nothing, HideAndShow<&EntryWindow::window>},
+    {"narrow and wide", {}, {}, Nothing, NarrowAndWiden},
 };
 
 QVector<int> StatesToApply(const Entry& entry)
@@ -126,37 +119,25 @@ private Q_SLOTS:
         }
     }
 
-    void environmentChanges_data() { AddRows(TestedStates, NamesOf(ENVIRONMENT_CHANGES)); }
+    void changeIsApplied_data() { AddRows(TestedStates, NamesOf(CHANGES)); }
 
-    void environmentChanges()
+    void changeIsApplied()
     {
         QFETCH(int, variant);
-        const EnvironmentChange& way = ENVIRONMENT_CHANGES[variant];
-        if (way.from.fontStep != way.to.fontStep && EntryOfRow().className == "ZRuntimeStylesheetEditor")
+        const Change& change = CHANGES[variant];
+        if (change.from.fontStep != change.to.fontStep && EntryOfRow().className == "ZRuntimeStylesheetEditor")
             QSKIP("Qt keeps the font of its sample, which has a style sheet, and the minimum size of its QComboBox");
-        Enter(way.from);
+        Enter(change.from);
         const auto changed = WindowOfRow();
-        changed->ShowInactive();
-        Enter(way.to);
-        CompareWithNew(*changed);
-    }
-
-    void widgetChanges_data() { AddRows(TestedStates, NamesOf(WIDGET_CHANGES)); }
-
-    void widgetChanges()
-    {
-        QFETCH(int, variant);
-        const WidgetChange& way = WIDGET_CHANGES[variant];
-        Enter({});
-        const auto changed = WindowOfRow();
-        way.prepare(*changed);
+        change.prepare(*changed);
         changed->ShowInactive();
         changed->window->grab();
-        way.change(*changed);
-        CompareWithNew(*changed, way.make);
+        Enter(change.to);
+        change.change(*changed);
+        CompareWithNew(*changed, change.make);
     }
 
-    void pixelRatioChanges_data() { AddRowsOfAllStates(); }
+    void pixelRatioChanges_data() { AddRows(); }
 
     void pixelRatioChanges()
     {

@@ -12,6 +12,8 @@
 
 #include <ui_FormOfAll.h>
 
+#include <utility>
+
 using namespace Zelkor::Catalogue;
 
 namespace {
@@ -19,14 +21,8 @@ namespace {
 constexpr QSize WINDOW_SIZE(800, 720);
 constexpr Qt::Key KEYS[] = {Qt::Key_Right, Qt::Key_Up, Qt::Key_Space, Qt::Key_7, Qt::Key_End};
 
-struct WindowPoint
-{
-    QWindow* window;
-    QPoint point;
-};
-
 // Maps a point of a widget to its native window, also from inside a graphics view.
-WindowPoint MapToWindow(const QWidget* widget, const QPoint& point)
+std::pair<QWindow*, QPoint> MapToWindow(const QWidget* widget, const QPoint& point)
 {
     QWidget* window = widget->window();
     QPoint mapped = widget->mapTo(window, point);
@@ -84,7 +80,7 @@ private:
     {
         for (const QPointer<QWidget>& part : PartsOf(widget)) {
             if (part && part->windowType() == Qt::Popup && part->isVisible())
-                QTest::keyPress(MapToWindow(part, {}).window, Qt::Key_Escape);
+                QTest::keyPress(MapToWindow(part, {}).first, Qt::Key_Escape);
         }
         open();
         Settle();
@@ -99,13 +95,13 @@ private:
                 break;
             }
         }
-        const WindowPoint start = MapToWindow(widget, from);
-        const WindowPoint end = MapToWindow(widget, to);
+        const auto [window, start] = MapToWindow(widget, from);
+        const QPoint end = MapToWindow(widget, to).second;
         const QScopedValueRollback<bool> recording(recorder.isActive, true);
-        QTest::mousePress(start.window, Qt::LeftButton, {}, start.point);
+        QTest::mousePress(window, Qt::LeftButton, {}, start);
         if (from != to)
-            QTest::mouseMove(start.window, end.point);
-        QTest::mouseRelease(start.window, Qt::LeftButton, {}, end.point);
+            QTest::mouseMove(window, end);
+        QTest::mouseRelease(window, Qt::LeftButton, {}, end);
     }
 
     void Type(const QPointer<QWidget>& part, Qt::Key key)
@@ -118,7 +114,7 @@ private:
             return;
         part->setFocus(Qt::TabFocusReason);
         const QScopedValueRollback<bool> recording(recorder.isActive, true);
-        QTest::keyClick(MapToWindow(widget, {}).window, key);
+        QTest::keyClick(MapToWindow(widget, {}).first, key);
     }
 
     QWidget* widget;
@@ -187,19 +183,22 @@ private Q_SLOTS:
         const Support::LeakCheck leakCheck;
         const Entry& entry = EntryOfRow();
         QWidget window;
-        Ui::FormOfAll form;
-        form.setupUi(&window);
+        QWidget spareWindow;
+        Ui::FormOfAll().setupUi(&window);
+        Ui::FormOfAll().setupUi(&spareWindow);
         QString name = entry.className;
         name[0] = name[0].toLower();
         auto* widget = window.findChild<QWidget*>(name);
         QVERIFY(widget);
         QCOMPARE(widget->metaObject(), entry.form.metaObject);
+        for (auto it = entry.form.properties.begin(); it != entry.form.properties.end(); ++it)
+            QCOMPARE(widget->property(it.key().toLatin1()), it.value());
         const OpenFunction open = [] {};
         Show(window, open);
 
-        QWidget* other = CreateLikeForm(entry);
-        other->setFixedSize(widget->size());
-        const EmittedSignals expected = OperateIn(CONTAINERS[0], other);
+        auto* spare = spareWindow.findChild<QWidget*>(name);
+        spare->setFixedSize(widget->size());
+        const EmittedSignals expected = OperateIn(CONTAINERS[0], spare);
         QApplication::setActiveWindow(&window);
         Compare(Operator(widget, open).Operate(), expected);
     }
@@ -212,20 +211,6 @@ private:
         QWidget* widget = CreateInState(EntryOfRow(), StateOfRow(), parent);
         widget->ensurePolished();
         widget->setFixedSize(widget->sizeHint().expandedTo(widget->minimumSize()).boundedTo(widget->maximumSize()));
-        return widget;
-    }
-
-    static QWidget* CreateLikeForm(const Entry& entry)
-    {
-        auto* widget = static_cast<QWidget*>(CreateBare(entry, nullptr));
-        for (auto it = entry.form.properties.begin(); it != entry.form.properties.end(); ++it)
-            widget->setProperty(it.key().toLatin1(), it.value());
-        for (const QString title : {"Tab 1", "Tab 2"}) {
-            if (auto* tabs = qobject_cast<QTabWidget*>(widget))
-                tabs->addTab(new QWidget, title);
-            else if (auto* stack = qobject_cast<QStackedWidget*>(widget))
-                stack->addWidget(new QWidget);
-        }
         return widget;
     }
 

@@ -51,7 +51,7 @@ public:
         else if (kind < 93)
             QTest::keyClick(window, Pick(KEYS), Pick(MODIFIERS));
         else
-            Change(kind);
+            Change();
     }
 
     QWidget* TopWindow() const
@@ -98,23 +98,19 @@ private:
         QCoreApplication::sendEvent(receiver, &event);
     }
 
-    void Change(int kind)
+    void Change()
     {
         QWidget* widget = scene.widget;
-        if (kind == 93)
-            widget->resize(Below(640), Below(400));
-        else if (kind == 94)
-            widget->setEnabled(Below(8));
-        else if (kind == 95)
-            (Below(8) ? widget : scene.window.data())->setVisible(Below(8));
-        else if (kind == 96)
-            widget->setLayoutDirection(Below(2) ? Qt::LeftToRight : Qt::RightToLeft);
-        else if (kind == 97)
-            Part()->setFocus(Below(2) ? Qt::TabFocusReason : Qt::MouseFocusReason);
-        else if (kind == 98)
-            QApplication::setActiveWindow(Below(3) ? scene.window.data() : nullptr);
-        else
-            Settle();
+        const std::array<std::function<void()>, 7> changes{
+            [&] { widget->resize(Below(640), Below(400)); },
+            [&] { widget->setEnabled(Below(8)); },
+            [&] { (Below(8) ? widget : scene.window.data())->setVisible(Below(8)); },
+            [&] { widget->setLayoutDirection(Below(2) ? Qt::LeftToRight : Qt::RightToLeft); },
+            [&] { Part()->setFocus(Below(2) ? Qt::TabFocusReason : Qt::MouseFocusReason); },
+            [&] { QApplication::setActiveWindow(Below(3) ? scene.window.data() : nullptr); },
+            Settle,
+        };
+        Pick(changes)();
     }
 
     EntryWindow& scene;
@@ -124,14 +120,11 @@ private:
 
 } // namespace
 
-/// Seeded random events for every widget; `--seed N` and `--events N` set the sequence and its length.
+/// Sends seeded random events to every widget. The environment variables VX_SEED and VX_EVENTS set the sequence and its
+/// length.
 class tst_CatalogueRandomEvents : public Support::TestCase
 {
     Q_OBJECT
-
-public:
-    quint32 seed = 1;
-    int eventCount = 20000;
 
 private Q_SLOTS:
     void survives_data() { AddRowsOfEntries(); }
@@ -139,8 +132,11 @@ private Q_SLOTS:
     void survives()
     {
         const Entry& entry = EntryOfRow();
+        const Support::UrlHandlerStub links;
+        const quint32 seed = qEnvironmentVariable("VX_SEED", "1").toUInt();
+        const int eventCount = qEnvironmentVariable("VX_EVENTS", "20000").toInt();
         // Printed first: a crash prints nothing.
-        qInfo("--seed %u --events %d survives:%s", seed, eventCount, qPrintable(entry.className));
+        qInfo("VX_SEED=%u VX_EVENTS=%d survives:%s", seed, eventCount, qPrintable(entry.className));
         std::mt19937 random(seed + quint32(&entry - Entries().data()));
         const Support::LeakCheck leakCheck;
         ApplySheet("dark");
@@ -177,23 +173,5 @@ private:
     }
 };
 
-int main(int argc, char* argv[])
-{
-    Support::PrepareProcess(argv[0]);
-    QApplication application(argc, argv);
-    const Support::UrlHandlerStub links;
-    tst_CatalogueRandomEvents test;
-    QStringList arguments = application.arguments();
-    const auto takeOption = [&arguments](const QString& name, auto& value) {
-        const int place = arguments.indexOf(name);
-        if (place < 0 || place + 1 >= arguments.size())
-            return;
-        value = std::decay_t<decltype(value)>(arguments.takeAt(place + 1).toUInt());
-        arguments.removeAt(place);
-    };
-    takeOption("--seed", test.seed);
-    takeOption("--events", test.eventCount);
-    return QTest::qExec(&test, arguments);
-}
-
+VX_TEST_MAIN(tst_CatalogueRandomEvents)
 #include "tst_CatalogueRandomEvents.moc"

@@ -20,13 +20,6 @@ namespace {
 constexpr Qt::Key KEYS[] = {Qt::Key_Space,  Qt::Key_Right, Qt::Key_Left,   Qt::Key_Up, Qt::Key_Down,
                             Qt::Key_Return, Qt::Key_Home,  Qt::Key_Delete, Qt::Key_7,  Qt::Key_Tab};
 
-void ClosePopUps()
-{
-    while (QWidget* popUp = QApplication::activePopupWidget())
-        popUp->close();
-    Settle();
-}
-
 // Sends keys and mouse events to each part while the window exists. Types a different digit at each call, so that a
 // text changes each time.
 void Operate(EntryWindow& scene)
@@ -55,7 +48,9 @@ void Operate(EntryWindow& scene)
         if (scene.window)
             QTest::mouseRelease(scene.window->windowHandle(), Qt::LeftButton, Qt::NoModifier, center);
     }
-    ClosePopUps();
+    while (QWidget* popUp = QApplication::activePopupWidget())
+        popUp->close();
+    Settle();
 }
 
 EmittedSignals SignalsOfOperating(EntryWindow& scene)

@@ -127,16 +127,6 @@ private Q_SLOTS:
             QVERIFY2(!ReadText(icon).contains(PLACEHOLDER), qPrintable(icon));
         }
     }
-
-    void everyColourIsUsed()
-    {
-        QFETCH_GLOBAL(QString, name);
-        QString templates = ReadText(VX_STYLES_SOURCE "/Template.qss.in");
-        for (const QFileInfo& icon : QDir(VX_STYLES_SOURCE "/icons").entryInfoList({"*.svg.in"}))
-            templates += ReadText(icon.filePath());
-        for (const QString& colour : ReadPalette(name).keys())
-            QVERIFY2(templates.contains("@" + colour + "@"), qPrintable(colour));
-    }
 };
 
 VX_TEST_MAIN(tst_Styles)

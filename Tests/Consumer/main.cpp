@@ -14,10 +14,7 @@ using namespace Zelkor;
 // Returns a frame of one colour.
 static boost::intrusive_ptr<Proc::IDataVideo> MakeFrame(const QSize& size, const QColor& color)
 {
-    StandIn::FrameFormat format;
-    format.pixFmt = Proc::PixFmt::BGRA;
-    format.width = size.width();
-    format.height = size.height();
+    const StandIn::FrameFormat format{Proc::PixFmt::BGRA, size.width(), size.height()};
     return StandIn::VideoFrame::Create(format, [&](const auto& data, const auto& strides) {
         QImage(data[0], size.width(), size.height(), strides[0], QImage::Format_RGB32).fill(color);
     });

@@ -5,7 +5,6 @@
 #include <Gallery/Browser/GalleryWindow.h>
 #include <Gallery/Browser/StateCard.h>
 #include <Gallery/Browser/WidgetPage.h>
-#include <Gallery/Inspector/ObjectTree.h>
 #include <Gallery/Inspector/PropertyPanel.h>
 #include <Gallery/Inspector/SignalLog.h>
 #include <UI/Kit/ZLineEdit.h>
@@ -39,11 +38,6 @@ void ExpandGroups(const PropertyPanel& panel)
 {
     for (auto* heading : panel.findChildren<QToolButton*>(QRegularExpression("^group:")))
         heading->setChecked(true);
-}
-
-QString LogText(const QWidget& page)
-{
-    return page.findChild<SignalLog*>()->findChild<QPlainTextEdit*>()->toPlainText();
 }
 
 } // namespace
@@ -96,16 +90,6 @@ private Q_SLOTS:
         QCoreApplication::processEvents();
         gallery->resize(500, 250);
         QCOMPARE(gallery->size(), QSize(500, 250));
-    }
-
-    void narrowWindowShowsTheListAsIcons()
-    {
-        gallery->resize(900, 600);
-        const int fullWidth = list->width();
-        gallery->resize(500, 600);
-        QVERIFY(list->width() < fullWidth / 2);
-        gallery->resize(900, 600);
-        QCOMPARE(list->width(), fullWidth);
     }
 
     void searchShowsMatchesUnderTheirHeadings()
@@ -219,34 +203,21 @@ private Q_SLOTS:
         QVERIFY(!panel.findChild<QWidget*>("edit:objectName"));
     }
 
-    void objectTreeFollowsTheWidget()
-    {
-        QWidget widget;
-        ObjectTree tree;
-        tree.SetObject(&widget);
-        auto* child = new QWidget(&widget);
-        QTRY_COMPARE(tree.topLevelItem(0)->childCount(), 1);
-        child->setObjectName("named");
-        QTRY_COMPARE(tree.topLevelItem(0)->child(0)->text(1), QString("named"));
-        delete child;
-        QTRY_COMPARE(tree.topLevelItem(0)->childCount(), 0);
-    }
-
     void pageInspectsTheClickedCardAndLogsItsSignals()
     {
-        WidgetPage page(*Catalogue::FindEntry("ColorButton"));
-        page.resize(900, 600);
-        page.show();
-        const auto cards = page.findChildren<StateCard*>();
+        gallery->OpenPage("ColorButton");
+        const auto cards = Page()->findChildren<StateCard*>();
         // The last widget is disabled, so that the card receives the click.
         QTest::mouseClick(cards.last()->Widget(), Qt::LeftButton);
-        QCOMPARE(page.SelectedState(), cards.size() - 1);
-        page.SelectState(1);
-        page.findChild<Vx::ColorButton*>("edit:colorRectBorderNormal")->SetColor(Qt::green);
+        QCOMPARE(Page()->SelectedState(), cards.size() - 1);
+        Page()->SelectState(1);
+        Page()->findChild<Vx::ColorButton*>("edit:colorRectBorderNormal")->SetColor(Qt::green);
         QCOMPARE(cards[1]->Widget()->property("colorRectBorderNormal").value<QColor>(), QColor(Qt::green));
-        QVERIFY(LogText(page).isEmpty());
+        const auto* log = Page()->findChild<SignalLog*>()->findChild<QPlainTextEdit*>();
+        QCOMPARE(log->toPlainText(), QString());
         static_cast<Vx::ColorButton*>(cards[0]->Widget())->SetColor(Qt::black);
-        QVERIFY2(LogText(page).trimmed().endsWith("Opaque   ColorChanged(#ff000000)"), qPrintable(LogText(page)));
+        const QString text = log->toPlainText();
+        QVERIFY2(text.trimmed().endsWith("Opaque   ColorChanged(#ff000000)"), qPrintable(text));
     }
 
     void logKeepsTheLastLines()

@@ -128,10 +128,8 @@ public:
     bool refusesSessions = false;
     std::vector<boost::intrusive_ptr<Acquis::IDeviceSettings>> deviceSettings;
 
-    std::atomic<int> created{0};
     std::atomic<int> alive{0};
     std::atomic<int> starts{0};
-    std::atomic<int> stops{0};
 
 private:
     struct Factory : RefCounted<Acquis::ICaptureFactory>
@@ -150,12 +148,7 @@ private:
 class ScriptedSession : public RefCounted<Acquis::ICaptureSession>
 {
 public:
-    explicit ScriptedSession(ScriptedEngine& engine) : engine(engine)
-    {
-        ++engine.created;
-        ++engine.alive;
-    }
-
+    explicit ScriptedSession(ScriptedEngine& engine) : engine(engine) { ++engine.alive; }
     ~ScriptedSession() override { --engine.alive; }
 
     void Start(const std::shared_ptr<Acquis::ICaptureSessionObserver>& newObserver) override
@@ -168,7 +161,6 @@ public:
 
     void Stop() override
     {
-        ++engine.stops;
         if (engine.onStop)
             engine.onStop(this);
         else
