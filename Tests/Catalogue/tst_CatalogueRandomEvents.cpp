@@ -39,13 +39,13 @@ public:
         QWidget* window = TopWindow();
         const int kind = Below(100);
         if (kind < 30)
-            SendMouse(window, QEvent::MouseMove);
+            SendMouse(window, QTest::MouseMove);
         else if (kind < 45)
-            SendMouse(window, QEvent::MouseButtonPress);
+            SendMouse(window, QTest::MousePress);
         else if (kind < 60)
-            SendMouse(window, QEvent::MouseButtonRelease);
+            SendMouse(window, QTest::MouseRelease);
         else if (kind < 62)
-            SendMouse(window, QEvent::MouseButtonDblClick);
+            SendMouse(window, QTest::MouseDClick);
         else if (kind < 68)
             Support::TurnWheel(Part(), QPoint(0, Below(721) - 360));
         else if (kind < 93)
@@ -77,25 +77,13 @@ private:
         return parts[Below(parts.size())];
     }
 
-    void SendMouse(QWidget* window, QEvent::Type type)
+    void SendMouse(QWidget* window, QTest::MouseAction action)
     {
-        const QRect area = (window == scene.window ? scene.widget->geometry() : window->rect())
-                               .adjusted(-MARGIN, -MARGIN, MARGIN, MARGIN);
-        const QPoint place = area.topLeft() + QPoint(Below(area.width()), Below(area.height()));
-        QWidget* receiver = window->childAt(place);
-        if (pressed && type != QEvent::MouseButtonPress)
-            receiver = pressed;
-        if (!receiver)
-            receiver = window;
-        const QPoint global = window->mapToGlobal(place);
-        const Qt::MouseButton button = Pick(BUTTONS);
-        QMouseEvent event(type, receiver->mapFromGlobal(global), global, button, pressed ? button : Qt::NoButton,
-                          Pick(MODIFIERS));
-        if (type == QEvent::MouseButtonPress)
-            pressed = receiver;
-        else if (type == QEvent::MouseButtonRelease)
-            pressed = nullptr;
-        QCoreApplication::sendEvent(receiver, &event);
+        const QRect around = (window == scene.window ? scene.widget->geometry() : window->rect())
+                                 .adjusted(-MARGIN, -MARGIN, MARGIN, MARGIN);
+        const QPoint place = around.topLeft() + QPoint(Below(around.width()), Below(around.height()));
+        if (window->windowHandle() && window->rect().contains(place))
+            QTest::mouseEvent(action, window->windowHandle(), Pick(BUTTONS), Pick(MODIFIERS), place);
     }
 
     void Change()
@@ -114,7 +102,6 @@ private:
     }
 
     EntryWindow& scene;
-    QPointer<QWidget> pressed; ///< receives mouse events until the release
     std::mt19937 random;
 };
 

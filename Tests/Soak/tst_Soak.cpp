@@ -1,0 +1,158 @@
+#include <UI/Widgets/VideoPreviewWidget.h>
+#include <UI/Widgets/VolumeSlider.h>
+#include <UI/Widgets/WebCameraPreviewStream.h>
+
+#include <Support/TestCase.h>
+
+#include <Zelkor/StandIn/CaptureDevice.h>
+#include <Zelkor/StandIn/CaptureEngine.h>
+
+#include <QFile>
+#include <QTimer>
+
+#if defined(Q_OS_WIN)
+#include <QtCore/qt_windows.h>
+
+#include <psapi.h>
+#endif
+#if defined(__GLIBC__)
+#include <malloc.h>
+#endif
+
+#include <cmath>
+#include <ctime>
+#include <vector>
+
+#if defined(__SANITIZE_ADDRESS__)
+// Declared here because GCC does not ship the header.
+extern "C" std::size_t __sanitizer_get_current_allocated_bytes();
+#endif
+
+using namespace Zelkor;
+
+namespace {
+
+// Returns the resident memory of this process in megabytes. Under AddressSanitizer, which delays deallocation, returns
+// the allocated memory.
+double Resident()
+{
+#if defined(__SANITIZE_ADDRESS__)
+    return double(__sanitizer_get_current_allocated_bytes()) / 1e6;
+#elif defined(Q_OS_WIN)
+    PROCESS_MEMORY_COUNTERS counters = {};
+    GetProcessMemoryInfo(GetCurrentProcess(), &counters, sizeof counters);
+    return double(counters.WorkingSetSize) / 1e6;
+#else
+    QFile file(QStringLiteral("/proc/self/statm"));
+    if (!file.open(QIODevice::ReadOnly))
+        return 0;
+    return file.readAll().split(' ').value(1).toDouble() * 4096 / 1e6;
+#endif
+}
+
+// Returns the CPU time of this process in seconds.
+double ProcessorSeconds()
+{
+#if defined(Q_OS_WIN)
+    // clock() returns wall-clock time on Windows.
+    FILETIME created, ended, kernel, user;
+    GetProcessTimes(GetCurrentProcess(), &created, &ended, &kernel, &user);
+    const auto seconds = [](const FILETIME& time) {
+        return (time.dwHighDateTime * 4294967296.0 + time.dwLowDateTime) * 1e-7;
+    };
+    return seconds(kernel) + seconds(user);
+#else
+    return double(std::clock()) / CLOCKS_PER_SEC;
+#endif
+}
+
+} // namespace
+
+/// Fails when the use of memory or CPU time grows after the first third of a run. The environment variable VX_SECONDS
+/// sets the length of a run; more than five minutes need a larger QTEST_FUNCTION_TIMEOUT as well.
+class tst_Soak : public Support::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+#if defined(__GLIBC__)
+        // Returns frames to the system when they are freed. Otherwise the allocator keeps a varying number of them.
+        mallopt(M_MMAP_THRESHOLD, 128 * 1024);
+#endif
+    }
+
+    // Shows the test picture at 60 frames per second and restarts the stream every second, in the next mode.
+    void streamKeepsItsMemory()
+    {
+        auto* preview = new Vx::UI::VideoPreviewWidget(nullptr);
+        preview->SetPreviewWidth(640);
+        preview->SetPreviewHeight(360);
+        preview->show();
+        auto* stream = new Vx::WebCameraPreviewStream(preview);
+        const auto device = StandIn::CreateTestPictureDevice();
+        const auto& modes = device->GetModes();
+        Run([&](int second) {
+            stream->StopStream();
+            const auto& mode = modes[size_t(second) % modes.size()];
+            stream->SetDevice(device, QString::fromStdString(mode->GetName()), 60);
+            stream->StartStream();
+        });
+        delete preview; // while the stream runs
+        QVERIFY(StandIn::WaitForEngineIdle(std::chrono::seconds(10)));
+        // The first third covers every mode. The tolerance is for the allocator, and for one picture more or less at
+        // the time of a measurement.
+        constexpr double LARGEST_PICTURE = 1920 * 1080 * 4 / 1e6;
+        QVERIFY(late <= early * 1.1 + LARGEST_PICTURE);
+    }
+
+    // Updates a visible level meter 100 times per second.
+    void meterKeepsItsMemoryAndCpuTime()
+    {
+        Vx::VolumeSlider slider(nullptr);
+        slider.resize(30, 200);
+        slider.show();
+        int step = 0;
+        QTimer feed;
+        feed.setTimerType(Qt::PreciseTimer);
+        connect(&feed, &QTimer::timeout, &slider,
+                [&] { slider.SetVolumes(0.8F, float(std::abs(std::sin(++step * 0.11)))); });
+        feed.start(10);
+        std::vector<double> used(size_t(seconds) + 1); ///< CPU time until each second
+        Run([&used](int second) { used[size_t(second)] = ProcessorSeconds(); });
+        const int third = seconds / 3;
+        const double usedEarly = (used[size_t(third)] - used[1]) / (third - 1); // without the start-up
+        const double usedLate = (used.back() - used[size_t(third)]) / (seconds - third);
+        qInfo("%d levels; processor %.2f %%, then %.2f %%", step, 100 * usedEarly, 100 * usedLate);
+        // On a busy machine timers are late.
+        QVERIFY(step > seconds * 20);
+        QVERIFY(late <= early + 1);
+        // The resolution of the clock is a percent.
+        QVERIFY(usedLate <= 1.5 * usedEarly + 0.01);
+    }
+
+private:
+    // Calls `act` every second and measures the memory.
+    void Run(const std::function<void(int second)>& act)
+    {
+        early = 0;
+        late = 0;
+        for (int second = 0; second <= seconds; ++second) {
+            act(second);
+            double& peak = 3 * second <= seconds ? early : late;
+            peak = std::max(peak, Resident());
+            if (second % 30 == 0)
+                qInfo("%4d s: %.1f MB", second, Resident());
+            QTest::qWait(1000);
+        }
+        qInfo("peak %.1f MB, then %.1f MB", early, late);
+    }
+
+    const int seconds = std::max(6, qEnvironmentVariable("VX_SECONDS", "15").toInt());
+    double early = 0; ///< peak of the memory use in the first third, in megabytes
+    double late = 0;  ///< and in the rest
+};
+
+VX_TEST_MAIN(tst_Soak)
+#include "tst_Soak.moc"
