@@ -3,13 +3,12 @@
 #include <Catalogue/Catalogue.h>
 #include <Examples/Support/BuiltInStyleSheets.h>
 
-#include <QApplication>
+#include <Support/LeakCheck.h>
+
 #include <QMetaProperty>
 #include <QPointer>
 #include <QPushButton>
 #include <QVBoxLayout>
-#include <QWidget>
-#include <QtTest>
 
 #include <memory>
 #include <numeric>
@@ -27,14 +26,7 @@ inline void ApplySheet(const QString& name)
         sheet.apply();
 }
 
-/// Processes events and deferred deletions until the event loop is idle.
-inline void Settle()
-{
-    for (int i = 0; i < 2; ++i) {
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        QCoreApplication::processEvents();
-    }
-}
+using Support::Settle;
 
 /// Returns the widget and its descendants; an empty list for null.
 inline QVector<QPointer<QWidget>> PartsOf(QWidget* widget)

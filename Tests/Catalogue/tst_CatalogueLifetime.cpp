@@ -1,6 +1,5 @@
 #include <Catalogue/EntryWindow.h>
 
-#include <Support/LeakCheck.h>
 #include <Support/TestCase.h>
 
 #include <QPixmapCache>

@@ -2,7 +2,6 @@
 #include <Catalogue/EntryWindow.h>
 #include <Catalogue/SignalRecorder.h>
 
-#include <Support/LeakCheck.h>
 #include <Support/ModalWatcher.h>
 #include <Support/TestCase.h>
 #include <Support/UrlHandlerStub.h>

@@ -1,7 +1,6 @@
 #include <Catalogue/EntryWindow.h>
 #include <Catalogue/SignalRecorder.h>
 
-#include <Support/LeakCheck.h>
 #include <Support/ModalWatcher.h>
 #include <Support/TestCase.h>
 #include <Support/UrlHandlerStub.h>

@@ -6,6 +6,16 @@
 
 namespace Support {
 
+/// Processes events and deferred deletions until the event loop is idle.
+inline void Settle()
+{
+    // The first pass may create objects that are deleted later.
+    for (int i = 0; i < 2; ++i) {
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QCoreApplication::processEvents();
+    }
+}
+
 /// Fails the running test if widgets, or more objects of the application than at construction, exist at destruction.
 class LeakCheck
 {
@@ -14,11 +24,7 @@ public:
 
     ~LeakCheck()
     {
-        // The first pass may create objects that are deleted later.
-        for (int i = 0; i < 2; ++i) {
-            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-            QCoreApplication::processEvents();
-        }
+        Settle();
         QStringList more = Objects();
         for (const QString& name : objects)
             more.removeOne(name);
