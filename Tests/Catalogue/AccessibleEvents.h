@@ -114,13 +114,11 @@ private:
         const auto [object, path] = place;
         QSet<int> sent;
         quint64 sentBits = 0;
-        bool hasText = false;
         for (const Event& event : qAsConst(events)) {
             // The line edit of an editable combo box reports its text.
             const bool isText = event.type >= QAccessible::TextInserted && event.type <= QAccessible::TextUpdated;
-            hasText |= isText && (event.object == object || event.object->parent() == object);
-            if (event.object == object) {
-                sent += event.type;
+            if (event.object == object || (isText && event.object->parent() == object)) {
+                sent += isText ? QAccessible::TextUpdated : event.type;
                 sentBits |= event.changed;
             }
         }
@@ -130,11 +128,12 @@ private:
                               .arg(object->metaObject()->className(), object->objectName(), path, what, is.name);
         };
         // A tab bar is named after the selected tab. Interfaces without an object may change places with each other.
-        check("name", was.name != is.name && !is.name.isEmpty() && path.isEmpty() && !hasText,
-              {QAccessible::NameChanged, QAccessible::ValueChanged, QAccessible::Selection});
+        check("name", was.name != is.name && !is.name.isEmpty() && path.isEmpty(),
+              {QAccessible::NameChanged, QAccessible::ValueChanged, QAccessible::Selection, QAccessible::TextUpdated});
         check("description", was.description != is.description, {QAccessible::DescriptionChanged});
-        check("text", was.text != is.text && !hasText, {});
-        check("value", was.value != is.value && !hasText, {QAccessible::ValueChanged, QAccessible::NameChanged});
+        check("text", was.text != is.text, {QAccessible::TextUpdated});
+        check("value", was.value != is.value,
+              {QAccessible::ValueChanged, QAccessible::NameChanged, QAccessible::TextUpdated});
         // A widget reports the focus of its focus proxy as its own.
         const bool hasFocus = object == QApplication::focusWidget() && path.isEmpty();
         check("focus", hasFocus && !was.state.focused && is.state.focused, {QAccessible::Focus});

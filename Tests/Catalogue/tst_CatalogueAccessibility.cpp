@@ -155,10 +155,8 @@ private Q_SLOTS:
         scene->Show();
         const QString text = "&Zoom";
         for (QObject* part : QObjectList{scene->widget} + scene->widget->findChildren<QObject*>()) {
-            if (auto* button = qobject_cast<QAbstractButton*>(part))
-                button->setText(text);
-            if (auto* action = qobject_cast<QAction*>(part))
-                action->setText(text);
+            if (part->inherits("QAbstractButton") || part->inherits("QAction"))
+                part->setProperty("text", text);
             if (auto* group = qobject_cast<QGroupBox*>(part))
                 group->setTitle(text);
             if (auto* widget = qobject_cast<QWidget*>(part)) {

@@ -1,24 +1,30 @@
-#include <Catalogue/Comparison.h>
+#include <Catalogue/AccessibleEvents.h>
 #include <Catalogue/EntryWindow.h>
 #include <Catalogue/OtherValue.h>
+#include <Catalogue/SamplePictures.h>
 #include <Gallery/Inspector/PropertyValue.h>
 #include <Gallery/Inspector/SignalLog.h>
 #include <Gallery/Inspector/StyleSheetLine.h>
+#include <UI/Widgets/VideoPreviewWidget.h>
+#include <UI/Widgets/WebCameraPreviewStream.h>
 
+#include <Support/Picture.h>
 #include <Support/TestCase.h>
 
-#include <QAccessible>
 #include <QStyle>
 #include <QTranslator>
 
 #include <algorithm>
 
+using namespace Zelkor;
 using namespace Zelkor::Catalogue;
 using namespace Zelkor::Gallery;
 
 namespace {
 
 constexpr int NARROW = 48;
+constexpr int LONGEST_ANIMATION_MS = 1000;
+constexpr int MARGIN = 8;    ///< around the widget, which must not paint there
 constexpr int FONT_STEP = 7; ///< points between the two font sizes
 
 /// The settings of the application that affect every widget.
@@ -99,6 +105,67 @@ QVector<int> StatesToApply(const Entry& entry)
     return states;
 }
 
+// One line for each visible interface, with its rectangle relative to the widget.
+QStringList AccessibleTree(QWidget* widget)
+{
+    QStringList lines;
+    const QPoint origin = widget->mapToGlobal(QPoint());
+    VisitAccessible(QAccessible::queryAccessibleInterface(widget), [&](auto& interface, QObject* owner, auto& path) {
+        const auto* part = qobject_cast<QWidget*>(owner);
+        if (part && !part->isVisible())
+            return;
+        QString line;
+        QDebug(&line) << owner->metaObject()->className() << path << "role" << interface.role() << "name"
+                      << interface.text(QAccessible::Name) << "description" << interface.text(QAccessible::Description)
+                      << "value" << interface.text(QAccessible::Value) << "state" << StateBits(interface.state())
+                      << interface.rect().translated(-origin);
+        lines.append(line);
+    });
+    return lines;
+}
+
+QImage Picture(EntryWindow& scene, qreal pixelRatio)
+{
+    // Replaces live video, which differs between two pictures.
+    for (const auto* stream : scene.window->findChildren<Vx::WebCameraPreviewStream*>())
+        static_cast<Vx::UI::VideoPreviewWidget*>(stream->parent())->UpdateView(ColorBarsFrame({160, 120}));
+    const QRect area = scene.widget->geometry().adjusted(-MARGIN, -MARGIN, MARGIN, MARGIN);
+    QImage picture((QSizeF(area.size()) * pixelRatio).toSize(), QImage::Format_RGB32);
+    picture.setDevicePixelRatio(pixelRatio);
+    scene.window->render(&picture, QPoint(), area);
+    return picture;
+}
+
+QString DifferenceNow(EntryWindow& changed, EntryWindow& made, qreal pixelRatio)
+{
+    const QStringList tree = AccessibleTree(changed.widget);
+    const QStringList expected = AccessibleTree(made.widget);
+    for (int i = 0; i < qMax(tree.size(), expected.size()); ++i) {
+        if (tree.value(i) != expected.value(i))
+            return QStringLiteral("accessible:\n%1\ninstead of\n%2").arg(tree.value(i), expected.value(i));
+    }
+    if (changed.widget->geometry() != made.widget->geometry())
+        return QStringLiteral("different geometry");
+    const int difference = Support::LargestDifference(Picture(changed, pixelRatio), Picture(made, pixelRatio));
+    return difference == 0 ? QString() : QStringLiteral("pixels differ by up to %1").arg(difference);
+}
+
+// Compares two inactive windows until they are alike or animations must have ended. Returns an empty string, or the
+// first difference in accessibility, geometry or pixels. `pixelRatio` is the device pixel ratio of the pictures.
+QString Difference(EntryWindow& changed, EntryWindow& made, qreal pixelRatio)
+{
+    QString difference;
+    const bool isAlike = QTest::qWaitFor(
+        [&] {
+            Settle();
+            QApplication::setActiveWindow(nullptr);
+            difference = DifferenceNow(changed, made, pixelRatio);
+            return difference.isEmpty();
+        },
+        LONGEST_ANIMATION_MS);
+    return isAlike ? QString() : difference;
+}
+
 } // namespace
 
 /// A widget that changes while it is visible equals one that is created that way.
@@ -112,11 +179,6 @@ private Q_SLOTS:
         QAccessible::setActive(true);
         QApplication::setCursorFlashTime(0);
         initialFont = QApplication::font();
-        for (const char* code : {"de", "fr", "ja"}) {
-            auto* translator = new QTranslator(this);
-            QVERIFY(translator->load(QStringLiteral(VX_TRANSLATIONS "/VxUiWidgets_") + code));
-            translators.insert(code, translator);
-        }
     }
 
     void changeIsApplied_data() { AddRows(TestedStates, NamesOf(CHANGES)); }
@@ -225,13 +287,13 @@ private:
 
     void Enter(const Environment& wanted)
     {
-        if (wanted.direction != now.direction)
-            QApplication::setLayoutDirection(wanted.direction);
+        QApplication::setLayoutDirection(wanted.direction);
         if (wanted.language != now.language) {
-            if (!now.language.isEmpty())
-                QCoreApplication::removeTranslator(translators[now.language]);
-            if (!wanted.language.isEmpty())
-                QCoreApplication::installTranslator(translators[wanted.language]);
+            QCoreApplication::removeTranslator(&translator);
+            if (!wanted.language.isEmpty()) {
+                QVERIFY(translator.load(VX_TRANSLATIONS "/VxUiWidgets_" + wanted.language));
+                QCoreApplication::installTranslator(&translator);
+            }
         }
         ApplySheet(wanted.sheet);
         if (wanted.fontStep != now.fontStep) {
@@ -244,7 +306,7 @@ private:
     }
 
     QFont initialFont;
-    QMap<QString, QTranslator*> translators;
+    QTranslator translator;
     Environment now{"none yet"};
 };
 

@@ -15,11 +15,10 @@ namespace {
 #if defined(__SANITIZE_ADDRESS__)
 // The sanitizer detects leaks without a growth measurement, and is slow.
 constexpr int LIVES = 60;
-constexpr int WARM_UP = 20;
 #else
 constexpr int LIVES = 1020;
-constexpr int WARM_UP = 200; ///< lives until caches are filled
 #endif
+constexpr int WARM_UP = LIVES / 5;     ///< lives until caches are filled
 constexpr double LARGEST_GROWTH = 200; ///< bytes per life
 
 double AllocatedBytes()

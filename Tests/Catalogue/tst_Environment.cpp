@@ -42,13 +42,6 @@ void ForceSize(QWidget& widget, const QSize& size)
     widget.resize(size == HUGE_SIZE ? size / std::ceil(widget.devicePixelRatioF()) : size);
 }
 
-// The physical pixels that a logical rectangle touches.
-QRect TouchedPixels(const QRect& rect, qreal ratio)
-{
-    const QRectF scaled(QPointF(rect.topLeft()) * ratio, QSizeF(rect.size()) * ratio);
-    return scaled.toAlignedRect();
-}
-
 } // namespace
 
 class tst_Environment : public Support::TestCase
@@ -56,8 +49,6 @@ class tst_Environment : public Support::TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void cleanupTestCase() { QApplication::setLayoutDirection(Qt::LeftToRight); }
-
     void paintsOnlyInsideItself_data() { AddRows(AllStates, STYLES); }
 
     // Each state at its own size and at one other, with a font size and direction that vary over states and styles.
@@ -120,7 +111,8 @@ private:
         blank.fill(BACKDROP);
         QVERIFY2(!mustPaint || image != blank, "nothing was painted");
         // The widget may have moved or resized itself.
-        QPainter(&image).fillRect(TouchedPixels(widget.geometry(), ratio), QColor(BACKDROP));
+        const QRectF area = QTransform::fromScale(ratio, ratio).mapRect(QRectF(widget.geometry()));
+        QPainter(&image).fillRect(area.toAlignedRect(), QColor(BACKDROP));
         QVERIFY2(image == blank, "painted outside of its rectangle");
         delete &widget;
         QVERIFY2(backdrop.children().isEmpty(), "left an object after it was shown");

@@ -7,7 +7,6 @@
 #include <QIcon>
 #include <QRegularExpression>
 
-#include <algorithm>
 #include <climits>
 #include <limits>
 

@@ -50,7 +50,6 @@ QString TypeOf(const QMetaProperty& property)
 QString TextOf(const QMetaProperty& property, const QObject* object)
 {
     const QVariant value = property.read(object);
-    const QString text = value.toString();
     if (property.isEnumType()) {
         const QString keys = property.enumerator().valueToKeys(value.toInt());
         return QString(keys).replace("AlignLeading", "AlignLeft").replace('|', '/');
@@ -68,7 +67,7 @@ QString TextOf(const QMetaProperty& property, const QObject* object)
     case QMetaType::QStringList:
         return value.toStringList().isEmpty() ? "empty" : value.toStringList().join(',');
     default:
-        return text.isEmpty() ? "empty" : text;
+        return value.toString().isEmpty() ? "empty" : value.toString();
     }
 }
 

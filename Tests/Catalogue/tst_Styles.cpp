@@ -53,17 +53,17 @@ private Q_SLOTS:
         QTest::addColumn<double>("least");
         const QString plain = "window surface raised";
         const QString areas = plain + " control control-hover";
-        QTest::newRow("text") << "text" << areas + " control-pressed selection preview" << 4.5;
-        QTest::newRow("muted text") << "text-muted" << plain << 4.5;
-        QTest::newRow("accent as text") << "accent-line" << plain << 4.5;
-        QTest::newRow("on accent") << "on-accent"
-                                   << "accent accent-hover accent-pressed danger danger-pressed" << 4.5;
-        QTest::newRow("error") << "danger-text"
-                               << "danger-surface" << 4.5;
-        QTest::newRow("keyboard focus") << "accent-line" << areas << 3.0;
-        QTest::newRow("edge of fields") << "border-strong" << plain << 3.0;
-        QTest::newRow("recording") << "recording"
-                                   << "window surface" << 3.0;
+        const auto row = [](const char* name, const QString& front, const QString& backs, double least) {
+            QTest::newRow(name) << front << backs << least;
+        };
+        row("text", "text", areas + " control-pressed selection preview", 4.5);
+        row("muted text", "text-muted", plain, 4.5);
+        row("accent as text", "accent-line", plain, 4.5);
+        row("on accent", "on-accent", "accent accent-hover accent-pressed danger danger-pressed", 4.5);
+        row("error", "danger-text", "danger-surface", 4.5);
+        row("keyboard focus", "accent-line", areas, 3);
+        row("edge of fields", "border-strong", plain, 3);
+        row("recording", "recording", "window surface", 3);
     }
 
     void contrastIsSufficient()

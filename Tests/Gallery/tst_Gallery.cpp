@@ -58,19 +58,6 @@ private Q_SLOTS:
         QCOMPARE(shot.pixelColor(2, 2), QColor("#123456"));
     }
 
-    void pictureContainsAPopUp()
-    {
-        const QString page = "--page ButtonWithPopUpContainer --size 1000x700 --after 100 ";
-        QCOMPARE(Run(page + "--shot closed.png"), QStringList{"exit 0"});
-        QCOMPARE(Run(page + "--shot open.png --press Quality"), QStringList{"exit 0"});
-        const QImage closed(folder.filePath("closed.png"));
-        const QImage open(folder.filePath("open.png"));
-        int changedRows = 0;
-        for (int y = 0; y < closed.height(); ++y)
-            changedRows += closed.copy(0, y, closed.width(), 1) != open.copy(0, y, open.width(), 1);
-        QVERIFY(changedRows > 100);
-    }
-
     void switchedDirectionLooksLikeAStartInThatDirection()
     {
         const QString page = "--page PixmapWidget --size 1300x700 --after 100 ";

@@ -220,20 +220,6 @@ private Q_SLOTS:
         QVERIFY2(text.trimmed().endsWith("Opaque   ColorChanged(#ff000000)"), qPrintable(text));
     }
 
-    void logKeepsTheLastLines()
-    {
-        SignalLog log;
-        QCheckBox box;
-        log.Watch(&box, "QCheckBox", "Box");
-        for (int i = 0; i < 600; ++i)
-            box.toggle();
-        const QPlainTextEdit* lines = log.findChild<QPlainTextEdit*>();
-        QCOMPARE(lines->blockCount(), 500);
-        QVERIFY(lines->toPlainText().endsWith("Box   stateChanged(0)"));
-        log.findChild<QToolButton*>()->click();
-        QVERIFY(lines->toPlainText().isEmpty());
-    }
-
     void logIsDeletedBySlotOfAWatchedSignal()
     {
         auto log = std::make_unique<SignalLog>();

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QApplication>
-#include <QDialog>
 #include <QMenu>
 #include <QPointer>
 #include <QTimer>
@@ -33,13 +32,10 @@ private:
     std::function<void(QWidget*)> act;
 };
 
-/// Rejects a dialog or closes a menu.
+/// Closes a menu or a dialog, which rejects it.
 inline void Dismiss(QWidget* window)
 {
-    if (auto* dialog = qobject_cast<QDialog*>(window))
-        dialog->reject();
-    else
-        window->close();
+    window->close();
 }
 
 } // namespace Support
