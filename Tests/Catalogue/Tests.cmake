@@ -53,4 +53,4 @@ vx_test(Catalogue/tst_HostileApplication.cpp LIBRARIES VxCatalogue)
 
 # They take minutes with a sanitizer or on a busy machine.
 set_tests_properties(tst_CatalogueChanges tst_CatalogueParents tst_CatalogueAccessibility tst_CatalogueLifetime
-                     tst_HostileApplication PROPERTIES TIMEOUT 900)
+                     tst_CatalogueRandomEvents tst_HostileApplication PROPERTIES TIMEOUT 900)
