@@ -54,7 +54,7 @@ void WriteProperty(QXmlStreamWriter& xml, const QString& name, const QVariant& v
     xml.writeAttribute("name", name);
     // Otherwise uic calls a setter "set...", which may not exist.
     xml.writeAttribute("stdset", "0");
-    xml.writeTextElement(value.type() == QVariant::Int ? "number" : "string", value.toString());
+    xml.writeTextElement(value.userType() == QMetaType::Int ? "number" : "string", value.toString());
     xml.writeEndElement();
 }
 

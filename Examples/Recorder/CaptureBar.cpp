@@ -13,6 +13,8 @@
 #include <QHBoxLayout>
 #include <QSignalBlocker>
 
+#include <utility>
+
 using Zelkor::Vx::ButtonWithPopUpList;
 using Zelkor::Vx::ColorButton;
 using Zelkor::Vx::UI::ClickSoundComboBox;
@@ -109,7 +111,7 @@ void CaptureBar::AddPresets()
         auto* action = new QAction(this);
         action->setProperty("PresetType", look.presetType);
         action->setData(int(look.mode));
-        action->setShortcut(QKeySequence(Qt::CTRL + Qt::Key_1 + presets.size()));
+        action->setShortcut(QKeySequence(Qt::CTRL | Qt::Key(Qt::Key_1 + presets.size())));
         addAction(action);
         auto* button = new FastPresetButton(action, "Recorder", presetGroup);
         button->setCheckable(true);
@@ -154,7 +156,7 @@ void CaptureBar::Connect()
         connect(action, &QAction::triggered, this,
                 [this, action] { model->ChooseRecordingMode(Mode(action->data().toInt())); });
     // A click on the current preset unchecks it.
-    for (FastPresetButton* button : qAsConst(presets))
+    for (FastPresetButton* button : std::as_const(presets))
         connect(button, &FastPresetButton::Clicked, this, &CaptureBar::Refresh);
     connect(modes, &ButtonWithPopUpList::CurrentIndexChanged, this,
             [this] { model->ChooseRecordingMode(Mode(modes->CurrentData().toInt())); });

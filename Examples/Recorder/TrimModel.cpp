@@ -1,6 +1,7 @@
 #include "TrimModel.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace Zelkor::Recorder {
 
@@ -13,7 +14,7 @@ QVector<TrimModel::Range> Tidy(QVector<TrimModel::Range> cuts)
 {
     std::sort(cuts.begin(), cuts.end(), [](const auto& a, const auto& b) { return a.from < b.from; });
     QVector<TrimModel::Range> tidy;
-    for (const TrimModel::Range& cut : qAsConst(cuts)) {
+    for (const TrimModel::Range& cut : std::as_const(cuts)) {
         if (!tidy.isEmpty() && cut.from <= tidy.last().to)
             tidy.last().to = qMax(tidy.last().to, cut.to);
         else

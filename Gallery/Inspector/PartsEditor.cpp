@@ -1,5 +1,6 @@
 #include "PartsEditor.h"
 #include "EditorSpinBox.h"
+#include "MetaTypes.h"
 
 #include <UI/Kit/ZDoubleSpinBox.h>
 
@@ -75,9 +76,7 @@ PropertyControl CreatePartsEditor(int type, QWidget* parent, const ValueListener
             QVector<double> numbers;
             for (const ZDoubleSpinBox* other : boxes)
                 numbers.append(other->value());
-            QVariant value = parts.join(numbers);
-            value.convert(type);
-            listener(value, QString());
+            listener(Converted(parts.join(numbers), type), QString());
         });
     }
     return {control, [boxes, parts](const QVariant& value) {

@@ -1,5 +1,6 @@
 #include "PropertyEditor.h"
 #include "EditorSpinBox.h"
+#include "MetaTypes.h"
 #include "PartsEditor.h"
 #include "PictureEditor.h"
 #include "StyleSheetLine.h"
@@ -65,11 +66,8 @@ PropertyControl CreateNumberEditor(int type, QWidget* parent, const ValueListene
     auto* box = CreateSpinBox<ZDoubleSpinBox>(parent, isUnsigned ? 0 : -largest, largest);
     box->setDecimals(isWhole ? 0 : DECIMALS);
     box->setSingleStep(isWhole ? 1 : 0.1);
-    QObject::connect(box, QOverload<double>::of(&QDoubleSpinBox::valueChanged), box, [listener, type](double number) {
-        QVariant value(number);
-        value.convert(type);
-        listener(value, QString());
-    });
+    QObject::connect(box, QOverload<double>::of(&QDoubleSpinBox::valueChanged), box,
+                     [listener, type](double number) { listener(Converted(number, type), QString()); });
     return {box, [box](const QVariant& value) { box->setValue(value.toDouble()); }};
 }
 

@@ -1,4 +1,5 @@
 #include "SignalLog.h"
+#include "MetaTypes.h"
 
 #include <QAction>
 #include <QColor>
@@ -58,13 +59,13 @@ QObject* FindObject(QWidget* widget, const QString& className)
 
 QString ArgumentText(int metaType, const void* argument)
 {
-    if (QMetaType::typeFlags(metaType) & QMetaType::PointerToQObject) {
-        const auto* object = *static_cast<QObject* const*>(argument);
+    const QVariant value = ValueOf(metaType, argument);
+    if (value.canConvert<QObject*>()) {
+        const auto* object = value.value<QObject*>();
         if (!object)
             return "null";
         return QString("%1 \"%2\"").arg(object->metaObject()->className(), object->objectName());
     }
-    const QVariant value(metaType, argument);
     if (metaType == QMetaType::QColor)
         return value.value<QColor>().name(QColor::HexArgb);
     QString text = value.toString();

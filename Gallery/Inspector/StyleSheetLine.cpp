@@ -65,7 +65,7 @@ QString ColorText(const QColor& color)
 
 QString ValueText(const QVariant& value, const QString& file)
 {
-    switch (int(value.type())) {
+    switch (value.userType()) {
     case QMetaType::Bool:
         return value.toBool() ? "true" : "false";
     case QMetaType::Int:

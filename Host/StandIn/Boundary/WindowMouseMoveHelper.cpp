@@ -4,6 +4,24 @@
 #include <QWidget>
 #include <QWindow>
 
+namespace Zelkor::StandIn {
+
+namespace {
+
+// As of the event: the window may have moved since, so its position must not enter.
+QPoint GlobalPosition(const QMouseEvent& event)
+{
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+    return event.globalPosition().toPoint();
+#else
+    return event.globalPos();
+#endif
+}
+
+} // namespace
+
+} // namespace Zelkor::StandIn
+
 namespace Zelkor::Vx::UI::Util {
 
 WindowMouseMoveHelper::WindowMouseMoveHelper(QWidget* movedWindow, const QList<QWidget*>& handles)
@@ -42,7 +60,7 @@ void WindowMouseMoveHelper::Press(const QMouseEvent& event)
     drag = Drag::None;
     if (!window || event.buttons() != Qt::LeftButton)
         return;
-    pressPosition = event.globalPos();
+    pressPosition = StandIn::GlobalPosition(event);
     windowOrigin = window->pos();
     drag = Drag::Pressed;
 }
@@ -53,10 +71,10 @@ bool WindowMouseMoveHelper::Move(const QMouseEvent& event)
     // The release was delivered elsewhere, for example to the window system when it ends a system move.
     if (!window || event.buttons() != Qt::LeftButton)
         drag = Drag::None;
-    if (drag == Drag::Pressed && event.globalPos() != pressPosition)
+    if (drag == Drag::Pressed && StandIn::GlobalPosition(event) != pressPosition)
         drag = StartDrag();
     if (drag == Drag::ByHelper)
-        window->move(windowOrigin + event.globalPos() - pressPosition);
+        window->move(windowOrigin + StandIn::GlobalPosition(event) - pressPosition);
     return drag == Drag::BySystem || drag == Drag::ByHelper;
 }
 

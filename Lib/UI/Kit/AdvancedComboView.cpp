@@ -1,11 +1,11 @@
 #include <UI/Kit/AdvancedComboView.h>
 
+#include <UI/Common/ScreenOf.h>
+
 #include <QComboBox>
-#include <QGuiApplication>
 #include <QLayout>
 #include <QPaintEvent>
 #include <QPainter>
-#include <QScreen>
 #include <QScrollBar>
 #include <QTimer>
 
@@ -13,6 +13,8 @@
 #include <utility>
 
 namespace {
+
+namespace Common = Zelkor::Vx::UI::Common;
 
 // Lays out the items of a view again when it is destroyed: from the event loop, when the view has handled the current
 // change.
@@ -29,12 +31,10 @@ public:
     }
 };
 
-QRect ScreenOf(const QWidget& widget)
+QRect RoomFor(const QWidget& widget)
 {
-    const QScreen* screen = QGuiApplication::screenAt(widget.mapToGlobal(widget.rect().center()));
-    if (!screen)
-        screen = widget.screen();
-    return screen->availableGeometry();
+    const QScreen* screen = Common::ScreenOf(widget);
+    return screen ? screen->availableGeometry() : QRect(0, 0, QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
 }
 
 // Returns the width of a pop-up that its list does not fill.
@@ -77,16 +77,30 @@ void AdvancedComboView::applyWidth()
     // A style sheet may add a border and padding.
     const int frame = width() - maximumViewportSize().width();
     const int needed = widestItem + barWidth + frame;
-    setMinimumWidth(std::min(needed, ScreenOf(*combo).width() - WidthAround(parentWidget())));
+    setMinimumWidth(std::min(needed, RoomFor(*combo).width() - WidthAround(parentWidget())));
 }
 
+// The virtual function has another name since Qt 6.
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+void AdvancedComboView::initViewItemOption(QStyleOptionViewItem* option) const
+{
+    QListView::initViewItemOption(option);
+    adapt(*option);
+}
+#else
 QStyleOptionViewItem AdvancedComboView::viewOptions() const
 {
     QStyleOptionViewItem option = QListView::viewOptions();
+    adapt(option);
+    return option;
+}
+#endif
+
+void AdvancedComboView::adapt(QStyleOptionViewItem& option) const
+{
     option.showDecorationSelected = true;
     if (combo)
         option.font = combo->font();
-    return option;
 }
 
 void AdvancedComboView::resizeEvent(QResizeEvent* event)
@@ -153,8 +167,6 @@ void AdvancedComboView::paintMenuBackground(const QRect& area)
     option.state = QStyle::State_None;
     option.checkType = QStyleOptionMenuItem::NotCheckable;
     option.menuRect = area;
-    option.maxIconWidth = 0;
-    option.tabWidth = 0;
     QPainter painter(viewport());
     combo->style()->drawControl(QStyle::CE_MenuEmptyArea, &option, &painter, this);
 }
@@ -182,7 +194,7 @@ void AdvancedComboView::keepPopUpOnScreen()
     const QPoint comboLeft = combo->mapToGlobal(QPoint(0, 0));
     const bool isRightToLeft = combo->isRightToLeft();
     const int left = isRightToLeft ? comboLeft.x() + combo->width() - popUp->width() : popUp->x();
-    const QPoint place(PopUpLeft(left, popUp->width(), ScreenOf(*combo), isRightToLeft), popUp->y());
+    const QPoint place(PopUpLeft(left, popUp->width(), RoomFor(*combo), isRightToLeft), popUp->y());
     if (popUp->pos() != place)
         popUp->setGeometry(QRect(place, popUp->size()));
 }

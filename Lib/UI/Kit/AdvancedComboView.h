@@ -22,7 +22,11 @@ public:
     void doItemsLayout() override;
 
 protected:
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+    void initViewItemOption(QStyleOptionViewItem* option) const override;
+#else
     QStyleOptionViewItem viewOptions() const override;
+#endif
     void updateGeometries() override;
     void resizeEvent(QResizeEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
@@ -30,6 +34,7 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    void adapt(QStyleOptionViewItem& option) const;
     void applyWidth();
     int measureItems() const;
     void paintMenuBackground(const QRect& area);

@@ -122,7 +122,7 @@ void ZCodeEditor::goTo(int position)
 
 int ZCodeEditor::marginWidth() const
 {
-    const int digits = std::max(SMALLEST_DIGITS, QString::number(blockCount()).size());
+    const int digits = std::max(SMALLEST_DIGITS, int(QString::number(blockCount()).size()));
     return digits * fontMetrics().horizontalAdvance(QLatin1Char('9')) + 2 * MARGIN_PADDING;
 }
 
@@ -273,7 +273,7 @@ void ZCodeEditor::closeBlock()
     cursor.removeSelectedText();
     const QString before = cursor.block().text().left(cursor.positionInBlock());
     if (before.trimmed().isEmpty()) {
-        const int step = before.endsWith(QLatin1Char('\t')) ? 1 : std::min(indent, before.size());
+        const int step = before.endsWith(QLatin1Char('\t')) ? 1 : std::min(indent, int(before.size()));
         cursor.movePosition(QTextCursor::Left, QTextCursor::KeepAnchor, step);
     }
     cursor.insertText(QStringLiteral("}"));

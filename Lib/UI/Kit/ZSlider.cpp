@@ -9,6 +9,7 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <utility>
 
 using namespace Zelkor::Vx::UI;
 using Kit::SliderGroove;
@@ -99,11 +100,11 @@ void ZSlider::Impl::paintSegments(QPainter& painter)
     const auto pixelOf = [&](int value) {
         return line.pixelOfSegment(qBound(owner->minimum(), value, owner->maximum()));
     };
-    for (const Segment& segment : qAsConst(segments)) {
+    for (const Segment& segment : std::as_const(segments)) {
         const auto [from, to] = std::minmax({pixelOf(segment.from), pixelOf(segment.to)});
         drawPart(segment.selected ? SliderGroove::SELECTED : SliderGroove::NORMAL, from, to + 1);
     }
-    for (const Segment& segment : qAsConst(segments)) {
+    for (const Segment& segment : std::as_const(segments)) {
         for (const int pixel : {pixelOf(segment.from), pixelOf(segment.to)})
             drawPart(SliderGroove::BORDER, pixel, pixel + 1);
     }

@@ -65,7 +65,7 @@ protected:
     void mousePressEvent(QMouseEvent* event) override
     {
         // A press outside closes the pop-up and is replayed to the widget there. The button would open it again.
-        setAttribute(Qt::WA_NoMouseReplay, OnScreen(button).contains(event->globalPos()));
+        setAttribute(Qt::WA_NoMouseReplay, OnScreen(button).contains(mapToGlobal(event->pos())));
         QFrame::mousePressEvent(event);
     }
 

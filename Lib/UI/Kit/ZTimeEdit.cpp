@@ -163,7 +163,7 @@ void ZTimeEdit::stepBy(int steps)
     default:
         break;
     }
-    const qint64 stepped = qBound<qint64>(0, time().msecsSinceStartOfDay() + size * steps, LAST_MILLISECOND);
+    const qint64 stepped = std::clamp<qint64>(time().msecsSinceStartOfDay() + size * steps, 0, LAST_MILLISECOND);
     const QPointer<ZTimeEdit> self(this);
     setTimeClamped(QTime::fromMSecsSinceStartOfDay(int(stepped)));
     if (self)

@@ -13,6 +13,7 @@
 #include <QVector>
 
 #include <algorithm>
+#include <utility>
 
 namespace Zelkor::Vx {
 
@@ -192,7 +193,7 @@ void ButtonWithPopUpList::Clear()
 {
     if (impl->menu)
         impl->menu->clear();
-    for (const Impl::Item& item : qAsConst(impl->items))
+    for (const Impl::Item& item : std::as_const(impl->items))
         item.action->deleteLater();
     impl->items.clear();
     impl->orphanedSeparators.clear();

@@ -107,18 +107,23 @@ QString ShownTitle(const QWidget* window)
     for (auto places = PLACES.globalMatch(title); places.hasNext();) {
         const QRegularExpressionMatch place = places.next();
         const int count = place.capturedLength() / PLACE_LENGTH;
-        shown += title.midRef(end, place.capturedStart() - end);
-        shown += place.capturedRef().left(count / 2 * PLACE_LENGTH);
+        shown += title.mid(end, place.capturedStart() - end);
+        shown += place.captured().left(count / 2 * PLACE_LENGTH);
         if (count % 2 == 1 && isMarked)
             shown += QLatin1Char('*');
         end = place.capturedEnd();
     }
-    return shown + title.midRef(end);
+    return shown + title.mid(end);
 }
 
 // Returns a pixmap that is `edge` logical pixels wide, or less if the icon is smaller.
 QPixmap MakePixmap(const QIcon& icon, int edge, qreal ratio, QWindow* window)
 {
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+    Q_UNUSED(window)
+    const int side = qRound(qBound(0.0, qreal(edge), MAXIMUM_ICON_PIXELS / ratio));
+    return icon.pixmap(QSize(side, side), ratio);
+#else
     // With this attribute, QIcon takes logical pixels.
     if (QCoreApplication::testAttribute(Qt::AA_UseHighDpiPixmaps))
         ratio = 1;
@@ -127,6 +132,7 @@ QPixmap MakePixmap(const QIcon& icon, int edge, qreal ratio, QWindow* window)
     if (ratio > 1 && !pixmap.isNull())
         pixmap.setDevicePixelRatio(qMax(1.0, qMax(pixmap.width(), pixmap.height()) / qreal(edge)));
     return pixmap;
+#endif
 }
 
 QList<QWidget*> DragHandles(QWidget* bar, QWidget* contentFrame)

@@ -2,11 +2,11 @@
 
 #include <UI/Common/BoxLayouts.h>
 #include <UI/Common/LogSource.h>
+#include <UI/Common/ScreenOf.h>
 
 #include <QAbstractButton>
 #include <QAccessible>
 #include <QApplication>
-#include <QDesktopWidget>
 #include <QMouseEvent>
 #include <QPointer>
 #include <QSignalBlocker>
@@ -20,13 +20,13 @@ const Common::LogSource LOG_SOURCE("Lib/UI/Widgets/ButtonWithPopUpContainer");
 // Uses the whole screen, since a pop-up may cover task bars.
 QPoint GetBestPopupPosition(const QWidget* popup, const QWidget* button, const QPoint& point)
 {
-    const QRect screen = QApplication::desktop()->screenGeometry(button);
-    if (!screen.isValid()) {
+    const QScreen* screen = Common::ScreenOf(*button);
+    if (!screen || !screen->geometry().isValid()) {
         LOG_SOURCE.Warning(45, "Zelkor::Vx::UI::`anonymous-namespace'::GetBestPopupPosition",
                            "availableGeometry is not valid");
         return point;
     }
-    return PopUpPlacement::FitToScreen(screen, popup->size(), point);
+    return PopUpPlacement::FitToScreen(screen->geometry(), popup->size(), point);
 }
 
 // Returns the widget or the first of its children, in tab order, that accepts keyboard focus.
@@ -192,7 +192,7 @@ void PopUpWindow::showEvent(QShowEvent* event)
 void PopUpWindow::mousePressEvent(QMouseEvent* event)
 {
     // A press outside closes the pop-up and is then replayed to the widget below. The button would open it again.
-    setAttribute(Qt::WA_NoMouseReplay, button && ButtonRect().contains(event->globalPos()));
+    setAttribute(Qt::WA_NoMouseReplay, button && ButtonRect().contains(mapToGlobal(event->pos())));
     ZFrame::mousePressEvent(event);
 }
 

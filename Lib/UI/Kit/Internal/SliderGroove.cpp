@@ -42,7 +42,7 @@ bool KeepsInsideOfRule(const QString& text)
                 quote = QChar();
         } else if (character == QLatin1Char('"') || character == QLatin1Char('\'')) {
             quote = character;
-        } else if (character == QLatin1Char('/') && text.midRef(i + 1, 1) == QLatin1String("*")) {
+        } else if (character == QLatin1Char('/') && QStringView(text).mid(i + 1, 1) == QLatin1String("*")) {
             const int end = text.indexOf(QLatin1String("*/"), i + 2);
             if (end < 0)
                 return false;

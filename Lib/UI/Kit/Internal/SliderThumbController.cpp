@@ -66,10 +66,10 @@ void SliderThumbController::handleToggled(ZSliderThumb* thumb, bool on)
     }
     selected = thumb;
     QVector<QPointer<ZSliderThumb>> others;
-    for (ZSliderThumb* other : qAsConst(byName))
+    for (ZSliderThumb* other : std::as_const(byName))
         others.append(other);
     const QPointer<QSlider> guard(&slider);
-    for (const QPointer<ZSliderThumb>& other : qAsConst(others)) {
+    for (const QPointer<ZSliderThumb>& other : std::as_const(others)) {
         if (guard && other && other != selected)
             other->check(false);
     }
@@ -108,7 +108,7 @@ void SliderThumbController::synchronise(Follower follower, int value)
 
 void SliderThumbController::updateThumbs()
 {
-    for (ZSliderThumb* thumb : qAsConst(byName)) {
+    for (ZSliderThumb* thumb : std::as_const(byName)) {
         const QSignalBlocker blocker(thumb);
         thumb->setValue(thumb->value());
     }
@@ -130,7 +130,7 @@ void SliderThumbController::setZOrder(ZSliderThumb& thumb, int order)
 
 void SliderThumbController::restack()
 {
-    for (ZSliderThumb* thumb : qAsConst(stacking))
+    for (ZSliderThumb* thumb : std::as_const(stacking))
         thumb->raise();
 }
 

@@ -18,7 +18,7 @@ constexpr ushort FRAME_END = 0xfdd1;
 
 struct Line
 {
-    QStringRef text;
+    QStringView text;
     QString end; ///< empty for the last line
 };
 
@@ -33,11 +33,11 @@ QVector<Line> Split(const QString& text)
             letter != FRAME_BEGIN && letter != FRAME_END)
             continue;
         const bool isPair = letter == CARRIAGE_RETURN && i + 1 < text.size() && text[i + 1] == QChar(NEW_LINE);
-        lines.append({text.midRef(start, i - start), text.mid(i, isPair ? 2 : 1)});
+        lines.append({QStringView(text).mid(start, i - start), text.mid(i, isPair ? 2 : 1)});
         i += isPair;
         start = i + 1;
     }
-    lines.append({text.midRef(start), QString()});
+    lines.append({QStringView(text).mid(start), QString()});
     return lines;
 }
 
@@ -63,7 +63,7 @@ QString Restore(const QString& original, const QString& raw)
     for (int i = 0; i + 1 < now.size(); ++i) {
         Line& line = now[i];
         const auto from = before.begin() + next;
-        const auto to = before.begin() + std::min(before.size(), next + REACH);
+        const auto to = before.begin() + std::min(int(before.size()), next + REACH);
         auto same = std::find_if(from, to, [&](const Line& other) { return other.text == line.text; });
         if (same != from && to - from > 1 && from[1].text == now[i + 1].text)
             same = from; // edited in place
@@ -75,7 +75,7 @@ QString Restore(const QString& original, const QString& raw)
     QString text;
     text.reserve(raw.size());
     for (const Line& line : std::as_const(now))
-        text += line.text + line.end;
+        text.append(line.text.data(), int(line.text.size())).append(line.end);
     return text;
 }
 

@@ -310,7 +310,7 @@ private:
         const QString text = textAt(index - 1);
         if (token.kind == Kind::FUNCTION)
             return arguments(token);
-        if (token.kind == Kind::HASH && !QColor::isValidColor(text)) {
+        if (token.kind == Kind::HASH && !QColor(text).isValid()) {
             report(Problem::BAD_COLOR, token.start);
             return false;
         }

@@ -70,16 +70,16 @@ void StyleSheetEditorUi::makeCommands(QWidget* window, QMenuBar* bar)
     fileMenu = bar->addMenu(QString());
     open = MakeAction(window, fileMenu, {QKeySequence::Open});
     save = MakeAction(window, fileMenu, {QKeySequence::Save});
-    saveAs = MakeAction(window, fileMenu, {Qt::CTRL + Qt::SHIFT + Qt::Key_S});
+    saveAs = MakeAction(window, fileMenu, {Qt::CTRL | Qt::SHIFT | Qt::Key_S});
     editMenu = bar->addMenu(QString());
-    find = MakeAction(window, editMenu, {Qt::CTRL + Qt::Key_F, Qt::CTRL + Qt::Key_H});
+    find = MakeAction(window, editMenu, {Qt::CTRL | Qt::Key_F, Qt::CTRL | Qt::Key_H});
     findNext = MakeAction(window, editMenu, {Qt::Key_F3});
-    findPrevious = MakeAction(window, editMenu, {Qt::SHIFT + Qt::Key_F3});
+    findPrevious = MakeAction(window, editMenu, {Qt::SHIFT | Qt::Key_F3});
     nextMistake = MakeAction(window, editMenu, {Qt::Key_F8});
-    complete = MakeAction(window, editMenu, {Qt::CTRL + Qt::Key_Space});
+    complete = MakeAction(window, editMenu, {Qt::CTRL | Qt::Key_Space});
     sheetMenu = bar->addMenu(QString());
-    apply = MakeAction(window, sheetMenu, {Qt::CTRL + Qt::Key_Return, Qt::CTRL + Qt::Key_Enter});
-    revert = MakeAction(window, sheetMenu, {Qt::CTRL + Qt::SHIFT + Qt::Key_R});
+    apply = MakeAction(window, sheetMenu, {Qt::CTRL | Qt::Key_Return, Qt::CTRL | Qt::Key_Enter});
+    revert = MakeAction(window, sheetMenu, {Qt::CTRL | Qt::SHIFT | Qt::Key_R});
     read = MakeAction(window, sheetMenu, {Qt::Key_F5});
     pick = MakeAction(window, sheetMenu, {Qt::Key_F6});
 }

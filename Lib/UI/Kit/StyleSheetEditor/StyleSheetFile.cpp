@@ -4,7 +4,6 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
-#include <QTextCodec>
 
 #ifdef Q_OS_UNIX
 #include <fcntl.h>
@@ -15,7 +14,7 @@ namespace Zelkor::Vx::UI::Kit::StyleSheetFile {
 namespace {
 
 constexpr qint64 LARGEST_SIZE = 16 * 1024 * 1024; ///< bytes
-constexpr int UTF_8 = 106;                        ///< MIB of the codec
+const char BYTE_ORDER_MARK[] = "\xef\xbb\xbf";
 
 const char CONTEXT[] = "StyleSheetFile";
 const char NOT_READ[] = QT_TRANSLATE_NOOP("StyleSheetFile", "%1 cannot be read: %2.");
@@ -29,6 +28,11 @@ bool IsSpecial(const QString& fileName)
 {
     const QFileInfo info(fileName);
     return info.exists() && !info.isFile();
+}
+
+QByteArray Encode(const Contents& contents)
+{
+    return (contents.hasByteOrderMark ? BYTE_ORDER_MARK : "") + contents.text.toUtf8();
 }
 
 // On a full disk, write() first succeeds partially and fails with the next call, which a buffered file does not make.
@@ -73,13 +77,11 @@ std::optional<Contents> Read(const QString& fileName, Error& error)
         return fail(NOT_READ, file.errorString());
     if (bytes.size() > LARGEST_SIZE)
         return fail(TOO_LARGE);
-    QTextCodec::ConverterState state(QTextCodec::IgnoreHeader);
-    Contents contents{QTextCodec::codecForMib(UTF_8)->toUnicode(bytes.constData(), bytes.size(), &state)};
+    // Skips the byte order mark.
+    const Contents contents{QString::fromUtf8(bytes), bytes.startsWith(BYTE_ORDER_MARK)};
     // Saving would lose bytes that could not be decoded.
-    if (state.invalidChars > 0 || state.remainingChars > 0 || contents.text.contains(QChar::Null))
+    if (Encode(contents) != bytes || contents.text.contains(QChar::Null))
         return fail(NOT_UTF_8);
-    contents.hasByteOrderMark = contents.text.startsWith(QChar::ByteOrderMark);
-    contents.text.remove(0, contents.hasByteOrderMark ? 1 : 0);
     return contents;
 }
 
@@ -91,9 +93,7 @@ bool Write(const QString& fileName, const Contents& contents, Error& error)
         return false;
     }
     QSaveFile file(fileName);
-    const QString mark = contents.hasByteOrderMark ? QString(QChar::ByteOrderMark) : QString();
-    const QByteArray bytes = (mark + contents.text).toUtf8();
-    if (file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) && WriteAll(file, bytes) && file.commit())
+    if (file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) && WriteAll(file, Encode(contents)) && file.commit())
         return true;
     error = {NOT_WRITTEN, fileName, file.errorString()};
     return false;

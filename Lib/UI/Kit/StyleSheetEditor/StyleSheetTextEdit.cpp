@@ -49,7 +49,7 @@ void StyleSheetTextEdit::check()
 void StyleSheetTextEdit::markMistakes()
 {
     QVector<Mark> marks;
-    for (int i = 0; i < std::min(found.size(), MAXIMUM_MARKS); ++i)
+    for (int i = 0; i < std::min(int(found.size()), MAXIMUM_MARKS); ++i)
         marks.append({found[i].position, StyleSheetChecker::Describe(found[i].problem)});
     setMarks(marks);
 }

@@ -36,7 +36,7 @@ public:
             isClosed = true;
             const Kind kind = inComment ? comment() : next();
             inComment = false;
-            position = std::min(position, text.size());
+            position = std::min(position, int(text.size()));
             tokens.append({kind, start, position - start, isClosed});
         }
         return tokens;
