@@ -1,6 +1,7 @@
 #include "Application.h"
 #include "Options.h"
 
+#include <Examples/Support/HighDpi.h>
 #include <Examples/Support/Offscreen.h>
 #include <Examples/Support/PictureOptions.h>
 
@@ -87,8 +88,7 @@ int main(int argc, char* argv[])
         GoWithoutDisplay(options);
     if (options.scale != 1)
         qputenv("QT_SCALE_FACTOR", QByteArray::number(options.scale));
-    QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
-    QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    Zelkor::Examples::EnableHighDpiScaling();
     // QApplication would remove our option --style, because Qt has one of that name.
     int programOnly = 1;
     QApplication qtApplication(programOnly, argv);

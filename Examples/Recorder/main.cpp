@@ -5,6 +5,7 @@
 #include "TrimPage.h"
 
 #include <Examples/Support/Appearance.h>
+#include <Examples/Support/HighDpi.h>
 #include <Examples/Support/Offscreen.h>
 #include <Examples/Support/PictureOptions.h>
 #include <Examples/Support/ScreenFit.h>
@@ -110,8 +111,7 @@ int WritePicture(QWidget& window, const QString& file)
 
 int main(int argc, char* argv[])
 {
-    QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
-    QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    Zelkor::Examples::EnableHighDpiScaling();
     QStringList arguments;
     for (int i = 0; i < argc; ++i)
         arguments.append(QString::fromLocal8Bit(argv[i]));
