@@ -7,8 +7,26 @@ option(VX_BUILD_TESTS "Build the tests" ON)
 option(VX_BUILD_BENCHMARKS "Build the benchmarks" ON)
 option(VX_WITH_GSTREAMER "Capture from cameras and the screen by GStreamer; without it there is only the test picture" ON)
 option(VX_WARNINGS_AS_ERRORS "Stop at the first warning" OFF)
+set(VX_QT_VERSION 5 CACHE STRING "Major version of Qt: 5 or 6")
+set_property(CACHE VX_QT_VERSION PROPERTY STRINGS 5 6)
 set(VX_SANITIZE "" CACHE STRING "Sanitizers, as -fsanitize takes them: 'address,undefined' or 'thread'")
 set(VX_HOST_PACKAGE "" CACHE STRING "CMake package that provides VxUiWidgets::Host instead of the stand-in")
+
+# The libraries for Qt 6 are installed beside those for Qt 5: this suffix is part of each installed name that both have.
+if(VX_QT_VERSION EQUAL 5)
+  set(VX_QT_MINIMUM 5.15)
+  set(VX_QT_SUFFIX "")
+elseif(VX_QT_VERSION EQUAL 6)
+  set(VX_QT_MINIMUM 6.4)
+  set(VX_QT_SUFFIX -qt6)
+else()
+  message(FATAL_ERROR "VX_QT_VERSION is '${VX_QT_VERSION}'; it must be 5 or 6")
+endif()
+
+if(PROJECT_IS_TOP_LEVEL AND EXISTS /etc/debian_version AND CMAKE_LIBRARY_ARCHITECTURE AND NOT CMAKE_CROSSCOMPILING)
+  # GNUInstallDirs does this for the prefix /usr only, but packages are built with any prefix. Qt 6 includes it.
+  set(CMAKE_INSTALL_LIBDIR lib/${CMAKE_LIBRARY_ARCHITECTURE} CACHE PATH "Folder of the libraries")
+endif()
 
 set(CMAKE_CXX_STANDARD 17)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)

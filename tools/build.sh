@@ -13,7 +13,10 @@ build() {
     local preset=$1 needs=() settings=()
     shift
     sdk=
-    [ "$preset" != windows ] || needs=(--windows)
+    case $preset in
+    windows) needs=(--windows) ;;
+    *-qt6) needs=(--qt6) ;;
+    esac
     step "Checking for required packages"
     "$root/tools/install-deps" "${needs[@]}" || fail "required packages are missing, see above"
     if [ "$preset" = windows ]; then

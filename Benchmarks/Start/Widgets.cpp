@@ -1,7 +1,7 @@
 // Constructs each exported class once and exits: the start-up cost with the library. With --bases it prints their Qt
 // base classes instead.
 
-#include <StartIncludes.h>
+#include <ExportedClasses.h>
 
 #include <QAction>
 #include <QApplication>
@@ -49,7 +49,7 @@ int main(int argc, char* argv[])
 {
     if (argc == 2 && std::strcmp(argv[1], "--bases") == 0) {
 #define X(Class) PrintBase<Class>();
-#include <StartList.h>
+#include <ExportedClassList.h>
 #undef X
         return EXIT_SUCCESS;
     }
@@ -57,7 +57,7 @@ int main(int argc, char* argv[])
     QWidget window;
     new QVBoxLayout(&window);
 #define X(Class) Make<Class>(&window);
-#include <StartList.h>
+#include <ExportedClassList.h>
 #undef X
     std::_Exit(EXIT_SUCCESS);
 }

@@ -9,12 +9,21 @@ namespace Zelkor::Examples {
 
 namespace {
 
+QString QtTranslationFolder()
+{
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+    return QLibraryInfo::path(QLibraryInfo::TranslationsPath);
+#else
+    return QLibraryInfo::location(QLibraryInfo::TranslationsPath);
+#endif
+}
+
 // The build folder, the installed tree and the folder of Qt's translations.
 QStringList TranslationFolders()
 {
     const QDir program(QApplication::applicationDirPath());
-    return {program.filePath("../Translations"), program.filePath("../share/VxUiWidgets/Translations"),
-            QLibraryInfo::location(QLibraryInfo::TranslationsPath)};
+    return {program.filePath("../Translations"), program.filePath("../" VX_DATA_FOLDER "/Translations"),
+            QtTranslationFolder()};
 }
 
 std::unique_ptr<QTranslator> Load(const QString& file)

@@ -3,6 +3,7 @@
 #include <Catalogue/Catalogue.h>
 #include <Examples/Support/BuiltInStyleSheets.h>
 
+#include <Support/Input.h>
 #include <Support/LeakCheck.h>
 
 #include <QMetaProperty>
@@ -64,7 +65,7 @@ public:
     void Show()
     {
         window->show();
-        QApplication::setActiveWindow(window);
+        Support::SetActiveWindow(window);
         // qWaitForWindowActive() would sleep for most of the test.
         QCoreApplication::processEvents();
         QVERIFY(window->isActiveWindow());
@@ -81,7 +82,7 @@ public:
         window->setFocus();
         window->show();
         Settle();
-        QApplication::setActiveWindow(nullptr);
+        Support::SetActiveWindow(nullptr);
     }
 
     /// The visible, enabled parts of the widget with the focus policy Qt::TabFocus, without focus proxies.

@@ -24,10 +24,10 @@ add_dependencies(tst_CatalogueChanges VxTranslations)
 target_compile_definitions(tst_CatalogueChanges PRIVATE VX_TRANSLATIONS="${CMAKE_BINARY_DIR}/Translations")
 
 # Only the platform plugin can activate accessibility; the headers for that are private.
-find_package(Qt5 5.15 REQUIRED COMPONENTS Gui)
+find_package(Qt${VX_QT_VERSION} REQUIRED COMPONENTS Gui)
 vx_test(Catalogue/tst_CatalogueAccessibility.cpp LIBRARIES VxCatalogue)
-if(TARGET Qt5::GuiPrivate)
-  target_link_libraries(tst_CatalogueAccessibility PRIVATE Qt5::GuiPrivate)
+if(TARGET Qt${VX_QT_VERSION}::GuiPrivate)
+  target_link_libraries(tst_CatalogueAccessibility PRIVATE Qt${VX_QT_VERSION}::GuiPrivate)
   target_compile_definitions(tst_CatalogueAccessibility PRIVATE VX_WITH_QT_PRIVATE)
 endif()
 
@@ -41,7 +41,7 @@ add_custom_command(
   COMMAND ${CMAKE_COMMAND} -E make_directory ${form}
   COMMAND ${CMAKE_COMMAND} -E env QT_QPA_PLATFORM=offscreen ${VX_TEST_ENVIRONMENT} ${CMAKE_CROSSCOMPILING_EMULATOR}
           $<TARGET_FILE:VxFormWriter> ${form}/FormOfAll.ui
-  COMMAND Qt5::uic -o ${form}/ui_FormOfAll.h ${form}/FormOfAll.ui
+  COMMAND Qt${VX_QT_VERSION}::uic -o ${form}/ui_FormOfAll.h ${form}/FormOfAll.ui
   DEPENDS VxFormWriter VERBATIM)
 vx_test(Catalogue/tst_CatalogueParents.cpp SOURCES ${form}/ui_FormOfAll.h LIBRARIES VxGalleryWindows)
 set_source_files_properties(${form}/ui_FormOfAll.h PROPERTIES SKIP_AUTOGEN ON)

@@ -158,7 +158,7 @@ QString Difference(EntryWindow& changed, EntryWindow& made, qreal pixelRatio)
     const bool isAlike = QTest::qWaitFor(
         [&] {
             Settle();
-            QApplication::setActiveWindow(nullptr);
+            Support::SetActiveWindow(nullptr);
             difference = DifferenceNow(changed, made, pixelRatio);
             return difference.isEmpty();
         },

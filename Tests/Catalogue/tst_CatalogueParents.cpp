@@ -125,7 +125,7 @@ void Show(QWidget& window, const OpenFunction& open)
 {
     window.resize(WINDOW_SIZE);
     window.show();
-    QApplication::setActiveWindow(&window);
+    Support::SetActiveWindow(&window);
     open();
     QCoreApplication::processEvents();
 }
@@ -198,7 +198,7 @@ private Q_SLOTS:
         auto* spare = spareWindow.findChild<QWidget*>(name);
         spare->setFixedSize(widget->size());
         const EmittedSignals expected = OperateIn(CONTAINERS[0], spare);
-        QApplication::setActiveWindow(&window);
+        Support::SetActiveWindow(&window);
         Compare(Operator(widget, open).Operate(), expected);
     }
 

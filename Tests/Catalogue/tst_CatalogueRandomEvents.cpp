@@ -94,7 +94,7 @@ private:
             [&] { (Below(8) ? widget : scene.window.data())->setVisible(Below(8)); },
             [&] { widget->setLayoutDirection(Below(2) ? Qt::LeftToRight : Qt::RightToLeft); },
             [&] { Part()->setFocus(Below(2) ? Qt::TabFocusReason : Qt::MouseFocusReason); },
-            [&] { QApplication::setActiveWindow(Below(3) ? scene.window.data() : nullptr); },
+            [&] { Support::SetActiveWindow(Below(3) ? scene.window.data() : nullptr); },
             Settle,
         };
         Pick(changes)();

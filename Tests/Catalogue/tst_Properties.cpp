@@ -33,7 +33,8 @@ QString NameOf(const QMetaProperty& property)
 // Of QWidget's properties only those that change the geometry of parts, and none for which Qt checks the range.
 bool IsTested(const QMetaProperty& property)
 {
-    static const QRegularExpression CHECKED_BY_QT("^(QComboBox::max.*|QSpinBox::displayIntegerBase)$");
+    static const QRegularExpression CHECKED_BY_QT(
+        "^(QComboBox::max.*|QSpinBox::displayIntegerBase|QDateTimeEdit::timeSpec)$");
     static const QRegularExpression GEOMETRY("^QWidget::(.*Size.*|layoutDirection)$");
     const QString name = NameOf(property);
     return name.startsWith("QWidget::") ? name.contains(GEOMETRY) : !name.contains(CHECKED_BY_QT);

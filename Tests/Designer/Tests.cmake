@@ -3,8 +3,8 @@ if(NOT TARGET VxUiWidgetsDesigner)
   return()
 endif()
 
-find_package(Qt5 5.15 REQUIRED COMPONENTS Designer)
-vx_test(Designer/tst_DesignerPlugin.cpp LIBRARIES VxCatalogue Qt5::Designer)
+find_package(Qt${VX_QT_VERSION} REQUIRED COMPONENTS Designer)
+vx_test(Designer/tst_DesignerPlugin.cpp LIBRARIES VxCatalogue Qt${VX_QT_VERSION}::Designer)
 add_dependencies(tst_DesignerPlugin VxUiWidgetsDesigner)
 target_compile_definitions(
   tst_DesignerPlugin PRIVATE VX_PLUGIN="$<TARGET_FILE:VxUiWidgetsDesigner>"

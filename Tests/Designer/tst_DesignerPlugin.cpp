@@ -98,8 +98,9 @@ private Q_SLOTS:
         QStringList written;
         for (int i = 0; i < meta->propertyCount(); ++i) {
             const QMetaProperty property = meta->property(i);
-            // QFormBuilder does not save flags.
-            if (!IsOurs(property) || !property.isDesignable(widget.get()) || property.isFlagType())
+            // QFormBuilder does not save flags, and since Qt 6 no enumerations.
+            const bool isSaved = QT_VERSION_MAJOR < 6 ? !property.isFlagType() : !property.isEnumType();
+            if (!IsOurs(property) || !property.isDesignable() || !isSaved)
                 continue;
             const QVariant other = OtherValue(property, property.read(widget.get()));
             if (other.isValid() && property.write(widget.get(), other))

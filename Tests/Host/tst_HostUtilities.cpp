@@ -128,7 +128,7 @@ private Q_SLOTS:
         App::AboutBoxDialog dialog("A <b>product", "1.2 (34)", "(c) Example & Co", nullptr);
         dialog.show();
         QCOMPARE(dialog.findChild<QLabel*>("productLabel")->textFormat(), Qt::PlainText);
-        QMouseEvent press(QEvent::MouseButtonPress, {1, 1}, Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+        QMouseEvent press(QEvent::MouseButtonPress, {1, 1}, {1, 1}, Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
         press.ignore();
         QCoreApplication::sendEvent(&dialog, &press);
         QVERIFY(press.isAccepted());

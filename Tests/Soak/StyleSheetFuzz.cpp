@@ -108,7 +108,7 @@ int main(int argc, char* argv[])
         rejected += !isAccepted;
         if (editor.isAccepted() != isAccepted || (!isAccepted && editor.marks().isEmpty())) {
             std::printf("run %d: Qt %s, the editor %s with %d marks:\n%s\n", i, isAccepted ? "accepts" : "rejects",
-                        editor.isAccepted() ? "accepts" : "rejects", editor.marks().size(), qPrintable(sheet));
+                        editor.isAccepted() ? "accepts" : "rejects", int(editor.marks().size()), qPrintable(sheet));
             return EXIT_FAILURE;
         }
     }

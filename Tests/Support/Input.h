@@ -1,12 +1,21 @@
 #pragma once
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QMouseEvent>
 #include <QWheelEvent>
 #include <QWidget>
 #include <QtTest>
 
 namespace Support {
+
+/// Activates a window, or none, without a window system. Since Qt 6.5 the function is deprecated for applications.
+inline void SetActiveWindow(QWidget* window)
+{
+    QT_WARNING_PUSH
+    QT_WARNING_DISABLE_DEPRECATED
+    QApplication::setActiveWindow(window);
+    QT_WARNING_POP
+}
 
 /// Shows a window, activates it and waits until it is active.
 inline void ShowActive(QWidget& window)

@@ -44,13 +44,22 @@ void SetPressed(int button, bool isPressed)
 #endif
 }
 
+QPoint GlobalPosition(const QMouseEvent& event)
+{
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+    return event.globalPosition().toPoint();
+#else
+    return event.globalPos();
+#endif
+}
+
 // Records the position of the last mouse move event in this process.
 struct PointerWatch
 {
     QPoint seen;
     EventSpy watch{qApp, [this](QEvent::Type type, QEvent* event) {
                        if (type == QEvent::MouseMove)
-                           seen = static_cast<QMouseEvent*>(event)->globalPos();
+                           seen = GlobalPosition(*static_cast<QMouseEvent*>(event));
                    }};
 };
 

@@ -14,12 +14,21 @@ class UrlHandlerStub : public QObject
 public:
     UrlHandlerStub()
     {
-        for (const char* scheme : {"http", "https", "mailto", "file"})
-            QDesktopServices::setUrlHandler(scheme, this, "Ignore"); // until this object is destroyed
+        for (const char* scheme : SCHEMES)
+            QDesktopServices::setUrlHandler(scheme, this, "Ignore");
+    }
+
+    ~UrlHandlerStub() override
+    {
+        for (const char* scheme : SCHEMES)
+            QDesktopServices::unsetUrlHandler(scheme);
     }
 
 private Q_SLOTS:
     void Ignore(const QUrl&) {}
+
+private:
+    static constexpr const char* SCHEMES[] = {"http", "https", "mailto", "file"};
 };
 
 } // namespace Support

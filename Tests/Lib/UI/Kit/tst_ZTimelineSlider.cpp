@@ -133,7 +133,7 @@ private Q_SLOTS:
         // A dragged thumb grabs the mouse.
         ZSliderThumb* thumb = slider.defaultThumb();
         QTest::mousePress(thumb, Qt::LeftButton, {}, {7, 7});
-        Support::MoveMouse(thumb, thumb->mapFromParent({56, 7}));
+        Support::MoveMouse(thumb, thumb->mapFromParent(QPoint(56, 7)));
         QCOMPARE(QToolTip::text(), QString("06:30:00"));
         QTest::mouseRelease(thumb, Qt::LeftButton, {}, {7, 7});
         slider.setBounds(20000, 23000);

@@ -39,7 +39,10 @@ class tst_ButtonWithPopUpContainer : public Support::TestCase
         return button.findChild<QWidget*>("popUpWindow");
     }
 
-    static QPoint Below(const ButtonWithPopUpContainer& button) { return button.mapToGlobal({0, button.height()}); }
+    static QPoint Below(const ButtonWithPopUpContainer& button)
+    {
+        return button.mapToGlobal(QPoint(0, button.height()));
+    }
 
 private Q_SLOTS:
     void growsFromItsAnchor_data()

@@ -23,7 +23,7 @@ private Q_SLOTS:
         button.AppendWidget(content);
         const auto* popUp = button.findChild<QWidget*>("popUpWindow");
         const auto clickButton = [&](bool opens) {
-            Click(window.mapToGlobal({20, 10}));
+            Click(window.mapToGlobal(QPoint(20, 10)));
             QTRY_COMPARE(button.isChecked(), opens);
             QCOMPARE(popUp->isVisible(), opens);
         };

@@ -1,0 +1,17 @@
+# vx_exported_classes(FOLDER): writes ExportedClasses.h, which includes the headers of all exported classes, and
+# ExportedClassList.h, which contains X(class) for each. The classes are taken from the list of exported symbols.
+function(vx_exported_classes folder)
+  set(symbol_list ${PROJECT_SOURCE_DIR}/Tests/exported-symbols.txt)
+  set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${symbol_list})
+  file(STRINGS ${symbol_list} meta_objects REGEX "::staticMetaObject$")
+  set(includes "#pragma once\n")
+  set(list "")
+  foreach(meta_object IN LISTS meta_objects)
+    string(REGEX REPLACE "::staticMetaObject$" "" class ${meta_object})
+    string(REGEX REPLACE ".*::" "" header ${class})
+    string(APPEND includes "#include <UI/Widgets/${header}.h>\n")
+    string(APPEND list "X(${class})\n")
+  endforeach()
+  file(CONFIGURE OUTPUT ${folder}/ExportedClasses.h CONTENT "${includes}")
+  file(CONFIGURE OUTPUT ${folder}/ExportedClassList.h CONTENT "${list}")
+endfunction()
