@@ -129,7 +129,9 @@ QStringList Application::LookArguments() const
 
 void Application::StartRecorder()
 {
-    const QString program = QDir(QApplication::applicationDirPath()).filePath("VxRecorder");
+    // The name of the recorder ends as that of the gallery does.
+    const QFileInfo gallery(QApplication::applicationFilePath());
+    const QString program = gallery.dir().filePath(gallery.fileName().replace("VxGallery", "VxRecorder"));
     if (!QProcess::startDetached(program, LookArguments()))
         PrintError(QString("cannot start '%1'").arg(program));
 }

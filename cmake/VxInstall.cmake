@@ -3,20 +3,18 @@
 #
 # Installed files use relative paths only, so that an installed tree can be moved.
 
-if(EXISTS /etc/debian_version AND CMAKE_LIBRARY_ARCHITECTURE AND NOT CMAKE_CROSSCOMPILING)
-  # GNUInstallDirs does this for the prefix /usr only, but packages are built with any prefix.
-  set(CMAKE_INSTALL_LIBDIR lib/${CMAKE_LIBRARY_ARCHITECTURE} CACHE PATH "Folder of the libraries")
-endif()
 include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
 
-set(data_folder ${CMAKE_INSTALL_DATADIR}/VxUiWidgets)
-set(header_folder ${CMAKE_INSTALL_INCLUDEDIR}/VxUiWidgets)
-set(package_folder ${CMAKE_INSTALL_LIBDIR}/cmake/VxUiWidgets)
+set(package_name VxUiWidgets${VX_QT_SUFFIX})
+set(kit_package_name VxUiWidgetsKit${VX_QT_SUFFIX})
+set(data_folder ${CMAKE_INSTALL_DATADIR}/${package_name})
+set(header_folder ${CMAKE_INSTALL_INCLUDEDIR}/${package_name})
+set(package_folder ${CMAKE_INSTALL_LIBDIR}/cmake/${package_name})
 if(WIN32)
   set(qt_plugin_folder plugins)
 else()
-  set(qt_plugin_folder ${CMAKE_INSTALL_LIBDIR}/qt5/plugins)
+  set(qt_plugin_folder ${CMAKE_INSTALL_LIBDIR}/qt${VX_QT_VERSION}/plugins)
 endif()
 set(VX_INSTALL_QTPLUGINDIR ${qt_plugin_folder} CACHE PATH "Qt's plugin folder, below the prefix")
 
@@ -27,13 +25,19 @@ function(vx_find_libraries_from target folder)
   set_target_properties(${target} PROPERTIES INSTALL_RPATH "${path}")
 endfunction()
 
+foreach(target VxUiWidgets VxHost VxUiKit VxStyles VxGallery VxRecorder)
+  if(TARGET ${target})
+    set_target_properties(${target} PROPERTIES OUTPUT_NAME ${target}${VX_QT_SUFFIX})
+  endif()
+endforeach()
+
 set(libraries VxUiWidgets)
 set(host_dependency "find_dependency(${VX_HOST_PACKAGE})")
 set(host_library "")
 if(TARGET VxHost)
   list(APPEND libraries VxHost)
   set(host_dependency "find_dependency(Boost 1.74)")
-  set(host_library " -lVxHost")
+  set(host_library " -lVxHost${VX_QT_SUFFIX}")
   install(DIRECTORY Host/include/ Host/StandIn/include/ DESTINATION ${header_folder} COMPONENT development
           FILES_MATCHING PATTERN "*.h")
 endif()
@@ -68,11 +72,10 @@ set(header_destination \"\${CMAKE_INSTALL_PREFIX}/${header_folder}\")" COMPONENT
 install(SCRIPT cmake/InstallHeaders.cmake COMPONENT development)
 
 set(generated ${PROJECT_BINARY_DIR}/package)
-configure_package_config_file(cmake/VxUiWidgetsConfig.cmake.in ${generated}/VxUiWidgetsConfig.cmake
+configure_package_config_file(cmake/VxUiWidgetsConfig.cmake.in ${generated}/${package_name}Config.cmake
                               INSTALL_DESTINATION ${package_folder} NO_SET_AND_CHECK_MACRO)
-write_basic_package_version_file(${generated}/VxUiWidgetsConfigVersion.cmake COMPATIBILITY SameMajorVersion)
-install(FILES ${generated}/VxUiWidgetsConfig.cmake ${generated}/VxUiWidgetsConfigVersion.cmake
-        DESTINATION ${package_folder} COMPONENT development)
+write_basic_package_version_file(${generated}/${package_name}ConfigVersion.cmake COMPATIBILITY SameMajorVersion)
+install(FILES ${generated}/${package_name}Config.cmake ${generated}/${package_name}ConfigVersion.cmake DESTINATION ${package_folder} COMPONENT development)
 foreach(export VxUiWidgetsTargets VxUiWidgetsKitTargets VxUiWidgetsStylesTargets)
   install(EXPORT ${export} NAMESPACE VxUiWidgets:: DESTINATION ${package_folder} COMPONENT development)
 endforeach()
@@ -80,9 +83,9 @@ endforeach()
 set(pkgconfig_folder ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
 file(RELATIVE_PATH path_to_prefix "/${pkgconfig_folder}" "/")
 string(REGEX REPLACE "/$" "" path_to_prefix ${path_to_prefix})
-foreach(package VxUiWidgets VxUiWidgetsKit)
-  configure_file(cmake/${package}.pc.in ${generated}/${package}.pc @ONLY)
-  install(FILES ${generated}/${package}.pc DESTINATION ${pkgconfig_folder} COMPONENT development)
+foreach(name VxUiWidgets VxUiWidgetsKit)
+  configure_file(cmake/${name}.pc.in ${generated}/${name}${VX_QT_SUFFIX}.pc @ONLY)
+  install(FILES ${generated}/${name}${VX_QT_SUFFIX}.pc DESTINATION ${pkgconfig_folder} COMPONENT development)
 endforeach()
 
 set(translations ${PROJECT_BINARY_DIR}/Translations/)

@@ -21,17 +21,18 @@ listed_sources() { sed -n 's|.*pkg:deb/debian/\(.*\)?arch=source|\1|p' "$tree/TH
 unversioned() { sed -E 's/-?[0-9.]+$//' | sort -u; }
 
 check_packages() {
-    local package docs sources missing
-    for package in libvxuiwidgets1 libvxuiwidgets-dev vxuiwidgets-tools; do
+    local file package docs sources missing
+    for file in "$folder"/../packages/*.deb; do
+        package=$(dpkg-deb -f "$file" Package)
         docs=$folder/usr/share/doc/$package
         cmp "$tree/cmake/debian/copyright" "$docs/copyright" || complain "$package lacks its copyright file"
         zcat "$docs/changelog.gz" | cmp - "$tree/CHANGELOG.md" || complain "$package lacks its changelog"
         [ "$(zcat "$docs/changelog.Debian.gz" | sed -n '1s/.*(\(.*\)).*/\1/p')" = \
-            "$(dpkg-deb -f "$folder"/../packages/"$package"_*.deb Version)" ] ||
+            "$(dpkg-deb -f "$file" Version)" ] ||
             complain "the Debian changelog of $package is of another version"
     done
     for list in THIRD-PARTY.md THIRD-PARTY.spdx; do
-        cmp "$tree/$list" "$folder/usr/share/doc/libvxuiwidgets1/$list" || complain "libvxuiwidgets1 lacks $list"
+        cmp "$tree/$list" "$folder"/usr/share/doc/libvxuiwidgets*[0-9]/"$list" || complain "the runtime package lacks $list"
     done
     sources=$(linked_sources)
     [ -n "$sources" ] || complain "no linked libraries found"

@@ -12,10 +12,18 @@ CMAKE_CXX_COMPILER_LAUNCHER=$(command -v ccache || true)
 export CMAKE_CXX_COMPILER_LAUNCHER
 unset DESTDIR LD_LIBRARY_PATH CMAKE_PREFIX_PATH PKG_CONFIG_PATH
 
+cache() { sed -n "s/^$1:[A-Z]*=//p" "$build/CMakeCache.txt"; }
+
+# The names for Qt 5, and for Qt 6 installed beside it.
+if [ "$(cache VX_QT_VERSION)" = 5 ]; then
+    qt=5 tag='' runtime=libvxuiwidgets1 other_qt=6
+else
+    qt=6 tag=-qt6 runtime=libvxuiwidgets-qt6-1 other_qt=5
+fi
 # CMake settings of the program, and its launcher.
-settings=()
+settings=(-DVX_PACKAGE="VxUiWidgets$tag")
 start=()
-suffix=
+exe=
 
 fail() { printf '%s\n' "$*"; exit 1; }
 
@@ -47,9 +55,9 @@ pack_and_unpack() {
         dpkg-deb --extract "$package" "$folder/root"
     done
     prefix=$folder/root/usr
-    need libvxuiwidgets1 'libqt5widgets5 \(>='
-    need libvxuiwidgets-dev 'libvxuiwidgets1 \(='
-    need vxuiwidgets-tools 'libvxuiwidgets1 \(='
+    need "$runtime" "libqt${qt}widgets$qt \\(>="
+    need "libvxuiwidgets$tag-dev" "$runtime \\(="
+    need "vxuiwidgets$tag-tools" "$runtime \\(="
     "$here/notices.sh" packages "$source" "$folder/root" || fail "the packages lack notices"
 }
 
@@ -59,59 +67,58 @@ unzip_and_go_to_wine() {
     mkdir "$folder/some where"
     (cd "$folder/some where" && cmake -E tar xf "$folder"/packages/*.zip)
     prefix=$(echo "$folder/some where"/*)
-    settings=(-DCMAKE_TOOLCHAIN_FILE="$source/cmake/VxWindowsToolchain.cmake" -DVX_WINDOWS_SDK="$(cache VX_WINDOWS_SDK)")
+    settings+=(-DCMAKE_TOOLCHAIN_FILE="$source/cmake/VxWindowsToolchain.cmake" -DVX_WINDOWS_SDK="$(cache VX_WINDOWS_SDK)")
     "$here/notices.sh" zip "$source" "$prefix" || fail "the zip lacks notices"
     # Use libraries and plugins of the zip only.
     start=("$source/tools/windows/in-wine" "$prefix")
-    suffix=.exe
+    exe=.exe
 }
 
-cache() { sed -n "s/^$1:[A-Z]*=//p" "$build/CMakeCache.txt"; }
-
-# runs_from_here FILE: fails if a program or library loads our libraries from elsewhere.
+# runs_from_here FILE: fails if a program or library loads our libraries from elsewhere, or the other Qt.
 runs_from_here() {
     local found
     found=$(ldd "$1")
     ! grep -q 'not found' <<<"$found" || fail "$1 does not find: $found"
-    grep -q "libVxUiWidgets.so.1 => $prefix/" <<<"$found" || fail "$1 takes the library from elsewhere: $found"
+    ! grep "libQt$other_qt" <<<"$found" || fail "$1 links Qt $other_qt"
+    grep -q "libVxUiWidgets$tag.so.1 => $prefix/" <<<"$found" || fail "$1 takes the library from elsewhere: $found"
 }
 
 look_at_files() {
     ! grep -rIlF -e "$build" -e "$source" -e "$folder" "$prefix" || fail "these name a folder of the build"
     # Exactly one header per exported class.
-    diff <(sed -n 's/^vtable for .*:://p; s/^vtable for //p' "$source/Tests/exported-symbols.txt" | sort) \
-        <(cd "$prefix/include/VxUiWidgets/UI/Widgets" && basename -s .h ./*.h | sort) ||
+    diff <(sed -n 's/^vtable for .*:://p; s/^vtable for //p' "$source/Tests/exported-symbols$tag.txt" | sort) \
+        <(cd "$prefix/include/VxUiWidgets$tag/UI/Widgets" && basename -s .h ./*.h | sort) ||
         fail "the installed widget headers are not those of the exported classes"
 }
 
 build_with_cmake() {
     cmake -S "$here" -B "$folder/cmake" -G Ninja -DCMAKE_PREFIX_PATH="$prefix" "${settings[@]}" >"$folder/cmake.log" 2>&1 &&
         cmake --build "$folder/cmake" >>"$folder/cmake.log" 2>&1 || fail "$(cat "$folder/cmake.log")"
-    [ "$mode" = zip ] || runs_from_here "$folder/cmake/consumer$suffix"
-    "${start[@]}" "$folder/cmake/consumer$suffix" || fail "the program built with CMake failed"
+    [ "$mode" = zip ] || runs_from_here "$folder/cmake/consumer$exe"
+    "${start[@]}" "$folder/cmake/consumer$exe" || fail "the program built with CMake failed"
 }
 
 build_with_pkg_config() {
     local libraries compile=(${CMAKE_CXX_COMPILER_LAUNCHER:+"$CMAKE_CXX_COMPILER_LAUNCHER"} g++ -std=c++17 -Wall -Wextra -Werror)
-    libraries=$(dirname "$prefix"/lib/*/libVxUiWidgets.so.1)
+    libraries=$(dirname "$prefix"/lib/*/"libVxUiWidgets$tag.so.1")
     export PKG_CONFIG_PATH=$libraries/pkgconfig
     # shellcheck disable=SC2046 # pkg-config prints several words
-    "${compile[@]}" -c "$here/main.cpp" $(pkg-config --cflags VxUiWidgetsKit) -o "$folder/main.o"
+    "${compile[@]}" -c "$here/main.cpp" $(pkg-config --cflags "VxUiWidgetsKit$tag") -o "$folder/main.o"
     # shellcheck disable=SC2046
-    g++ "$folder/main.o" $(pkg-config --libs VxUiWidgetsKit) -o "$folder/consumer"
+    g++ "$folder/main.o" $(pkg-config --libs "VxUiWidgetsKit$tag") -o "$folder/consumer"
     LD_LIBRARY_PATH=$libraries "$folder/consumer" ||
         fail "the program built with pkg-config failed"
     # Each installed header compiles.
-    (cd "$prefix/include/VxUiWidgets" && find . -name '*.h' -printf '#include <%P>\n' | sort) >"$folder/headers.cpp"
+    (cd "$prefix/include/VxUiWidgets$tag" && find . -name '*.h' -printf '#include <%P>\n' | sort) >"$folder/headers.cpp"
     # shellcheck disable=SC2046
-    "${compile[@]}" -c "$folder/headers.cpp" $(pkg-config --cflags VxUiWidgetsKit) -o "$folder/headers.o"
+    "${compile[@]}" -c "$folder/headers.cpp" $(pkg-config --cflags "VxUiWidgetsKit$tag") -o "$folder/headers.o"
 }
 
 # take_picture PROGRAM [ARG ...]: fails if an installed program writes no picture of its window.
 take_picture() {
     local program=$1
     shift
-    "${start[@]}" "$prefix/bin/$program$suffix" --language de --style "$prefix/share/VxUiWidgets/Styles/Light.qss" \
+    "${start[@]}" "$prefix/bin/$program$tag$exe" --language de --style "$prefix/share/VxUiWidgets$tag/Styles/Light.qss" \
         --after 0 --shot "$folder/$program.png" "$@" || fail "$program does not run from $prefix"
     [ -s "$folder/$program.png" ] || fail "$program wrote no picture"
 }
@@ -119,7 +126,8 @@ take_picture() {
 build_examples() {
     # The examples use only what is installed: built from a copy, they cannot find headers of the source tree.
     cp -r "$source/Examples" "$folder/Examples"
-    cmake -S "$folder/Examples" -B "$folder/examples" -G Ninja -DCMAKE_PREFIX_PATH="$prefix" >"$folder/examples.log" 2>&1 &&
+    cmake -S "$folder/Examples" -B "$folder/examples" -G Ninja -DCMAKE_PREFIX_PATH="$prefix" \
+        -DVX_QT_VERSION=$qt >"$folder/examples.log" 2>&1 &&
         cmake --build "$folder/examples" >>"$folder/examples.log" 2>&1 || fail "$(tail -n 40 "$folder/examples.log")"
     runs_from_here "$folder/examples/VxRecorder"
     "$folder/examples/VxRecorder" --style light --shot "$folder/recorder.png" --after 0 ||
@@ -136,8 +144,8 @@ run_tools() {
 }
 
 check_libraries() {
-    runs_from_here "$prefix/bin/VxGallery"
-    runs_from_here "$prefix/bin/VxRecorder"
+    runs_from_here "$prefix/bin/VxGallery$tag"
+    runs_from_here "$prefix/bin/VxRecorder$tag"
     while read -r plugin; do
         runs_from_here "$plugin"
     done < <(find "$prefix/lib" -path '*/plugins/designer/*.so')
