@@ -1,6 +1,7 @@
 #include <Catalogue/EntryWindow.h>
 #include <Catalogue/SignalRecorder.h>
 
+#include <Support/EventSpy.h>
 #include <Support/ModalWatcher.h>
 #include <Support/TestCase.h>
 #include <Support/UrlHandlerStub.h>
@@ -91,26 +92,15 @@ const Attack ATTACKS[] = {
     {"event loop", [](EntryWindow&, QWidget*) { QCoreApplication::processEvents(); }},
 };
 
-/// Application event filter that calls a function for the events of widgets and of objects that widgets own, and
-/// filters those for which it returns true.
-class WidgetEventFilter : public QObject
+// Returns an event filter that calls a function for the events of widgets and of objects that widgets own.
+auto ForWidgets(const std::function<bool(QEvent::Type)>& filter)
 {
-public:
-    explicit WidgetEventFilter(std::function<bool(QEvent::Type)> filter) : filter(std::move(filter))
-    {
-        qApp->installEventFilter(this);
-    }
-
-private:
-    bool eventFilter(QObject* object, QEvent* event) override
-    {
+    return [filter](QObject* object, QEvent* event) {
         while (object && !object->isWidgetType())
             object = object->parent();
         return object && filter(event->type());
-    }
-
-    std::function<bool(QEvent::Type)> filter;
-};
+    };
+}
 
 } // namespace
 
@@ -171,8 +161,8 @@ private Q_SLOTS:
         QStringList missing;
         for (const QEvent::Type lost : baseline.events) {
             bool isLost = false;
-            auto filter = std::make_unique<WidgetEventFilter>(
-                [&](QEvent::Type type) { return type == lost && !std::exchange(isLost, true); });
+            auto filter = std::make_unique<Support::EventFilter>(
+                qApp, ForWidgets([&](QEvent::Type type) { return type == lost && !std::exchange(isLost, true); }));
             // Installed later, so that it sees each event before the filter.
             const Support::ModalWatcher watcher(Support::Dismiss);
             const auto scene = WindowOfRow();
@@ -215,12 +205,13 @@ private:
         const auto key = qMakePair(EntryOfRow().className, StateOfRow().name);
         if (!baselines.contains(key)) {
             Baseline baseline;
-            const WidgetEventFilter filter([&baseline](QEvent::Type type) {
+            const auto collect = [&baseline](QEvent::Type type) {
                 // QWidget updates its actions by events only, and a closing window ignores event filters.
                 if (type != QEvent::ActionAdded && type != QEvent::ActionRemoved && type != QEvent::Close)
                     baseline.events.insert(type);
                 return false;
-            });
+            };
+            const Support::EventFilter filter(qApp, ForWidgets(collect));
             const Support::ModalWatcher watcher(Support::Dismiss);
             const auto scene = WindowOfRow();
             scene->Show();

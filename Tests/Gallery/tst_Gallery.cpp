@@ -58,14 +58,6 @@ private Q_SLOTS:
         QCOMPARE(shot.pixelColor(2, 2), QColor("#123456"));
     }
 
-    void switchedDirectionLooksLikeAStartInThatDirection()
-    {
-        const QString page = "--page PixmapWidget --size 1300x700 --after 100 ";
-        QCOMPARE(Run(page + "--shot started.png --rtl"), QStringList{"exit 0"});
-        QCOMPARE(Run(page + "--shot switched.png --press \"Right to left\""), QStringList{"exit 0"});
-        QCOMPARE(QImage(folder.filePath("switched.png")), QImage(folder.filePath("started.png")));
-    }
-
     void runsWithoutDisplayAndTranslation()
     {
 #if defined(Q_OS_WIN)

@@ -1,5 +1,5 @@
+#include <Support/CaptureMocks.h>
 #include <Support/LogCapture.h>
-#include <Support/ObserverSpy.h>
 #include <Support/Picture.h>
 #include <Support/TestCase.h>
 

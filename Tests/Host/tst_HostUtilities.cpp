@@ -4,8 +4,8 @@
 #include <Zelkor/Vx/UI/Util/WindowMouseMoveHelper.h>
 
 #include <Support/TestCase.h>
+#include <Support/UrlHandlerStub.h>
 
-#include <QDesktopServices>
 #include <QLabel>
 #include <QPushButton>
 #include <QUrl>
@@ -65,9 +65,6 @@ class tst_HostUtilities : public Support::TestCase
 {
     Q_OBJECT
 
-public Q_SLOTS:
-    void Open(const QUrl& url) { opened += url; }
-
 private Q_SLOTS:
     void circleFadesWithTheCubeOfTheDistance()
     {
@@ -98,11 +95,10 @@ private Q_SLOTS:
         Util::ApplyWidgetStyle(nullptr, "hot", "state");
     }
 
-    void aboutBoxOpensItsLinksByKeyboard()
+    void aboutBoxOpensItsLinksAndShowsPlainText()
     {
-        for (const char* scheme : {"http", "https", "mailto", "file", "javascript"})
-            QDesktopServices::setUrlHandler(scheme, this, "Open");
-        App::AboutBoxDialog dialog("Product", "1.2 (34)", "(c) Example & Co", nullptr);
+        const Support::UrlHandlerStub links;
+        App::AboutBoxDialog dialog("A <b>product", "1.2 (34)", "(c) Example & Co", nullptr);
         auto* custom = dialog.findChild<QLabel*>("customURL");
         QVERIFY(custom->isHidden());
         dialog.SetCustomUrl(QUrl("http://example.com/more?x=1&y=2"));
@@ -118,16 +114,11 @@ private Q_SLOTS:
             Q_EMIT custom->linkActivated(url);
         const QList<QUrl> expected = {QUrl("https://example.com/"), QUrl("mailto:support@example.com"),
                                       QUrl("http://example.com/more?x=1&y=2")};
-        QCOMPARE(opened, expected);
+        QCOMPARE(links.opened, expected);
         dialog.SetCustomUrl(QUrl());
         QVERIFY(custom->isHidden());
-    }
-
-    void aboutBoxShowsPlainTextAndClosesByItsButtonOnly()
-    {
-        App::AboutBoxDialog dialog("A <b>product", "1.2 (34)", "(c) Example & Co", nullptr);
-        dialog.show();
         QCOMPARE(dialog.findChild<QLabel*>("productLabel")->textFormat(), Qt::PlainText);
+        // Only its button closes it.
         QMouseEvent press(QEvent::MouseButtonPress, {1, 1}, {1, 1}, Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
         press.ignore();
         QCoreApplication::sendEvent(&dialog, &press);
@@ -185,9 +176,6 @@ private Q_SLOTS:
         const WindowMouseMoveHelper withoutWindow(nullptr, {handle.get()});
         other.Send(PRESS);
     }
-
-private:
-    QList<QUrl> opened;
 };
 
 VX_TEST_MAIN(tst_HostUtilities)

@@ -15,6 +15,7 @@
 #include <cstring>
 #include <future>
 #include <limits>
+#include <map>
 #include <vector>
 
 using namespace Zelkor;
@@ -49,32 +50,26 @@ struct Channel
 struct Layout
 {
     const char* name;
-    PixFmt pixFmt;
     bool isYuv;
     std::vector<Channel> channels; ///< Y, U, V or blue, green, red, alpha
 };
 
-const std::vector<Layout> LAYOUTS = {
-    {"I420", PixFmt::I420, true, {{0, 0, 1}, {1, 0, 1, 2, 2}, {2, 0, 1, 2, 2}}},
-    {"YV12", PixFmt::YV12, true, {{0, 0, 1}, {2, 0, 1, 2, 2}, {1, 0, 1, 2, 2}}},
-    {"NV12", PixFmt::NV12, true, {{0, 0, 1}, {1, 0, 2, 2, 2}, {1, 1, 2, 2, 2}}},
-    {"NV21", PixFmt::NV21, true, {{0, 0, 1}, {1, 1, 2, 2, 2}, {1, 0, 2, 2, 2}}},
-    {"YUY2", PixFmt::YUY2, true, {{0, 0, 2}, {0, 1, 4, 2}, {0, 3, 4, 2}}},
-    {"UYVY", PixFmt::UYVY, true, {{0, 1, 2}, {0, 0, 4, 2}, {0, 2, 4, 2}}},
-    {"GRAY8", PixFmt::GRAY8, true, {{0, 0, 1}}},
-    {"RGB24", PixFmt::RGB24, false, {{0, 2, 3}, {0, 1, 3}, {0, 0, 3}}},
-    {"BGR24", PixFmt::BGR24, false, {{0, 0, 3}, {0, 1, 3}, {0, 2, 3}}},
-    {"ARGB", PixFmt::ARGB, false, {{0, 3, 4}, {0, 2, 4}, {0, 1, 4}, {0, 0, 4}}},
-    {"RGBA", PixFmt::RGBA, false, {{0, 2, 4}, {0, 1, 4}, {0, 0, 4}, {0, 3, 4}}},
-    {"ABGR", PixFmt::ABGR, false, {{0, 1, 4}, {0, 2, 4}, {0, 3, 4}, {0, 0, 4}}},
-    {"BGRA", PixFmt::BGRA, false, {{0, 0, 4}, {0, 1, 4}, {0, 2, 4}, {0, 3, 4}}},
-    {"BGRX", PixFmt::BGRX, false, {{0, 0, 4}, {0, 1, 4}, {0, 2, 4}}},
+const std::map<PixFmt, Layout> LAYOUTS = {
+    {PixFmt::I420, {"I420", true, {{0, 0, 1}, {1, 0, 1, 2, 2}, {2, 0, 1, 2, 2}}}},
+    {PixFmt::YV12, {"YV12", true, {{0, 0, 1}, {2, 0, 1, 2, 2}, {1, 0, 1, 2, 2}}}},
+    {PixFmt::NV12, {"NV12", true, {{0, 0, 1}, {1, 0, 2, 2, 2}, {1, 1, 2, 2, 2}}}},
+    {PixFmt::NV21, {"NV21", true, {{0, 0, 1}, {1, 1, 2, 2, 2}, {1, 0, 2, 2, 2}}}},
+    {PixFmt::YUY2, {"YUY2", true, {{0, 0, 2}, {0, 1, 4, 2}, {0, 3, 4, 2}}}},
+    {PixFmt::UYVY, {"UYVY", true, {{0, 1, 2}, {0, 0, 4, 2}, {0, 2, 4, 2}}}},
+    {PixFmt::GRAY8, {"GRAY8", true, {{0, 0, 1}}}},
+    {PixFmt::RGB24, {"RGB24", false, {{0, 2, 3}, {0, 1, 3}, {0, 0, 3}}}},
+    {PixFmt::BGR24, {"BGR24", false, {{0, 0, 3}, {0, 1, 3}, {0, 2, 3}}}},
+    {PixFmt::ARGB, {"ARGB", false, {{0, 3, 4}, {0, 2, 4}, {0, 1, 4}, {0, 0, 4}}}},
+    {PixFmt::RGBA, {"RGBA", false, {{0, 2, 4}, {0, 1, 4}, {0, 0, 4}, {0, 3, 4}}}},
+    {PixFmt::ABGR, {"ABGR", false, {{0, 1, 4}, {0, 2, 4}, {0, 3, 4}, {0, 0, 4}}}},
+    {PixFmt::BGRA, {"BGRA", false, {{0, 0, 4}, {0, 1, 4}, {0, 2, 4}, {0, 3, 4}}}},
+    {PixFmt::BGRX, {"BGRX", false, {{0, 0, 4}, {0, 1, 4}, {0, 2, 4}}}},
 };
-
-const Layout& LayoutOf(PixFmt pixFmt)
-{
-    return *std::find_if(LAYOUTS.begin(), LAYOUTS.end(), [&](const auto& layout) { return layout.pixFmt == pixFmt; });
-}
 
 bool IsReadable(const FrameFormat& format, const Planes& planes)
 {
@@ -88,7 +83,7 @@ Frame MakeNoise(const FrameFormat& format, int padding = 0, bool isBottomUp = fa
     const auto storage = std::make_shared<std::array<std::vector<std::uint8_t>, 3>>();
     Planes planes;
     // The last channel of a plane needs the longest rows.
-    for (const Channel& channel : LayoutOf(format.pixFmt).channels) {
+    for (const Channel& channel : LAYOUTS.at(format.pixFmt).channels) {
         const int stride = channel.step * ((format.width + channel.across - 1) / channel.across) + padding;
         const int rows = (format.height + channel.down - 1) / channel.down;
         std::vector<std::uint8_t>& bytes = (*storage)[channel.plane];
@@ -119,7 +114,7 @@ Pixel FromYuv(const FrameFormat& format, const Pixel& yuv)
 
 Pixel ExpectedPixel(const VideoFrame& frame, int x, int y)
 {
-    const Layout& layout = LayoutOf(frame.GetPixelFormat());
+    const Layout& layout = LAYOUTS.at(frame.GetPixelFormat());
     Pixel values{0, 128, 128, 255};
     for (std::size_t i = 0; i < layout.channels.size(); ++i) {
         const Channel& channel = layout.channels[i];
@@ -136,7 +131,7 @@ double Tolerance(const FrameFormat& format)
     const bool isPacked422 = format.pixFmt == PixFmt::YUY2 || format.pixFmt == PixFmt::UYVY;
     if (isPacked422 && format.matrix == ColorMatrix::BT601 && format.range == ColorRange::Limited)
         return 3;
-    return LayoutOf(format.pixFmt).isYuv ? 1.5 : 0;
+    return LAYOUTS.at(format.pixFmt).isYuv ? 1.5 : 0;
 }
 
 Effect CreateConverter(bool passThrough = false)
@@ -248,11 +243,11 @@ private Q_SLOTS:
     void convertsEveryPixel_data()
     {
         QTest::addColumn<FrameFormat>("format");
-        for (const Layout& layout : LAYOUTS) {
+        for (const auto& [pixFmt, layout] : LAYOUTS) {
             for (const auto matrix : {ColorMatrix::BT601, ColorMatrix::BT709}) {
                 for (const auto range : {ColorRange::Limited, ColorRange::Full})
                     QTest::addRow("%s, matrix %d, range %d", layout.name, int(matrix), int(range))
-                        << FrameFormat{layout.pixFmt, 0, 0, matrix, range};
+                        << FrameFormat{pixFmt, 0, 0, matrix, range};
             }
         }
     }
@@ -340,7 +335,7 @@ private Q_SLOTS:
             QVERIFY(lines[0].contains("Zelkor::Proc::ColorspaceConverter::Process: cannot read a frame"));
             QVERIFY(Converted(effect, MakeNoise(good)));
         }
-        QCOMPARE(log.Lines(), QStringList());
+        QCOMPARE(log.Take(), QStringList());
     }
 
     void converterCopiesUnlessItMayPassThrough()
@@ -352,10 +347,10 @@ private Q_SLOTS:
         QCOMPARE(Converted(effect, source).get(), source.get());
 
         effect->ApplySettings(Proc::SettingsColorspaceConverter(PixFmt::BGRA, false));
-        const Support::LogCapture log;
+        Support::LogCapture log;
         effect->ApplySettings(Proc::SettingsColorspaceConverter(PixFmt::I420, true));
         effect->ApplySettings(ForeignSettings());
-        QCOMPARE(log.Lines().size(), 2);
+        QCOMPARE(log.Take().size(), 2);
         const Frame copy = Converted(effect, source);
         QVERIFY(FirstByte(copy) != FirstByte(source));
         QCOMPARE(Bytes(copy), Bytes(source));

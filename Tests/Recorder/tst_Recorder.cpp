@@ -9,7 +9,7 @@
 #include <UI/Widgets/CountdownIndicatorWidget.h>
 #include <UI/Widgets/VideoPreviewWidget.h>
 
-#include <Support/CallbackDevice.h>
+#include <Support/CaptureMocks.h>
 #include <Support/Input.h>
 #include <Support/TestCase.h>
 
@@ -115,16 +115,6 @@ private Q_SLOTS:
         preferences.countdownSeconds = 0;
         Button("Record")->click();
         QVERIFY(Child<QLabel>("statusText")->property("originalText").toString().startsWith("Recording"));
-    }
-
-    void languageSwitchesAtRunTime()
-    {
-        QVERIFY(appearance->SetLanguage("de"));
-        QTRY_VERIFY(Button("Aufnehmen"));
-        QCOMPARE(Child<QComboBox>("deviceCombo")->currentText(), QString("Testbild"));
-        QCOMPARE(QCoreApplication::translate("TestPicture", "&Speed"), QString("&Geschwindigkeit"));
-        QVERIFY(!appearance->SetLanguage("xx"));
-        QTRY_VERIFY(Button("Record"));
     }
 
     void keyboardTrimsCutsAndUndoes()

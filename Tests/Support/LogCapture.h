@@ -16,14 +16,8 @@ public:
     LogCapture() { google::AddLogSink(this); }
     ~LogCapture() override { google::RemoveLogSink(this); }
 
-    /// Returns the lines in order, as severity, file, line and text: "E Lib/UI/Widgets/ColorButton:12 text".
-    QStringList Lines() const
-    {
-        const std::lock_guard<std::mutex> lock(mutex);
-        return lines;
-    }
-
-    /// Returns the lines and removes them.
+    /// Returns the lines since the last call in order, as severity, file, line and text:
+    /// "E Lib/UI/Widgets/ColorButton:12 text".
     QStringList Take()
     {
         const std::lock_guard<std::mutex> lock(mutex);
@@ -42,7 +36,7 @@ private:
                      .arg(QString::fromUtf8(message, int(length)));
     }
 
-    mutable std::mutex mutex;
+    std::mutex mutex;
     QStringList lines;
 };
 

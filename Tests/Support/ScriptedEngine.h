@@ -5,9 +5,9 @@
 
 #include <atomic>
 #include <functional>
+#include <future>
 #include <memory>
 #include <mutex>
-#include <thread>
 #include <vector>
 
 namespace Support {
@@ -104,22 +104,18 @@ public:
         StandIn::OverrideCaptureFactory(nullptr);
     }
 
-    /// Runs `work` on an engine thread, which `Join` and the destructor join.
+    /// Runs `work` on an engine thread, which `Join` and the destructor wait for.
     void OnThread(std::function<void()> work)
     {
         const std::lock_guard<std::mutex> lock(mutex);
-        threads.emplace_back(std::move(work));
+        running.push_back(std::async(std::launch::async, std::move(work)));
     }
 
     void Join()
     {
-        std::vector<std::thread> joined;
-        {
-            const std::lock_guard<std::mutex> lock(mutex);
-            joined.swap(threads);
-        }
-        for (std::thread& thread : joined)
-            thread.join();
+        std::vector<std::future<void>> joined; // destroyed after the mutex is unlocked
+        const std::lock_guard<std::mutex> lock(mutex);
+        joined.swap(running);
     }
 
     // Called in Start and Stop of a session. By default Start does nothing and Stop calls ReportStopped.
@@ -141,7 +137,7 @@ private:
     };
 
     std::mutex mutex;
-    std::vector<std::thread> threads;
+    std::vector<std::future<void>> running; ///< wait when they are destroyed
 };
 
 /// A session that follows the script of its engine.
@@ -163,7 +159,7 @@ public:
     {
         if (engine.onStop)
             engine.onStop(this);
-        else
+        else if (std::atomic_load(&observer)) // it may not have been started yet
             ReportStopped();
     }
 
@@ -173,22 +169,11 @@ public:
     }
 
     // Call the last observer on the calling thread, even after the session has ended.
+    void ReportError(int code) { std::atomic_load(&observer)->handleError(*this, code); }
+    void ReportStopped() { std::atomic_load(&observer)->handleStopped(); }
     void ReportStarted(const boost::intrusive_ptr<ScriptedReader>& reader)
     {
-        if (const auto current = std::atomic_load(&observer))
-            current->handleStarted(*this, 0, reader);
-    }
-
-    void ReportError(int code)
-    {
-        if (const auto current = std::atomic_load(&observer))
-            current->handleError(*this, code);
-    }
-
-    void ReportStopped()
-    {
-        if (const auto current = std::atomic_load(&observer))
-            current->handleStopped();
+        std::atomic_load(&observer)->handleStarted(*this, 0, reader);
     }
 
 private:

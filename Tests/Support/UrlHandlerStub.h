@@ -6,7 +6,7 @@
 
 namespace Support {
 
-/// Prevents QDesktopServices from opening URLs in other programs.
+/// Records the URLs that QDesktopServices opens and prevents other programs from opening them.
 class UrlHandlerStub : public QObject
 {
     Q_OBJECT
@@ -15,7 +15,7 @@ public:
     UrlHandlerStub()
     {
         for (const char* scheme : SCHEMES)
-            QDesktopServices::setUrlHandler(scheme, this, "Ignore");
+            QDesktopServices::setUrlHandler(scheme, this, "Open");
     }
 
     ~UrlHandlerStub() override
@@ -24,11 +24,13 @@ public:
             QDesktopServices::unsetUrlHandler(scheme);
     }
 
+    QList<QUrl> opened;
+
 private Q_SLOTS:
-    void Ignore(const QUrl&) {}
+    void Open(const QUrl& url) { opened += url; }
 
 private:
-    static constexpr const char* SCHEMES[] = {"http", "https", "mailto", "file"};
+    static constexpr const char* SCHEMES[] = {"http", "https", "mailto", "file", "javascript"};
 };
 
 } // namespace Support

@@ -100,7 +100,7 @@ private Q_SLOTS:
         button.InsertWidget(nullptr, 2);
         button.RemoveWidget(2);
         const QString line("E Lib/UI/Widgets/ButtonWithPopUpContainer:%1 Zelkor::Vx::UI::ButtonWithPopUpContainer::%2");
-        QCOMPARE(log.Lines(),
+        QCOMPARE(log.Take(),
                  QStringList(
                      {line.arg("273", "AppendWidget: widget is NULL"), line.arg("261", "InsertWidget: widget is NULL"),
                       line.arg("304", "GetWidget: item is NULL"), line.arg("290", "RemoveWidget: widget is NULL")}));

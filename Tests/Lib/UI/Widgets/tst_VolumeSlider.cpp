@@ -54,7 +54,7 @@ private Q_SLOTS:
         QSignalSpy changed(&slider, &VolumeSlider::VolumeChanged);
         slider.SetVolumes(volume, 0.3F);
         [&] { QCOMPARE(changed.size(), int(slider.value() != value)); }();
-        return QString::number(slider.value()) + log.Lines().join(' ');
+        return QString::number(slider.value()) + log.Take().join(' ');
     }
 
     void valueFollowsTheVolume()

@@ -2,11 +2,13 @@
 
 #include <UI/Widgets/VideoPreviewWidget.h>
 
-#include <Support/EventSwallower.h>
+#include <Support/EventSpy.h>
 #include <Support/Frames.h>
 #include <Support/LogCapture.h>
 #include <Support/ScriptedEngine.h>
 #include <Support/TestCase.h>
+
+#include <thread>
 
 using namespace Support;
 using Vx::WebCameraPreviewStream;
@@ -153,6 +155,7 @@ private Q_SLOTS:
         QCOMPARE(fixture.reader->reads.load(), reads);
         QCOMPARE(fixture.failed.size(), 0);
         running = nullptr;
+        fixture.engine.Join();
         QCOMPARE(fixture.engine.alive.load(), 0);
     }
 
@@ -218,7 +221,7 @@ private Q_SLOTS:
         QTRY_COMPARE_WITH_TIMEOUT(fixture.failed.size(), 1, 20000);
         QCOMPARE(log.Take().count(line), times);
         fixture.preview.reset();
-        QCOMPARE(log.Lines(), QStringList(LOG_PREFIX.arg("133", "Stop: stop")));
+        QCOMPARE(log.Take(), QStringList(LOG_PREFIX.arg("133", "Stop: stop")));
     }
 
     void frameIsConvertedOnceUntilThePreviewChanges()

@@ -8,10 +8,9 @@
 
 #include <QImage>
 #include <QStringList>
+#include <QtTest>
 
 #include <atomic>
-#include <chrono>
-#include <condition_variable>
 #include <functional>
 #include <mutex>
 
@@ -35,8 +34,7 @@ public:
 
     bool WaitFor(const QStringList& expected) const
     {
-        std::unique_lock<std::mutex> lock(mutex);
-        return changed.wait_for(lock, std::chrono::seconds(20), [&] { return calls == expected; });
+        return QTest::qWaitFor([&] { return Calls() == expected; }, 20000);
     }
 
     // The arguments of "started". Wait for that call before you use them.
@@ -72,15 +70,42 @@ private:
             const std::lock_guard<std::mutex> lock(mutex);
             calls += running++ > 0 ? "overlapping " + call : call;
         }
-        changed.notify_all();
         onCall(call, session);
         --running;
     }
 
     mutable std::mutex mutex; ///< guards `calls`
-    mutable std::condition_variable changed;
     QStringList calls;
     std::atomic<int> running{0};
+};
+
+/// A device of the stand-in whose sources call a function.
+class CallbackDevice : public StandIn::CaptureDevice
+{
+public:
+    using Run = std::function<StandIn::CaptureError(StandIn::SourceChannel&)>;
+
+    /// The device delivers 4×2 pixels in `GRAY8`. Without `run` it creates no sources, like a device that was
+    /// unplugged.
+    explicit CallbackDevice(Run run)
+        : CaptureDevice(Kind::Other, "callback", "Callback",
+                        {new StandIn::VideoMode("4×2", {Proc::PixFmt::GRAY8, 4, 2}, {{15, 1}, {30, 1}})}),
+          run(std::move(run))
+    {}
+
+    std::unique_ptr<StandIn::CaptureSource> CreateSource(const StandIn::VideoMode&) const override
+    {
+        struct Source : StandIn::CaptureSource
+        {
+            explicit Source(const CallbackDevice::Run& run) : run(run) {}
+            StandIn::CaptureError Run(StandIn::SourceChannel& channel) override { return run(channel); }
+            const CallbackDevice::Run run;
+        };
+        return run ? std::make_unique<Source>(run) : nullptr;
+    }
+
+private:
+    const Run run;
 };
 
 /// Creates a session that captures a device in one of its modes.
