@@ -1,6 +1,12 @@
 #include <UI/Kit/StyleSheetEditor/StyleSheetChecker.h>
+#include <UI/Kit/StyleSheetEditor/StyleSheetTextEdit.h>
 
 #include <Support/TestCase.h>
+
+#include <QFile>
+#include <QLabel>
+#include <QRandomGenerator>
+#include <QRegularExpression>
 
 using namespace Zelkor::Vx::UI::Kit;
 using StyleSheetChecker::Check;
@@ -8,11 +14,44 @@ using StyleSheetChecker::Problem;
 
 Q_DECLARE_METATYPE(Problem)
 
+namespace {
+
+bool isRejected = false;
+
+bool IsAcceptedByQt(const QString& sheet, StyleSheetScope scope)
+{
+    isRejected = false;
+    const QtMessageHandler before =
+        qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString& message) {
+            isRejected = isRejected || message.startsWith("Could not parse");
+        });
+    {
+        QLabel label;
+        scope == StyleSheetScope::APPLICATION ? qApp->setStyleSheet(sheet) : label.setStyleSheet(sheet);
+        label.ensurePolished();
+        qApp->setStyleSheet(QString());
+    }
+    qInstallMessageHandler(before);
+    return !isRejected;
+}
+
+} // namespace
+
 class tst_StyleSheetChecker : public Support::TestCase
 {
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase()
+    {
+        QFile file(VX_STYLE_SHEET);
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        // Replaces the colour names of the template.
+        QString text = QString::fromUtf8(file.readAll());
+        text.replace(QRegularExpression("@[a-z-]+@", QRegularExpression::CaseInsensitiveOption), "#3567e0");
+        rules = text.split(QRegularExpression("(?<=})\\n"), Qt::SkipEmptyParts);
+    }
+
     void validSheetHasNoProblem()
     {
         for (const char* sheet :
@@ -75,6 +114,62 @@ private Q_SLOTS:
         ExpectWarning("not suppressed");
         qWarning("not suppressed");
     }
+
+    // Random sheets. The environment variables VX_SEED and VX_EVENTS set the sequence and its length.
+    void editorAcceptsWhatQtAccepts()
+    {
+        const int runs = qEnvironmentVariable("VX_EVENTS", "3000").toInt();
+        StyleSheetTextEdit editor(nullptr);
+        int rejected = 0;
+        for (int i = 0; i < runs; ++i) {
+            const StyleSheetScope scope = i % 2 ? StyleSheetScope::WIDGET : StyleSheetScope::APPLICATION;
+            const QString sheet = NextSheet();
+            editor.loadText(sheet);
+            editor.setScope(scope);
+            const bool isAccepted = IsAcceptedByQt(sheet, scope);
+            rejected += !isAccepted;
+            QVERIFY2(editor.isAccepted() == isAccepted, qPrintable(sheet));
+            QVERIFY2(isAccepted || !editor.marks().isEmpty(), qPrintable(sheet));
+        }
+        // Both results must occur.
+        QVERIFY(rejected > 0);
+        QVERIFY(rejected < runs);
+    }
+
+private:
+    QString NextSheet()
+    {
+        QString sheet;
+        for (int i = random.bounded(3); i >= 0; --i)
+            sheet += rules[random.bounded(rules.size())] + '\n';
+        if (random.bounded(4) == 0) // declarations only
+            sheet = sheet.section('{', 1, 1).section('}', 0, 0);
+        for (int i = random.bounded(5); i > 0; --i)
+            Mutate(sheet);
+        return sheet;
+    }
+
+    void Mutate(QString& sheet)
+    {
+        static const QStringList PIECES =
+            QString::fromUtf8(
+                "@import~\"a\";~@media screen {~@media {~@page~@charset \"a\";~@x~<!--~-->~/*~*/~url(~f(~)~"
+                "!important~!~#~#ggg~#fff~\"~'~\\~\\7b~\\\n~{~}~[~]~=~^~|~:~::~;~,~, ,~/~+~-~--~1px~5%~.5~"
+                "1e3~\u00a0~\u00e9~\u20ac~\u2028~\t~\r~\n~\x01~\x7f~*~>~ ~")
+                .split('~');
+        const int at = random.bounded(sheet.size() + 1);
+        const int length = random.bounded(random.bounded(2) ? 3 : 40);
+        const int kind = random.bounded(4);
+        if (kind == 0)
+            sheet.remove(at, length);
+        else if (kind == 1)
+            sheet.insert(at, sheet.mid(random.bounded(sheet.size() + 1), length));
+        else
+            sheet.insert(at, PIECES[random.bounded(PIECES.size())]);
+    }
+
+    QStringList rules;
+    QRandomGenerator random{qEnvironmentVariable("VX_SEED", "1").toUInt()};
 };
 
 VX_TEST_MAIN(tst_StyleSheetChecker)

@@ -1,3 +1,4 @@
+#include <UI/Common/GuiThreadCall.h>
 #include <UI/Widgets/ScrollablePanelWithItem.h>
 
 #include <Support/TestCase.h>
@@ -5,8 +6,9 @@
 #include <QToolButton>
 
 using Zelkor::Vx::UI::ScrollablePanelWithItem;
+using Zelkor::Vx::UI::Common::GuiThreadCall;
 
-class tst_MirroredStyle : public Support::TestCase
+class tst_Common : public Support::TestCase
 {
     Q_OBJECT
 
@@ -46,7 +48,19 @@ private Q_SLOTS:
         panel.setLayoutDirection(Qt::LeftToRight);
         QVERIFY(panel.isVisible());
     }
+
+    void requestDuringTheCallLeadsToAnother()
+    {
+        QObject receiver;
+        int calls = 0;
+        GuiThreadCall call(&receiver, [&] {
+            if (++calls < 3)
+                call.Request();
+        });
+        call.Request();
+        QTRY_COMPARE(calls, 3);
+    }
 };
 
-VX_TEST_MAIN(tst_MirroredStyle)
-#include "tst_MirroredStyle.moc"
+VX_TEST_MAIN(tst_Common)
+#include "tst_Common.moc"
