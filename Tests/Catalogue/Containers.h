@@ -12,7 +12,6 @@
 #include <QMenu>
 #include <QScrollArea>
 #include <QSplitter>
-#include <QStackedWidget>
 #include <QTabWidget>
 #include <QVBoxLayout>
 #include <QWidgetAction>
@@ -72,13 +71,6 @@ const Container CONTAINERS[] = {
          auto* area = new QMdiArea;
          area->addSubWindow(PageWith(widget))->showMaximized();
          return Fill(window, area);
-     }},
-    {"stacked page",
-     [](QWidget* widget, QWidget* window) {
-         auto* stack = new QStackedWidget;
-         stack->addWidget(new QWidget);
-         stack->setCurrentIndex(stack->addWidget(PageWith(widget)));
-         return Fill(window, stack);
      }},
     {"tab",
      [](QWidget* widget, QWidget* window) {

