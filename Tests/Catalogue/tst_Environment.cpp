@@ -5,7 +5,6 @@
 #include <QPainter>
 #include <QToolButton>
 
-#include <algorithm>
 #include <cmath>
 #include <memory>
 
@@ -72,10 +71,8 @@ private Q_SLOTS:
     void upKeyMovesTheThumbOfAnUprightSliderUp()
     {
         const Entry& entry = *FindEntry("ZSlider");
-        const auto upright = std::find_if(entry.states.begin(), entry.states.end(),
-                                          [](const State& state) { return state.name == "Upright"; });
-        QVERIFY(upright != entry.states.end());
-        const std::unique_ptr<QWidget> slider(CreateInState(entry, *upright, nullptr));
+        const std::unique_ptr<QWidget> slider(CreateInState(entry, entry.states[6], nullptr));
+        QCOMPARE(entry.states[6].name, QString("Upright"));
         slider->show();
         auto* thumb = slider->findChild<QToolButton*>();
         const int before = thumb->y();

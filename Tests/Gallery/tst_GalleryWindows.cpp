@@ -22,7 +22,6 @@
 #include <QPlainTextEdit>
 #include <QRegularExpression>
 #include <QScreen>
-#include <QSignalSpy>
 #include <QSpinBox>
 #include <QToolButton>
 
@@ -200,18 +199,6 @@ private Q_SLOTS:
         panel.SetObject(&second, {});
         QCOMPARE(first.placeholderText(), QString("typed"));
         QCOMPARE(second.placeholderText(), QString());
-    }
-
-    void rowsDisappearWithTheirWidget()
-    {
-        auto edited = std::make_unique<QLineEdit>();
-        PropertyPanel panel;
-        panel.SetObject(edited.get(), {});
-        ExpandGroups(panel);
-        connect(edited.get(), &QObject::objectNameChanged, this, [&] { edited.reset(); });
-        panel.findChild<ZLineEdit*>("edit:objectName")->setOriginalText("deletes it");
-        QVERIFY(!edited);
-        QVERIFY(!panel.findChild<QWidget*>("edit:objectName"));
     }
 
     void pageInspectsTheClickedCardAndLogsItsSignals()

@@ -39,7 +39,6 @@ private Q_SLOTS:
     {
         ZFrame frame;
         frame.setLayoutMargin(5);
-        QCOMPARE(frame.layoutMargin(), -1);
         QCOMPARE(frame.layoutMarginTop(), -1);
         QLayout* layout = new QVBoxLayout(&frame);
         frame.setLayoutMargin(5);

@@ -240,12 +240,11 @@ private Q_SLOTS:
         // The focused slider sends keys and wheel events to the selected thumb.
         slider.setFocus();
         press(Qt::Key_Up);
-        using Support::TurnWheel;
-        QVERIFY(TurnWheel(&slider, {0, -240}));
-        QVERIFY(TurnWheel(low, {30, 0}));
-        QVERIFY(!TurnWheel(&slider, {}));
+        QVERIFY(Support::TurnWheel(&slider, {0, -240}));
+        QVERIFY(Support::TurnWheel(low, {30, 0}));
+        QVERIFY(!Support::TurnWheel(&slider, {}));
         low->setWheelStepping(false);
-        QVERIFY(!TurnWheel(low, {0, 120}));
+        QVERIFY(!Support::TurnWheel(low, {0, 120}));
         QCOMPARE(stepped, QList<QVariantList>({{120}, {120}, {-120}, {-120}, {120}, {-240}, {30}}));
         press(Qt::Key_Space);
         QVERIFY(!low->isChecked());

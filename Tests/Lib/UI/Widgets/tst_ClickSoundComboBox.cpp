@@ -7,11 +7,7 @@
 
 using Zelkor::Vx::UI::ClickSoundComboBox;
 
-namespace {
-
 const QString LONG_TEXT("A click sound with a name that is far too long for its box");
-
-} // namespace
 
 class tst_ClickSoundComboBox : public Support::TestCase
 {

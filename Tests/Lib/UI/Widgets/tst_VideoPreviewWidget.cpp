@@ -2,7 +2,6 @@
 
 #include <Support/EventSpy.h>
 #include <Support/Frames.h>
-#include <Support/LogCapture.h>
 #include <Support/Picture.h>
 #include <Support/TestCase.h>
 
@@ -80,7 +79,6 @@ private Q_SLOTS:
 
     void unreadableFrameShowsTheDefaultImage()
     {
-        Support::LogCapture log;
         Preview preview({64, 48});
         const auto storage = std::make_shared<std::array<std::uint8_t, 1024>>();
         const StandIn::Plane tooSmall{storage->data(), 32, 500};

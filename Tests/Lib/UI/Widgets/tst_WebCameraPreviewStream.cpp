@@ -226,7 +226,6 @@ private Q_SLOTS:
 
     void frameIsConvertedOnceUntilThePreviewChanges()
     {
-        LogCapture log;
         Stream fixture;
         const boost::intrusive_ptr<SlowFrame> frame(new SlowFrame);
         fixture.reader.reset(new ScriptedReader([=] { return frame; }));
@@ -258,7 +257,6 @@ private Q_SLOTS:
 
     void replacedSessionIsIgnored()
     {
-        LogCapture log;
         Stream fixture;
         std::vector<ScriptedEngine::Session> sessions;
         const auto stale = ReaderOf(Qt::blue);
