@@ -219,7 +219,7 @@ private Q_SLOTS:
         ZSliderThumb* high = slider.add("high", 80);
         high->setSelectable(false);
         slider.show();
-        QApplication::setActiveWindow(&slider);
+        Support::SetActiveWindow(&slider);
         slider.setFocus();
         const auto press = [](Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
             QTest::keyClick(QApplication::focusWidget(), key, modifiers);
