@@ -58,6 +58,14 @@ private Q_SLOTS:
         QCOMPARE(shot.pixelColor(2, 2), QColor("#123456"));
     }
 
+    void scaleOfTheScreenIsNotRounded()
+    {
+        qputenv("QT_FONT_DPI", "144");
+        QCOMPARE(Run("--size 400x300 --shot scaled.png --after 0").last(), QString("exit 0"));
+        qunsetenv("QT_FONT_DPI");
+        QCOMPARE(QImage(folder.filePath("scaled.png")).size(), QSize(600, 450));
+    }
+
     void runsWithoutDisplayAndTranslation()
     {
 #if defined(Q_OS_WIN)
