@@ -1,6 +1,8 @@
 #include "Appearance.h"
 #include "BuiltInStyleSheets.h"
 
+#include <QApplication>
+
 namespace Zelkor::Examples {
 
 Appearance::Appearance(const QString& program, QObject* parent)
@@ -11,7 +13,10 @@ bool Appearance::SetLanguage(const QString& code)
 {
     if (language == code)
         return true;
+    // Qt 5 replaces the direction by that of the translators when these change.
+    const Qt::LayoutDirection direction = QApplication::layoutDirection();
     const bool found = translations.Use(code);
+    QApplication::setLayoutDirection(direction);
     language = found ? code : AllLanguages().first().code;
     Q_EMIT LanguageChanged(language);
     return found;

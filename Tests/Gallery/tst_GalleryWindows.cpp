@@ -21,6 +21,7 @@
 #include <QListWidget>
 #include <QPlainTextEdit>
 #include <QRegularExpression>
+#include <QScopeGuard>
 #include <QScreen>
 #include <QSpinBox>
 #include <QToolButton>
@@ -131,7 +132,10 @@ private Q_SLOTS:
                 [] { Catalogue::RetranslateEntries(); });
         gallery->OpenPage("ColorButton");
         Page()->SelectState(2);
+        const auto leftToRight = qScopeGuard([] { QApplication::setLayoutDirection(Qt::LeftToRight); });
+        QApplication::setLayoutDirection(Qt::RightToLeft);
         QVERIFY(appearance.SetLanguage("de"));
+        QCOMPARE(QApplication::layoutDirection(), Qt::RightToLeft);
         QTRY_COMPARE(Page()->findChildren<StateCard*>().last()->accessibleName(), QString("Deaktiviert"));
         QCOMPARE(Page()->SelectedState(), 2);
         appearance.SetLanguage("en");

@@ -18,9 +18,11 @@ SaveChangesBar::SaveChangesBar(QWidget* parent)
     Common::AccessibleFactory<SaveChangesBar, Common::AccessibleAs<QAccessible::AlertMessage>>::Install();
     auto* buttons = new QHBoxLayout;
     buttons->addStretch();
-    buttons->addWidget(saveButton);
-    buttons->addWidget(discardButton);
-    buttons->addWidget(cancelButton);
+    for (QPushButton* button : {saveButton, discardButton, cancelButton}) {
+        // Return answers, as in a dialog.
+        button->setAutoDefault(true);
+        buttons->addWidget(button);
+    }
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(question);

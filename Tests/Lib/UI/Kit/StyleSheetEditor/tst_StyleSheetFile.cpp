@@ -85,7 +85,7 @@ private Q_SLOTS:
             if (action->shortcut() == QKeySequence(QKeySequence::Open))
                 action->trigger();
         }
-        QTest::mouseClick(ButtonOf(editor, "Discard"), Qt::LeftButton);
+        QTest::keyClick(ButtonOf(editor, "Discard"), Qt::Key_Return);
         editor.findChild<QFileDialog*>()->reject();
         QCOMPARE(editor.focusWidget(), editor.findChild<ZCodeEditor*>());
         QVERIFY(editor.isModified());
