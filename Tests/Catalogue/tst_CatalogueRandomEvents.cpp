@@ -125,6 +125,8 @@ private Q_SLOTS:
         qInfo("VX_SEED=%u VX_EVENTS=%d survives:%s", seed, eventCount, qPrintable(entry.className));
         std::mt19937 random(seed + quint32(&entry - Entries().data()));
         const Support::LeakCheck leakCheck;
+        // Qt's about a colour that was edited in the style sheet editor.
+        AllowWarnings("QCssParser::parseHexColor: ");
         ApplySheet("dark");
         for (int sent = 0; sent < eventCount && !QTest::currentTestFailed(); sent += EVENTS_IN_ONE_STATE)
             SendTo(entry, entry.states[int(random() % unsigned(entry.states.size()))], random());

@@ -16,6 +16,9 @@ protected:
     /// Expects one warning that contains `text`. Call it before the code that warns.
     void ExpectWarning(const QString& text);
 
+    /// Ignores warnings that begin with `text` until the test function ends.
+    void AllowWarnings(const QString& text);
+
     // A test class with functions of the same names calls these first.
 protected Q_SLOTS:
     void init();
