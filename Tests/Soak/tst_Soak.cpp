@@ -23,7 +23,8 @@
 #include <ctime>
 #include <vector>
 
-#if defined(__SANITIZE_ADDRESS__)
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+#define VX_SANITIZED
 // Declared here because GCC does not ship the header.
 extern "C" std::size_t __sanitizer_get_current_allocated_bytes();
 #endif
@@ -32,11 +33,11 @@ using namespace Zelkor;
 
 namespace {
 
-// Returns the resident memory of this process in megabytes. Under AddressSanitizer, which delays deallocation, returns
-// the allocated memory.
+// Returns the resident memory of this process in megabytes. With a sanitizer, which adds memory of its own and delays
+// deallocation, returns the allocated memory.
 double Resident()
 {
-#if defined(__SANITIZE_ADDRESS__)
+#if defined(VX_SANITIZED)
     return double(__sanitizer_get_current_allocated_bytes()) / 1e6;
 #elif defined(Q_OS_WIN)
     PROCESS_MEMORY_COUNTERS counters = {};
