@@ -33,7 +33,7 @@ using namespace Zelkor;
 
 namespace {
 
-// Returns the resident memory of this process in megabytes. With a sanitizer, which adds memory of its own and delays
+// Returns the resident memory of this process in megabytes. With a sanitizer, which uses memory itself and delays
 // deallocation, returns the allocated memory.
 double Resident()
 {
