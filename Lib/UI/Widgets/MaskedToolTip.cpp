@@ -3,7 +3,9 @@
 #include <UI/Common/AccessibleFactory.h>
 #include <UI/Common/BoxLayouts.h>
 #include <UI/Common/ClampToWidgetSize.h>
+#include <UI/Common/WaylandPopUp.h>
 
+#include <QApplication>
 #include <QBitmap>
 #include <QEvent>
 #include <QLabel>
@@ -65,12 +67,15 @@ private:
 
 } // namespace
 
+// On Wayland, only pop-ups and tool tips have a position, relative to the parent's window.
 MaskedToolTip::MaskedToolTip(QWidget* parent)
-    : ZFrame(parent, Qt::Dialog | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint),
+    : ZFrame(parent,
+             (Common::IsWayland() ? Qt::ToolTip : Qt::Dialog) | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint),
       titleLabel(MakeLabel("titleLabel", this)), textLabel(MakeLabel("textLabel", this))
 {
     Common::AccessibleFactory<MaskedToolTip, AccessibleToolTip>::Install();
     setObjectName(QStringLiteral("MaskedToolTip"));
+    setAttribute(Qt::WA_ShowWithoutActivating);
     auto* layout = Common::MakeBoxLayout<QVBoxLayout>(this);
     layout->addWidget(titleLabel);
     layout->addWidget(textLabel);
@@ -95,7 +100,30 @@ void MaskedToolTip::Show(const QPoint& globalPos)
     if (displayTime > 0)
         QTimer::singleShot(displayTime, this, &QWidget::close);
     move(mapFromGlobal(globalPos + QPoint(Common::ClampToWidgetSize(offsetX), Common::ClampToWidgetSize(offsetY))));
+    FollowWindow();
     show();
+}
+
+void MaskedToolTip::FollowWindow()
+{
+    if (followed)
+        followed->removeEventFilter(this);
+    followed = parentWidget() ? parentWidget()->window() : QApplication::activeWindow();
+    if (followed)
+        followed->installEventFilter(this);
+}
+
+bool MaskedToolTip::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == followed && isVisible()) {
+        if (event->type() == QEvent::Move && !Common::IsWayland()) {
+            const auto* moved = static_cast<QMoveEvent*>(event);
+            move(pos() + moved->pos() - moved->oldPos());
+        } else if (event->type() == QEvent::WindowDeactivate && hideOnDeactivate && !isActiveWindow()) {
+            close();
+        }
+    }
+    return ZFrame::eventFilter(watched, event);
 }
 
 void MaskedToolTip::changeEvent(QEvent* event)

@@ -4,6 +4,7 @@
 #include <UI/Kit/ZFrame.h>
 
 #include <QImage>
+#include <QPointer>
 
 class QLabel;
 
@@ -11,9 +12,10 @@ namespace Zelkor::Vx::UI {
 
 /// A tool tip window with a title, a text and the shape of an image, on top of other windows.
 ///
-/// Closes after its display time, on a mouse press and, with `hideOnDeactivate`, when another window becomes active.
-/// Closing hides the window; the parent or the caller owns it, and it may be shown again. Mask, texts, display
-/// time and offsets take effect with the next `Show`. GUI thread only.
+/// Moves with its parent's window, without parent with the window that was active, and does not become active when it
+/// is shown. Closes after its display time, on a mouse press and, with `hideOnDeactivate`, when that window or an
+/// active tip is deactivated. Closing hides the window; the parent or the caller owns it, and it may be shown again.
+/// Mask, texts, display time and offsets take effect with the next `Show`. GUI thread only.
 ///
 /// Object names for style sheets: "MaskedToolTip", the window, and in it "titleLabel" and "textLabel".
 class VX_WIDGETS_EXPORT MaskedToolTip : public ZFrame
@@ -64,10 +66,13 @@ public:
     void Show(const QPoint& globalPos);
 
 protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
     void changeEvent(QEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
 
 private:
+    void FollowWindow();
+
     QImage maskImage;
     QString title;
     QString text;
@@ -77,6 +82,7 @@ private:
     int offsetY = 0;
     QLabel* titleLabel;
     QLabel* textLabel;
+    QPointer<QWidget> followed; ///< the window that the tip was shown over
 };
 
 } // namespace Zelkor::Vx::UI

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <UI/Common/WaylandPopUp.h>
+
 #include <QRect>
 
 #include <map>
@@ -149,6 +151,60 @@ QPoint FindPosition(const Geometry& geometry, const Placement& preferred, bool c
             return candidate;
     }
     return first;
+}
+
+inline Qt::Edges EdgesOf(Anchor anchor)
+{
+    switch (anchor) {
+    case Anchor::TopLeft:
+        return Qt::TopEdge | Qt::LeftEdge;
+    case Anchor::TopCenter:
+        return Qt::TopEdge;
+    case Anchor::TopRight:
+        return Qt::TopEdge | Qt::RightEdge;
+    case Anchor::BottomCenter:
+        return Qt::BottomEdge;
+    case Anchor::BottomRight:
+        return Qt::BottomEdge | Qt::RightEdge;
+    case Anchor::BottomLeft:
+    default:
+        return Qt::BottomEdge | Qt::LeftEdge;
+    }
+}
+
+inline Qt::Edges EdgesOf(Direction direction)
+{
+    switch (direction) {
+    case Direction::DownCenter:
+        return Qt::BottomEdge;
+    case Direction::DownLeft:
+        return Qt::BottomEdge | Qt::LeftEdge;
+    case Direction::UpRight:
+        return Qt::TopEdge | Qt::RightEdge;
+    case Direction::UpCenter:
+        return Qt::TopEdge;
+    case Direction::UpLeft:
+        return Qt::TopEdge | Qt::LeftEdge;
+    case Direction::DownRight:
+    default:
+        return Qt::BottomEdge | Qt::RightEdge;
+    }
+}
+
+/// Returns the placement for a Wayland compositor, with the button in coordinates of its window. Unless `canOverlap`, a
+/// pop-up without room flips to its mirrored placement and does not slide over the button.
+inline Common::PopUpAnchor WaylandAnchor(const Geometry& geometry, const Placement& placement, bool canOverlap)
+{
+    const QPoint topLeft = AnchorPoint(geometry, Anchor::TopLeft);
+    const QPoint end = AnchorPoint(geometry, Anchor::BottomRight);
+    uint adjustment = Common::SLIDE_X | Common::SLIDE_Y;
+    const auto mirrored = MirroredPlacements().find(placement);
+    if (!canOverlap && mirrored != MirroredPlacements().end()) {
+        const Qt::Edges changed = EdgesOf(placement.first) ^ EdgesOf(mirrored->second.first);
+        adjustment = changed & Qt::TopEdge ? Common::FLIP_Y | Common::SLIDE_X : Common::FLIP_X | Common::SLIDE_Y;
+    }
+    return {QRect(topLeft, QSize(end.x() - topLeft.x(), end.y() - topLeft.y())), EdgesOf(placement.first),
+            EdgesOf(placement.second), adjustment};
 }
 
 } // namespace Zelkor::Vx::UI::PopUpPlacement

@@ -20,6 +20,12 @@ const Common::LogSource LOG_SOURCE("Lib/UI/Widgets/ButtonWithPopUpContainer");
 // Uses the whole screen, since a pop-up may cover task bars.
 QPoint GetBestPopupPosition(const QWidget* popup, const QWidget* button, const QPoint& point)
 {
+    if (Common::IsWayland()) {
+        // Positions on the screen are unknown, except in a window that fills it.
+        const QWidget* window = button->window();
+        const bool fillsScreen = window->isMaximized() || window->isFullScreen();
+        return fillsScreen ? PopUpPlacement::FitToScreen(window->geometry(), popup->size(), point) : point;
+    }
     const QScreen* screen = Common::ScreenOf(*button);
     if (!screen || !screen->geometry().isValid()) {
         LOG_SOURCE.Warning(45, "Zelkor::Vx::UI::`anonymous-namespace'::GetBestPopupPosition",
@@ -61,6 +67,8 @@ PopUpWindow::PopUpWindow(QAbstractButton* button)
 void PopUpWindow::setVisible(bool visible)
 {
     const bool wasVisible = isVisible();
+    if (visible && !wasVisible)
+        shown = settings;
     ZFrame::setVisible(visible);
     if (!button || isVisible() == wasVisible)
         return;
@@ -140,7 +148,7 @@ bool PopUpWindow::eventFilter(QObject* watched, QEvent* event)
     if (!button || !isVisible())
         return ZFrame::eventFilter(watched, event);
     if (event->type() == QEvent::Move || event->type() == QEvent::Resize)
-        move(ComputePopupPosition());
+        FollowButton();
     // A parent receives its hide event before Qt iterates over its children, which a slot that deletes the button would
     // disturb.
     if (event->type() != QEvent::Hide || watched == button)
@@ -163,7 +171,7 @@ bool PopUpWindow::event(QEvent* event)
         hide();
     if (event->type() == QEvent::LayoutRequest && button && isVisible()) {
         adjustSize();
-        move(ComputePopupPosition());
+        FollowButton();
     }
     --eventDepth;
     return isHandled;
@@ -177,14 +185,39 @@ QPoint PopUpWindow::ComputePopupPosition() const
         [this](const QPoint& point) { return GetBestPopupPosition(this, button, point); });
 }
 
+void PopUpWindow::Place()
+{
+    if (Common::IsWayland()) {
+        const QRect rect(button->mapTo(button->window(), QPoint(0, 0)), button->size());
+        Common::SetPopUpAnchor(*this,
+                               PopUpPlacement::WaylandAnchor({rect, size(), shown.hOffset, shown.vOffset},
+                                                             {shown.anchor, shown.direction}, shown.canOverlapButton));
+    }
+    requested = QRect(ComputePopupPosition(), size());
+    move(requested.topLeft());
+}
+
+void PopUpWindow::FollowButton()
+{
+    if (!Common::IsWayland()) {
+        Place();
+    } else if (requested != QRect(ComputePopupPosition(), size())) {
+        // A pop-up on Wayland does not move, so map it again.
+        const QPointer<QWidget> focused(focusWidget());
+        ZFrame::setVisible(false);
+        ZFrame::setVisible(true);
+        if (focused)
+            focused->setFocus(Qt::PopupFocusReason);
+    }
+}
+
 void PopUpWindow::showEvent(QShowEvent* event)
 {
     // A window does not inherit its parent's layout direction.
     setLayoutDirection(button->layoutDirection());
     adjustSize();
     ZFrame::showEvent(event);
-    shown = settings;
-    move(ComputePopupPosition());
+    Place();
     // The pop-up grabs the mouse, so the button gets no leave event.
     button->setAttribute(Qt::WA_UnderMouse, false);
 }

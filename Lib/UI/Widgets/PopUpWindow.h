@@ -56,11 +56,14 @@ protected:
 private:
     QRect ButtonRect() const;
     QPoint ComputePopupPosition() const;
+    void Place();
+    void FollowButton();
     void FocusFirstWidget();
     void WatchButton(bool isWatched);
 
     QAbstractButton* button; ///< null once the window has outlived it
     Settings shown;          ///< the settings when the window was shown last
+    QRect requested;         ///< the geometry of the last placement
     int eventDepth = 0;
 };
 
