@@ -58,18 +58,17 @@ inline void MoveWindow(const QWidget& window, const QPoint& position)
                 .arg(position.y()));
 }
 
-/// Returns a picture of all outputs, whose top left corner is the origin.
-inline QImage Screenshot()
-{
-    return QImage::fromData(Run(QStringLiteral("grim"), {"-s", "1", "-t", "ppm", "-"}), "PPM");
-}
-
-/// Returns the rectangle that a colour fills on the screen. Colours differ slightly where an output is scaled.
-inline QRect Find(const QColor& color)
+/// Returns the rectangle that a colour fills in a part of the screen. Colours differ slightly where an output is
+/// scaled.
+inline QRect Find(const QColor& color, const QRect& area)
 {
     constexpr int TOLERANCE = 40;
     const QRgb wanted = color.rgb();
-    const QImage picture = Screenshot().convertToFormat(QImage::Format_RGB32);
+    const QString place =
+        QStringLiteral("%1,%2 %3x%4").arg(area.x()).arg(area.y()).arg(area.width()).arg(area.height());
+    const QImage picture =
+        QImage::fromData(Run(QStringLiteral("grim"), {"-s", "1", "-t", "ppm", "-g", place, "-"}), "PPM")
+            .convertToFormat(QImage::Format_RGB32);
     QRect found;
     for (int y = 0; y < picture.height(); ++y) {
         const auto* line = reinterpret_cast<const QRgb*>(picture.constScanLine(y));
@@ -79,7 +78,7 @@ inline QRect Find(const QColor& color)
                 found |= QRect(x, y, 1, 1);
         }
     }
-    return found;
+    return found.isEmpty() ? found : found.translated(area.topLeft());
 }
 
 } // namespace Support::Sway

@@ -10,6 +10,7 @@
 #include <QEvent>
 #include <QLabel>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QTimer>
 
 namespace Zelkor::Vx::UI {
@@ -76,6 +77,11 @@ MaskedToolTip::MaskedToolTip(QWidget* parent)
     Common::AccessibleFactory<MaskedToolTip, AccessibleToolTip>::Install();
     setObjectName(QStringLiteral("MaskedToolTip"));
     setAttribute(Qt::WA_ShowWithoutActivating);
+    if (Common::IsWayland()) {
+        // A mask does not shape a window there, so paintEvent() does.
+        setAttribute(Qt::WA_TranslucentBackground);
+        setAttribute(Qt::WA_NoSystemBackground, false);
+    }
     auto* layout = Common::MakeBoxLayout<QVBoxLayout>(this);
     layout->addWidget(titleLabel);
     layout->addWidget(textLabel);
@@ -124,6 +130,17 @@ bool MaskedToolTip::eventFilter(QObject* watched, QEvent* event)
         }
     }
     return ZFrame::eventFilter(watched, event);
+}
+
+void MaskedToolTip::paintEvent(QPaintEvent* event)
+{
+    ZFrame::paintEvent(event);
+    if (!Common::IsWayland() || mask().isEmpty())
+        return;
+    QPainter painter(this);
+    painter.setCompositionMode(QPainter::CompositionMode_Clear);
+    for (const QRect& outside : QRegion(rect()) - mask())
+        painter.fillRect(outside, Qt::transparent);
 }
 
 void MaskedToolTip::changeEvent(QEvent* event)

@@ -1,8 +1,19 @@
 #include <UI/Widgets/ButtonWithPopUpContainer.h>
+#include <UI/Widgets/ButtonWithPopUpList.h>
+#include <UI/Widgets/ClickSoundComboBox.h>
+#include <UI/Widgets/ColorButton.h>
 #include <UI/Widgets/MaskedToolTip.h>
+#include <UI/Widgets/VolumeSlider.h>
 
+#include <Support/ModalWatcher.h>
 #include <Support/Sway.h>
 #include <Support/TestCase.h>
+
+#include <QAbstractItemView>
+#include <QMenu>
+#include <QPainter>
+#include <QPushButton>
+#include <QWindow>
 
 namespace Sway = Support::Sway;
 using Zelkor::Vx::UI::ButtonWithPopUpContainer;
@@ -10,33 +21,74 @@ using Zelkor::Vx::UI::MaskedToolTip;
 
 namespace {
 
-const QColor PANEL(255, 0, 255);
+const QColor POPUP(255, 0, 255);
 const QColor BUTTON(0, 255, 0);
+constexpr QSize PANEL_SIZE(151, 91);
 
-/// A window with a button whose panel is a plain rectangle.
+/// A window with a widget that opens a pop-up, both in plain colours.
+template<class Button>
 struct Scene
 {
-    explicit Scene(const QPoint& position = QPoint(500, 400))
+    explicit Scene(const QPoint& position = QPoint(500, 400)) : position(position)
     {
         window.setWindowTitle("Scene");
-        window.setStyleSheet("QToolButton { background: #00ff00; border: 0 }");
+        window.setStyleSheet(
+            "#opener { background: #00ff00; border: 0 }"
+            "QMenu, QMenu::item, QAbstractItemView { background: #ff00ff; color: #ff00ff; border: 0; padding: 20px }");
         window.resize(300, 200);
+        button.setObjectName("opener");
         button.setGeometry(100, 80, 60, 30);
-        content->setFixedSize(151, 91);
-        content->setStyleSheet("background: #ff00ff");
-        button.AppendWidget(content);
         window.show();
         QTRY_VERIFY(window.isActiveWindow());
         Sway::MoveWindow(window, position);
-        QTRY_COMPARE(Sway::Find(BUTTON), QRect(position + button.pos(), button.size()));
+        QTRY_VERIFY(Find(BUTTON).contains(Center()));
     }
 
-    void ClickButton() { Sway::Click(Sway::Find(BUTTON).center()); }
+    QPoint Center() const { return position + QPoint(130, 95); }
 
+    QRect Find(const QColor& color) const
+    {
+        constexpr int AROUND = 130;
+        return Sway::Find(color, QRect(position, window.size()).adjusted(-AROUND, -AROUND, AROUND, AROUND));
+    }
+
+    // An edge on a fraction of a device pixel is found one pixel away.
+    bool Shows(const QRect& popUp) const
+    {
+        const QRect found = Find(POPUP);
+        return found.contains(popUp.adjusted(2, 2, -2, -2)) && popUp.adjusted(-2, -2, 2, 2).contains(found);
+    }
+
+    QPoint position;
     QWidget window;
-    ButtonWithPopUpContainer button{&window};
+    Button button{&window};
+};
+
+struct PanelScene : Scene<ButtonWithPopUpContainer>
+{
+    explicit PanelScene(const QPoint& position = QPoint(500, 400)) : Scene(position)
+    {
+        content->setFixedSize(PANEL_SIZE);
+        content->setStyleSheet("background: #ff00ff");
+        button.AppendWidget(content);
+    }
+
     QWidget* content = new QWidget;
 };
+
+void SetPlacement(ButtonWithPopUpContainer& button, int anchor, int direction)
+{
+    button.SetPreferredPopupAnchor(ButtonWithPopUpContainer::PreferredPopupAnchor(anchor));
+    button.SetPreferredPopupDirection(ButtonWithPopUpContainer::PreferredPopupDirection(direction));
+}
+
+/// A hint in the colour of pop-ups.
+void ShowHint(MaskedToolTip& hint, const QPoint& global)
+{
+    hint.setStyleSheet("#MaskedToolTip { background: #ff00ff }");
+    hint.setFixedSize(80, 40);
+    hint.Show(global);
+}
 
 } // namespace
 
@@ -58,7 +110,7 @@ private Q_SLOTS:
                 const int left = direction % 3 == 0 ? 0 : direction % 3 == 1 ? 75 : 151;
                 QTest::addRow("anchor %d, direction %d", anchor, direction)
                     << anchor << direction
-                    << QRect(x[anchor % 3] - left, y[anchor / 3] - (direction < 3 ? 0 : 91), 151, 91);
+                    << QRect(QPoint(x[anchor % 3] - left, y[anchor / 3] - (direction < 3 ? 0 : 91)), PANEL_SIZE);
             }
         }
     }
@@ -67,12 +119,157 @@ private Q_SLOTS:
         QFETCH(const int, anchor);
         QFETCH(const int, direction);
         QFETCH(const QRect, expected);
-        Scene scene;
-        scene.button.SetPreferredPopupAnchor(ButtonWithPopUpContainer::PreferredPopupAnchor(anchor));
-        scene.button.SetPreferredPopupDirection(ButtonWithPopUpContainer::PreferredPopupDirection(direction));
-        scene.ClickButton();
-        QTRY_COMPARE(Sway::Find(PANEL), expected);
+        PanelScene scene;
+        SetPlacement(scene.button, anchor, direction);
+        Sway::Click(scene.Center());
+        QTRY_COMPARE(scene.Find(POPUP), expected);
         QVERIFY(scene.button.isChecked());
+    }
+
+    void panelThatGrowsKeepsOffTheButton()
+    {
+        PanelScene scene;
+        SetPlacement(scene.button, ButtonWithPopUpContainer::ANCHOR_TOP_LEFT,
+                     ButtonWithPopUpContainer::DIRECTION_UP_RIGHT);
+        Sway::Click(scene.Center());
+        QTRY_COMPARE(scene.Find(POPUP), QRect(600, 389, 151, 91));
+        scene.content->setFixedSize(160, 120);
+        QTRY_COMPARE(scene.Find(POPUP), QRect(600, 360, 160, 120));
+        QVERIFY(scene.button.isChecked());
+    }
+
+    void panelOpensAndClosesByMouseAndKeys()
+    {
+        PanelScene scene;
+        const QPoint center = scene.Center();
+        const auto opens = [&](const char* how, bool isOpen) {
+            QTRY_VERIFY2(scene.Find(POPUP).isValid() == isOpen, how);
+            QVERIFY2(scene.button.isChecked() == isOpen, how);
+        };
+        Sway::Click(center);
+        opens("click on the button", true);
+        Sway::Click(center);
+        opens("second click", false);
+        Sway::Click(center);
+        opens("third click", true);
+        Sway::Click(QPoint(510, 410));
+        opens("click into the window", false);
+        Sway::Click(center);
+        opens("click after that", true);
+        Sway::Click(QPoint(10, 10));
+        opens("click outside", false);
+        Sway::Click(QPoint(510, 410));
+        scene.button.setFocus();
+        Sway::Key("F4");
+        opens("F4", true);
+        Sway::Key("Escape");
+        opens("Escape", false);
+    }
+
+    void hintFollowsItsWindowAndLeavesItActive()
+    {
+        Scene<QPushButton> scene;
+        MaskedToolTip hint(&scene.window);
+        ShowHint(hint, scene.button.mapToGlobal(QPoint(0, -50)));
+        QTRY_COMPARE(scene.Find(POPUP), QRect(600, 430, 80, 40));
+        QVERIFY(scene.window.isActiveWindow());
+        scene.position = QPoint(20, 30);
+        Sway::MoveWindow(scene.window, scene.position);
+        QTRY_COMPARE(scene.Find(POPUP), QRect(120, 60, 80, 40));
+        QWidget other;
+        other.show();
+        QTRY_VERIFY(other.isActiveWindow());
+        QTRY_VERIFY(!hint.isVisible());
+    }
+
+    void hintTakesTheShapeOfItsImage()
+    {
+        Scene<QPushButton> scene;
+        MaskedToolTip hint(&scene.window);
+        QImage shape(80, 40, QImage::Format_ARGB32);
+        shape.fill(0);
+        QPainter(&shape).fillRect(10, 5, 60, 30, Qt::white);
+        hint.SetMask(shape);
+        ShowHint(hint, scene.button.mapToGlobal(QPoint(0, -50)));
+        QTRY_COMPARE(scene.Find(POPUP), QRect(610, 435, 60, 30));
+    }
+
+    void colourDialogBelongsToItsWindow()
+    {
+        Scene<Zelkor::Vx::ColorButton> scene;
+        const QWindow* parent = nullptr;
+        const Support::ModalWatcher watcher([&parent](QWidget* dialog) {
+            parent = dialog->windowHandle()->transientParent();
+            dialog->close();
+        });
+        scene.button.click();
+        QCOMPARE(parent, scene.window.windowHandle());
+    }
+
+    void initTestCase() { Sway::Command("create_output"); }
+
+    void popUpsOpenBesideTheirWidget_data()
+    {
+        QTest::addColumn<QString>("first");
+        QTest::addColumn<QString>("second");
+        QTest::addColumn<QPoint>("position");
+        QTest::newRow("right output") << "0 0"
+                                      << "1280 0 scale 1" << QPoint(1500, 300);
+        QTest::newRow("left output") << "1024 0"
+                                     << "0 0 scale 1" << QPoint(200, 300);
+        QTest::newRow("upper output") << "0 768"
+                                      << "0 0 scale 1" << QPoint(300, 200);
+        QTest::newRow("scale 2") << "0 0"
+                                 << "1280 0 scale 2" << QPoint(1300, 50);
+        QTest::newRow("scale 1.5") << "0 0"
+                                   << "1280 0 scale 1.5" << QPoint(1300, 100);
+    }
+    void popUpsOpenBesideTheirWidget()
+    {
+        QFETCH(const QString, first);
+        QFETCH(const QString, second);
+        QFETCH(const QPoint, position);
+        Sway::Command("output HEADLESS-1 position " + first + "; output HEADLESS-2 resolution 1024x768 position " +
+                      second);
+        QTRY_COMPARE(QGuiApplication::screens().size(), 2);
+        const QRect opener(position + QPoint(100, 80), QSize(60, 30));
+        {
+            PanelScene scene(position);
+            Sway::Click(scene.Center());
+            QTRY_VERIFY(scene.Shows(QRect(opener.bottomLeft() + QPoint(0, 1), PANEL_SIZE)));
+        }
+        {
+            Scene<QPushButton> scene(position);
+            MaskedToolTip hint(&scene.window);
+            ShowHint(hint, scene.button.mapToGlobal(QPoint(0, -50)));
+            QTRY_VERIFY(scene.Shows(QRect(opener.topLeft() - QPoint(0, 50), QSize(80, 40))));
+        }
+        {
+            Scene<Zelkor::Vx::ButtonWithPopUpList> scene(position);
+            scene.button.AppendItem("Item", {});
+            bool isShown = false;
+            const Support::ModalWatcher watcher([&](QWidget* menu) {
+                const QRect place(opener.bottomLeft() + QPoint(0, 1), menu->size());
+                isShown = QTest::qWaitFor([&] { return scene.Shows(place); });
+                menu->close();
+            });
+            Sway::Click(opener.topRight() + QPoint(-4, 15));
+            QTRY_VERIFY(isShown);
+        }
+        {
+            Scene<Zelkor::Vx::UI::ClickSoundComboBox> scene(position);
+            scene.button.addItems({"One", "Two"});
+            Sway::Click(scene.Center());
+            QTRY_VERIFY(scene.button.view()->isVisible());
+            QTRY_VERIFY(scene.Find(POPUP).intersects(opener.adjusted(-2, -2, 2, 2)));
+        }
+        {
+            Scene<Zelkor::Vx::VolumeSlider> scene(position);
+            qApp->setStyleSheet("QToolTip { background: #ff00ff; color: #ff00ff; border: 0; padding: 20px }");
+            scene.button.setValue(40);
+            QTRY_VERIFY(scene.Find(POPUP).intersects(opener.adjusted(-30, -30, 30, 30)));
+            qApp->setStyleSheet({});
+        }
     }
 };
 
