@@ -2,6 +2,7 @@
 
 #include <UI/Common/AccessibleFactory.h>
 #include <UI/Common/BoxLayouts.h>
+#include <UI/Common/WaylandPopUp.h>
 #include <UI/Common/WheelPolicy.h>
 
 #include <QAccessibleWidget>
@@ -215,6 +216,9 @@ void ZSliderButton::setOnTop(bool isOnTop)
         return;
     onTop = isOnTop;
     sliderFrame->hide();
+    // On Wayland, only a pop-up has a position, and it is on top anyway.
+    if (Common::IsWayland())
+        return;
     const Qt::WindowType previous = onTop ? Qt::Popup : Qt::SplashScreen;
     const Qt::WindowType next = onTop ? Qt::SplashScreen : Qt::Popup;
     // In one call: a change of the parent alone would reset the window flags.
@@ -266,12 +270,21 @@ void ZSliderButton::showSlider()
 {
     const QRect screenRect = screen()->geometry();
     sliderFrame->resize(width(), qBound(1, popUpHeight, screenRect.height()));
-    sliderFrame->move(PopUpPosition(OnScreen(this), sliderFrame->size(), screenRect));
+    if (Common::IsWayland()) {
+        // The compositor knows whether there is room above the button.
+        const QRect button(mapTo(window(), QPoint(0, 0)), size());
+        sliderFrame->winId();
+        Common::SetPopUpAnchor(*sliderFrame, {button, Qt::TopEdge | Qt::LeftEdge, Qt::TopEdge | Qt::RightEdge,
+                                              Common::FLIP_Y | Common::SLIDE_X});
+        sliderFrame->move(OnScreen(this).topLeft() - QPoint(0, sliderFrame->height()));
+    } else {
+        sliderFrame->move(PopUpPosition(OnScreen(this), sliderFrame->size(), screenRect));
+    }
     slider->setAccessibleName(NameOf(this));
     // The pop-up grabs the mouse, so the level button gets no leave event.
     stack->currentWidget()->setAttribute(Qt::WA_UnderMouse, false);
     sliderFrame->show();
-    if (onTop)
+    if (sliderFrame->windowType() != Qt::Popup)
         sliderFrame->activateWindow();
     slider->setFocus(Qt::OtherFocusReason);
 }

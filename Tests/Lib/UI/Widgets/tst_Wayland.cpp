@@ -1,3 +1,4 @@
+#include <UI/Kit/ZSliderButton.h>
 #include <UI/Widgets/ButtonWithPopUpContainer.h>
 #include <UI/Widgets/ButtonWithPopUpList.h>
 #include <UI/Widgets/ClickSoundComboBox.h>
@@ -22,7 +23,7 @@ using Zelkor::Vx::UI::MaskedToolTip;
 namespace {
 
 const QColor POPUP(255, 0, 255);
-const QColor BUTTON(0, 255, 0);
+const QColor WINDOW(0, 255, 0);
 constexpr QSize PANEL_SIZE(151, 91);
 
 /// A window with a widget that opens a pop-up, both in plain colours.
@@ -33,15 +34,17 @@ struct Scene
     {
         window.setWindowTitle("Scene");
         window.setStyleSheet(
-            "#opener { background: #00ff00; border: 0 }"
+            "#window { background: #00ff00 }"
+            "#sliderFrame, #sliderFrame QSlider { background: #ff00ff; border: 0 } QSlider::handle { background: "
+            "#ff00ff }"
             "QMenu, QMenu::item, QAbstractItemView { background: #ff00ff; color: #ff00ff; border: 0; padding: 20px }");
         window.resize(300, 200);
-        button.setObjectName("opener");
+        window.setObjectName("window");
         button.setGeometry(100, 80, 60, 30);
         window.show();
         QTRY_VERIFY(window.isActiveWindow());
         Sway::MoveWindow(window, position);
-        QTRY_VERIFY(Find(BUTTON).contains(Center()));
+        QTRY_COMPARE(Find(WINDOW).center(), QRect(position, window.size()).center());
     }
 
     QPoint Center() const { return position + QPoint(130, 95); }
@@ -262,6 +265,13 @@ private Q_SLOTS:
             Sway::Click(scene.Center());
             QTRY_VERIFY(scene.button.view()->isVisible());
             QTRY_VERIFY(scene.Find(POPUP).intersects(opener.adjusted(-2, -2, 2, 2)));
+        }
+        {
+            Scene<ZSliderButton> scene(position);
+            scene.button.setOnTop(true);
+            scene.button.setSliderHeight(50);
+            Sway::Click(scene.Center());
+            QTRY_VERIFY(scene.Shows(QRect(opener.topLeft() - QPoint(0, 50), QSize(scene.button.width(), 50))));
         }
         {
             Scene<Zelkor::Vx::VolumeSlider> scene(position);
