@@ -3,6 +3,7 @@
 #include <UI/Common/AccessibleFactory.h>
 #include <UI/Common/BoxLayouts.h>
 #include <UI/Common/CanBeParentOf.h>
+#include <UI/Common/LostMouseRelease.h>
 #include <UI/Common/MirroredStyle.h>
 
 #include <Zelkor/Vx/UI/Util/WindowMouseMoveHelper.h>
@@ -261,6 +262,7 @@ void CustomTitleBar::RebuildWindow(QWidget* window)
     auto* helper = new Util::WindowMouseMoveHelper(window, DragHandles(this, impl->contentFrame));
     // Installed after the helper, so that it filters first; the helper owns it.
     new ChildPressFilter(impl->contentFrame, helper);
+    Common::LostMouseRelease::Watch(window);
 }
 
 void CustomTitleBar::SetUpWindow(QWidget* window)

@@ -40,6 +40,14 @@ public:
         bar->setStyleSheet("QLabel { min-height: 30px; min-width: 60px } QToolButton { min-width: 30px }");
     }
 
+    void ShowSettled()
+    {
+        Support::ShowActive(*this);
+        // Until this move, the window manager may still report the initial position.
+        move(310, 310);
+        QTRY_COMPARE(pos(), QPoint(310, 310));
+    }
+
     // Drags at the lower left of a part. Returns by how much the window moved.
     QPoint DragAt(const char* name, int button = 1) const
     {
@@ -109,10 +117,7 @@ private Q_SLOTS:
     {
         Window window;
         window.bar->AddWidget(new QLabel("user"));
-        Support::ShowActive(window);
-        // Until this move, the window manager may still report the initial position.
-        window.move(310, 310);
-        QTRY_COMPARE(window.pos(), QPoint(310, 310));
+        window.ShowSettled();
         for (const char* name : {"CustomTitleBar", "titleLabel", "contentFrame", "label"})
             QCOMPARE(window.DragAt(name), WAY);
         QCOMPARE(window.DragAt("label", 3), QPoint());
@@ -121,6 +126,16 @@ private Q_SLOTS:
         delete window.bar;
         QCoreApplication::processEvents();
         QCOMPARE(window.DragAt("label"), WAY);
+    }
+
+    void hoverWorksAfterADragWithoutAClick()
+    {
+        Window window;
+        window.ShowSettled();
+        const auto* button = window.findChild<QToolButton*>("closeButton");
+        QCOMPARE(window.DragAt("titleLabel"), WAY);
+        Support::MovePointer(button->mapToGlobal(button->rect().center()));
+        QTRY_VERIFY(button->underMouse());
     }
 
     void barWithAnotherParentServesItsWindow()
