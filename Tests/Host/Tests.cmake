@@ -5,6 +5,7 @@ vx_test(Host/tst_CaptureEngine.cpp LABELS threads)
 vx_test(Host/tst_Devices.cpp LABELS threads)
 
 if(VX_WITH_GSTREAMER AND VX_GSTREAMER_FOUND)
+  vx_test(Host/tst_ScreenDevice.cpp WINDOWS)
   # The host does not export these sources, so the test compiles them.
   find_package(PkgConfig REQUIRED)
   pkg_check_modules(VX_TEST_GSTREAMER REQUIRED IMPORTED_TARGET gstreamer-1.0 gstreamer-video-1.0)

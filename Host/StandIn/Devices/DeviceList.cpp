@@ -23,10 +23,11 @@ struct Mailbox
     std::optional<DeviceMonitor::Found> found; ///< guarded by `mutex`
 };
 
-// The X server of a Wayland session does not show the screen.
+// The X server of a Wayland session shows X11 windows on black instead of the screen, also to programs that use X11.
 bool MayHaveX11Screen()
 {
-    return !QGuiApplication::platformName().startsWith(QLatin1String("wayland"));
+    return qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") && qgetenv("XDG_SESSION_TYPE") != "wayland" &&
+           !QGuiApplication::platformName().startsWith(QLatin1String("wayland"));
 }
 
 } // namespace

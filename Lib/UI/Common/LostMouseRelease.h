@@ -28,7 +28,7 @@ private:
 
     void Send(QWindow* handle, const QMouseEvent& move);
 
-    QWidget* const window;                   ///< the parent
+    QWidget* const window;                  ///< the parent
     Qt::MouseButton pressed = Qt::NoButton; ///< the button whose release is missing
 };
 

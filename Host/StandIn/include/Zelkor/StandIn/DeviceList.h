@@ -9,7 +9,8 @@
 
 namespace Zelkor::StandIn {
 
-/// Lists the devices that can be captured now: the cameras, the screen and the test picture, in this order.
+/// Lists the devices that can be captured now: the cameras, the screen and the test picture, in this order. In a
+/// Wayland session, also for programs that use X11, there is no screen.
 ///
 /// Cameras and the screen are searched on a worker thread. A new list contains the test picture only and emits
 /// `Changed` when the first search ends and when a camera is plugged in or unplugged. GUI thread only.
