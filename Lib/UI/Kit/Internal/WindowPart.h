@@ -1,5 +1,7 @@
 #pragma once
 
+namespace Zelkor::Vx::UI::Kit {
+
 /// What a point of a frameless window belongs to. Left and right are visual, in any layout direction.
 enum class WindowPart {
     Client,         ///< content; receives the mouse as usual
@@ -14,3 +16,5 @@ enum class WindowPart {
     Bottom,
     BottomLeft,
 };
+
+} // namespace Zelkor::Vx::UI::Kit
