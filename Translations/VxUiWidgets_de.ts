@@ -403,6 +403,25 @@
     </message>
 </context>
 <context>
+    <name>Zelkor::Vx::UI::Kit::TitleBarController</name>
+    <message>
+        <source>Restore</source>
+        <translation>Wiederherstellen</translation>
+    </message>
+    <message>
+        <source>Maximise</source>
+        <translation>Maximieren</translation>
+    </message>
+    <message>
+        <source>Minimise</source>
+        <translation>Minimieren</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+</context>
+<context>
     <name>Zelkor::Vx::UI::ScrollablePanelWithItem</name>
     <message>
         <source>Previous</source>

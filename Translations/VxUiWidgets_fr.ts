@@ -403,6 +403,25 @@
     </message>
 </context>
 <context>
+    <name>Zelkor::Vx::UI::Kit::TitleBarController</name>
+    <message>
+        <source>Restore</source>
+        <translation>Restaurer</translation>
+    </message>
+    <message>
+        <source>Maximise</source>
+        <translation>Agrandir</translation>
+    </message>
+    <message>
+        <source>Minimise</source>
+        <translation>Réduire</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+</context>
+<context>
     <name>Zelkor::Vx::UI::ScrollablePanelWithItem</name>
     <message>
         <source>Previous</source>

@@ -401,6 +401,25 @@
     </message>
 </context>
 <context>
+    <name>Zelkor::Vx::UI::Kit::TitleBarController</name>
+    <message>
+        <source>Restore</source>
+        <translation>元に戻す</translation>
+    </message>
+    <message>
+        <source>Maximise</source>
+        <translation>最大化</translation>
+    </message>
+    <message>
+        <source>Minimise</source>
+        <translation>最小化</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
+</context>
+<context>
     <name>Zelkor::Vx::UI::ScrollablePanelWithItem</name>
     <message>
         <source>Previous</source>

@@ -1,0 +1,51 @@
+#include <UI/Kit/Internal/WindowActions.h>
+
+#include <QCoreApplication>
+#include <QCursor>
+#include <QMouseEvent>
+#include <QWidget>
+#include <QWindow>
+
+namespace Zelkor::Vx::UI::Kit {
+
+Qt::Orientations ResizableDirections(const QWidget* window)
+{
+    Qt::Orientations directions;
+    directions.setFlag(Qt::Horizontal, window->minimumWidth() < window->maximumWidth());
+    directions.setFlag(Qt::Vertical, window->minimumHeight() < window->maximumHeight());
+    return directions;
+}
+
+bool FillsScreen(const QWidget* window)
+{
+    return window->windowState() & (Qt::WindowMaximized | Qt::WindowFullScreen);
+}
+
+bool CanMaximize(const QWidget* window)
+{
+    return window->windowFlags().testFlag(Qt::WindowMaximizeButtonHint) &&
+           ResizableDirections(window) == (Qt::Horizontal | Qt::Vertical);
+}
+
+void ToggleMaximized(QWidget* window)
+{
+    if (FillsScreen(window))
+        window->showNormal();
+    else
+        window->showMaximized();
+}
+
+QWindow* SystemWindow(const QWidget* window)
+{
+    return window->isWindow() ? window->windowHandle() : nullptr;
+}
+
+void ReleaseMouse(QWindow* window)
+{
+    const QPoint position = QCursor::pos();
+    QMouseEvent release(QEvent::MouseButtonRelease, window->mapFromGlobal(position), position, Qt::LeftButton,
+                        Qt::NoButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(window, &release);
+}
+
+} // namespace Zelkor::Vx::UI::Kit

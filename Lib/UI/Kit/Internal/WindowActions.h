@@ -1,0 +1,29 @@
+#pragma once
+
+#include <Qt>
+
+class QWidget;
+class QWindow;
+
+namespace Zelkor::Vx::UI::Kit {
+
+/// Returns the directions in which the size of a window is not fixed.
+Qt::Orientations ResizableDirections(const QWidget* window);
+
+/// Returns whether a window is maximised or full screen, so that its edges are those of the screen.
+bool FillsScreen(const QWidget* window);
+
+/// Returns whether the window flags and the size limits of a window allow to maximise it.
+bool CanMaximize(const QWidget* window);
+
+/// Restores a window that fills the screen, and maximises any other. May delete the window.
+void ToggleMaximized(QWidget* window);
+
+/// Returns the native window that the window system moves and resizes; null for a widget inside another window.
+QWindow* SystemWindow(const QWidget* window);
+
+/// Ends the mouse press that started a system move or resize. The window system keeps the release, and without it Qt
+/// sends no enter and leave events until the next click.
+void ReleaseMouse(QWindow* window);
+
+} // namespace Zelkor::Vx::UI::Kit

@@ -1,0 +1,132 @@
+#include <UI/Kit/ZWindowChrome.h>
+
+#include <UI/Kit/Internal/ResizeBorder.h>
+#include <UI/Kit/Internal/TitleBarController.h>
+
+#include <QChildEvent>
+#include <QPointer>
+#include <QWidget>
+
+using Zelkor::Vx::UI::Kit::ResizeBorder;
+using Zelkor::Vx::UI::Kit::TitleBarController;
+using Zelkor::Vx::UI::Kit::WindowPart;
+
+struct ZWindowChrome::Impl
+{
+    Impl(QWidget* window, QObject* chrome)
+        : window(window), border(new ResizeBorder(window)), controller(new TitleBarController(window, chrome))
+    {}
+
+    WindowPart partAt(const QPoint& point) const;
+
+    QWidget* const window;
+    const QPointer<ResizeBorder> border;
+    TitleBarController* const controller; ///< owned by the chrome
+};
+
+// Returns the part at a point of the window.
+WindowPart ZWindowChrome::Impl::partAt(const QPoint& point) const
+{
+    const WindowPart edge = border ? border->partAt(point) : WindowPart::Client;
+    if (edge != WindowPart::Client)
+        return edge;
+    const QWidget* part = window->childAt(point);
+    if (controller->isMaximizeButton(part))
+        return WindowPart::MaximizeButton;
+    return controller->isFree(part) ? WindowPart::Caption : WindowPart::Client;
+}
+
+ZWindowChrome::ZWindowChrome(QWidget* window) : QObject(window)
+{
+    if (!window) {
+        qWarning("ZWindowChrome: no window");
+        return;
+    }
+    // By name, because another copy of the kit may have created it.
+    if (window->findChild<QWidget*>(QStringLiteral("resizeBorder"), Qt::FindDirectChildrenOnly)) {
+        qWarning("ZWindowChrome: the window has one already");
+        return;
+    }
+    impl = std::make_unique<Impl>(window, this);
+    for (QObject* child : window->children()) {
+        if (child->isWidgetType() && child != impl->border)
+            child->installEventFilter(this);
+    }
+    window->installEventFilter(this);
+}
+
+ZWindowChrome::~ZWindowChrome()
+{
+    if (impl)
+        delete impl->border;
+}
+
+int ZWindowChrome::resizeBorder() const
+{
+    return impl && impl->border ? impl->border->thickness() : 0;
+}
+
+void ZWindowChrome::setResizeBorder(int pixels)
+{
+    if (impl && impl->border)
+        impl->border->setThickness(qMax(0, pixels));
+}
+
+QWidget* ZWindowChrome::titleBar() const
+{
+    return impl ? impl->controller->bar() : nullptr;
+}
+
+void ZWindowChrome::setTitleBar(QWidget* bar)
+{
+    if (impl && bar != impl->window)
+        impl->controller->setBar(bar);
+}
+
+bool ZWindowChrome::eventFilter(QObject* watched, QEvent* event)
+{
+    if (!impl->border)
+        return false;
+    if (watched != impl->window) {
+        if (event->type() == QEvent::ZOrderChange)
+            impl->border->raise();
+        return false;
+    }
+    switch (event->type()) {
+    case QEvent::ChildAdded: {
+        QObject* child = static_cast<QChildEvent*>(event)->child();
+        if (child->isWidgetType() && child != impl->border) {
+            child->installEventFilter(this);
+            impl->border->raise();
+        }
+        break;
+    }
+    case QEvent::ChildRemoved:
+        static_cast<QChildEvent*>(event)->child()->removeEventFilter(this);
+        break;
+    case QEvent::LanguageChange:
+        impl->controller->retranslate();
+        break;
+    // The size limits of a widget change without an event.
+    case QEvent::Enter:
+    case QEvent::WindowActivate:
+    case QEvent::ParentChange:
+    case QEvent::Resize:
+    case QEvent::Show:
+    case QEvent::LayoutRequest:
+    case QEvent::WindowStateChange:
+        followWindow();
+        break;
+    default:
+        break;
+    }
+    return false;
+}
+
+void ZWindowChrome::followWindow()
+{
+    if (!impl->border)
+        return;
+    impl->border->fit();
+    impl->controller->update();
+}
