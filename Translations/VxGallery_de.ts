@@ -1212,6 +1212,26 @@ und nicht breit</translation>
         <source>Copyright 2026 Example Company. All rights reserved. Protected by law; made with the help of many.</source>
         <translation>Copyright 2026 Beispielfirma. Alle Rechte vorbehalten. Gesetzlich geschützt; mit der Hilfe vieler entstanden.</translation>
     </message>
+    <message>
+        <source>Resize the window by its edges, and double-click its title bar.</source>
+        <translation>Ändern Sie die Größe des Fensters an seinen Rändern, und doppelklicken Sie auf die Titelleiste.</translation>
+    </message>
+    <message>
+        <source>Open a window</source>
+        <translation>Fenster öffnen</translation>
+    </message>
+    <message>
+        <source>Lets a window without a frame be resized, maximised and restored like one with a frame.</source>
+        <translation>Ein Fenster ohne Rahmen lässt sich damit wie eines mit Rahmen in der Größe ändern, maximieren und wiederherstellen.</translation>
+    </message>
+    <message>
+        <source>Maximised</source>
+        <translation>Maximiert</translation>
+    </message>
+    <message>
+        <source>Fixed size</source>
+        <translation>Feste Größe</translation>
+    </message>
 </context>
 <context>
     <name>Zelkor::Gallery::GalleryWindow</name>

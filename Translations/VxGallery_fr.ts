@@ -1212,6 +1212,26 @@ et peu large</translation>
         <source>Copyright 2026 Example Company. All rights reserved. Protected by law; made with the help of many.</source>
         <translation>Copyright 2026 Société Exemple. Tous droits réservés. Protégé par la loi&#xa0;; réalisé avec l’aide de nombreuses personnes.</translation>
     </message>
+    <message>
+        <source>Resize the window by its edges, and double-click its title bar.</source>
+        <translation>Redimensionnez la fenêtre par ses bords et double-cliquez sur sa barre de titre.</translation>
+    </message>
+    <message>
+        <source>Open a window</source>
+        <translation>Ouvrir une fenêtre</translation>
+    </message>
+    <message>
+        <source>Lets a window without a frame be resized, maximised and restored like one with a frame.</source>
+        <translation>Permet de redimensionner, d’agrandir et de restaurer une fenêtre sans cadre comme une fenêtre avec cadre.</translation>
+    </message>
+    <message>
+        <source>Maximised</source>
+        <translation>Agrandie</translation>
+    </message>
+    <message>
+        <source>Fixed size</source>
+        <translation>Taille fixe</translation>
+    </message>
 </context>
 <context>
     <name>Zelkor::Gallery::GalleryWindow</name>

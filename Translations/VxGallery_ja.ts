@@ -1212,6 +1212,26 @@ and not wide</source>
         <source>Copyright 2026 Example Company. All rights reserved. Protected by law; made with the help of many.</source>
         <translation>Copyright 2026 サンプル株式会社. All rights reserved. 法律により保護されています。多くの方々の協力により制作されました。</translation>
     </message>
+    <message>
+        <source>Resize the window by its edges, and double-click its title bar.</source>
+        <translation>ウィンドウの端をドラッグしてサイズを変更し、タイトルバーをダブルクリックします。</translation>
+    </message>
+    <message>
+        <source>Open a window</source>
+        <translation>ウィンドウを開く</translation>
+    </message>
+    <message>
+        <source>Lets a window without a frame be resized, maximised and restored like one with a frame.</source>
+        <translation>枠のないウィンドウを、枠のあるウィンドウと同じようにサイズ変更、最大化、復元できるようにします。</translation>
+    </message>
+    <message>
+        <source>Maximised</source>
+        <translation>最大化</translation>
+    </message>
+    <message>
+        <source>Fixed size</source>
+        <translation>固定サイズ</translation>
+    </message>
 </context>
 <context>
     <name>Zelkor::Gallery::GalleryWindow</name>

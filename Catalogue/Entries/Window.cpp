@@ -1,6 +1,7 @@
 #include <Catalogue/Catalogue.h>
 #include <Examples/Support/WidgetTexts.h>
 #include <UI/Kit/ZStyleSheet.h>
+#include <UI/Kit/ZWindowChrome.h>
 #include <UI/Widgets/CustomTitleBar.h>
 #include <UI/Widgets/StyledAboutBoxDialog.h>
 
@@ -11,6 +12,8 @@
 #include <QUrl>
 #include <QVBoxLayout>
 #include <QVariant>
+
+#include <utility>
 
 using Zelkor::Vx::UI::CustomTitleBar;
 using Zelkor::Vx::UI::StyledAboutBoxDialog;
@@ -27,8 +30,9 @@ constexpr int CONTENT_MARGIN = 12;
 constexpr int DISTANCE = 12;
 constexpr Qt::WindowFlags CLOSE_BUTTON = Qt::WindowCloseButtonHint;
 constexpr Qt::WindowFlags BOTH_BUTTONS = CLOSE_BUTTON | Qt::WindowMinimizeButtonHint;
+constexpr Qt::WindowFlags ALL_BUTTONS = BOTH_BUTTONS | Qt::WindowMaximizeButtonHint;
 
-/// A window inside the page, for a title bar. It can be moved, but not minimised or closed.
+/// A window inside the page, for a title bar. It cannot be minimised or closed, and fills its parent when maximised.
 class SampleWindow : public QFrame
 {
 public:
@@ -39,7 +43,7 @@ public:
         setWindowIcon(ZStyleSheet::icon("app"));
         auto* layout = new QVBoxLayout(this);
         layout->setContentsMargins(CONTENT_MARGIN, CONTENT_MARGIN, CONTENT_MARGIN, CONTENT_MARGIN);
-        auto* label = new QLabel(EntryText::tr("Drag the window by its title bar or by this text."));
+        label = new QLabel(EntryText::tr("Drag the window by its title bar or by this text."));
         label->setWordWrap(true);
         AlignAtStart(label);
         layout->addWidget(label);
@@ -48,6 +52,7 @@ public:
         resize(SAMPLE_SIZE);
     }
 
+    QLabel* label;
     CustomTitleBar* bar;
 
 protected:
@@ -56,9 +61,21 @@ protected:
     void changeEvent(QEvent* event) override
     {
         QFrame::changeEvent(event);
-        if (event->type() == QEvent::WindowStateChange && isMinimized())
+        if (event->type() != QEvent::WindowStateChange)
+            return;
+        if (isMinimized())
             setWindowState(Qt::WindowNoState);
+        const bool isFilling = windowState() & (Qt::WindowMaximized | Qt::WindowFullScreen);
+        if (isFilling && normalGeometry.isNull())
+            normalGeometry = geometry();
+        if (isFilling)
+            setGeometry(parentWidget()->contentsRect());
+        else if (!normalGeometry.isNull())
+            setGeometry(std::exchange(normalGeometry, QRect()));
     }
+
+private:
+    QRect normalGeometry; ///< while maximised
 };
 
 /// The screen background around the sample.
@@ -129,6 +146,81 @@ Entry CustomTitleBarEntry()
                         }),
         },
         [](QWidget* parent) -> QObject* { return (new SampleWindow(BOTH_BUTTONS, parent))->bar; },
+    };
+}
+
+QWidget* CreateChromeDesktop(QWidget* parent)
+{
+    auto* desktop = new SampleDesktop(ALL_BUTTONS, parent);
+    SampleWindow* window = desktop->window;
+    window->label->setText(EntryText::tr("Resize the window by its edges, and double-click its title bar."));
+    (new ZWindowChrome(window))->setTitleBar(window->bar);
+    return desktop;
+}
+
+/// The sample inside the page, and a button that opens a window of the window system.
+class ChromeHost : public QWidget
+{
+public:
+    explicit ChromeHost(QWidget* parent) : QWidget(parent), desktop(CreateChromeDesktop(this))
+    {
+        auto* button = new QPushButton(EntryText::tr("Open a window"));
+        auto* layout = new QVBoxLayout(this);
+        layout->setContentsMargins(0, 0, 0, 0);
+        layout->setSpacing(DISTANCE);
+        layout->addWidget(desktop);
+        layout->addWidget(button, 0, Qt::AlignLeading);
+        connect(button, &QPushButton::clicked, this, &ChromeHost::Open);
+    }
+
+private:
+    void Open()
+    {
+        auto* window = new QWidget(this, Qt::Window);
+        window->setAttribute(Qt::WA_DeleteOnClose);
+        window->setWindowTitle(EntryText::tr("Recorder"));
+        auto* label = new QLabel(EntryText::tr("Resize the window by its edges, and double-click its title bar."));
+        label->setWordWrap(true);
+        AlignAtStart(label);
+        auto* layout = new QVBoxLayout(window);
+        layout->setContentsMargins(CONTENT_MARGIN, CONTENT_MARGIN, CONTENT_MARGIN, CONTENT_MARGIN);
+        layout->addWidget(label);
+        layout->addStretch();
+        (new ZWindowChrome(window))->setTitleBar(new CustomTitleBar(window));
+        window->resize(DESKTOP_SIZE);
+        window->show();
+    }
+
+    QWidget* desktop;
+};
+
+QWidget* CreateChrome(QWidget* parent)
+{
+    return new ChromeHost(parent);
+}
+
+State ChromeState(const QString& name, void (*apply)(SampleWindow&))
+{
+    return {name, [apply](QWidget* desktop) { apply(*static_cast<SampleDesktop*>(desktop)->window); },
+            CreateChromeDesktop};
+}
+
+Entry WindowChromeEntry()
+{
+    return {
+        "ZWindowChrome",
+        EntryText::tr("Windows"),
+        EntryText::tr("Lets a window without a frame be resized, maximised and restored like one with a frame."),
+        "ZWindowChrome",
+        "maximize",
+        CreateChrome,
+        {
+            MadeState(EntryText::tr("Typical"), CreateChrome),
+            ChromeState(EntryText::tr("Maximised"), [](SampleWindow& window) { window.showMaximized(); }),
+            ChromeState(EntryText::tr("Fixed size"), [](SampleWindow& window) { window.setFixedSize(SAMPLE_SIZE); }),
+        },
+        MakeBare<ZWindowChrome>,
+        0,
     };
 }
 
@@ -204,7 +296,7 @@ Entry StyledAboutBoxDialogEntry()
 QVector<Entry> WindowEntries()
 {
     // The title bar would remove the frame and layout of a form editor's window.
-    return {NotInForms(CustomTitleBarEntry(), "it rebuilds its window"),
+    return {NotInForms(CustomTitleBarEntry(), "it rebuilds its window"), WindowChromeEntry(),
             NotInForms(StyledAboutBoxDialogEntry(), "it is a dialog, whole as it is")};
 }
 
