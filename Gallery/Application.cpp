@@ -2,6 +2,7 @@
 #include "Screenshot.h"
 
 #include <Catalogue/Catalogue.h>
+#include <Examples/Support/FramelessWindow.h>
 #include <Examples/Support/ScreenFit.h>
 #include <Gallery/Browser/GalleryWindow.h>
 #include <UI/Kit/ZRuntimeStylesheetEditor.h>
@@ -152,6 +153,7 @@ void Application::OpenStyleEditor()
     if (!styleEditor) {
         styleEditor = std::make_unique<ZRuntimeStylesheetEditor>();
         styleEditor->setAttribute(Qt::WA_QuitOnClose, false);
+        Examples::ReplaceFrame(styleEditor.get());
     }
     styleEditor->show();
     styleEditor->raise();

@@ -3,13 +3,13 @@
 #include "RecorderView.h"
 #include "SettingsDialog.h"
 
+#include <Examples/Support/FramelessWindow.h>
 #include <Examples/Support/WidgetTexts.h>
 #include <UI/Kit/ZStyleSheet.h>
 #include <UI/Widgets/CustomTitleBar.h>
 #include <UI/Widgets/StyledAboutBoxDialog.h>
 
 #include <QEvent>
-#include <QSizeGrip>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -19,15 +19,13 @@ using Zelkor::Vx::UI::StyledAboutBoxDialog;
 namespace Zelkor::Recorder {
 
 RecorderWindow::RecorderWindow(RecorderModel* model, Preferences* preferences, Examples::Appearance* appearance)
-    : QWidget(nullptr,
-              Qt::Window | Qt::WindowSystemMenuHint | Qt::WindowMinimizeButtonHint | Qt::WindowCloseButtonHint),
-      preferences(preferences), appearance(appearance), view(new RecorderView(model, preferences))
+    : preferences(preferences), appearance(appearance), view(new RecorderView(model, preferences))
 {
     setObjectName("recorderWindow");
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(new FittingScrollArea(view));
-    auto* titleBar = new CustomTitleBar(this);
+    CustomTitleBar* titleBar = Examples::ReplaceFrame(this);
     trimButton = new QToolButton;
     styleButton = new QToolButton;
     settingsButton = new QToolButton;
@@ -41,8 +39,6 @@ RecorderWindow::RecorderWindow(RecorderModel* model, Preferences* preferences, E
         titleBar->AddWidget(button);
     }
     titleBar->AddSeparator();
-    // A frameless window cannot be resized by its edges.
-    sizeGrip = new QSizeGrip(this);
     addActions(view->actions());
     view->FocusRecordButton();
 
@@ -71,8 +67,11 @@ void RecorderWindow::ShowSettings()
 
 void RecorderWindow::ShowAbout()
 {
-    StyledAboutBoxDialog::ShowAbout(windowTitle(), tr("Version %1").arg("1.0.0"),
-                                    tr("Shows the widgets of VxUiWidgets at work. Nothing is recorded."), this);
+    auto* about = new StyledAboutBoxDialog(windowTitle(), tr("Version %1").arg("1.0.0"),
+                                           tr("Shows the widgets of VxUiWidgets at work. Nothing is recorded."), this);
+    about->setAttribute(Qt::WA_DeleteOnClose);
+    Examples::ReplaceFrame(about);
+    about->show();
 }
 
 void RecorderWindow::Retranslate()
@@ -86,15 +85,6 @@ void RecorderWindow::Retranslate()
     name(styleButton, tr("Edit the style sheet (F12)"));
     name(settingsButton, tr("Settings"));
     name(aboutButton, tr("About"));
-}
-
-void RecorderWindow::resizeEvent(QResizeEvent* event)
-{
-    QWidget::resizeEvent(event);
-    sizeGrip->adjustSize();
-    const QSize size = sizeGrip->size();
-    const int x = layoutDirection() == Qt::RightToLeft ? 0 : width() - size.width();
-    sizeGrip->move(x, height() - size.height());
 }
 
 void RecorderWindow::changeEvent(QEvent* event)

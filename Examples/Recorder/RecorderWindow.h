@@ -3,7 +3,6 @@
 #include <QPointer>
 #include <QWidget>
 
-class QSizeGrip;
 class QToolButton;
 
 namespace Zelkor::Examples {
@@ -36,7 +35,6 @@ Q_SIGNALS:
     void StyleEditorRequested();
 
 protected:
-    void resizeEvent(QResizeEvent* event) override;
     void changeEvent(QEvent* event) override;
 
 private:
@@ -51,7 +49,6 @@ private:
     QToolButton* styleButton;
     QToolButton* settingsButton;
     QToolButton* aboutButton;
-    QSizeGrip* sizeGrip;
     QPointer<SettingsDialog> settings;
 };
 

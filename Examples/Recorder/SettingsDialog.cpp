@@ -2,10 +2,10 @@
 #include "Preferences.h"
 
 #include <Examples/Support/Appearance.h>
+#include <Examples/Support/FramelessWindow.h>
 #include <Examples/Support/WidgetTexts.h>
 #include <UI/Widgets/ColorButton.h>
 #include <UI/Widgets/CursorHighlightPreviewWidget.h>
-#include <UI/Widgets/CustomTitleBar.h>
 #include <UI/Widgets/HorizontalTabBar.h>
 #include <UI/Widgets/ResizableStackedWidget.h>
 #include <UI/Widgets/SliderWithTickLabels.h>
@@ -24,7 +24,6 @@ using Zelkor::Vx::ColorButton;
 using Zelkor::Vx::HorizontalTabBar;
 using Zelkor::Vx::SliderWithTickLabels;
 using Zelkor::Vx::UI::CursorHighlightPreviewWidget;
-using Zelkor::Vx::UI::CustomTitleBar;
 
 namespace Zelkor::Recorder {
 
@@ -88,7 +87,7 @@ SettingsDialog::SettingsDialog(Preferences* preferences, Appearance* appearance,
     layout->setContentsMargins(SPACING, SPACING, SPACING, SPACING);
     layout->setSpacing(0);
     // Created first, for the tab order.
-    new CustomTitleBar(this);
+    ReplaceFrame(this);
     layout->addWidget(tabs);
     layout->addWidget(pages);
     // The dialog resizes with its page.

@@ -1,10 +1,10 @@
-#include "FittingScrollArea.h"
 #include "Preferences.h"
 #include "RecorderModel.h"
 #include "RecorderWindow.h"
-#include "TrimPage.h"
+#include "TrimWindow.h"
 
 #include <Examples/Support/Appearance.h>
+#include <Examples/Support/FramelessWindow.h>
 #include <Examples/Support/HighDpi.h>
 #include <Examples/Support/Offscreen.h>
 #include <Examples/Support/PictureOptions.h>
@@ -77,6 +77,7 @@ void OpenStyleEditor(std::unique_ptr<ZRuntimeStylesheetEditor>& editor)
     if (!editor) {
         editor = std::make_unique<ZRuntimeStylesheetEditor>();
         editor->setAttribute(Qt::WA_QuitOnClose, false);
+        Zelkor::Examples::ReplaceFrame(editor.get());
     }
     Raise(*editor);
 }
@@ -149,10 +150,7 @@ int main(int argc, char* argv[])
     model.SetDevices(devices.GetDevices());
     RecorderWindow recorder(&model, &preferences, &appearance);
     recorder.resize(recorder.sizeHint());
-    auto* trimPage = new TrimPage;
-    FittingScrollArea trimmer(trimPage);
-    trimmer.setWindowTitle(trimPage->windowTitle());
-    QObject::connect(trimPage, &QWidget::windowTitleChanged, &trimmer, &QWidget::setWindowTitle);
+    TrimWindow trimmer;
     trimmer.setAttribute(Qt::WA_QuitOnClose, false);
     std::unique_ptr<ZRuntimeStylesheetEditor> styleEditor;
     QAction editStyle;
