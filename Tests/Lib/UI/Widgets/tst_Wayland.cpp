@@ -11,9 +11,11 @@
 #include <Support/TestCase.h>
 
 #include <QAbstractItemView>
+#include <QLibraryInfo>
 #include <QMenu>
 #include <QPainter>
 #include <QPushButton>
+#include <QVersionNumber>
 #include <QWindow>
 
 namespace Sway = Support::Sway;
@@ -127,6 +129,40 @@ private Q_SLOTS:
         Sway::Click(scene.Center());
         QTRY_COMPARE(scene.Find(POPUP), expected);
         QVERIFY(scene.button.isChecked());
+    }
+
+    void panelWithoutRoomFlipsOrSlides_data()
+    {
+        using Button = ButtonWithPopUpContainer;
+        QTest::addColumn<int>("anchor");
+        QTest::addColumn<int>("direction");
+        QTest::addColumn<bool>("canOverlap");
+        QTest::addColumn<QPoint>("window");
+        QTest::addColumn<QPoint>("panel");
+        const auto row = [](const char* name, int anchor, int direction, bool canOverlap, QPoint window, QPoint panel) {
+            QTest::newRow(name) << anchor << direction << canOverlap << window << panel;
+        };
+        row("flips up", Button::ANCHOR_BOTTOM_LEFT, Button::DIRECTION_DOWN_RIGHT, false, {500, 800}, {600, 789});
+        row("flips left", Button::ANCHOR_TOP_RIGHT, Button::DIRECTION_DOWN_RIGHT, false, {1050, 400}, {999, 480});
+        row("slides left below", Button::ANCHOR_BOTTOM_LEFT, Button::DIRECTION_DOWN_RIGHT, false, {1100, 400},
+            {1129, 510});
+        row("slides over the button", Button::ANCHOR_BOTTOM_LEFT, Button::DIRECTION_DOWN_RIGHT, true, {500, 800},
+            {600, 909});
+    }
+    void panelWithoutRoomFlipsOrSlides()
+    {
+        if (QLibraryInfo::version() < QVersionNumber(6, 8))
+            QSKIP("This version of Qt does not pass on where a pop-up may move");
+        QFETCH(const int, anchor);
+        QFETCH(const int, direction);
+        QFETCH(const bool, canOverlap);
+        QFETCH(const QPoint, window);
+        QFETCH(const QPoint, panel);
+        PanelScene scene(window);
+        SetPlacement(scene.button, anchor, direction);
+        scene.button.SetPopupCanOverlapButton(canOverlap);
+        Sway::Click(scene.Center());
+        QTRY_COMPARE(scene.Find(POPUP), QRect(panel, PANEL_SIZE));
     }
 
     void panelThatGrowsKeepsOffTheButton()
