@@ -2,13 +2,13 @@
 
 #include <UI/Common/AccessibleFactory.h>
 #include <UI/Common/BoxLayouts.h>
+#include <UI/Common/ScreenOf.h>
 #include <UI/Common/WaylandPopUp.h>
 #include <UI/Common/WheelPolicy.h>
 
 #include <QAccessibleWidget>
 #include <QKeyEvent>
 #include <QPointer>
-#include <QScreen>
 #include <QSignalBlocker>
 #include <QSlider>
 #include <QStackedWidget>
@@ -268,7 +268,7 @@ void ZSliderButton::toggle(bool isOn)
 
 void ZSliderButton::showSlider()
 {
-    const QRect screenRect = screen()->geometry();
+    const QRect screenRect = Common::ScreenOf(*this)->geometry();
     sliderFrame->resize(width(), qBound(1, popUpHeight, screenRect.height()));
     if (Common::IsWayland()) {
         // The compositor knows whether there is room above the button.

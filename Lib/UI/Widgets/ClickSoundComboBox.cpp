@@ -1,9 +1,9 @@
 #include <UI/Widgets/ClickSoundComboBox.h>
 
 #include <UI/Common/MirroredStyle.h>
+#include <UI/Common/ScreenOf.h>
 
 #include <QAbstractItemView>
-#include <QScreen>
 #include <QStylePainter>
 
 namespace Zelkor::Vx::UI {
@@ -56,14 +56,18 @@ void ClickSoundComboBox::showPopup()
     QWidget* list = view()->parentWidget();
     const int surroundings = list->width() - view()->viewport()->width();
     const int whole = view()->sizeHintForColumn(modelColumn()) + surroundings;
-    const QRect available = screen()->availableGeometry();
+    const QRect available = Common::ScreenOf(*this)->availableGeometry();
     QRect place = list->geometry();
     const int wider = qMin(qMin(whole, WidthFor(*this, MAXIMUM_LENGTH)), available.width()) - place.width();
-    if (!list->isVisible() || wider <= 0)
+    if (!list->isVisible())
         return;
-    isRightToLeft() ? place.setLeft(place.left() - wider) : place.setRight(place.right() + wider);
-    place.moveLeft(qBound(available.left(), place.left(), available.right() + 1 - place.width()));
-    list->setGeometry(place);
+    if (wider > 0)
+        isRightToLeft() ? place.setLeft(place.left() - wider) : place.setRight(place.right() + wider);
+    // Qt may have placed it on the screen of the window.
+    if (!Common::IsWayland())
+        place.moveLeft(qMax(available.left(), qMin(place.left(), available.right() + 1 - place.width())));
+    if (place != list->geometry())
+        list->setGeometry(place);
 }
 
 void ClickSoundComboBox::paintEvent(QPaintEvent*)
