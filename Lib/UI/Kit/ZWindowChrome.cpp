@@ -57,8 +57,11 @@ ZWindowChrome::ZWindowChrome(QWidget* window) : QObject(window)
 
 ZWindowChrome::~ZWindowChrome()
 {
-    if (impl)
-        delete impl->border;
+    if (!impl)
+        return;
+    // Deleting the border under the pointer sends an enter event to the window.
+    impl->window->removeEventFilter(this);
+    delete impl->border;
 }
 
 int ZWindowChrome::resizeBorder() const

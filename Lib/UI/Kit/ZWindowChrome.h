@@ -11,10 +11,12 @@ class QWidget;
 ///
 /// The window owns the chrome. It may be created before or after the window is shown, and follows the window's flags,
 /// state and size limits: a window without `Qt::FramelessWindowHint` has no resize border, one with a fixed size cannot
-/// be resized or maximised, one with a fixed height changes its width only. A widget inside another window that has the
-/// flag acts as a window in its parent. New size limits take effect with the next resize, activation or entering of the
-/// pointer. A window has one chrome at most; a second one warns and has no effect, as does
-/// one without a window. Window, bar and chrome may be deleted in any order. GUI thread only.
+/// be resized or maximised, one with a fixed height changes its width only. New size limits take effect when the window
+/// is next resized or activated, or the pointer enters it. A child widget with that flag acts as a window inside its
+/// parent.
+///
+/// A window has at most one chrome: a second one warns and has no effect, as does one with a null window. Window, bar
+/// and chrome may be deleted in any order. GUI thread only.
 ///
 /// Object names for style sheets: "resizeBorder", the edges, whose border of 1 pixel is the outline of the window;
 /// in the title bar "maximizeButton", whose dynamic property "windowMaximized" is true while the window fills its

@@ -21,7 +21,7 @@ namespace Zelkor::Vx::UI::Kit {
 
 namespace {
 
-// This bar drags the window by itself, unless the window is maximised.
+// This bar drags its window, unless that is maximised.
 const QString DRAGGING_BAR = QStringLiteral("CustomTitleBar");
 
 // "maximized" is a property of QWidget itself.
