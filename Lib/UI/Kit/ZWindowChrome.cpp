@@ -1,5 +1,6 @@
 #include <UI/Kit/ZWindowChrome.h>
 
+#include <UI/Common/LostMouseRelease.h>
 #include <UI/Kit/Internal/ResizeBorder.h>
 #include <UI/Kit/Internal/TitleBarController.h>
 
@@ -53,6 +54,7 @@ ZWindowChrome::ZWindowChrome(QWidget* window) : QObject(window)
             child->installEventFilter(this);
     }
     window->installEventFilter(this);
+    Zelkor::Vx::UI::Common::LostMouseRelease::Watch(window);
 }
 
 ZWindowChrome::~ZWindowChrome()

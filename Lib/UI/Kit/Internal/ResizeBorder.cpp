@@ -172,10 +172,8 @@ void ResizeBorder::mousePressEvent(QMouseEvent* event)
     if (!edges)
         return;
     QWindow* system = SystemWindow(window);
-    if (system && CanStartSystemResize(this) && system->startSystemResize(edges)) {
-        ReleaseMouse(system);
+    if (system && CanStartSystemResize(this) && system->startSystemResize(edges))
         return;
-    }
     dragged = edges;
     pressPosition = mapToGlobal(event->pos());
     pressGeometry = window->geometry();

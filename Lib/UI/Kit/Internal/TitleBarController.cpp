@@ -206,10 +206,8 @@ bool TitleBarController::startMove()
     if (state & Qt::WindowFullScreen || (titleBar->objectName() == DRAGGING_BAR && !isMaximized))
         return false;
     QWindow* system = SystemWindow(window);
-    if (system && system->startSystemMove()) {
-        ReleaseMouse(system);
+    if (system && system->startSystemMove())
         return true;
-    }
     drag = isMaximized ? Drag::None : Drag::ByController;
     return drag == Drag::ByController;
 }

@@ -1,8 +1,5 @@
 #include <UI/Kit/Internal/WindowActions.h>
 
-#include <QCoreApplication>
-#include <QCursor>
-#include <QMouseEvent>
 #include <QWidget>
 #include <QWindow>
 
@@ -38,14 +35,6 @@ void ToggleMaximized(QWidget* window)
 QWindow* SystemWindow(const QWidget* window)
 {
     return window->isWindow() ? window->windowHandle() : nullptr;
-}
-
-void ReleaseMouse(QWindow* window)
-{
-    const QPoint position = QCursor::pos();
-    QMouseEvent release(QEvent::MouseButtonRelease, window->mapFromGlobal(position), position, Qt::LeftButton,
-                        Qt::NoButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(window, &release);
 }
 
 } // namespace Zelkor::Vx::UI::Kit

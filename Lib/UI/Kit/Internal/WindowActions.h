@@ -22,8 +22,4 @@ void ToggleMaximized(QWidget* window);
 /// Returns the native window that the window system moves and resizes; null for a widget inside another window.
 QWindow* SystemWindow(const QWidget* window);
 
-/// Ends the mouse press that started a system move or resize. The window system keeps the release, and without it Qt
-/// sends no enter and leave events until the next click.
-void ReleaseMouse(QWindow* window);
-
 } // namespace Zelkor::Vx::UI::Kit
