@@ -4,6 +4,10 @@
 #include <UI/Kit/Internal/ResizeBorder.h>
 #include <UI/Kit/Internal/TitleBarController.h>
 
+#ifdef Q_OS_WIN
+#include <UI/Kit/Internal/WindowsFrame.h>
+#endif
+
 #include <QChildEvent>
 #include <QPointer>
 #include <QWidget>
@@ -23,6 +27,10 @@ struct ZWindowChrome::Impl
     QWidget* const window;
     const QPointer<ResizeBorder> border;
     TitleBarController* const controller; ///< owned by the chrome
+#ifdef Q_OS_WIN
+    const QPointer<QObject> frame =
+        new Zelkor::Vx::UI::Kit::WindowsFrame(window, [this](const QPoint& point) { return partAt(point); });
+#endif
 };
 
 // Returns the part at a point of the window.
@@ -63,6 +71,9 @@ ZWindowChrome::~ZWindowChrome()
         return;
     // Deleting the border under the pointer sends an enter event to the window.
     impl->window->removeEventFilter(this);
+#ifdef Q_OS_WIN
+    delete impl->frame;
+#endif
     delete impl->border;
 }
 

@@ -11,6 +11,10 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
+#if defined(Q_OS_WIN)
+#include <QtCore/qt_windows.h>
+#endif
+
 using Zelkor::Vx::UI::CustomTitleBar;
 
 namespace {
@@ -194,6 +198,34 @@ private Q_SLOTS:
         QTRY_VERIFY(!window.isVisible());
     }
 
+    void maximizeButtonIsHovered()
+    {
+        Titled window;
+        window.ShowAndWait();
+        const QToolButton* button = window.Button("maximizeButton");
+        for (const QWidget* next : {static_cast<QWidget*>(window.bar), static_cast<QWidget*>(window.button)}) {
+            Support::MovePointer(CentreOf(button));
+            QTRY_VERIFY(button->underMouse());
+            Support::MovePointer(CentreOf(next));
+            QTRY_VERIFY(!button->underMouse());
+        }
+    }
+
+    void windowHasNoFrameAndKeepsItsSize()
+    {
+        Titled window;
+        window.ShowAndWait();
+        window.hide();
+        window.setWindowFlag(Qt::WindowStaysOnTopHint);
+        window.showMaximized();
+        QTRY_VERIFY(window.width() > PLACE.width());
+        QCOMPARE(window.windowState() & ~Qt::WindowActive, Qt::WindowMaximized);
+        QCOMPARE(window.normalGeometry(), PLACE);
+        window.showNormal();
+        QTRY_COMPARE(window.geometry(), PLACE);
+        QCOMPARE(window.frameGeometry(), PLACE);
+    }
+
     void maximizeButtonFollowsFlagsAndSize()
     {
         Titled window;
@@ -251,7 +283,7 @@ private Q_SLOTS:
         window.chrome->setTitleBar(bar);
         window.ShowAndWait();
         QVERIFY(Support::Drag(CentreOf(bar), QPoint(50, 30)));
-        QTRY_COMPARE(window.pos(), PLACE.topLeft() + QPoint(50, 30));
+        QTRY_VERIFY(IsNear(window.geometry(), PLACE.translated(50, 30)));
         Support::MovePointer(CentreOf(window.button));
         QTRY_VERIFY(window.button->underMouse());
     }
@@ -276,6 +308,44 @@ private Q_SLOTS:
         QTest::keyClick(&other, Qt::Key_Space, Qt::AltModifier);
         QVERIFY(!other.findChild<QMenu*>("windowMenu"));
     }
+
+#if defined(Q_OS_WIN)
+    void styleAndPartsAreKnownToWindows()
+    {
+        Titled window;
+        window.ShowAndWait();
+        const auto handle = reinterpret_cast<HWND>(window.winId());
+        const auto hit = [&](const QPoint& global) {
+            return static_cast<int>(SendMessageW(handle, WM_NCHITTEST, 0, MAKELPARAM(global.x(), global.y())));
+        };
+        const auto style = [&] {
+            return static_cast<int>(GetWindowLongPtrW(handle, GWL_STYLE)) &
+                   (WS_CAPTION | WS_THICKFRAME | WS_MAXIMIZEBOX);
+        };
+        QCOMPARE(hit(CentreOf(window.Button("maximizeButton"))), HTMAXBUTTON);
+        QCOMPARE(hit(CentreOf(window.bar)), HTCAPTION);
+        QCOMPARE(hit(CentreOf(window.tool)), HTCLIENT);
+        QCOMPARE(hit(PLACE.topLeft()), HTTOPLEFT);
+        QCOMPARE(style(), WS_CAPTION | WS_THICKFRAME | WS_MAXIMIZEBOX);
+        window.setFixedSize(PLACE.size());
+        QCOMPARE(hit(PLACE.topLeft()), HTCLIENT);
+        QCOMPARE(style(), WS_CAPTION);
+    }
+
+    void rightClickOpensTheNativeMenu()
+    {
+        Titled window;
+        window.ShowAndWait();
+        QTimer timer;
+        connect(&timer, &QTimer::timeout, [] {
+            if (const HWND menu = FindWindowW(L"#32768", nullptr))
+                PostMessageW(menu, WM_KEYDOWN, 'X', 0); // Maximise
+        });
+        timer.start(100);
+        Support::Drag(CentreOf(window.bar), QPoint(), 3);
+        QTRY_VERIFY(window.isMaximized());
+    }
+#endif
 
     void secondChromeAndNoWindowAreRefused()
     {
