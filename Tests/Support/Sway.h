@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QFile>
 #include <QImage>
 #include <QProcess>
 #include <QWidget>
@@ -29,6 +30,14 @@ inline void Command(const QString& command)
 inline void MovePointer(const QPoint& position)
 {
     Command(QStringLiteral("seat - cursor set %1 %2").arg(position.x()).arg(position.y()));
+}
+
+/// Moves the pointer like a mouse, also while the compositor moves or resizes a window.
+inline void MovePointerBy(const QPoint& way)
+{
+    QFile pipe(qEnvironmentVariable("VX_POINTER"));
+    QVERIFY(pipe.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
+    pipe.write(QStringLiteral("%1 %2\n").arg(way.x()).arg(way.y()).toLatin1());
 }
 
 inline void SetPressed(bool isPressed, int button = 1)

@@ -1,4 +1,5 @@
 #include <UI/Kit/ZSliderButton.h>
+#include <UI/Kit/ZWindowChrome.h>
 #include <UI/Widgets/ButtonWithPopUpContainer.h>
 #include <UI/Widgets/ButtonWithPopUpList.h>
 #include <UI/Widgets/ClickSoundComboBox.h>
@@ -43,6 +44,11 @@ struct Scene
         window.resize(300, 200);
         window.setObjectName("window");
         button.setGeometry(100, 80, 60, 30);
+        Show();
+    }
+
+    void Show()
+    {
         window.show();
         QTRY_VERIFY(window.isActiveWindow());
         Sway::MoveWindow(window, position);
@@ -231,6 +237,41 @@ private Q_SLOTS:
         hint.SetMask(shape);
         ShowHint(hint, scene.button.mapToGlobal(QPoint(0, -50)));
         QTRY_COMPARE(scene.Find(POPUP), QRect(610, 435, 60, 30));
+    }
+
+    void edgeOrCornerResizes_data()
+    {
+        QTest::addColumn<QPoint>("from");
+        QTest::addColumn<QRect>("change");
+        QTest::newRow("left") << QPoint(2, 100) << QRect(20, 0, -20, 0);
+        QTest::newRow("right") << QPoint(297, 100) << QRect(0, 0, 20, 0);
+        QTest::newRow("top") << QPoint(150, 2) << QRect(0, 10, 0, -10);
+        QTest::newRow("bottom") << QPoint(150, 197) << QRect(0, 0, 0, 10);
+        QTest::newRow("top left") << QPoint(2, 2) << QRect(20, 10, -20, -10);
+        QTest::newRow("top right") << QPoint(297, 2) << QRect(0, 10, 20, -10);
+        QTest::newRow("bottom left") << QPoint(2, 197) << QRect(20, 0, -20, 10);
+        QTest::newRow("bottom right") << QPoint(297, 197) << QRect(0, 0, 20, 10);
+    }
+
+    void edgeOrCornerResizes()
+    {
+        QFETCH(QPoint, from);
+        QFETCH(QRect, change);
+        Scene<QPushButton> scene;
+        scene.window.setWindowFlag(Qt::FramelessWindowHint);
+        new ZWindowChrome(&scene.window);
+        scene.Show();
+        Sway::MovePointer(scene.position + from);
+        QTRY_VERIFY(scene.window.underMouse());
+        Sway::SetPressed(true);
+        // The compositor takes the pointer.
+        QTRY_VERIFY(!scene.window.underMouse());
+        Sway::MovePointerBy(QPoint(20, 10));
+        const QRect expected(scene.position + change.topLeft(), QSize(300, 200) + change.size());
+        QTRY_COMPARE(scene.Find(WINDOW), expected);
+        Sway::SetPressed(false);
+        Sway::MovePointer(expected.topLeft() + QPoint(110, 90));
+        QTRY_VERIFY(scene.button.underMouse());
     }
 
     void colourDialogBelongsToItsWindow()
