@@ -2,6 +2,7 @@
 #include <Examples/Recorder/RecorderModel.h>
 #include <Examples/Recorder/RecorderWindow.h>
 #include <Examples/Recorder/TrimPage.h>
+#include <Examples/Recorder/TrimWindow.h>
 #include <Examples/Support/Appearance.h>
 #include <UI/Kit/ZSliderThumb.h>
 #include <UI/Kit/ZTimeEdit.h>
@@ -115,6 +116,22 @@ private Q_SLOTS:
         preferences.countdownSeconds = 0;
         Button("Record")->click();
         QVERIFY(Child<QLabel>("statusText")->property("originalText").toString().startsWith("Recording"));
+    }
+
+    void windowsHaveTheCustomTitleBar()
+    {
+        TrimWindow trimmer;
+        trimmer.show();
+        Button("Settings")->click();
+        Button("About")->click();
+        QStringList titles;
+        for (const QWidget* each : QApplication::topLevelWidgets()) {
+            if (each->isVisible() && each->findChild<QWidget*>("CustomTitleBar") &&
+                each->findChild<QWidget*>("resizeBorder"))
+                titles += each->windowTitle();
+        }
+        titles.sort();
+        QCOMPARE(titles.join(", "), QString("About Vx Recorder, Settings, Trimmer, Vx Recorder"));
     }
 
     void keyboardTrimsCutsAndUndoes()
