@@ -112,24 +112,32 @@ void MaskedToolTip::Show(const QPoint& globalPos)
 
 void MaskedToolTip::FollowWindow()
 {
-    if (followed)
-        followed->removeEventFilter(this);
+    for (QObject* watched : {static_cast<QObject*>(followed), static_cast<QObject*>(followedHandle)}) {
+        if (watched)
+            watched->removeEventFilter(this);
+    }
     followed = parentWidget() ? parentWidget()->window() : QApplication::activeWindow();
+    followedHandle = followed ? followed->windowHandle() : nullptr;
     if (followed)
         followed->installEventFilter(this);
+    if (followedHandle)
+        followedHandle->installEventFilter(this);
 }
 
+// The window remains active while the tip is shown, so a press in it counts as its activation.
 bool MaskedToolTip::eventFilter(QObject* watched, QEvent* event)
 {
-    if (watched == followed && isVisible()) {
-        if (event->type() == QEvent::Move && !Common::IsWayland()) {
-            const auto* moved = static_cast<QMoveEvent*>(event);
-            move(pos() + moved->pos() - moved->oldPos());
-        } else if (event->type() == QEvent::WindowDeactivate && hideOnDeactivate && !isActiveWindow()) {
-            close();
-        }
+    if (!isVisible() || !isWindow())
+        return ZFrame::eventFilter(watched, event);
+    if (watched == followed && event->type() == QEvent::Move && !Common::IsWayland()) {
+        const auto* moved = static_cast<QMoveEvent*>(event);
+        move(pos() + moved->pos() - moved->oldPos());
     }
-    return ZFrame::eventFilter(watched, event);
+    const bool isLeft = watched == followed && event->type() == QEvent::WindowDeactivate && !isActiveWindow();
+    const bool isPressed = watched == followedHandle && event->type() == QEvent::MouseButtonPress;
+    if (hideOnDeactivate && (isLeft || isPressed))
+        close();
+    return false;
 }
 
 void MaskedToolTip::paintEvent(QPaintEvent* event)

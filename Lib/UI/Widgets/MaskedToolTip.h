@@ -5,6 +5,7 @@
 
 #include <QImage>
 #include <QPointer>
+#include <QWindow>
 
 class QLabel;
 
@@ -83,7 +84,8 @@ private:
     int offsetY = 0;
     QLabel* titleLabel;
     QLabel* textLabel;
-    QPointer<QWidget> followed; ///< the window that the tip was shown over
+    QPointer<QWidget> followed;       ///< the window that the tip was shown over
+    QPointer<QWindow> followedHandle; ///< its window of the platform
 };
 
 } // namespace Zelkor::Vx::UI

@@ -69,11 +69,29 @@ private Q_SLOTS:
             tip.SetHideOnDeactivate(hides);
             tip.Show(QPoint(50, 40));
             tip.activateWindow();
-            QVERIFY(QTest::qWaitForWindowActive(&tip));
+            QTRY_VERIFY(tip.isActiveWindow());
             Support::Click(window.geometry().center());
-            QVERIFY(QTest::qWaitForWindowActive(&window));
+            QTRY_VERIFY(window.isActiveWindow());
             QTRY_COMPARE(tip.isVisible(), !hides);
         }
+    }
+
+    void followsItsWindowAndLeavesItActive()
+    {
+        QWidget window;
+        window.setGeometry(400, 300, 200, 100);
+        Support::ShowActive(window);
+        QTRY_COMPARE(window.geometry().topLeft(), QPoint(400, 300));
+        MaskedToolTip tip(&window);
+        tip.SetText("Hint");
+        tip.Show(QPoint(50, 40));
+        QVERIFY(QTest::qWaitForWindowExposed(&tip));
+        window.move(window.pos() + QPoint(30, 20));
+        QTRY_COMPARE(tip.pos(), QPoint(80, 60));
+        QVERIFY(window.isActiveWindow());
+        Support::Click(window.geometry().center());
+        QTRY_VERIFY(!tip.isVisible());
+        QVERIFY(window.isActiveWindow());
     }
 };
 
