@@ -217,7 +217,8 @@ private Q_SLOTS:
         window.ShowAndWait();
         window.hide();
         window.setWindowFlag(Qt::WindowStaysOnTopHint);
-        window.showMaximized();
+        window.ShowAndWait();
+        DoubleClick(CentreOf(window.bar));
         QTRY_VERIFY(window.width() > PLACE.width());
         QCOMPARE(window.windowState() & ~Qt::WindowActive, Qt::WindowMaximized);
         QCOMPARE(window.normalGeometry(), PLACE);
