@@ -114,7 +114,7 @@ void FitMaximized(WINDOWPOS& position)
 
 // Qt reports a frameless maximised window as full screen if it covers the screen, unless full-screen windows have a
 // border.
-void TellMaximizedFromFullScreen([[maybe_unused]] QWindow* window, [[maybe_unused]] bool isMaximized)
+void SetReportedAsMaximized([[maybe_unused]] QWindow* window, [[maybe_unused]] bool isMaximized)
 {
 #if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
     QWindowsWindowFunctions::setHasBorderInFullScreen(window, isMaximized);
@@ -246,7 +246,7 @@ std::optional<LRESULT> WindowsFrame::handleFrame(const MSG& message)
             FitMaximized(*reinterpret_cast<WINDOWPOS*>(message.lParam));
         break;
     case WM_SIZE:
-        TellMaximizedFromFullScreen(window->windowHandle(), message.wParam == SIZE_MAXIMIZED);
+        SetReportedAsMaximized(window->windowHandle(), message.wParam == SIZE_MAXIMIZED);
         break;
     case WM_GETMINMAXINFO:
         // Replaces the system's minimum for windows with a caption; Qt sets that of the window.
