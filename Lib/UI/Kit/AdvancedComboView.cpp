@@ -194,7 +194,8 @@ void AdvancedComboView::keepPopUpOnScreen()
     const QPoint comboLeft = combo->mapToGlobal(QPoint(0, 0));
     const bool isRightToLeft = combo->isRightToLeft();
     const int left = isRightToLeft ? comboLeft.x() + combo->width() - popUp->width() : popUp->x();
-    const QPoint place(PopUpLeft(left, popUp->width(), RoomFor(*combo), isRightToLeft), popUp->y());
+    const int fitted = Common::IsWayland() ? left : PopUpLeft(left, popUp->width(), RoomFor(*combo), isRightToLeft);
+    const QPoint place(fitted, popUp->y());
     if (popUp->pos() != place)
         popUp->setGeometry(QRect(place, popUp->size()));
 }

@@ -1,3 +1,4 @@
+#include <UI/Kit/ZComboBox.h>
 #include <UI/Kit/ZSliderButton.h>
 #include <UI/Kit/ZWindowChrome.h>
 #include <UI/Widgets/ButtonWithPopUpContainer.h>
@@ -139,6 +140,8 @@ private Q_SLOTS:
 
     void panelWithoutRoomFlipsOrSlides_data()
     {
+        if (QLibraryInfo::version() < QVersionNumber(6, 8))
+            QSKIP("This version of Qt does not pass on where a pop-up may move");
         using Button = ButtonWithPopUpContainer;
         QTest::addColumn<int>("anchor");
         QTest::addColumn<int>("direction");
@@ -157,8 +160,6 @@ private Q_SLOTS:
     }
     void panelWithoutRoomFlipsOrSlides()
     {
-        if (QLibraryInfo::version() < QVersionNumber(6, 8))
-            QSKIP("This version of Qt does not pass on where a pop-up may move");
         QFETCH(const int, anchor);
         QFETCH(const int, direction);
         QFETCH(const bool, canOverlap);
@@ -239,7 +240,7 @@ private Q_SLOTS:
         QTRY_COMPARE(scene.Find(POPUP), QRect(610, 435, 60, 30));
     }
 
-    void edgeOrCornerResizes_data()
+    void dragMovesOrResizesTheWindow_data()
     {
         QTest::addColumn<QPoint>("from");
         QTest::addColumn<QRect>("change");
@@ -251,20 +252,25 @@ private Q_SLOTS:
         QTest::newRow("top right") << QPoint(297, 2) << QRect(0, 10, 20, -10);
         QTest::newRow("bottom left") << QPoint(2, 197) << QRect(20, 0, -20, 10);
         QTest::newRow("bottom right") << QPoint(297, 197) << QRect(0, 0, 20, 10);
+        QTest::newRow("title bar") << QPoint(150, 20) << QRect(20, 10, 0, 0);
     }
 
-    void edgeOrCornerResizes()
+    void dragMovesOrResizesTheWindow()
     {
         QFETCH(QPoint, from);
         QFETCH(QRect, change);
         Scene<QPushButton> scene;
         scene.window.setWindowFlag(Qt::FramelessWindowHint);
-        new ZWindowChrome(&scene.window);
+        QWidget bar(&scene.window);
+        bar.setGeometry(0, 0, 300, 40);
+        (new ZWindowChrome(&scene.window))->setTitleBar(&bar);
         scene.Show();
         Sway::MovePointer(scene.position + from);
-        QTRY_VERIFY(scene.window.underMouse());
+        const QWidget* handle = scene.window.childAt(from);
+        QTRY_VERIFY(handle->underMouse());
         Sway::SetPressed(true);
-        // The compositor takes the pointer.
+        // A move begins with the first motion; then the compositor takes the pointer.
+        Sway::MovePointerBy(handle == &bar ? QPoint(1, 0) : QPoint());
         QTRY_VERIFY(!scene.window.underMouse());
         Sway::MovePointerBy(QPoint(20, 10));
         const QRect expected(scene.position + change.topLeft(), QSize(300, 200) + change.size());
@@ -339,6 +345,13 @@ private Q_SLOTS:
         {
             Scene<Zelkor::Vx::UI::ClickSoundComboBox> scene(position);
             scene.button.addItems({"One", "Two"});
+            Sway::Click(scene.Center());
+            QTRY_VERIFY(scene.button.view()->isVisible());
+            QTRY_VERIFY(scene.Find(POPUP).intersects(opener.adjusted(-2, -2, 2, 2)));
+        }
+        {
+            Scene<ZComboBox> scene(position);
+            scene.button.addItem("A list that is wider than its box");
             Sway::Click(scene.Center());
             QTRY_VERIFY(scene.button.view()->isVisible());
             QTRY_VERIFY(scene.Find(POPUP).intersects(opener.adjusted(-2, -2, 2, 2)));
