@@ -61,21 +61,9 @@ protected:
     void changeEvent(QEvent* event) override
     {
         QFrame::changeEvent(event);
-        if (event->type() != QEvent::WindowStateChange)
-            return;
-        if (isMinimized())
+        if (event->type() == QEvent::WindowStateChange && isMinimized())
             setWindowState(Qt::WindowNoState);
-        const bool isFilling = windowState() & (Qt::WindowMaximized | Qt::WindowFullScreen);
-        if (isFilling && normalGeometry.isNull())
-            normalGeometry = geometry();
-        if (isFilling)
-            setGeometry(parentWidget()->contentsRect());
-        else if (!normalGeometry.isNull())
-            setGeometry(std::exchange(normalGeometry, QRect()));
     }
-
-private:
-    QRect normalGeometry; ///< while maximised
 };
 
 /// The screen background around the sample.

@@ -1,5 +1,6 @@
 #include <Zelkor/Vx/UI/Util/WindowMouseMoveHelper.h>
 
+#include <QGuiApplication>
 #include <QMouseEvent>
 #include <QWidget>
 #include <QWindow>
@@ -42,7 +43,7 @@ bool WindowMouseMoveHelper::eventFilter(QObject* watched, QEvent* event)
         Press(*static_cast<QMouseEvent*>(event));
         break;
     case QEvent::MouseMove:
-        if (Move(*static_cast<QMouseEvent*>(event)))
+        if (Move(*static_cast<QWidget*>(watched), *static_cast<QMouseEvent*>(event)))
             return true;
         break;
     case QEvent::MouseButtonDblClick:
@@ -66,24 +67,28 @@ void WindowMouseMoveHelper::Press(const QMouseEvent& event)
 }
 
 // Returns true when the event is part of a drag.
-bool WindowMouseMoveHelper::Move(const QMouseEvent& event)
+bool WindowMouseMoveHelper::Move(const QWidget& handle, const QMouseEvent& event)
 {
     // The release was delivered elsewhere, for example to the window system when it ends a system move.
     if (!window || event.buttons() != Qt::LeftButton)
         drag = Drag::None;
     if (drag == Drag::Pressed && StandIn::GlobalPosition(event) != pressPosition)
-        drag = StartDrag();
+        drag = StartDrag(handle);
     if (drag == Drag::ByHelper)
         window->move(windowOrigin + StandIn::GlobalPosition(event) - pressPosition);
     return drag == Drag::BySystem || drag == Drag::ByHelper;
 }
 
-WindowMouseMoveHelper::Drag WindowMouseMoveHelper::StartDrag()
+WindowMouseMoveHelper::Drag WindowMouseMoveHelper::StartDrag(const QWidget& handle)
 {
     if (window->windowState() & (Qt::WindowMaximized | Qt::WindowFullScreen))
         return Drag::None;
-    QWindow* handle = window->isWindow() ? window->windowHandle() : nullptr;
-    return handle && handle->startSystemMove() ? Drag::BySystem : Drag::ByHelper;
+    // On X11, Qt passes on the last position of the pointer in the window itself, which is outdated if a native child
+    // has received the press.
+    const bool isInNativeChild = handle.internalWinId() || handle.nativeParentWidget() != window;
+    const bool isOutdated = isInNativeChild && QGuiApplication::platformName() == QLatin1String("xcb");
+    QWindow* system = window->isWindow() && !isOutdated ? window->windowHandle() : nullptr;
+    return system && system->startSystemMove() ? Drag::BySystem : Drag::ByHelper;
 }
 
 } // namespace Zelkor::Vx::UI::Util

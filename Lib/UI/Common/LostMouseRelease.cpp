@@ -1,11 +1,10 @@
 #include <UI/Common/LostMouseRelease.h>
 
 #include <QApplication>
+#include <QCursor>
 #include <QMouseEvent>
 #include <QWidget>
 #include <QWindow>
-
-#include <utility>
 
 namespace Zelkor::Vx::UI::Common {
 
@@ -31,19 +30,25 @@ bool LostMouseRelease::eventFilter(QObject* watched, QEvent* event)
             handle->installEventFilter(this);
         return false;
     }
+    if (!watched->isWindowType())
+        return false;
     switch (event->type()) {
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:
-        pressed = static_cast<QMouseEvent*>(event)->button();
+        if (watched == window->windowHandle()) {
+            pressed = static_cast<QMouseEvent*>(event)->button();
+            // The pointer may come back in another window of the application.
+            QCoreApplication::instance()->installEventFilter(this);
+        }
         break;
     case QEvent::MouseButtonRelease:
-        pressed = Qt::NoButton;
+        Forget();
         break;
     case QEvent::MouseMove:
         // A pop-up that opened on the press may have received the release.
         if (pressed != Qt::NoButton && static_cast<QMouseEvent*>(event)->buttons() == Qt::NoButton &&
             !QApplication::activePopupWidget())
-            Send(static_cast<QWindow*>(watched), *static_cast<QMouseEvent*>(event));
+            Send(QCursor::pos());
         break;
     default:
         break;
@@ -51,17 +56,21 @@ bool LostMouseRelease::eventFilter(QObject* watched, QEvent* event)
     return false;
 }
 
-void LostMouseRelease::Send(QWindow* handle, const QMouseEvent& move)
+void LostMouseRelease::Forget()
 {
-#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
-    const QPointF local = move.position();
-    const QPointF global = move.globalPosition();
-#else
-    const QPointF local = move.localPos();
-    const QPointF global = move.screenPos();
-#endif
-    QMouseEvent release(QEvent::MouseButtonRelease, local, global, std::exchange(pressed, Qt::NoButton), Qt::NoButton,
-                        move.modifiers());
+    pressed = Qt::NoButton;
+    QCoreApplication::instance()->removeEventFilter(this);
+}
+
+void LostMouseRelease::Send(const QPoint& global)
+{
+    const Qt::MouseButton button = pressed;
+    Forget();
+    QWindow* handle = window->windowHandle();
+    if (!handle)
+        return;
+    QMouseEvent release(QEvent::MouseButtonRelease, handle->mapFromGlobal(global), global, button, Qt::NoButton,
+                        QGuiApplication::keyboardModifiers());
     QCoreApplication::sendEvent(handle, &release);
 }
 

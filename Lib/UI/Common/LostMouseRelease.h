@@ -2,16 +2,16 @@
 
 #include <QObject>
 
-class QMouseEvent;
+class QPoint;
 class QWidget;
-class QWindow;
 
 namespace Zelkor::Vx::UI::Common {
 
 /// Sends the mouse release that a window does not receive when the window system moves or resizes it interactively.
 ///
 /// Without the release, Qt treats the pressed widget as mouse grabber until the next click, and other widgets receive
-/// no enter and leave events. It is sent before the first mouse move without a pressed button.
+/// no enter and leave events. It is sent when the pointer comes back without a pressed button, to any window of the
+/// application.
 class LostMouseRelease : public QObject
 {
     Q_OBJECT
@@ -26,7 +26,8 @@ protected:
 private:
     explicit LostMouseRelease(QWidget* window);
 
-    void Send(QWindow* handle, const QMouseEvent& move);
+    void Forget();
+    void Send(const QPoint& global);
 
     QWidget* const window;                  ///< the parent
     Qt::MouseButton pressed = Qt::NoButton; ///< the button whose release is missing

@@ -3,6 +3,7 @@
 #include <UI/Common/LostMouseRelease.h>
 #include <UI/Kit/Internal/ResizeBorder.h>
 #include <UI/Kit/Internal/TitleBarController.h>
+#include <UI/Kit/Internal/WindowActions.h>
 
 #ifdef Q_OS_WIN
 #include <UI/Kit/Internal/WindowsFrame.h>
@@ -12,6 +13,10 @@
 #include <QPointer>
 #include <QWidget>
 
+#include <optional>
+#include <utility>
+
+using Zelkor::Vx::UI::Kit::FillsScreen;
 using Zelkor::Vx::UI::Kit::ResizeBorder;
 using Zelkor::Vx::UI::Kit::TitleBarController;
 using Zelkor::Vx::UI::Kit::WindowPart;
@@ -23,10 +28,12 @@ struct ZWindowChrome::Impl
     {}
 
     WindowPart partAt(const QPoint& point) const;
+    void fillParent();
 
     QWidget* const window;
     const QPointer<ResizeBorder> border;
     TitleBarController* const controller; ///< owned by the chrome
+    std::optional<QRect> normalGeometry;  ///< while a widget inside another window is maximised
 #ifdef Q_OS_WIN
     const QPointer<QObject> frame =
         new Zelkor::Vx::UI::Kit::WindowsFrame(window, [this](const QPoint& point) { return partAt(point); });
@@ -43,6 +50,22 @@ WindowPart ZWindowChrome::Impl::partAt(const QPoint& point) const
     if (controller->isMaximizeButton(part))
         return WindowPart::MaximizeButton;
     return controller->isFree(part) ? WindowPart::Caption : WindowPart::Client;
+}
+
+// Qt changes the state of a widget inside another window, but not its geometry.
+void ZWindowChrome::Impl::fillParent()
+{
+    const bool fills = FillsScreen(window);
+    if (window->isWindow() || fills == normalGeometry.has_value())
+        return;
+    if (!fills) {
+        window->setGeometry(*std::exchange(normalGeometry, std::nullopt));
+        return;
+    }
+    normalGeometry = window->geometry();
+    const Qt::WindowStates state = window->windowState();
+    window->setGeometry(window->parentWidget()->contentsRect());
+    window->overrideWindowState(state); // which the new geometry has reset
 }
 
 ZWindowChrome::ZWindowChrome(QWidget* window) : QObject(window)
@@ -123,6 +146,10 @@ bool ZWindowChrome::eventFilter(QObject* watched, QEvent* event)
     case QEvent::LanguageChange:
         impl->controller->retranslate();
         break;
+    case QEvent::WindowStateChange:
+        impl->fillParent();
+        followWindow();
+        break;
     // The size limits of a widget change without an event.
     case QEvent::Enter:
     case QEvent::WindowActivate:
@@ -130,7 +157,6 @@ bool ZWindowChrome::eventFilter(QObject* watched, QEvent* event)
     case QEvent::Resize:
     case QEvent::Show:
     case QEvent::LayoutRequest:
-    case QEvent::WindowStateChange:
         followWindow();
         break;
     default:

@@ -12,6 +12,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QTimer>
+#include <QWindow>
 
 namespace Zelkor::Vx::UI {
 
@@ -43,6 +44,13 @@ QBitmap OpaquePart(const QImage& image)
     QImage bits = alpha.convertToFormat(QImage::Format_Mono, Qt::MonoOnly | Qt::ThresholdDither);
     bits.invertPixels(QImage::InvertRgb);
     return QBitmap::fromImage(bits);
+}
+
+bool IsIn(const QObject* part, const QWindow* window)
+{
+    while (part && part != window)
+        part = part->parent();
+    return part;
 }
 
 /// Uses the title, or else the text, as accessible name, unless the application sets one.
@@ -105,37 +113,36 @@ void MaskedToolTip::Show(const QPoint& globalPos)
     }
     if (displayTime > 0)
         QTimer::singleShot(displayTime, this, &QWidget::close);
+    // A mapped window does not move on Wayland.
+    if (Common::IsWayland())
+        hide();
     move(mapFromGlobal(globalPos + QPoint(Common::ClampToWidgetSize(offsetX), Common::ClampToWidgetSize(offsetY))));
-    FollowWindow();
+    activeAtShow = QApplication::activeWindow();
     show();
+    QCoreApplication::instance()->installEventFilter(this);
 }
 
-void MaskedToolTip::FollowWindow()
-{
-    for (QObject* watched : {static_cast<QObject*>(followed), static_cast<QObject*>(followedHandle)}) {
-        if (watched)
-            watched->removeEventFilter(this);
-    }
-    followed = parentWidget() ? parentWidget()->window() : QApplication::activeWindow();
-    followedHandle = followed ? followed->windowHandle() : nullptr;
-    if (followed)
-        followed->installEventFilter(this);
-    if (followedHandle)
-        followedHandle->installEventFilter(this);
-}
-
-// The window remains active while the tip is shown, so a press in it counts as its activation.
+// Watches all windows while the tip is visible: a press may reach a native child of the followed one.
 bool MaskedToolTip::eventFilter(QObject* watched, QEvent* event)
 {
-    if (!isVisible() || !isWindow())
-        return ZFrame::eventFilter(watched, event);
+    if (!isVisible() || !isWindow()) {
+        QCoreApplication::instance()->removeEventFilter(this);
+        return false;
+    }
+    const QWidget* followed = parentWidget() ? parentWidget()->window() : activeAtShow.data();
+    if (!followed)
+        return false;
     if (watched == followed && event->type() == QEvent::Move && !Common::IsWayland()) {
         const auto* moved = static_cast<QMoveEvent*>(event);
         move(pos() + moved->pos() - moved->oldPos());
     }
+    // On Wayland, the tip disappears with its window and would not come back with it.
+    const bool isHidden = watched == followed && event->type() == QEvent::Hide;
     const bool isLeft = watched == followed && event->type() == QEvent::WindowDeactivate && !isActiveWindow();
-    const bool isPressed = watched == followedHandle && event->type() == QEvent::MouseButtonPress;
-    if (hideOnDeactivate && (isLeft || isPressed))
+    // The window remains active while the tip is shown, so a press in it counts as its activation.
+    const bool isPressed =
+        event->type() == QEvent::MouseButtonPress && watched->isWindowType() && IsIn(watched, followed->windowHandle());
+    if (isHidden || (hideOnDeactivate && (isLeft || isPressed)))
         close();
     return false;
 }

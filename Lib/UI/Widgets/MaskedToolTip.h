@@ -5,7 +5,6 @@
 
 #include <QImage>
 #include <QPointer>
-#include <QWindow>
 
 class QLabel;
 
@@ -14,9 +13,10 @@ namespace Zelkor::Vx::UI {
 /// A tool tip window with a title, a text and the shape of an image, on top of other windows.
 ///
 /// Moves with its parent's window, without parent with the window that was active, and does not become active when it
-/// is shown. Closes after its display time, on a mouse press and, with `hideOnDeactivate`, when that window or an
-/// active tip is deactivated. Closing hides the window; the parent or the caller owns it, and it may be shown again.
-/// Mask, texts, display time and offsets take effect with the next `Show`. GUI thread only.
+/// is shown. Closes after its display time, on a mouse press and when that window is hidden; with `hideOnDeactivate`,
+/// also on a press in that window and when that window or an active tip is deactivated. Closing hides the window; the
+/// parent or the caller owns it, and it may be shown again. Mask, texts, display time and offsets take effect with the
+/// next `Show`. GUI thread only.
 ///
 /// Object names for style sheets: "MaskedToolTip", the window, and in it "titleLabel" and "textLabel".
 class VX_WIDGETS_EXPORT MaskedToolTip : public ZFrame
@@ -73,8 +73,6 @@ protected:
     void mousePressEvent(QMouseEvent* event) override;
 
 private:
-    void FollowWindow();
-
     QImage maskImage;
     QString title;
     QString text;
@@ -84,8 +82,7 @@ private:
     int offsetY = 0;
     QLabel* titleLabel;
     QLabel* textLabel;
-    QPointer<QWidget> followed;       ///< the window that the tip was shown over
-    QPointer<QWindow> followedHandle; ///< its window of the platform
+    QPointer<QWidget> activeAtShow; ///< the window that a tip without parent belongs to
 };
 
 } // namespace Zelkor::Vx::UI

@@ -3,7 +3,6 @@
 #include <UI/Kit/Internal/WindowActions.h>
 
 #include <QCursor>
-#include <QGuiApplication>
 #include <QLayout>
 #include <QMouseEvent>
 #include <QPainter>
@@ -47,13 +46,6 @@ Qt::CursorShape ShapeOf(WindowPart part)
     default:
         return Qt::ArrowCursor;
     }
-}
-
-// On X11, Qt passes on the last position of the pointer in the top-level window, which is outdated if a native child
-// has received the press.
-bool CanStartSystemResize(const QWidget* border)
-{
-    return !border->internalWinId() || QGuiApplication::platformName() != QLatin1String("xcb");
 }
 
 // Moves the dragged edges and keeps the opposite ones, also at the limits of the size.
@@ -171,8 +163,8 @@ void ResizeBorder::mousePressEvent(QMouseEvent* event)
     const Qt::Edges edges = event->buttons() == Qt::LeftButton ? edgesAt(event->pos()) : Qt::Edges();
     if (!edges)
         return;
-    QWindow* system = SystemWindow(window);
-    if (system && CanStartSystemResize(this) && system->startSystemResize(edges))
+    QWindow* system = SystemWindow(window, this);
+    if (system && system->startSystemResize(edges))
         return;
     dragged = edges;
     pressPosition = mapToGlobal(event->pos());

@@ -68,8 +68,11 @@ void TitleBarController::setBar(QWidget* newBar)
     if (!titleBar)
         return;
     titleBar->installEventFilter(this);
-    shortcut = new QShortcut(QKeySequence(QStringLiteral("Alt+Space")), window);
-    connect(shortcut, &QShortcut::activated, this, &TitleBarController::showMenuAtBar);
+    // A window inside another one leaves the shortcut to that one.
+    if (window->isWindow()) {
+        shortcut = new QShortcut(QKeySequence(QStringLiteral("Alt+Space")), window);
+        connect(shortcut, &QShortcut::activated, this, &TitleBarController::showMenuAtBar);
+    }
     addButton();
     update();
 }
@@ -86,7 +89,9 @@ void TitleBarController::addButton()
     button->setObjectName(QStringLiteral("maximizeButton"));
     button->hide();
     layout->insertWidget(index, button);
-    connect(button, &QToolButton::clicked, window, [this] { ToggleMaximized(window); });
+    // Queued, because the window may delete the button when its state changes.
+    connect(
+        button, &QToolButton::clicked, window, [window = window] { ToggleMaximized(window); }, Qt::QueuedConnection);
     retranslate();
     sortTabOrder();
 }
@@ -205,7 +210,7 @@ bool TitleBarController::startMove()
     const bool isMaximized = state & Qt::WindowMaximized;
     if (state & Qt::WindowFullScreen || (titleBar->objectName() == DRAGGING_BAR && !isMaximized))
         return false;
-    QWindow* system = SystemWindow(window);
+    QWindow* system = SystemWindow(window, titleBar);
     if (system && system->startSystemMove())
         return true;
     drag = isMaximized ? Drag::None : Drag::ByController;

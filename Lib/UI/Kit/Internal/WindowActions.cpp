@@ -1,5 +1,6 @@
 #include <UI/Kit/Internal/WindowActions.h>
 
+#include <QGuiApplication>
 #include <QWidget>
 #include <QWindow>
 
@@ -32,9 +33,11 @@ void ToggleMaximized(QWidget* window)
         window->showMaximized();
 }
 
-QWindow* SystemWindow(const QWidget* window)
+QWindow* SystemWindow(const QWidget* window, const QWidget* pressed)
 {
-    return window->isWindow() ? window->windowHandle() : nullptr;
+    const bool isInNativeChild = pressed->internalWinId() || pressed->nativeParentWidget() != window;
+    const bool isOutdated = isInNativeChild && QGuiApplication::platformName() == QLatin1String("xcb");
+    return window->isWindow() && !isOutdated ? window->windowHandle() : nullptr;
 }
 
 } // namespace Zelkor::Vx::UI::Kit

@@ -19,7 +19,9 @@ bool CanMaximize(const QWidget* window);
 /// Restores a window that fills the screen, and maximises any other. May delete the window.
 void ToggleMaximized(QWidget* window);
 
-/// Returns the native window that the window system moves and resizes; null for a widget inside another window.
-QWindow* SystemWindow(const QWidget* window);
+/// Returns the native window that the window system can move or resize after a press on a part of it. Null for a widget
+/// inside another window, and on X11 for a press in a native child: Qt then passes on the last position of the pointer
+/// in the window itself, which is outdated.
+QWindow* SystemWindow(const QWidget* window, const QWidget* pressed);
 
 } // namespace Zelkor::Vx::UI::Kit

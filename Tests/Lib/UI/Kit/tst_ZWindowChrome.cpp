@@ -8,6 +8,7 @@
 #include <QContextMenuEvent>
 #include <QLabel>
 #include <QMenu>
+#include <QPushButton>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -137,13 +138,26 @@ private Q_SLOTS:
         QTRY_VERIFY(IsNear(window.geometry(), expected));
     }
 
+    void hoverWorksAfterResize_data()
+    {
+        QTest::addColumn<bool>("isInOtherWindow");
+        QTest::newRow("in the window") << false;
+        QTest::newRow("in another window") << true;
+    }
     void hoverWorksAfterResize()
     {
+        QFETCH(bool, isInOtherWindow);
+        QWidget other;
+        QPushButton otherButton(&other);
+        other.setGeometry(PLACE.translated(PLACE.width() + 100, 0));
+        Support::ShowActive(other);
         Frameless window;
         window.ShowAndWait();
-        QVERIFY(Support::Drag(PLACE.bottomRight(), QPoint(20, 10)));
-        Support::MovePointer(PLACE.center());
-        QTRY_VERIFY(window.button->underMouse());
+        Support::Drag(PLACE.bottomRight(), QPoint(20, 10));
+        QTRY_VERIFY(window.width() > PLACE.width());
+        const QWidget* next = isInOtherWindow ? static_cast<QWidget*>(&otherButton) : window.button;
+        Support::MovePointer(CentreOf(next));
+        QTRY_VERIFY(next->underMouse());
     }
 
     void fixedHeightIsNotResized()
@@ -170,6 +184,10 @@ private Q_SLOTS:
         const QRect expected = PLACE.marginsRemoved({10, 10, 0, 0});
         QTRY_COMPARE(window.geometry().size(), expected.size());
         QCOMPARE(window.geometry().bottomRight(), expected.bottomRight());
+        window.showMaximized();
+        QCOMPARE(window.geometry(), desktop.rect());
+        window.showNormal();
+        QCOMPARE(window.geometry().size(), expected.size());
     }
 
     void doubleClickMaximizesAndRestores()
@@ -275,15 +293,23 @@ private Q_SLOTS:
         QTRY_VERIFY(!window.isVisible());
     }
 
+    void plainBarMovesTheWindow_data()
+    {
+        QTest::addColumn<bool>("hasNativeChild");
+        QTest::newRow("plain") << false;
+        QTest::newRow("beside a native child") << true;
+    }
     void plainBarMovesTheWindow()
     {
+        QFETCH(bool, hasNativeChild);
         Frameless window;
+        window.button->setAttribute(Qt::WA_NativeWindow, hasNativeChild);
         auto* bar = new QFrame;
         (new QVBoxLayout(bar))->addWidget(new QLabel("title"));
         static_cast<QVBoxLayout*>(window.layout())->insertWidget(0, bar);
         window.chrome->setTitleBar(bar);
         window.ShowAndWait();
-        QVERIFY(Support::Drag(CentreOf(bar), QPoint(50, 30)));
+        Support::Drag(CentreOf(bar), QPoint(50, 30));
         QTRY_VERIFY(IsNear(window.geometry(), PLACE.translated(50, 30)));
         Support::MovePointer(CentreOf(window.button));
         QTRY_VERIFY(window.button->underMouse());

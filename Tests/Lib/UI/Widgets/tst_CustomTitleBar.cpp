@@ -126,6 +126,10 @@ private Q_SLOTS:
         delete window.bar;
         QCoreApplication::processEvents();
         QCOMPARE(window.DragAt("label"), WAY);
+        window.findChild<QWidget*>("nested")->winId();
+        const QPoint target = window.pos() + WAY;
+        window.DragAt("label");
+        QTRY_VERIFY((window.pos() - target).manhattanLength() <= 1);
     }
 
     void hoverWorksAfterADragWithoutAClick()

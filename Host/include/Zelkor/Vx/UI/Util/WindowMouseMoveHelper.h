@@ -33,8 +33,8 @@ private:
     enum class Drag { None, Pressed, BySystem, ByHelper };
 
     void Press(const QMouseEvent& event);
-    bool Move(const QMouseEvent& event);
-    Drag StartDrag();
+    bool Move(const QWidget& handle, const QMouseEvent& event);
+    Drag StartDrag(const QWidget& handle);
 
     QPointer<QWidget> window;
     QPoint pressPosition; ///< of the last press, in global coordinates
