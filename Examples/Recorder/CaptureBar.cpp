@@ -1,6 +1,7 @@
 #include "CaptureBar.h"
 #include "RecorderModel.h"
 
+#include <Examples/Support/FramelessWindow.h>
 #include <Examples/Support/WidgetTexts.h>
 #include <UI/Kit/ZStyleSheet.h>
 #include <UI/Widgets/ButtonWithPopUpList.h>
@@ -9,6 +10,7 @@
 #include <UI/Widgets/FastPresetButton.h>
 
 #include <QAction>
+#include <QColorDialog>
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QSignalBlocker>
@@ -161,6 +163,8 @@ void CaptureBar::Connect()
     connect(modes, &ButtonWithPopUpList::CurrentIndexChanged, this,
             [this] { model->ChooseRecordingMode(Mode(modes->CurrentData().toInt())); });
     connect(modes, &QToolButton::clicked, modes, &QToolButton::showMenu);
+    connect(color, &ColorButton::ColorDialogWillBeOpened, this,
+            [this] { ReplaceFrame(color->findChild<QColorDialog*>()); });
     connect(color, &ColorButton::ColorChanged, model, &RecorderModel::ChooseDrawingColor);
     connect(sound, QOverload<int>::of(&QComboBox::activated), this,
             [this](int index) { model->ChooseClickSound(Sound(sound->itemData(index).toInt())); });

@@ -30,15 +30,12 @@ void ShowSourceHint(QAbstractButton* button)
 {
     auto* hint = new MaskedToolTip(button->window());
     hint->setAttribute(Qt::WA_DeleteOnClose);
-    hint->setAttribute(Qt::WA_ShowWithoutActivating);
     hint->setProperty("role", QStringLiteral("bubble"));
     hint->setFixedSize(BUBBLE_SIZE);
     hint->SetMask(SpeechBubbleImage(BUBBLE_SIZE, button->layoutDirection()));
     hint->SetTitle(FirstHint::tr("Start here"));
     hint->SetText(FirstHint::tr("Choose what is shown: a camera, the screen or the test picture."));
     hint->SetDisplayTime(DISPLAY_TIME_MS);
-    // The window is not active yet at the start of the program.
-    hint->SetHideOnDeactivate(false);
     QObject::connect(button, &QAbstractButton::pressed, hint, &QWidget::close);
     const int x = button->layoutDirection() == Qt::RightToLeft ? button->width() - BUBBLE_SIZE.width() : 0;
     hint->Show(button->mapToGlobal(QPoint(x, -BUBBLE_SIZE.height() - DISTANCE)));

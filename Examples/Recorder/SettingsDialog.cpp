@@ -10,6 +10,7 @@
 #include <UI/Widgets/ResizableStackedWidget.h>
 #include <UI/Widgets/SliderWithTickLabels.h>
 
+#include <QColorDialog>
 #include <QComboBox>
 #include <QEvent>
 #include <QGridLayout>
@@ -184,6 +185,8 @@ QWidget* SettingsDialog::CreatePointerPage()
     layout->addWidget(highlightSizeLabel, 2, 1);
     layout->addWidget(highlightSize, 3, 1);
 
+    connect(highlightColor, &ColorButton::ColorDialogWillBeOpened, this,
+            [this] { ReplaceFrame(highlightColor->findChild<QColorDialog*>()); });
     connect(highlightColor, &ColorButton::ColorChanged, this, [this](const QColor& color) {
         preferences->highlightColor = color;
         ShowHighlight();

@@ -15,6 +15,15 @@ inline bool IsWayland()
     return QGuiApplication::platformName().startsWith(QLatin1String("wayland"));
 }
 
+/// Returns the place for pop-ups of a widget in global coordinates: its window, if that fills the screen, or else
+/// everything, since the position of the window is unknown.
+inline QRect WaylandRoom(const QWidget& widget)
+{
+    constexpr int FAR = 1 << 24;
+    const QWidget* window = widget.window();
+    return window->isMaximized() || window->isFullScreen() ? window->geometry() : QRect(-FAR, -FAR, 2 * FAR, 2 * FAR);
+}
+
 /// What the compositor may do with a pop-up that does not fit on the screen; values of xdg_positioner.
 enum PopUpAdjustment : uint { SLIDE_X = 1, SLIDE_Y = 2, FLIP_X = 4, FLIP_Y = 8 };
 

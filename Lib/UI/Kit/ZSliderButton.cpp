@@ -271,15 +271,12 @@ void ZSliderButton::showSlider()
     const QRect screenRect = Common::ScreenOf(*this)->geometry();
     sliderFrame->resize(width(), qBound(1, popUpHeight, screenRect.height()));
     if (Common::IsWayland()) {
-        // The compositor knows whether there is room above the button.
-        const QRect button(mapTo(window(), QPoint(0, 0)), size());
         sliderFrame->winId();
-        Common::SetPopUpAnchor(*sliderFrame, {button, Qt::TopEdge | Qt::LeftEdge, Qt::TopEdge | Qt::RightEdge,
-                                              Common::FLIP_Y | Common::SLIDE_X});
-        sliderFrame->move(OnScreen(this).topLeft() - QPoint(0, sliderFrame->height()));
-    } else {
-        sliderFrame->move(PopUpPosition(OnScreen(this), sliderFrame->size(), screenRect));
+        Common::SetPopUpAnchor(*sliderFrame, {QRect(mapTo(window(), QPoint(0, 0)), size()), Qt::TopEdge | Qt::LeftEdge,
+                                              Qt::TopEdge | Qt::RightEdge, Common::FLIP_Y | Common::SLIDE_X});
     }
+    const QRect room = Common::IsWayland() ? Common::WaylandRoom(*this) : screenRect;
+    sliderFrame->move(PopUpPosition(OnScreen(this), sliderFrame->size(), room));
     slider->setAccessibleName(NameOf(this));
     // The pop-up grabs the mouse, so the level button gets no leave event.
     stack->currentWidget()->setAttribute(Qt::WA_UnderMouse, false);

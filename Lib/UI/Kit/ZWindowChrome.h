@@ -38,8 +38,8 @@ public:
     ///
     /// A double click on its free area, which is the bar with its labels and plain frames, maximises or restores the
     /// window, and a right click or Alt+Space opens the window menu. Dragging the free area moves the window, except
-    /// for a `CustomTitleBar`, which does so without chrome. If the bar has a child "closeButton" in a box layout and
-    /// the window may be maximised, a button for that is inserted before it.
+    /// for a `CustomTitleBar`, which does so without chrome. If the bar has a child "closeButton" in a box layout, and
+    /// the window has `Qt::WindowMaximizeButtonHint` and no fixed size, a button to maximise it is inserted before it.
     QWidget* titleBar() const;
     void setTitleBar(QWidget* bar);
 

@@ -116,7 +116,9 @@ void MaskedToolTip::Show(const QPoint& globalPos)
     // A mapped window does not move on Wayland.
     if (Common::IsWayland())
         hide();
-    move(mapFromGlobal(globalPos + QPoint(Common::ClampToWidgetSize(offsetX), Common::ClampToWidgetSize(offsetY))));
+    const QPoint point = globalPos + QPoint(Common::ClampToWidgetSize(offsetX), Common::ClampToWidgetSize(offsetY));
+    // For a window that was moved while it was hidden, mapFromGlobal() uses the position before.
+    move(isWindow() ? point - pos() : mapFromGlobal(point));
     activeAtShow = QApplication::activeWindow();
     show();
     QCoreApplication::instance()->installEventFilter(this);

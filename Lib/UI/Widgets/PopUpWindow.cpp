@@ -20,12 +20,8 @@ const Common::LogSource LOG_SOURCE("Lib/UI/Widgets/ButtonWithPopUpContainer");
 // Uses the whole screen, since a pop-up may cover task bars.
 QPoint GetBestPopupPosition(const QWidget* popup, const QWidget* button, const QPoint& point)
 {
-    if (Common::IsWayland()) {
-        // Positions on the screen are unknown, except in a window that fills it.
-        const QWidget* window = button->window();
-        const bool fillsScreen = window->isMaximized() || window->isFullScreen();
-        return fillsScreen ? PopUpPlacement::FitToScreen(window->geometry(), popup->size(), point) : point;
-    }
+    if (Common::IsWayland())
+        return PopUpPlacement::FitToScreen(Common::WaylandRoom(*button), popup->size(), point);
     const QScreen* screen = Common::ScreenOf(*button);
     if (!screen || !screen->geometry().isValid()) {
         LOG_SOURCE.Warning(45, "Zelkor::Vx::UI::`anonymous-namespace'::GetBestPopupPosition",

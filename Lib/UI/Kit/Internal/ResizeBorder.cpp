@@ -156,6 +156,14 @@ void ResizeBorder::paintEvent(QPaintEvent*)
     style()->drawPrimitive(QStyle::PE_Widget, &option, &painter, this);
 }
 
+bool ResizeBorder::event(QEvent* event)
+{
+    // No mouse move need follow.
+    if (event->type() == QEvent::Enter)
+        setCursor(ShapeOf(partAt(mapFromGlobal(QCursor::pos()))));
+    return QWidget::event(event);
+}
+
 void ResizeBorder::mousePressEvent(QMouseEvent* event)
 {
     event->accept();

@@ -1,5 +1,6 @@
 #include <UI/Kit/Internal/TitleBarController.h>
 
+#include <UI/Common/ScreenOf.h>
 #include <UI/Kit/Internal/WindowActions.h>
 
 #include <QBoxLayout>
@@ -70,7 +71,7 @@ void TitleBarController::setBar(QWidget* newBar)
     titleBar->installEventFilter(this);
     // A window inside another one leaves the shortcut to that one.
     if (window->isWindow()) {
-        shortcut = new QShortcut(QKeySequence(QStringLiteral("Alt+Space")), window);
+        shortcut = new QShortcut(QKeySequence(QStringLiteral("Alt+Space")), titleBar);
         connect(shortcut, &QShortcut::activated, this, &TitleBarController::showMenuAtBar);
     }
     addButton();
@@ -235,9 +236,15 @@ void TitleBarController::showMenuAtBar()
 {
     if (!titleBar)
         return;
-    const QRect place = titleBar->rect();
-    const bool isMirrored = titleBar->isRightToLeft();
-    showMenu(titleBar->mapToGlobal(isMirrored ? place.bottomRight() : place.bottomLeft()) + QPoint(0, 1));
+    const int x = titleBar->isRightToLeft() ? titleBar->width() : 0;
+    QPoint point = titleBar->mapToGlobal(QPoint(x, titleBar->height()));
+    // The corner may be off all screens; Qt then takes the primary one.
+    if (const QScreen* screen = Common::IsWayland() ? nullptr : Common::ScreenOf(*titleBar)) {
+        const QRect room = screen->geometry();
+        point.setX(qBound(room.left(), point.x(), room.right()));
+        point.setY(qBound(room.top(), point.y(), room.bottom()));
+    }
+    showMenu(point);
 }
 
 void TitleBarController::showMenu(const QPoint& global)
@@ -245,6 +252,7 @@ void TitleBarController::showMenu(const QPoint& global)
     auto* menu = new QMenu(window);
     menu->setObjectName(QStringLiteral("windowMenu"));
     menu->setAttribute(Qt::WA_DeleteOnClose);
+    menu->setLayoutDirection(window->layoutDirection());
     // Queued, because a slot may delete the window and the menu with it.
     const auto add = [&](const QString& text, bool isEnabled, auto action) {
         QAction* entry = menu->addAction(text);

@@ -41,6 +41,11 @@ private Q_SLOTS:
         QCOMPARE(tip.pos(), QPoint(0, 0));
         QVERIFY(tip.findChild<QLabel*>("titleLabel")->isVisible());
         QVERIFY(!tip.findChild<QLabel*>("textLabel")->isVisible());
+        tip.Show(QPoint(200, 100));
+        tip.close();
+        tip.move(0, 0);
+        tip.Show(QPoint(50, 40));
+        QCOMPARE(tip.pos(), QPoint(57, 37));
     }
 
     void closesOnPressAndAfterItsTime()
