@@ -20,8 +20,6 @@
 #endif
 
 #include <cmath>
-#include <ctime>
-#include <vector>
 
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
 #define VX_SANITIZED
@@ -51,26 +49,10 @@ double Resident()
 #endif
 }
 
-// Returns the CPU time of this process in seconds.
-double ProcessorSeconds()
-{
-#if defined(Q_OS_WIN)
-    // clock() returns wall-clock time on Windows.
-    FILETIME created, ended, kernel, user;
-    GetProcessTimes(GetCurrentProcess(), &created, &ended, &kernel, &user);
-    const auto seconds = [](const FILETIME& time) {
-        return (time.dwHighDateTime * 4294967296.0 + time.dwLowDateTime) * 1e-7;
-    };
-    return seconds(kernel) + seconds(user);
-#else
-    return double(std::clock()) / CLOCKS_PER_SEC;
-#endif
-}
-
 } // namespace
 
-/// Fails when the use of memory or CPU time grows after the first third of a run. The environment variable VX_SECONDS
-/// sets the length of a run; more than five minutes need a larger QTEST_FUNCTION_TIMEOUT as well.
+/// Fails when the use of memory grows after the first third of a run. The environment variable VX_SECONDS sets the
+/// length of a run; more than five minutes need a larger QTEST_FUNCTION_TIMEOUT as well.
 class tst_Soak : public Support::TestCase
 {
     Q_OBJECT
@@ -109,7 +91,7 @@ private Q_SLOTS:
     }
 
     // Updates a visible level meter 100 times per second.
-    void meterKeepsItsMemoryAndCpuTime()
+    void meterKeepsItsMemory()
     {
         Vx::VolumeSlider slider(nullptr);
         slider.resize(30, 200);
@@ -120,17 +102,10 @@ private Q_SLOTS:
         connect(&feed, &QTimer::timeout, &slider,
                 [&] { slider.SetVolumes(0.8F, float(std::abs(std::sin(++step * 0.11)))); });
         feed.start(10);
-        std::vector<double> used(size_t(seconds) + 1); ///< CPU time until each second
-        Run([&used](int second) { used[size_t(second)] = ProcessorSeconds(); });
-        const int third = seconds / 3;
-        const double usedEarly = (used[size_t(third)] - used[1]) / (third - 1); // without the start-up
-        const double usedLate = (used.back() - used[size_t(third)]) / (seconds - third);
-        qInfo("%d levels; processor %.2f %%, then %.2f %%", step, 100 * usedEarly, 100 * usedLate);
+        Run([](int) {});
         // On a busy machine timers are late.
         QVERIFY(step > seconds * 20);
         QVERIFY(late <= early + 1);
-        // The resolution of the clock is a percent.
-        QVERIFY(usedLate <= 1.5 * usedEarly + 0.01);
     }
 
 private:
