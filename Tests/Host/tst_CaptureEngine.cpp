@@ -162,57 +162,14 @@ private Q_SLOTS:
         QCOMPARE(observer->Calls(), ONE_RUN);
     }
 
-    void sessionRestartsWithinObserverCalls()
-    {
-        std::atomic<int> runs{0};
-        const Session session = CreateSession([&](SourceChannel& channel) {
-            return ++runs < 4 ? CaptureError::CannotOpen : DeliverUntilStopped(channel);
-        });
-        observer->onCall = [&, starts = 0](auto& call, auto* sender) mutable {
-            if (call == "started") {
-                sender->Stop();
-                sender->Start(observer);
-                sender->Stop();
-            }
-            if (call == "error 1" || (call == "started" && ++starts < 3))
-                sender->Start(observer);
-        };
-        session->Start(observer);
-        QVERIFY(observer->WaitFor(QStringList{"error 1", "error 1", "error 1"} + ONE_RUN + ONE_RUN + ONE_RUN));
-        QVERIFY(WaitForEngineIdle(LIMIT));
-    }
-
-    void releaseInAnObserverCallStops_data()
-    {
-        QTest::addColumn<QStringList>("calls");
-        QTest::addColumn<QString>("releasedIn");
-        QTest::addColumn<Run>("run");
-        QTest::newRow("handleStarted") << ONE_RUN << "started" << Run(DeliverUntilStopped);
-        QTest::newRow("handleStopped") << ONE_RUN << "stopped" << Run([](auto& c) { return Deliver(c, 1); });
-        QTest::newRow("handleError") << QStringList{"started", "error 2"} << "error 2"
-                                     << Run([](auto& c) { return Deliver(c, 1, CaptureError::Lost); });
-    }
-
     void releaseInAnObserverCallStops()
     {
-        QFETCH(QStringList, calls);
-        QFETCH(QString, releasedIn);
-        QFETCH(Run, run);
-        Session session = CreateSession(run);
-        observer->onCall = [&](auto& call, auto*) {
-            if (call == releasedIn)
-                session = nullptr;
-        };
+        Session session = CreateSession(DeliverUntilStopped);
+        observer->onCall = [&](auto&, auto*) { session = nullptr; };
         session->Start(observer);
-        QVERIFY(observer->WaitFor(calls));
+        QVERIFY(observer->WaitFor(ONE_RUN));
         QVERIFY(WaitForEngineIdle(LIMIT));
-        QCOMPARE(observer->Calls(), calls);
-    }
-
-    void releaseMayCoincideWithAnError()
-    {
-        for (int i = 0; i < 500; ++i)
-            Support::Start(CreateSession([](auto&) { return CaptureError::CannotOpen; }));
+        QCOMPARE(observer->Calls(), ONE_RUN);
     }
 
     void outputReadsTheNewestFrameInItsOwnTime()
@@ -267,7 +224,6 @@ private Q_SLOTS:
         QCOMPARE(log.Take(), QStringList());
         QVERIFY(!create({}, Proc::PixFmt::None));
         QVERIFY(!create({unit, unit}, Proc::PixFmt::None));
-        QVERIFY(!create({{device, nullptr}}, Proc::PixFmt::None));
         QVERIFY(!create({{OrdinaryDevice(), nullptr}}, Proc::PixFmt::None));
         QVERIFY(!create({unit}, Proc::PixFmt::NV12));
         QVERIFY(!create({unit}, Proc::PixFmt::None, "Other"));
@@ -275,7 +231,7 @@ private Q_SLOTS:
         mode->SetFrameRate({15, 1});
         mode->SetFrameRate({0, 1});
         QCOMPARE(mode->GetFrameRate().numerator, std::int64_t(15));
-        QCOMPARE(log.Take().filter(QRegularExpression("^E ")).size(), 8);
+        QCOMPARE(log.Take().filter(QRegularExpression("^E ")).size(), 7);
     }
 
     void startAndStopFromTwoThreadsAlternate()

@@ -160,18 +160,6 @@ private Q_SLOTS:
         source.Start();
         QTRY_VERIFY(spy.size() > count);
     }
-
-    // Passes with and without a microphone.
-    void microphoneSourceMayBeDeletedInItsSignal()
-    {
-        auto source = std::make_unique<AudioLevelSource>(AudioLevelSource::Input::Microphone);
-        source->Start();
-        source = std::make_unique<AudioLevelSource>(AudioLevelSource::Input::Microphone);
-        connect(source.get(), &AudioLevelSource::PeakMeasured, this, [&source] { source.reset(); });
-        source->Start();
-        QTRY_VERIFY_WITH_TIMEOUT(!source, 20000);
-        QVERIFY(WaitForEngineIdle(std::chrono::seconds(20)));
-    }
 };
 
 VX_TEST_MAIN(tst_Devices)

@@ -12,7 +12,6 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <future>
 #include <limits>
 #include <map>
 #include <vector>
@@ -293,20 +292,6 @@ private Q_SLOTS:
         QCOMPARE(FirstByte(Converted(effect, larger)), releasedLarger);
         effect = nullptr;
         QCOMPARE(Bytes(held), before);
-    }
-
-    void framesMayBeReleasedOnOtherThreads()
-    {
-        const Effect effect = CreateConverter();
-        const Frame source = MakeNoise(SMALL_NV12);
-        const QByteArray picture = Bytes(Converted(effect, source));
-        std::vector<std::future<QByteArray>> readers;
-        for (int i = 0; i < 200; ++i)
-            readers.push_back(std::async(std::launch::async, [frame = Converted(effect, source)]() mutable {
-                return Bytes(std::exchange(frame, nullptr));
-            }));
-        for (auto& reader : readers)
-            QCOMPARE(reader.get(), picture);
     }
 
     void unreadableFramesAreLoggedOnce_data()
