@@ -39,13 +39,6 @@ private Q_SLOTS:
         QCOMPARE(QDir(folder.filePath("new/pages")).entryList(QDir::Files).size(), PageNames().size());
     }
 
-    void writesAPictureOfEachWidget()
-    {
-        QCOMPARE(Run("--pictures widgets --after 0"), QStringList{"exit 0"});
-        for (const QString& name : PageNames().mid(1))
-            QVERIFY2(!QImage(folder.filePath("widgets/" + name + ".png")).isNull(), qPrintable(name));
-    }
-
     void appliesSizeScaleAndStyleSheet()
     {
         QFile file(folder.filePath("Mine.qss"));
