@@ -1,5 +1,4 @@
 #include <UI/Widgets/VideoPreviewWidget.h>
-#include <UI/Widgets/VolumeSlider.h>
 #include <UI/Widgets/WebCameraPreviewStream.h>
 
 #include <Support/TestCase.h>
@@ -8,7 +7,6 @@
 #include <Zelkor/StandIn/CaptureEngine.h>
 
 #include <QFile>
-#include <QTimer>
 
 #if defined(Q_OS_WIN)
 #include <QtCore/qt_windows.h>
@@ -18,8 +16,6 @@
 #if defined(__GLIBC__)
 #include <malloc.h>
 #endif
-
-#include <cmath>
 
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
 #define VX_SANITIZED
@@ -76,12 +72,19 @@ private Q_SLOTS:
         auto* stream = new Vx::WebCameraPreviewStream(preview);
         const auto device = StandIn::CreateTestPictureDevice();
         const auto& modes = device->GetModes();
-        Run([&](int second) {
+        const int seconds = std::max(6, qEnvironmentVariable("VX_SECONDS", "15").toInt());
+        double early = 0; // peak of the memory use in the first third, in megabytes
+        double late = 0;  // and in the rest
+        for (int second = 0; second <= seconds; ++second) {
             stream->StopStream();
             const auto& mode = modes[size_t(second) % modes.size()];
             stream->SetDevice(device, QString::fromStdString(mode->GetName()), 60);
             stream->StartStream();
-        });
+            double& peak = 3 * second <= seconds ? early : late;
+            peak = std::max(peak, Resident());
+            QTest::qWait(1000);
+        }
+        qInfo("peak %.1f MB, then %.1f MB", early, late);
         delete preview; // while the stream runs
         QVERIFY(StandIn::WaitForEngineIdle(std::chrono::seconds(10)));
         // The first third covers every mode. The tolerance is for the allocator, and for one picture more or less at
@@ -89,45 +92,6 @@ private Q_SLOTS:
         constexpr double LARGEST_PICTURE = 1920 * 1080 * 4 / 1e6;
         QVERIFY(late <= early * 1.1 + LARGEST_PICTURE);
     }
-
-    // Updates a visible level meter 100 times per second.
-    void meterKeepsItsMemory()
-    {
-        Vx::VolumeSlider slider(nullptr);
-        slider.resize(30, 200);
-        slider.show();
-        int step = 0;
-        QTimer feed;
-        feed.setTimerType(Qt::PreciseTimer);
-        connect(&feed, &QTimer::timeout, &slider,
-                [&] { slider.SetVolumes(0.8F, float(std::abs(std::sin(++step * 0.11)))); });
-        feed.start(10);
-        Run([](int) {});
-        // On a busy machine timers are late.
-        QVERIFY(step > seconds * 20);
-        QVERIFY(late <= early + 1);
-    }
-
-private:
-    // Calls `act` every second and measures the memory.
-    void Run(const std::function<void(int second)>& act)
-    {
-        early = 0;
-        late = 0;
-        for (int second = 0; second <= seconds; ++second) {
-            act(second);
-            double& peak = 3 * second <= seconds ? early : late;
-            peak = std::max(peak, Resident());
-            if (second % 30 == 0)
-                qInfo("%4d s: %.1f MB", second, Resident());
-            QTest::qWait(1000);
-        }
-        qInfo("peak %.1f MB, then %.1f MB", early, late);
-    }
-
-    const int seconds = std::max(6, qEnvironmentVariable("VX_SECONDS", "15").toInt());
-    double early = 0; ///< peak of the memory use in the first third, in megabytes
-    double late = 0;  ///< and in the rest
 };
 
 VX_TEST_MAIN(tst_Soak)
