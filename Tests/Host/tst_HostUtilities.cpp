@@ -1,6 +1,5 @@
 #include <Zelkor/App/AboutBoxDialog.h>
 #include <Zelkor/Util/ImageGenerator.h>
-#include <Zelkor/Util/WidgetStyle.h>
 #include <Zelkor/Vx/UI/Util/WindowMouseMoveHelper.h>
 
 #include <Support/TestCase.h>
@@ -81,17 +80,6 @@ private Q_SLOTS:
         QCOMPARE(image.pixel(30, 2), QRgb(0));
         QCOMPARE(circle({1, 1}, Qt::red).pixel(0, 0), qRgb(255, 0, 0));
         QVERIFY(circle({0, 5}, Qt::red).isNull());
-    }
-
-    void styleSheetFollowsTheProperty()
-    {
-        QLabel label;
-        label.setStyleSheet("QLabel { color: #0000ff } QLabel[state=\"hot\"] { color: #ff0000 }");
-        label.show();
-        Util::ApplyWidgetStyle(&label, "hot", "state");
-        QCOMPARE(label.palette().color(QPalette::WindowText), QColor(Qt::red));
-        Util::ApplyWidgetStyle(&label, "cold", "state");
-        QCOMPARE(label.palette().color(QPalette::WindowText), QColor(Qt::blue));
     }
 
     void aboutBoxOpensItsLinksAndShowsPlainText()
