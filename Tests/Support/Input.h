@@ -25,6 +25,14 @@ inline void ShowActive(QWidget& window)
     QVERIFY(QTest::qWaitForWindowActive(&window));
 }
 
+/// Adds a row for each layout direction, in the column direction.
+inline void AddDirectionRows()
+{
+    QTest::addColumn<Qt::LayoutDirection>("direction");
+    QTest::newRow("left to right") << Qt::LeftToRight;
+    QTest::newRow("right to left") << Qt::RightToLeft;
+}
+
 /// Sends a wheel event to a widget. Returns whether the widget accepted it.
 inline bool TurnWheel(QWidget* widget, const QPoint& angle)
 {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <Zelkor/Acquis/CaptureFactory.h>
+#include <Zelkor/StandIn/CaptureDevice.h>
 #include <Zelkor/StandIn/CaptureEngine.h>
 
 #include <atomic>
@@ -13,24 +14,6 @@
 namespace Support {
 
 using namespace Zelkor;
-
-/// A mode with the given rates, which records the rate that is set.
-class ScriptedMode : public RefCounted<Acquis::IVideoCaptureSettings>
-{
-public:
-    ScriptedMode(std::string name, std::vector<Acquis::Rational> rates) : name(std::move(name)), rates(std::move(rates))
-    {}
-
-    unsigned GetKind() const override { return Acquis::SETTINGS_KIND_VIDEO; }
-    bool IsGeneric() const override { return false; }
-    std::string GetName() const override { return name; }
-    void GetFrameRates(std::vector<Acquis::Rational>& list) const override { list = rates; }
-    void SetFrameRate(const Acquis::Rational& rate) override { chosen = rate; }
-
-    std::string name;
-    std::vector<Acquis::Rational> rates;
-    Acquis::Rational chosen{-1, 1};
-};
 
 /// A device of no real engine, with scripted modes.
 class ScriptedDevice : public RefCounted<Acquis::ICaptureDevice>
@@ -52,7 +35,7 @@ public:
 inline boost::intrusive_ptr<ScriptedDevice> OrdinaryDevice(int rate = 100)
 {
     boost::intrusive_ptr<ScriptedDevice> device(new ScriptedDevice);
-    device->modes.emplace_back(new ScriptedMode("only", {{rate, 1}}));
+    device->modes.emplace_back(new StandIn::VideoMode("only", {}, {{rate, 1}}));
     return device;
 }
 
@@ -60,14 +43,11 @@ inline boost::intrusive_ptr<ScriptedDevice> OrdinaryDevice(int rate = 100)
 class ScriptedReader : public RefCounted<Acquis::IFrameProvider, Acquis::ICaptureOutput, Acquis::IFrameReader>
 {
 public:
-    using Read = std::function<boost::intrusive_ptr<Proc::IDataVideo>()>;
-
-    explicit ScriptedReader(Read read) : read(std::move(read)) {}
+    explicit ScriptedReader(std::function<boost::intrusive_ptr<Proc::IDataVideo>()> read) : read(std::move(read)) {}
 
     void CreateOutput(boost::intrusive_ptr<Acquis::ICaptureOutput>& output, const std::string& name, int) override
     {
-        if (onOutput)
-            onOutput();
+        onOutput();
         outputName = name;
         output = this;
     }
@@ -77,16 +57,14 @@ public:
     void ReadLatestFrame(boost::intrusive_ptr<Proc::IDataVideo>& frame) override
     {
         ++reads;
-        frame = read ? read() : nullptr;
+        frame = read();
     }
 
-    std::function<void()> onOutput; ///< called when an output is requested
+    const std::function<boost::intrusive_ptr<Proc::IDataVideo>()> read;
+    std::function<void()> onOutput = [] {}; ///< called when an output is requested
     std::atomic<int> reads{0};
     std::string outputName;
     boost::intrusive_ptr<Acquis::TimeShift> shift;
-
-private:
-    Read read;
 };
 
 class ScriptedSession;
@@ -119,7 +97,7 @@ public:
     }
 
     // Called in Start and Stop of a session. By default Start does nothing and Stop calls ReportStopped.
-    std::function<void(const Session&)> onStart;
+    std::function<void(const Session&)> onStart = [](auto&) {};
     std::function<void(const Session&)> onStop;
     bool refusesSessions = false;
     std::vector<boost::intrusive_ptr<Acquis::IDeviceSettings>> deviceSettings;
@@ -151,8 +129,7 @@ public:
     {
         std::atomic_store(&observer, newObserver);
         ++engine.starts;
-        if (engine.onStart)
-            engine.onStart(this);
+        engine.onStart(this);
     }
 
     void Stop() override

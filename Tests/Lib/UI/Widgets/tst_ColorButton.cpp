@@ -105,7 +105,6 @@ private Q_SLOTS:
     }
 
     void alphaIsLimitedToAHalf() { checkAlpha(0.5, 128, 255, 64); }
-    void alphaLimitAboveOneIsOne() { checkAlpha(7, 255, 255, 128); }
     void alphaLimitNotANumberIsOne() { checkAlpha(std::nan(""), 255, 255, 128); }
 };
 

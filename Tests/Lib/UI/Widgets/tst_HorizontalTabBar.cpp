@@ -77,12 +77,7 @@ private Q_SLOTS:
         QCOMPARE(icons(), QString("#00ff00 none #ff00ff"));
     }
 
-    void textAndIconArePlaced_data()
-    {
-        QTest::addColumn<Qt::LayoutDirection>("direction");
-        QTest::newRow("left to right") << Qt::LeftToRight;
-        QTest::newRow("right to left") << Qt::RightToLeft;
-    }
+    void textAndIconArePlaced_data() { Support::AddDirectionRows(); }
 
     void textAndIconArePlaced()
     {

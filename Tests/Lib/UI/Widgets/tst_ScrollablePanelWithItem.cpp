@@ -45,12 +45,7 @@ class tst_ScrollablePanelWithItem : public Support::TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void buttonsWheelAndFocusScroll_data()
-    {
-        QTest::addColumn<Qt::LayoutDirection>("direction");
-        QTest::newRow("left to right") << Qt::LeftToRight;
-        QTest::newRow("right to left") << Qt::RightToLeft;
-    }
+    void buttonsWheelAndFocusScroll_data() { Support::AddDirectionRows(); }
 
     void buttonsWheelAndFocusScroll()
     {

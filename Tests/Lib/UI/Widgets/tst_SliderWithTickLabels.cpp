@@ -1,5 +1,6 @@
 #include <UI/Widgets/SliderWithTickLabels.h>
 
+#include <Support/Input.h>
 #include <Support/TestCase.h>
 
 #include <QLabel>
@@ -87,37 +88,30 @@ private Q_SLOTS:
         QCOMPARE(log.join(", "), QString("action 3, value 1, index 1"));
     }
 
-    void labelsAreCentredOverTheirTicks_data()
-    {
-        QTest::addColumn<Qt::LayoutDirection>("direction");
-        QTest::addColumn<int>("width"); ///< 0 for the size hint
-        for (const int width : {0, 200}) {
-            QTest::addRow("left to right, %d", width) << Qt::LeftToRight << width;
-            QTest::addRow("right to left, %d", width) << Qt::RightToLeft << width;
-        }
-    }
+    void labelsAreCentredOverTheirTicks_data() { Support::AddDirectionRows(); }
 
     void labelsAreCentredOverTheirTicks()
     {
         QFETCH(Qt::LayoutDirection, direction);
-        QFETCH(int, width);
         Widget widget({"Low", "A text that is much longer than all of the others", "Best", "x", "y"});
         widget.setLayoutDirection(direction);
         widget.show();
-        widget.resize(width ? width : widget.sizeHint().width(), widget.height());
-        QCoreApplication::processEvents();
         const auto place = [&](int i) {
             return QStyle::visualRect(direction, widget.rect(), widget.Labels()[i]->geometry());
         };
-        QCOMPARE(place(0).left(), 0);
-        QCOMPARE(place(4).right(), widget.width() - 1);
-        for (int i = 1; i < 4; ++i) {
-            QVERIFY(place(i).left() > place(i - 1).right());
-            const QPoint handle = widget.PartOf(i, QStyle::SC_SliderHandle).center();
-            QVERIFY(qAbs(widget.Labels()[i]->geometry().center().x() - handle.x()) <= 2);
+        for (const int width : {widget.sizeHint().width(), 200}) {
+            widget.resize(width, widget.height());
+            QCoreApplication::processEvents();
+            QCOMPARE(place(0).left(), 0);
+            QCOMPARE(place(4).right(), widget.width() - 1);
+            for (int i = 1; i < 4; ++i) {
+                QVERIFY(place(i).left() > place(i - 1).right());
+                const QPoint handle = widget.PartOf(i, QStyle::SC_SliderHandle).center();
+                QVERIFY(qAbs(widget.Labels()[i]->geometry().center().x() - handle.x()) <= 2);
+            }
+            QCOMPARE(widget.Labels()[3]->toolTip(), QString());
+            QCOMPARE(widget.Labels()[1]->toolTip().isEmpty(), width != 200);
         }
-        QCOMPARE(widget.Labels()[3]->toolTip(), QString());
-        QCOMPARE(widget.Labels()[1]->toolTip().isEmpty(), width != 200);
     }
 };
 

@@ -83,11 +83,9 @@ private Q_SLOTS:
         const auto storage = std::make_shared<std::array<std::uint8_t, 1024>>();
         const StandIn::Plane tooSmall{storage->data(), 32, 500};
         for (const auto pixFmt : {Proc::PixFmt(777), Proc::PixFmt::NV12, Proc::PixFmt::BGRA}) {
-            StandIn::FrameFormat format;
-            format.pixFmt = pixFmt;
-            format.width = format.height = 32;
             preview.UpdateView(SolidFrame({32, 32}, Qt::green));
-            preview.UpdateView(StandIn::VideoFrame::Reference(format, {tooSmall, tooSmall, tooSmall}, storage));
+            preview.UpdateView(
+                StandIn::VideoFrame::Reference({pixFmt, 32, 32}, {tooSmall, tooSmall, tooSmall}, storage));
             QCOMPARE(preview.Picture(), QRect());
         }
     }

@@ -75,24 +75,24 @@ class tst_WebCameraPreviewStream : public Support::TestCase
 private Q_SLOTS:
     void modeAndRateAreChosen()
     {
-        // The rates of the modes "A", "B" and "A" after 25 Hz were requested.
+        // The rates of the modes "A", "B" and "A" after 25 Hz were requested, by default their last one.
         const auto chosen = [](const char* name, const std::vector<Acquis::Rational>& rates) {
             const Stream fixture;
             boost::intrusive_ptr<ScriptedDevice> device(new ScriptedDevice);
             for (const char* mode : {"A", "B", "A"})
-                device->modes.emplace_back(new ScriptedMode(mode, rates));
+                device->modes.emplace_back(new StandIn::VideoMode(mode, {}, rates));
             fixture.stream->SetDevice(device, name, 25);
             QVector<std::int64_t> chosenRates;
             for (const auto& mode : device->modes)
-                chosenRates += dynamic_cast<ScriptedMode&>(*mode).chosen.numerator;
+                chosenRates += dynamic_cast<StandIn::VideoMode&>(*mode).GetFrameRate().numerator;
             return chosenRates;
         };
         using Rates = QVector<std::int64_t>;
-        QCOMPARE(chosen("B", {{15, 1}, {25, 1}, {30, 1}}), Rates({-1, 25, -1}));
-        QCOMPARE(chosen("unknown", {{15, 1}, {25, 1}, {30, 1}}), Rates({25, -1, -1}));
-        QCOMPARE(chosen("A", {{15, 1}, {30, 1}}), Rates({30, -1, -1}));
-        QCOMPARE(chosen("A", {{24, 1}, {0, 0}, {30, -1}}), Rates({24, -1, -1}));
-        QCOMPARE(chosen("A", {{1, 2}, {-30, 1}}), Rates({-1, -1, -1}));
+        QCOMPARE(chosen("B", {{15, 1}, {25, 1}, {30, 1}}), Rates({30, 25, 30}));
+        QCOMPARE(chosen("unknown", {{15, 1}, {25, 1}, {30, 1}}), Rates({25, 30, 30}));
+        QCOMPARE(chosen("A", {{15, 1}, {30, 1}, {0, 1}}), Rates({30, 0, 0}));
+        QCOMPARE(chosen("A", {{24, 1}, {0, 0}, {30, -1}}), Rates({24, 30, 30}));
+        QCOMPARE(chosen("A", {{1, 2}, {-30, 1}}), Rates({-30, -30, -30}));
     }
 
     void incompatibleDeviceThrowsAndRefusedSessionIsNotStarted()
