@@ -7,7 +7,6 @@
 
 #include <QAccessible>
 #include <QFormLayout>
-#include <QStackedLayout>
 
 class tst_Kit : public Support::TestCase
 {
@@ -31,7 +30,6 @@ private Q_SLOTS:
         QCOMPARE(spacings(new QBoxLayout(QBoxLayout::Down)), QVector<int>({3, -1, -1}));
         QCOMPARE(spacings(new QGridLayout), QVector<int>({-1, 7, 9}));
         QCOMPARE(spacings(new QFormLayout), QVector<int>({-1, 7, 9}));
-        QCOMPARE(spacings(new QStackedLayout), QVector<int>({3, -1, -1}));
         QCOMPARE(spacings(nullptr), QVector<int>({-1, -1, -1}));
     }
 

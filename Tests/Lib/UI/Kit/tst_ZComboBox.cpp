@@ -130,20 +130,17 @@ private Q_SLOTS:
         combo.show();
         for (const auto direction : {Qt::LeftToRight, Qt::RightToLeft}) {
             combo.setLayoutDirection(direction);
-            for (const int x : {screen.left(), screen.center().x(), screen.right() - 119}) {
-                for (const int length : {1, 20}) { // the second one is wider than the screen
-                    combo.setItemText(1, LONG_TEXT.repeated(length));
-                    combo.move(x, 100);
-                    combo.showPopup();
-                    const QWidget* popUp = combo.view()->window();
-                    const int items = combo.fontMetrics().horizontalAdvance(combo.itemText(1));
-                    QTRY_VERIFY(popUp->width() >= std::min(items, screen.width()));
-                    QTRY_VERIFY(screen.contains(popUp->geometry()));
-                    // It is aligned with the combo box where the screen has room.
-                    const QRect mirrored = QStyle::visualRect(direction, combo.geometry(), popUp->geometry());
-                    QVERIFY(mirrored.left() == combo.geometry().left() || length > 1 || x != screen.center().x());
-                    combo.hidePopup();
-                }
+            for (const int length : {1, 20}) { // the second one is wider than the screen
+                combo.setItemText(1, LONG_TEXT.repeated(length));
+                combo.move(screen.center().x(), 100);
+                combo.showPopup();
+                const QWidget* popUp = combo.view()->window();
+                const int items = combo.fontMetrics().horizontalAdvance(combo.itemText(1));
+                QTRY_VERIFY(popUp->width() >= std::min(items, screen.width()));
+                QTRY_VERIFY(screen.contains(popUp->geometry()));
+                const QRect mirrored = QStyle::visualRect(direction, combo.geometry(), popUp->geometry());
+                QVERIFY(mirrored.left() == combo.geometry().left() || length > 1);
+                combo.hidePopup();
             }
         }
     }

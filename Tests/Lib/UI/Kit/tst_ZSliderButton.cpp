@@ -170,18 +170,16 @@ private Q_SLOTS:
         }
     }
 
-    void popUpIsMovedOntoTheScreen()
+    void popUpOfAnyHeightFitsTheScreen()
     {
         const QRect screen = QGuiApplication::primaryScreen()->geometry();
-        for (const QPoint place : {screen.topLeft(), screen.bottomRight() - QPoint(20, 40)}) {
-            Fixture fixture(false, place);
-            for (const int height : {120, INT_MAX, INT_MIN}) {
-                fixture.button->setSliderHeight(height);
-                fixture.open();
-                QVERIFY(screen.contains(fixture.frame->geometry()));
-                QVERIFY(height > 120 || !fixture.frame->geometry().intersects(OnScreen(fixture.button)));
-                fixture.frame->hide();
-            }
+        Fixture fixture(false, screen.topLeft());
+        for (const int height : {120, INT_MAX, INT_MIN}) {
+            fixture.button->setSliderHeight(height);
+            fixture.open();
+            QVERIFY(screen.contains(fixture.frame->geometry()));
+            QVERIFY(height > 120 || !fixture.frame->geometry().intersects(OnScreen(fixture.button)));
+            fixture.frame->hide();
         }
     }
 

@@ -198,8 +198,6 @@ private Q_SLOTS:
         row("delete thumb", [](Trimmer*, Thumb* thumb) { delete thumb; });
         row("delete slider", [](Trimmer* slider, Thumb*) { delete slider; });
         row("replace thumb", [](Trimmer* slider, Thumb*) { slider->addThumb("mark"); });
-        row("change range", [](Trimmer* slider, Thumb*) { slider->setRange(0, 10); });
-        row("move another thumb", [](Trimmer* slider, Thumb*) { slider->setValue(slider->value() + 1); });
     }
 
     // Interferes at the first signal of the thumb, then at the second one, and so on.
@@ -239,20 +237,6 @@ private Q_SLOTS:
             delete slider;
         }
         QVERIFY2(moment >= 9, qPrintable(QString::number(moment)));
-    }
-
-    void thumbWithoutASliderDoesNothing()
-    {
-        Thumb thumb(nullptr);
-        thumb.setZOrder(1);
-        thumb.setParentMargin(2);
-        thumb.setValue(5);
-        thumb.show();
-        Click(&thumb);
-        QTest::keyClick(&thumb, Qt::Key_Up);
-        thumb.grab();
-        QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(&thumb);
-        QCOMPARE(accessible->valueInterface()->maximumValue(), 0);
     }
 };
 
