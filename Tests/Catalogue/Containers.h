@@ -3,16 +3,13 @@
 #include <UI/Widgets/ButtonWithPopUpContainer.h>
 
 #include <QDialog>
-#include <QDockWidget>
 #include <QGraphicsProxyWidget>
 #include <QGraphicsView>
-#include <QMainWindow>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenu>
 #include <QScrollArea>
 #include <QSplitter>
-#include <QTabWidget>
 #include <QVBoxLayout>
 #include <QWidgetAction>
 
@@ -58,26 +55,11 @@ const Container CONTAINERS[] = {
          area->setWidget(widget);
          return Fill(window, area);
      }},
-    {"dock",
-     [](QWidget* widget, QWidget* window) {
-         auto* main = new QMainWindow;
-         auto* dock = new QDockWidget(QStringLiteral("Dock"), main);
-         main->addDockWidget(Qt::LeftDockWidgetArea, dock);
-         dock->setWidget(PageWith(widget));
-         return Fill(window, main);
-     }},
     {"MDI area",
      [](QWidget* widget, QWidget* window) {
          auto* area = new QMdiArea;
          area->addSubWindow(PageWith(widget))->showMaximized();
          return Fill(window, area);
-     }},
-    {"tab",
-     [](QWidget* widget, QWidget* window) {
-         auto* tabs = new QTabWidget;
-         tabs->addTab(new QWidget, QStringLiteral("First"));
-         tabs->setCurrentIndex(tabs->addTab(PageWith(widget), QStringLiteral("Second")));
-         return Fill(window, tabs);
      }},
     {"graphics proxy",
      [](QWidget* widget, QWidget* window) -> OpenFunction {

@@ -11,7 +11,6 @@
 #include <QAbstractItemView>
 #include <QAction>
 #include <QButtonGroup>
-#include <QGroupBox>
 #include <QPlainTextEdit>
 
 using namespace Zelkor::Catalogue;
@@ -157,8 +156,6 @@ private Q_SLOTS:
         for (QObject* part : QObjectList{scene->widget} + scene->widget->findChildren<QObject*>()) {
             if (part->inherits("QAbstractButton") || part->inherits("QAction"))
                 part->setProperty("text", text);
-            if (auto* group = qobject_cast<QGroupBox*>(part))
-                group->setTitle(text);
             if (auto* widget = qobject_cast<QWidget*>(part)) {
                 for (QAction* action : widget->actions())
                     action->setText(text);

@@ -38,13 +38,6 @@ struct Environment
 
 void Nothing(EntryWindow&) {}
 
-void EnlargeFont(EntryWindow& scene)
-{
-    QFont font = scene.window->font();
-    font.setPointSize(font.pointSize() + FONT_STEP);
-    scene.window->setFont(font);
-}
-
 template<bool on>
 void Enable(EntryWindow& scene)
 {
@@ -91,7 +84,6 @@ const Change CHANGES[] = {
     {"dark", {"light"}, {}},
     {"disabled", {}, {}, Nothing, Enable<false>, Enable<false>},
     {"enabled", {}, {}, Enable<false>, Enable<true>},
-    {"larger font", {}, {}, Nothing, EnlargeFont, EnlargeFont},
     {"hidden and shown", {}, {}, Nothing, HideAndShow<&EntryWindow::widget>},
     {"window hidden and shown", {}, {}, Nothing, HideAndShow<&EntryWindow::window>},
     {"narrow and wide", {}, {}, Nothing, NarrowAndWiden},

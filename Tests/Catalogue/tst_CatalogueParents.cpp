@@ -170,7 +170,7 @@ private Q_SLOTS:
 
     void compiledFormShowsTheWidget_data()
     {
-        AddRowsOfEntries([](const Entry& entry) { return entry.form.metaObject != nullptr; });
+        AddRowsOfEntries([](auto& entry) { return bool(entry.form.metaObject); });
     }
 
     void compiledFormShowsTheWidget()

@@ -3,10 +3,8 @@
 #include <Support/TestCase.h>
 
 #include <QPainter>
-#include <QToolButton>
 
 #include <cmath>
-#include <memory>
 
 using namespace Zelkor::Catalogue;
 
@@ -66,18 +64,6 @@ private Q_SLOTS:
         if (state == EntryOfRow().pictured && turn % 3 == 0)
             CheckAtSize(HUGE_SIZE, false);
         Settle();
-    }
-
-    void upKeyMovesTheThumbOfAnUprightSliderUp()
-    {
-        const Entry& entry = *FindEntry("ZSlider");
-        const std::unique_ptr<QWidget> slider(CreateInState(entry, entry.states[6], nullptr));
-        QCOMPARE(entry.states[6].name, QString("Upright"));
-        slider->show();
-        auto* thumb = slider->findChild<QToolButton*>();
-        const int before = thumb->y();
-        QTest::keyClick(thumb, Qt::Key_Up);
-        QVERIFY(thumb->y() < before);
     }
 
 private:
