@@ -6,7 +6,6 @@
 #include <Gallery/Browser/WidgetPage.h>
 #include <Gallery/Inspector/PropertyPanel.h>
 #include <Gallery/Inspector/SignalLog.h>
-#include <UI/Kit/ZLineEdit.h>
 #include <UI/Widgets/ButtonWithPopUpContainer.h>
 #include <UI/Widgets/ColorButton.h>
 
@@ -135,23 +134,6 @@ private Q_SLOTS:
         QCOMPARE(button.property("layoutDirection").toInt(), 1);
         const auto* line = panel.findChild<QLineEdit*>("styleSheetLine");
         QCOMPARE(line->text(), QString("qproperty-layoutDirection: \"LAYOUT_RIGHT_TO_LEFT\";"));
-    }
-
-    void unfinishedTextIsSetOnItsWidget()
-    {
-        QLineEdit first;
-        QLineEdit second;
-        PropertyPanel panel;
-        panel.SetObject(&first, {});
-        panel.show();
-        QVERIFY(QTest::qWaitForWindowActive(&panel));
-        auto* edit = panel.findChild<ZLineEdit*>("edit:placeholderText");
-        edit->setFocus();
-        QTRY_VERIFY(edit->hasFocus());
-        QTest::keyClicks(edit, "typed");
-        panel.SetObject(&second, {});
-        QCOMPARE(first.placeholderText(), QString("typed"));
-        QCOMPARE(second.placeholderText(), QString());
     }
 
     void pageInspectsTheClickedCardAndLogsItsSignals()
