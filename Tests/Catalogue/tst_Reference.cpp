@@ -103,6 +103,19 @@ private Q_SLOTS:
         ApplySheet("");
     }
 
+    void entryHasPictureAndExample_data() { AddRowsOfEntries(); }
+
+    void entryHasPictureAndExample()
+    {
+        const Entry& entry = EntryOfRow();
+        QWidget parent;
+        const QString section = sections[CreateBare(entry, &parent)->metaObject()->className()];
+        const QString picture = "pictures/" + entry.className + ".png";
+        QVERIFY2(section.contains("](" + picture + ')'), "shows no picture");
+        QVERIFY2(!QImage(VX_DOCS "/" + picture).isNull(), "the picture is missing; run tools/make-pictures");
+        QVERIFY2(section.contains(QRegularExpression("\n```(css|cpp)\n")), "has no example");
+    }
+
     void propertiesHaveTypeAndDefault_data()
     {
         QTest::addColumn<QString>("fullName");

@@ -253,21 +253,9 @@ private Q_SLOTS:
         QVERIFY(button->isVisible());
         window.setFixedSize(PLACE.size() / 2);
         QVERIFY(!button->isVisible());
-        window.setMaximumSize(PLACE.size());
-        window.resize(PLACE.size());
-        QVERIFY(button->isVisible());
         window.setWindowFlag(Qt::WindowMaximizeButtonHint, false);
         window.show();
         QVERIFY(!button->isVisible());
-    }
-
-    void tabOrderIsVisualOrder()
-    {
-        Titled window;
-        window.bar->AddWidget(new QToolButton);
-        window.ShowAndWait();
-        QCOMPARE(window.Button("minimizeButton")->nextInFocusChain(), window.Button("maximizeButton"));
-        QCOMPARE(window.Button("maximizeButton")->nextInFocusChain(), window.Button("closeButton"));
     }
 
     void windowMenuFollowsState()

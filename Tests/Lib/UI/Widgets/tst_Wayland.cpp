@@ -3,7 +3,6 @@
 #include <UI/Kit/ZWindowChrome.h>
 #include <UI/Widgets/ButtonWithPopUpContainer.h>
 #include <UI/Widgets/ButtonWithPopUpList.h>
-#include <UI/Widgets/ClickSoundComboBox.h>
 #include <UI/Widgets/ColorButton.h>
 #include <UI/Widgets/MaskedToolTip.h>
 #include <UI/Widgets/VolumeSlider.h>
@@ -197,14 +196,8 @@ private Q_SLOTS:
         Sway::Click(center);
         opens("second click", false);
         Sway::Click(center);
-        opens("third click", true);
         Sway::Click(QPoint(510, 410));
         opens("click into the window", false);
-        Sway::Click(center);
-        opens("click after that", true);
-        Sway::Click(QPoint(10, 10));
-        opens("click outside", false);
-        Sway::Click(QPoint(510, 410));
         scene.button.setFocus();
         Sway::Key("F4");
         opens("F4", true);
@@ -342,13 +335,6 @@ private Q_SLOTS:
             });
             Sway::Click(opener.topRight() + QPoint(-4, 15));
             QTRY_VERIFY(isShown);
-        }
-        {
-            Scene<Zelkor::Vx::UI::ClickSoundComboBox> scene(position);
-            scene.button.addItems({"One", "Two"});
-            Sway::Click(scene.Center());
-            QTRY_VERIFY(scene.button.view()->isVisible());
-            QTRY_VERIFY(scene.Find(POPUP).intersects(opener.adjusted(-2, -2, 2, 2)));
         }
         {
             Scene<ZComboBox> scene(position);

@@ -10,7 +10,11 @@
 #include <QTemporaryDir>
 
 #ifdef Q_OS_LINUX
+#include <sys/resource.h>
 #include <sys/stat.h>
+
+#include <cerrno>
+#include <csignal>
 #endif
 
 namespace {
@@ -134,6 +138,27 @@ private Q_SLOTS:
         QVERIFY(editor.save(name));
         QCOMPARE(bytes(), before + 'E');
     }
+
+#ifdef Q_OS_LINUX
+    void failedSaveLeavesTheOldFile()
+    {
+        write("old");
+        ZRuntimeStylesheetEditor editor;
+        editor.setText(RED);
+        // The largest size of a file stands for the size of the disk.
+        const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+        rlimit usual;
+        QCOMPARE(getrlimit(RLIMIT_FSIZE, &usual), 0);
+        const rlimit low{10, usual.rlim_max};
+        QCOMPARE(setrlimit(RLIMIT_FSIZE, &low), 0);
+        const bool isSavedOnFullDisk = editor.save(name);
+        QCOMPARE(setrlimit(RLIMIT_FSIZE, &usual), 0);
+        std::signal(SIGXFSZ, handler);
+        QVERIFY(!isSavedOnFullDisk);
+        QCOMPARE(bytes(), QByteArray("old"));
+        QVERIFY2(editor.message().contains(qt_error_string(EFBIG)), qPrintable(editor.message()));
+    }
+#endif
 };
 
 VX_TEST_MAIN(tst_StyleSheetFile)
