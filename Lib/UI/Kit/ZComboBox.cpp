@@ -1,6 +1,5 @@
 #include <UI/Kit/ZComboBox.h>
 
-#include <UI/Common/ScreenOf.h>
 #include <UI/Kit/AdvancedComboView.h>
 
 #include <QFontMetrics>
@@ -9,8 +8,6 @@
 #include <QWheelEvent>
 
 namespace {
-
-namespace Common = Zelkor::Vx::UI::Common;
 
 constexpr int ICON_GAP = 4; ///< pixels between icon and text in styles of Qt
 
@@ -124,9 +121,7 @@ void ZComboBox::showPopup()
         return;
     const QPoint corner = mapToGlobal(QPoint(0, 0));
     const int above = popUp->height();
-    const int screenTop = Common::IsWayland() ? 0 : Common::ScreenOf(*this)->geometry().top();
-    const bool hasRoomAbove = corner.y() - screenTop > above;
-    popUp->move(corner.x(), hasRoomAbove ? corner.y() - above : corner.y() + height());
+    popUp->move(corner.x(), corner.y() > above ? corner.y() - above : corner.y() + height());
 }
 
 void ZComboBox::hidePopup()
