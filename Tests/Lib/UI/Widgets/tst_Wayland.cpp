@@ -196,6 +196,7 @@ private Q_SLOTS:
         Sway::Click(center);
         opens("second click", false);
         Sway::Click(center);
+        opens("third click", true);
         Sway::Click(QPoint(510, 410));
         opens("click into the window", false);
         scene.button.setFocus();
