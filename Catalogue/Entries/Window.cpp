@@ -13,8 +13,6 @@
 #include <QVBoxLayout>
 #include <QVariant>
 
-#include <utility>
-
 using Zelkor::Vx::UI::CustomTitleBar;
 using Zelkor::Vx::UI::StyledAboutBoxDialog;
 

@@ -145,7 +145,6 @@ bool PopUpWindow::eventFilter(QObject* watched, QEvent* event)
         return ZFrame::eventFilter(watched, event);
     if (event->type() == QEvent::Move || event->type() == QEvent::Resize)
         FollowButton();
-    // A window does not inherit its parent's layout direction.
     if (event->type() == QEvent::LayoutDirectionChange && watched == button)
         setLayoutDirection(button->layoutDirection());
     // A parent receives its hide event before Qt iterates over its children, which a slot that deletes the button would
@@ -186,9 +185,6 @@ QPoint PopUpWindow::ComputePopupPosition() const
 
 void PopUpWindow::Place()
 {
-    // The button may be in another window than when this one was created.
-    if (QWindow* parent = button->window()->windowHandle())
-        windowHandle()->setTransientParent(parent);
     if (Common::IsWayland()) {
         const QRect rect(button->mapTo(button->window(), QPoint(0, 0)), button->size());
         Common::SetPopUpAnchor(*this,
@@ -217,6 +213,10 @@ void PopUpWindow::showEvent(QShowEvent* event)
 {
     // A window does not inherit its parent's layout direction.
     setLayoutDirection(button->layoutDirection());
+    // The button may be in another window than when this one was created.
+    QWindow* parent = button->window()->windowHandle();
+    if (parent && windowHandle())
+        windowHandle()->setTransientParent(parent);
     adjustSize();
     ZFrame::showEvent(event);
     Place();
