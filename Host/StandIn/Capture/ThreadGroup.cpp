@@ -50,13 +50,13 @@ ThreadGroup& ThreadGroup::ForDeviceMonitors()
 
 void ThreadGroup::Spawn(std::function<void()> body, std::function<void()> cancel)
 {
-    std::unique_lock<std::mutex> lock(mutex);
+    // Locked until the thread is detached, which Run() waits for: MinGW's threads reuse the record of a thread that
+    // ended before it was detached while that thread still writes to it, and then lose the next thread.
+    const std::lock_guard<std::mutex> lock(mutex);
     const auto entry = cancels.insert(cancels.end(), std::move(cancel));
-    lock.unlock();
     try {
         std::thread([this, body = std::move(body), entry]() mutable { Run(std::move(body), entry); }).detach();
     } catch (...) {
-        lock.lock();
         cancels.erase(entry);
         throw;
     }
@@ -64,6 +64,8 @@ void ThreadGroup::Spawn(std::function<void()> body, std::function<void()> cancel
 
 void ThreadGroup::Run(std::function<void()> body, Cancels::iterator entry)
 {
+    std::unique_lock<std::mutex> lock(mutex);
+    lock.unlock();
     try {
         body();
     } catch (const std::exception& error) {
@@ -74,7 +76,7 @@ void ThreadGroup::Run(std::function<void()> body, Cancels::iterator entry)
     // The captures of both functions are destroyed before the thread leaves the group.
     body = nullptr;
     std::function<void()> cancel;
-    std::unique_lock<std::mutex> lock(mutex);
+    lock.lock();
     cancel.swap(*entry);
     lock.unlock();
     cancel = nullptr;
