@@ -25,7 +25,7 @@ function(vx_find_libraries_from target folder)
   set_target_properties(${target} PROPERTIES INSTALL_RPATH "${path}")
 endfunction()
 
-foreach(target VxUiWidgets VxHost VxUiKit VxStyles VxGallery VxRecorder)
+foreach(target VxUiWidgets VxHost VxUiKit VxGallery VxRecorder)
   if(TARGET ${target})
     set_target_properties(${target} PROPERTIES OUTPUT_NAME ${target}${VX_QT_SUFFIX})
   endif()
@@ -57,8 +57,8 @@ install(
   EXPORT VxUiWidgetsKitTargets
   ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT development
   INCLUDES DESTINATION ${header_folder})
-install(TARGETS VxStyles EXPORT VxUiWidgetsStylesTargets ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR}
-                                                                             COMPONENT development)
+install(TARGETS VxStyles VxStylesResource EXPORT VxUiWidgetsStylesTargets
+        OBJECTS DESTINATION ${CMAKE_INSTALL_LIBDIR}/${package_name} COMPONENT development)
 
 # CMake does not strip static libraries; these must keep their symbol table.
 install(CODE "set(kit \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/${CMAKE_INSTALL_LIBDIR}/$<TARGET_FILE_NAME:VxUiKit>\")

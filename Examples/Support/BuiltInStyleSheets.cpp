@@ -1,11 +1,5 @@
 #include "BuiltInStyleSheets.h"
 
-// Q_INIT_RESOURCE() works outside of namespaces only.
-static void RegisterStyles()
-{
-    Q_INIT_RESOURCE(Styles);
-}
-
 namespace Zelkor::Examples {
 
 bool IsBuiltInStyleSheet(const QString& name)
@@ -15,7 +9,6 @@ bool IsBuiltInStyleSheet(const QString& name)
 
 std::optional<ZStyleSheet> LoadStyleSheet(const QString& nameOrFile, QString* error)
 {
-    RegisterStyles();
     if (nameOrFile == "dark")
         return ZStyleSheet::load(":/Styles/Dark.qss", error);
     if (nameOrFile == "light")
