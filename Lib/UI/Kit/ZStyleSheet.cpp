@@ -1,6 +1,7 @@
 #include <UI/Kit/ZStyleSheet.h>
 
 #include <UI/Common/MirroredStyle.h>
+#include <UI/Kit/Internal/SystemColorScheme.h>
 #include <UI/Kit/StyleSheetEditor/StyleSheetFile.h>
 
 #include <QApplication>
@@ -9,8 +10,11 @@
 #include <QIconEngine>
 #include <QPainter>
 #include <QPixmap>
+#include <QPointer>
 #include <QStyleFactory>
 #include <QUuid>
+
+using Zelkor::Vx::UI::Kit::SystemColorScheme;
 
 namespace {
 
@@ -18,6 +22,7 @@ const QString SEARCH_PATH = QStringLiteral("vxstyle");
 
 int appliedSheets = 0;     ///< counts calls of apply(); icons loaded before the last one are out of date
 QString currentIconFolder; ///< of the sheet applied last
+QPointer<SystemColorScheme> systemColorScheme; ///< while the sheet follows it
 
 // Qt falls back to the current folder for files that a search path lacks, for instance icons for dense screens. Where
 // that folder holds files with such names, the sheet uses a search path with a name that no file has.
@@ -29,6 +34,21 @@ QString WithoutFilesOfCurrentFolder(const QString& text)
     const QString path = SEARCH_PATH + QUuid::createUuid().toString(QUuid::Id128);
     QDir::setSearchPaths(path, {currentIconFolder});
     return QString(text).replace(prefix, path + ":");
+}
+
+void UseFusion()
+{
+    QApplication::setStyle(QStyleFactory::create("Fusion"));
+}
+
+void Apply(const ZStyleSheet& sheet)
+{
+    currentIconFolder = QDir(sheet.iconFolder).absolutePath();
+    QDir::setSearchPaths(SEARCH_PATH, {currentIconFolder});
+    ++appliedSheets;
+    Zelkor::Vx::UI::Common::FollowLayoutDirection();
+    UseFusion();
+    qApp->setStyleSheet(WithoutFilesOfCurrentFolder(sheet.text));
 }
 
 /// `stem` is the file of the plain icon without its ending.
@@ -97,12 +117,29 @@ std::optional<ZStyleSheet> ZStyleSheet::load(const QString& fileName, QString* e
 
 void ZStyleSheet::apply() const
 {
-    currentIconFolder = QDir(iconFolder).absolutePath();
-    QDir::setSearchPaths(SEARCH_PATH, {currentIconFolder});
-    ++appliedSheets;
-    Zelkor::Vx::UI::Common::FollowLayoutDirection();
-    QApplication::setStyle(QStyleFactory::create("Fusion"));
-    qApp->setStyleSheet(WithoutFilesOfCurrentFolder(text));
+    delete systemColorScheme;
+    Apply(*this);
+}
+
+bool ZStyleSheet::applyFile(const QString& fileName, QString* error)
+{
+    const auto sheet = load(fileName, error);
+    if (sheet)
+        sheet->apply();
+    return sheet.has_value();
+}
+
+bool ZStyleSheet::followSystem(const QString& lightFile, const QString& darkFile, QString* error)
+{
+    const auto light = load(lightFile, error);
+    const auto dark = light ? load(darkFile, error) : std::nullopt;
+    if (!dark)
+        return false;
+    delete systemColorScheme;
+    // Other styles change the palette that tells light from dark.
+    UseFusion();
+    systemColorScheme = new SystemColorScheme([=](bool isDark) { Apply(isDark ? *dark : *light); }, qApp);
+    return true;
 }
 
 QIcon ZStyleSheet::ownIcon(const QString& name) const

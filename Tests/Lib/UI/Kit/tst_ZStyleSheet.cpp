@@ -1,0 +1,96 @@
+#include <UI/Kit/ZStyleSheet.h>
+
+#include <Support/TestCase.h>
+
+#include <QApplication>
+#include <QTemporaryDir>
+
+#include <private/qguiapplication_p.h>
+#include <qpa/qplatformtheme.h>
+#include <qpa/qwindowsysteminterface.h>
+
+namespace {
+
+class ThemeStub : public QPlatformTheme
+{
+public:
+    ThemeStub() { QGuiApplicationPrivate::platform_theme = this; }
+    ~ThemeStub() override { QGuiApplicationPrivate::platform_theme = previous; }
+
+    void SetColors(Qt::GlobalColor text, Qt::GlobalColor window)
+    {
+        colors = QPalette(window);
+        colors.setColor(QPalette::WindowText, text);
+        QWindowSystemInterface::handleThemeChange<QWindowSystemInterface::SynchronousDelivery>(nullptr);
+    }
+
+    const QPalette* palette(Palette type) const override { return type == SystemPalette ? &colors : nullptr; }
+#if QT_VERSION >= QT_VERSION_CHECK(6, 5, 0)
+    Qt::ColorScheme colorScheme() const override
+    {
+        return Qt::ColorScheme::Unknown;
+    }
+#endif
+
+private:
+    QPlatformTheme* const previous = QGuiApplicationPrivate::platform_theme;
+    QPalette colors;
+};
+
+} // namespace
+
+class tst_ZStyleSheet : public Support::TestCase
+{
+    Q_OBJECT
+
+    QTemporaryDir folder;
+
+    /// Writes a sheet without rules and returns its file.
+    QString WriteSheet(const QString& text)
+    {
+        QFile file(folder.filePath(text + ".qss"));
+        if (!file.open(QIODevice::WriteOnly) || file.write("/*" + text.toUtf8() + "*/") < 0)
+            return QString();
+        return file.fileName();
+    }
+
+private Q_SLOTS:
+    void sheetFollowsTheSystemUntilAnotherIsApplied()
+    {
+        ThemeStub theme;
+        theme.SetColors(Qt::white, Qt::black);
+        QVERIFY(ZStyleSheet::followSystem(WriteSheet("light"), WriteSheet("dark")));
+        QCOMPARE(qApp->styleSheet(), QString("/*dark*/"));
+        theme.SetColors(Qt::black, Qt::white);
+        QTRY_COMPARE(qApp->styleSheet(), QString("/*light*/"));
+        // Colours of the application are not those of the system.
+        QPalette palette;
+        palette.setColor(QPalette::Window, Qt::black);
+        palette.setColor(QPalette::WindowText, Qt::white);
+        QApplication::setPalette(palette);
+        QApplication::processEvents();
+        QCOMPARE(qApp->styleSheet(), QString("/*light*/"));
+        theme.SetColors(Qt::white, Qt::black);
+        QTRY_COMPARE(qApp->styleSheet(), QString("/*dark*/"));
+        QVERIFY(ZStyleSheet::applyFile(WriteSheet("fixed")));
+        theme.SetColors(Qt::black, Qt::white);
+        QApplication::processEvents();
+        QCOMPARE(qApp->styleSheet(), QString("/*fixed*/"));
+    }
+
+    void unreadableSheetKeepsTheCurrentOne()
+    {
+        const QString sheet = WriteSheet("current");
+        QVERIFY(ZStyleSheet::applyFile(sheet));
+        for (const auto& files : {QStringList{sheet, "none"}, QStringList{"none", sheet}}) {
+            QString error;
+            QVERIFY(!ZStyleSheet::followSystem(files[0], files[1], &error));
+            QVERIFY2(error.contains("none"), qPrintable(error));
+        }
+        QVERIFY(!ZStyleSheet::applyFile("none"));
+        QCOMPARE(qApp->styleSheet(), QString("/*current*/"));
+    }
+};
+
+VX_TEST_MAIN(tst_ZStyleSheet)
+#include "tst_ZStyleSheet.moc"
