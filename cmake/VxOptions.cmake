@@ -1,10 +1,10 @@
 # Build options, and the compiler settings of all targets.
 
-option(VX_BUILD_GALLERY "Build the gallery of all widgets" ON)
-option(VX_BUILD_EXAMPLES "Build the recorder, an example application" ON)
-option(VX_BUILD_DESIGNER "Build the Qt Designer plugin" ON)
-option(VX_BUILD_TESTS "Build the tests" ON)
-option(VX_BUILD_BENCHMARKS "Build the benchmarks" ON)
+option(VX_BUILD_GALLERY "Build the gallery of all widgets" ${PROJECT_IS_TOP_LEVEL})
+option(VX_BUILD_EXAMPLES "Build the recorder, an example application" ${PROJECT_IS_TOP_LEVEL})
+option(VX_BUILD_DESIGNER "Build the Qt Designer plugin" ${PROJECT_IS_TOP_LEVEL})
+option(VX_BUILD_TESTS "Build the tests" ${PROJECT_IS_TOP_LEVEL})
+option(VX_BUILD_BENCHMARKS "Build the benchmarks" ${PROJECT_IS_TOP_LEVEL})
 option(VX_WITH_GSTREAMER "Capture from cameras and the screen by GStreamer; without it there is only the test picture" ON)
 option(VX_WARNINGS_AS_ERRORS "Stop at the first warning" OFF)
 set(VX_QT_VERSION 5 CACHE STRING "Major version of Qt: 5 or 6")
