@@ -8,6 +8,7 @@
 
 #include <functional>
 #include <type_traits>
+#include <utility>
 
 class QStackedWidget;
 class QWidget;
@@ -32,8 +33,9 @@ struct State
 struct FormUse
 {
     const QMetaObject* metaObject = nullptr; ///< null if forms cannot contain the widget
-    QVariantMap properties;                  ///< initial numbers and texts
+    QVariantMap properties;                  ///< initial numbers, texts and enumerators
     QString reasonAgainst;                   ///< why forms cannot contain it
+    QString header;                          ///< what code made from forms includes
 };
 
 /// One widget of the catalogue.
@@ -53,7 +55,7 @@ struct Entry
     /// sets properties.
     std::function<QObject*(QWidget* parent)> bare = nullptr;
     int pictured = 0;  ///< index of the state in the pictures of the reference
-    FormUse form = {}; ///< set for every exported class by InForms() or NotInForms()
+    FormUse form = {}; ///< set for every class by InForms(), KitInForms() or NotInForms()
 };
 
 /// Returns all entries, in the order of the gallery's pages. Add a widget in the function of its group.
@@ -115,11 +117,20 @@ template<class Widget>
 Entry InForms(Entry entry, const QVariantMap& properties = {})
 {
     entry.bare = MakeBare<Widget>;
-    entry.form = {&Widget::staticMetaObject, properties, {}};
+    entry.form = {&Widget::staticMetaObject, properties, {}, "UI/Widgets/" + entry.className + ".h"};
     return entry;
 }
 
-/// Returns the entry of an exported class that forms cannot contain.
+/// As InForms(), for a class of the kit.
+template<class Widget>
+Entry KitInForms(Entry entry, const QVariantMap& properties = {})
+{
+    entry = InForms<Widget>(std::move(entry), properties);
+    entry.form.header = "UI/Kit/" + entry.className + ".h";
+    return entry;
+}
+
+/// Returns the entry of a class that forms cannot contain.
 Entry NotInForms(Entry entry, const QString& reason);
 
 /// Returns a state that only disables the widget.

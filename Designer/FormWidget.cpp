@@ -3,6 +3,7 @@
 
 #include <Catalogue/Catalogue.h>
 #include <Examples/Support/BuiltInStyleSheets.h>
+#include <UI/Kit/ZFrame.h>
 
 #include <QGuiApplication>
 #include <QIcon>
@@ -13,7 +14,7 @@ namespace Zelkor::Designer {
 
 namespace {
 
-constexpr int ICON_SIZES[] = {24, 48};
+constexpr int ICON_SIZES[] = {16, 22, 24, 48};
 
 } // namespace
 
@@ -24,7 +25,7 @@ QString FormWidget::name() const
 
 QString FormWidget::group() const
 {
-    return QStringLiteral("VxUiWidgets");
+    return entry.form.header.startsWith("UI/Kit/") ? QStringLiteral("VxUiWidgets Kit") : QStringLiteral("VxUiWidgets");
 }
 
 QString FormWidget::toolTip() const
@@ -39,7 +40,7 @@ QString FormWidget::whatsThis() const
 
 QString FormWidget::includeFile() const
 {
-    return QStringLiteral("UI/Widgets/%1.h").arg(entry.className);
+    return entry.form.header;
 }
 
 // Uses ZStyleSheet::ownIcon(), because Designer has no search path for the icons. Its widget box ignores icons without
@@ -58,7 +59,7 @@ QIcon FormWidget::icon() const
 
 bool FormWidget::isContainer() const
 {
-    return HasPages(*entry.form.metaObject);
+    return HasPages(*entry.form.metaObject) || entry.form.metaObject == &ZFrame::staticMetaObject;
 }
 
 void FormWidget::initialize(QDesignerFormEditorInterface*)

@@ -2,6 +2,8 @@
 
 #include <Catalogue/Catalogue.h>
 
+#include <QMetaEnum>
+#include <QMetaProperty>
 #include <QStackedWidget>
 #include <QTabWidget>
 #include <QWidget>
@@ -48,13 +50,20 @@ QSize FirstSize(const Catalogue::Entry& entry)
     return isSmall ? SIZE_WHILE_EMPTY : hint;
 }
 
-void WriteProperty(QXmlStreamWriter& xml, const QString& name, const QVariant& value)
+void WriteProperty(QXmlStreamWriter& xml, const QMetaProperty& property, const QVariant& value)
 {
     xml.writeStartElement("property");
-    xml.writeAttribute("name", name);
-    // Otherwise uic calls a setter "set...", which may not exist.
-    xml.writeAttribute("stdset", "0");
-    xml.writeTextElement(value.userType() == QMetaType::Int ? "number" : "string", value.toString());
+    xml.writeAttribute("name", property.name());
+    // Otherwise uic calls a setter "set...".
+    if (!property.hasStdCppSet())
+        xml.writeAttribute("stdset", "0");
+    if (property.isEnumType()) {
+        const QMetaEnum enumeration = property.enumerator();
+        xml.writeTextElement("enum",
+                             QStringLiteral("%1::%2").arg(enumeration.scope(), enumeration.valueToKey(value.toInt())));
+    } else {
+        xml.writeTextElement(value.userType() == QMetaType::Int ? "number" : "string", value.toString());
+    }
     xml.writeEndElement();
 }
 
@@ -104,12 +113,12 @@ QString FormXml(const Catalogue::Entry& entry)
     xml.writeAttribute("class", className);
     xml.writeAttribute("name", ObjectName(*entry.form.metaObject));
     WriteGeometry(xml, FirstSize(entry));
+    const QMetaObject& meta = *entry.form.metaObject;
     for (auto it = entry.form.properties.begin(); it != entry.form.properties.end(); ++it)
-        WriteProperty(xml, it.key(), it.value());
-    if (HasPages(*entry.form.metaObject)) {
+        WriteProperty(xml, meta.property(meta.indexOfProperty(it.key().toLatin1())), it.value());
+    if (HasPages(meta)) {
         for (int i = 1; i <= FIRST_PAGES; ++i)
-            WritePage(xml, ObjectName(*entry.form.metaObject), i,
-                      entry.form.metaObject->inherits(&QTabWidget::staticMetaObject));
+            WritePage(xml, ObjectName(*entry.form.metaObject), i, meta.inherits(&QTabWidget::staticMetaObject));
     }
     xml.writeEndElement();
     xml.writeStartElement("customwidgets");

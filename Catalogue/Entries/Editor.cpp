@@ -88,7 +88,7 @@ Entry RuntimeStylesheetEditorEntry()
         EntryText::tr(
             "An editor for the style sheet of the running application; here it works on the sample above it."),
         "ZRuntimeStylesheetEditor",
-        "palette",
+        "style",
         [](QWidget* parent) -> QWidget* { return new EditorBench(parent); },
         {
             EditorState(EntryText::tr("With a sheet"), WearSheet),
@@ -109,7 +109,7 @@ Entry RuntimeStylesheetEditorEntry()
 
 QVector<Entry> EditorEntries()
 {
-    return {RuntimeStylesheetEditorEntry()};
+    return {NotInForms(RuntimeStylesheetEditorEntry(), "it edits the application that shows it")};
 }
 
 } // namespace Zelkor::Catalogue

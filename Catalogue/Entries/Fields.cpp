@@ -212,7 +212,7 @@ Entry DoubleSliderEntry()
         EntryText::tr("Kit"),
         EntryText::tr("A slider for a floating-point value: its position times a multiplier."),
         "ZDoubleSlider",
-        "slide",
+        "slide-number",
         CreateSlider<ZDoubleSlider>,
         {
             MakeState<ZDoubleSlider>(EntryText::tr("Tenths"), [](ZDoubleSlider& slider) { slider.setMultiplier(0.1); }),
@@ -279,7 +279,7 @@ Entry DoubleSpinBoxEntry()
         EntryText::tr("Kit"),
         EntryText::tr("A field for a floating-point number that can keep what is typed to whole steps."),
         "ZDoubleSpinBox",
-        "step",
+        "step-number",
         CreateDoubleSpinBox,
         {
             MakeState<Field>(EntryText::tr("Typical"), [](Field&) {}),
@@ -296,8 +296,13 @@ Entry DoubleSpinBoxEntry()
 
 QVector<Entry> FieldEntries()
 {
-    return {ComboEntry(),        LineEditEntry(), CustomSliderEntry(),
-            DoubleSliderEntry(), SpinBoxEntry(),  DoubleSpinBoxEntry()};
+    const QVariantMap horizontal{{"orientation", Qt::Horizontal}};
+    return {KitInForms<ZComboBox>(ComboEntry()),
+            KitInForms<ZLineEdit>(LineEditEntry()),
+            KitInForms<ZCustomSlider>(CustomSliderEntry(), horizontal),
+            KitInForms<ZDoubleSlider>(DoubleSliderEntry(), horizontal),
+            KitInForms<ZSpinBox>(SpinBoxEntry()),
+            KitInForms<ZDoubleSpinBox>(DoubleSpinBoxEntry())};
 }
 
 } // namespace Zelkor::Catalogue

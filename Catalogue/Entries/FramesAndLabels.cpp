@@ -110,7 +110,7 @@ Entry StackEntry()
         EntryText::tr("Kit"),
         EntryText::tr("A stack of pages that takes the size of the page it shows instead of the largest one."),
         "ZStackedWidget",
-        "layers",
+        "pages",
         CreateStack,
         {
             MakeState<ZStackedWidget>(EntryText::tr("Small page"), [](ZStackedWidget&) {}),
@@ -128,7 +128,8 @@ Entry StackEntry()
 
 QVector<Entry> KitEntries()
 {
-    return {FrameEntry(), LabelEntry(), StackEntry()};
+    return {KitInForms<ZFrame>(FrameEntry(), {{"frameShape", QVariant::fromValue(QFrame::StyledPanel)}}),
+            KitInForms<ZLabel>(LabelEntry()), KitInForms<ZStackedWidget>(StackEntry())};
 }
 
 } // namespace Zelkor::Catalogue

@@ -117,7 +117,7 @@ Entry SliderButtonEntry()
         EntryText::tr("Kit"),
         EntryText::tr("A button that shows a level and opens a slider above itself."),
         "ZSliderButton",
-        "sound",
+        "level-button",
         CreateSliderButton,
         {
             LevelState(EntryText::tr("Level 0"), 0),
@@ -140,7 +140,8 @@ Entry SliderButtonEntry()
 
 QVector<Entry> MatrixEntries()
 {
-    return {LedMatrixEntry(), SliderButtonEntry()};
+    return {KitInForms<QLedMatrix>(LedMatrixEntry(), {{"columns", 16}, {"rows", 8}}),
+            KitInForms<ZSliderButton>(SliderButtonEntry())};
 }
 
 } // namespace Zelkor::Catalogue

@@ -139,7 +139,7 @@ Entry SliderEntry()
 
 QVector<Entry> SliderEntries()
 {
-    return {SliderEntry()};
+    return {KitInForms<ZSlider>(SliderEntry(), {{"orientation", Qt::Horizontal}})};
 }
 
 } // namespace Zelkor::Catalogue

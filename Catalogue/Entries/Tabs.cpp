@@ -119,7 +119,7 @@ Entry TabWidgetEntry()
         EntryText::tr("Tabs"),
         EntryText::tr("A tab widget with that tab bar."),
         "CustomTabWidget",
-        "panel",
+        "tab-pages",
         CreateTabWidget,
         {
             MakeState<QTabWidget>(EntryText::tr("Text"), [](QTabWidget&) {}),

@@ -149,7 +149,8 @@ Entry TimeEditEntry()
 
 QVector<Entry> TimeEntries()
 {
-    return {TimelineEntry(), TimeEditEntry()};
+    return {KitInForms<ZTimelineSlider>(TimelineEntry(), {{"orientation", Qt::Horizontal}}),
+            KitInForms<ZTimeEdit>(TimeEditEntry())};
 }
 
 } // namespace Zelkor::Catalogue

@@ -282,7 +282,8 @@ Entry StyledAboutBoxDialogEntry()
 QVector<Entry> WindowEntries()
 {
     // The title bar would remove the frame and layout of a form editor's window.
-    return {NotInForms(CustomTitleBarEntry(), "it rebuilds its window"), WindowChromeEntry(),
+    return {NotInForms(CustomTitleBarEntry(), "it rebuilds its window"),
+            NotInForms(WindowChromeEntry(), "it is not a widget"),
             NotInForms(StyledAboutBoxDialogEntry(), "it is a dialog, whole as it is")};
 }
 

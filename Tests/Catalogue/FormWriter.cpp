@@ -16,7 +16,7 @@ int main(int argc, char* argv[])
         const QString xml = Zelkor::Designer::FormXml(entry);
         widgets += "<item><widget" + xml.section("<widget", 1).section("<customwidgets>", 0, 0) + "</item>";
         classes += xml.section("<customwidgets>", 1).section("</customwidget>", 0, 0) +
-                   QStringLiteral("<header>UI/Widgets/%1.h</header></customwidget>").arg(entry.className);
+                   QStringLiteral("<header>%1</header></customwidget>").arg(entry.form.header);
     }
     QFile file(application.arguments().value(1));
     if (!file.open(QIODevice::WriteOnly))
