@@ -52,7 +52,6 @@ void FlowLayout::setGeometry(const QRect& rect)
     Arrange(rect, true);
 }
 
-/// Returns the height of the items at the width of `rect`; sets their geometry if `place` is true.
 int FlowLayout::Arrange(const QRect& rect, bool place) const
 {
     const QMargins margins = contentsMargins();

@@ -25,9 +25,11 @@ public:
     QSize sizeHint() const override;
     void setGeometry(const QRect& rect) override;
 
-private:
-    int Arrange(const QRect& rect, bool place) const;
+protected:
+    /// Returns the height of the items at the width of `rect`; sets their geometry if `place` is true.
+    virtual int Arrange(const QRect& rect, bool place) const;
 
+private:
     QList<QLayoutItem*> items;
 };
 

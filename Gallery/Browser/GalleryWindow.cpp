@@ -13,7 +13,7 @@ namespace Zelkor::Gallery {
 namespace {
 
 constexpr int COMPACT_BELOW = 720; ///< window width below which the list shows icons only
-constexpr QSize PREFERRED_SIZE(1200, 720);
+constexpr QSize PREFERRED_SIZE(1280, 800);
 
 } // namespace
 

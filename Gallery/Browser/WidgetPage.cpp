@@ -1,5 +1,5 @@
 #include "WidgetPage.h"
-#include "FlowLayout.h"
+#include "CardGrid.h"
 #include "StateCard.h"
 
 #include <Catalogue/Catalogue.h>
@@ -25,7 +25,7 @@ namespace {
 
 constexpr int MARGIN = 24;
 constexpr int HEADING_SPACING = 4;
-constexpr int CARD_SPACING = 16;
+constexpr int CARD_SPACING = 12;
 constexpr int NARROW_BELOW = 680; ///< page width below which the inspector is below the cards
 constexpr int INSPECTOR_WIDTH = 352;
 
@@ -93,15 +93,15 @@ QWidget* WidgetPage::CreateContent(const Catalogue::Entry& entry)
     description->setWordWrap(true);
     layout->addWidget(description);
     layout->addSpacing(CARD_SPACING);
-    auto* flow = new FlowLayout;
-    flow->setSpacing(CARD_SPACING);
+    auto* grid = new CardGrid;
+    grid->setSpacing(CARD_SPACING);
     for (const Catalogue::State& state : entry.states) {
         auto* card = new StateCard(entry, state);
         inspector->Signals()->Watch(card->Widget(), className, state.name);
-        flow->addWidget(card);
+        grid->addWidget(card);
         cards.append(card);
     }
-    layout->addLayout(flow);
+    layout->addLayout(grid);
     layout->addStretch();
     return content;
 }

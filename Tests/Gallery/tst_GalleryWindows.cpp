@@ -15,11 +15,14 @@
 #include <QCheckBox>
 #include <QClipboard>
 #include <QComboBox>
+#include <QLayout>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPlainTextEdit>
 #include <QRegularExpression>
 #include <QScopeGuard>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QSpinBox>
 #include <QToolButton>
 
@@ -67,6 +70,26 @@ private Q_SLOTS:
                 const QString name = QAccessible::queryAccessibleInterface(widget)->text(QAccessible::Name);
                 QVERIFY2(!name.isEmpty(), widget->metaObject()->className());
             }
+        }
+    }
+
+    void pagesDoNotScrollSideways_data()
+    {
+        QTest::addColumn<int>("width");
+        QTest::newRow("start size") << GalleryWindow(&appearance).width();
+        QTest::newRow("narrow") << 700;
+    }
+
+    void pagesDoNotScrollSideways()
+    {
+        QFETCH(int, width);
+        gallery->resize(width, gallery->height());
+        QCOMPARE(gallery->width(), width);
+        for (const Catalogue::Entry& entry : Catalogue::Entries()) {
+            gallery->OpenPage(entry.className);
+            gallery->layout()->activate();
+            for (const auto* area : Page()->findChildren<QScrollArea*>())
+                QVERIFY2(!area->horizontalScrollBar()->maximum(), qPrintable(entry.className));
         }
     }
 
