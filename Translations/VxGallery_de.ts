@@ -1443,4 +1443,39 @@ Vorgabe: %3</translation>
         <translation>Die Liste an der Seite hat eine Seite für jedes Widget, mit allen seinen Zuständen und einem Inspektor.</translation>
     </message>
 </context>
+<context>
+    <name>Zelkor::Gallery::StateBar</name>
+    <message>
+        <source>Forced states</source>
+        <translation>Erzwungene Zustände</translation>
+    </message>
+    <message>
+        <source>Force:</source>
+        <translation>Erzwingen:</translation>
+    </message>
+    <message>
+        <source>Hover</source>
+        <translation>Überfahren</translation>
+    </message>
+    <message>
+        <source>Pressed</source>
+        <translation>Gedrückt</translation>
+    </message>
+    <message>
+        <source>Focus</source>
+        <translation>Fokus</translation>
+    </message>
+    <message>
+        <source>Checked</source>
+        <translation>Aktiviert</translation>
+    </message>
+    <message>
+        <source>Disabled</source>
+        <translation>Deaktiviert</translation>
+    </message>
+    <message>
+        <source>Show the selected widget in this state until it is switched off</source>
+        <translation>Das ausgewählte Widget in diesem Zustand zeigen, bis er ausgeschaltet wird</translation>
+    </message>
+</context>
 </TS>

@@ -1443,4 +1443,39 @@ Par défaut&#xa0;: %3</translation>
         <translation>La liste sur le côté propose une page par widget, avec tous ses états et un inspecteur.</translation>
     </message>
 </context>
+<context>
+    <name>Zelkor::Gallery::StateBar</name>
+    <message>
+        <source>Forced states</source>
+        <translation>États forcés</translation>
+    </message>
+    <message>
+        <source>Force:</source>
+        <translation>Forcer :</translation>
+    </message>
+    <message>
+        <source>Hover</source>
+        <translation>Survol</translation>
+    </message>
+    <message>
+        <source>Pressed</source>
+        <translation>Enfoncé</translation>
+    </message>
+    <message>
+        <source>Focus</source>
+        <translation>Focus</translation>
+    </message>
+    <message>
+        <source>Checked</source>
+        <translation>Coché</translation>
+    </message>
+    <message>
+        <source>Disabled</source>
+        <translation>Désactivé</translation>
+    </message>
+    <message>
+        <source>Show the selected widget in this state until it is switched off</source>
+        <translation>Montre le widget sélectionné dans cet état jusqu&apos;à sa désactivation</translation>
+    </message>
+</context>
 </TS>

@@ -1443,4 +1443,39 @@ Default: %3</source>
         <translation>横のリストには各ウィジェットのページがあり、すべての状態とインスペクターを表示します。</translation>
     </message>
 </context>
+<context>
+    <name>Zelkor::Gallery::StateBar</name>
+    <message>
+        <source>Forced states</source>
+        <translation>強制した状態</translation>
+    </message>
+    <message>
+        <source>Force:</source>
+        <translation>強制:</translation>
+    </message>
+    <message>
+        <source>Hover</source>
+        <translation>ホバー</translation>
+    </message>
+    <message>
+        <source>Pressed</source>
+        <translation>押下</translation>
+    </message>
+    <message>
+        <source>Focus</source>
+        <translation>フォーカス</translation>
+    </message>
+    <message>
+        <source>Checked</source>
+        <translation>オン</translation>
+    </message>
+    <message>
+        <source>Disabled</source>
+        <translation>無効</translation>
+    </message>
+    <message>
+        <source>Show the selected widget in this state until it is switched off</source>
+        <translation>オフにするまで、選択したウィジェットをこの状態で表示します</translation>
+    </message>
+</context>
 </TS>

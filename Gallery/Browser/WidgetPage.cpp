@@ -1,9 +1,11 @@
 #include "WidgetPage.h"
 #include "CardGrid.h"
+#include "StateBar.h"
 #include "StateCard.h"
 
 #include <Catalogue/Catalogue.h>
 #include <Examples/Support/WidgetTexts.h>
+#include <Gallery/Inspector/ForcedStates.h>
 #include <Gallery/Inspector/Inspector.h>
 #include <Gallery/Inspector/PropertyPanel.h>
 #include <Gallery/Inspector/SignalLog.h>
@@ -48,20 +50,12 @@ QVariantMap DefaultsOf(const Catalogue::Entry& entry)
 
 WidgetPage::WidgetPage(const Catalogue::Entry& entry, QWidget* parent)
     : QWidget(parent), className(entry.className), defaults(DefaultsOf(entry)), splitter(new QSplitter),
-      inspector(new Inspector)
+      inspector(new Inspector), stateBar(new StateBar)
 {
-    auto* scrollArea = new QScrollArea;
-    QWidget* content = CreateContent(entry);
-    scrollArea->setWidgetResizable(true);
-    scrollArea->setWidget(content);
-    content->setAutoFillBackground(false);
-    scrollArea->setFrameShape(QFrame::NoFrame);
-    // The cards take the focus; keys that they ignore scroll.
-    scrollArea->setFocusPolicy(Qt::NoFocus);
     // Allows the page to become narrow, so that it can rearrange itself.
     setMinimumWidth(1);
     splitter->setChildrenCollapsible(false);
-    splitter->addWidget(scrollArea);
+    splitter->addWidget(CreateMain(entry));
     splitter->addWidget(inspector);
     splitter->setStretchFactor(0, 1);
     auto* layout = new QVBoxLayout(this);
@@ -79,6 +73,26 @@ WidgetPage::~WidgetPage()
 {
     // The focus changes while ~QWidget() deletes the children.
     disconnect(qApp, nullptr, this, nullptr);
+}
+
+// Returns the cards with the tools below them.
+QWidget* WidgetPage::CreateMain(const Catalogue::Entry& entry)
+{
+    auto* scrollArea = new QScrollArea;
+    QWidget* content = CreateContent(entry);
+    scrollArea->setWidgetResizable(true);
+    scrollArea->setWidget(content);
+    content->setAutoFillBackground(false);
+    scrollArea->setFrameShape(QFrame::NoFrame);
+    // The cards take the focus; keys that they ignore scroll.
+    scrollArea->setFocusPolicy(Qt::NoFocus);
+    auto* main = new QWidget;
+    auto* layout = new QVBoxLayout(main);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(scrollArea, 1);
+    layout->addWidget(stateBar);
+    return main;
 }
 
 QWidget* WidgetPage::CreateContent(const Catalogue::Entry& entry)
@@ -100,6 +114,8 @@ QWidget* WidgetPage::CreateContent(const Catalogue::Entry& entry)
         inspector->Signals()->Watch(card->Widget(), className, state.name);
         grid->addWidget(card);
         cards.append(card);
+        auto* object = qobject_cast<QWidget*>(FindObject(card->Widget(), className));
+        forcedStates.append(new ForcedStates(object ? object : card->Widget(), card));
     }
     layout->addLayout(grid);
     layout->addStretch();
@@ -113,6 +129,7 @@ void WidgetPage::SelectState(int index)
     selected = index;
     for (int i = 0; i < cards.size(); ++i)
         cards[i]->SetSelected(i == selected);
+    stateBar->SetStates(forcedStates[selected]);
     inspector->Inspect(cards[selected]->Widget(), className, defaults);
 }
 
@@ -128,6 +145,7 @@ void WidgetPage::SetWidgetsEnabled(bool on)
 {
     for (StateCard* card : cards)
         card->SetWidgetEnabled(on);
+    stateBar->Refresh();
 }
 
 void WidgetPage::SetInspectorVisible(bool on)

@@ -12,10 +12,13 @@ struct Entry;
 
 namespace Zelkor::Gallery {
 
+class ForcedStates;
 class Inspector;
+class StateBar;
 class StateCard;
 
-/// The page of one widget: a description, its states in captioned cards, and the inspector of the selected card.
+/// The page of one widget: a description, its states in captioned cards, and the tools for the selected card: a row of
+/// buttons that force states, and the inspector.
 class WidgetPage : public QWidget
 {
     Q_OBJECT
@@ -43,6 +46,7 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
+    QWidget* CreateMain(const Catalogue::Entry& entry);
     QWidget* CreateContent(const Catalogue::Entry& entry);
     void SelectCardAround(QWidget* widget);
     void Arrange();
@@ -50,8 +54,10 @@ private:
     const QString className;
     const QVariantMap defaults;
     QVector<StateCard*> cards;
+    QVector<ForcedStates*> forcedStates; ///< of each card
     QSplitter* splitter;
     Inspector* inspector;
+    StateBar* stateBar;
     int selected = -1;
     bool isNarrow = false;
 };

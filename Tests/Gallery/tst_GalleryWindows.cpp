@@ -176,6 +176,43 @@ private Q_SLOTS:
         QVERIFY2(text.trimmed().endsWith("Opaque   ColorChanged(#ff000000)"), qPrintable(text));
     }
 
+    void forcedStateIsPaintedUntilItIsSwitchedOff_data()
+    {
+        QTest::addColumn<QString>("page");
+        for (const char* state : {"HOVER", "PRESSED", "FOCUS", "DISABLED"}) {
+            for (const char* page : {"ColorButton", "ZSlider"})
+                QTest::addRow("%s %s", page, state) << page;
+        }
+        QTest::newRow("ZCustomSlider HOVER") << "ZCustomSlider";
+        QTest::newRow("ButtonWithLabels CHECKED") << "ButtonWithLabels";
+    }
+
+    void forcedStateIsPaintedUntilItIsSwitchedOff()
+    {
+        QFETCH(QString, page);
+        QVERIFY(QTest::qWaitForWindowActive(gallery.get()));
+        gallery->OpenPage(page);
+        gallery->layout()->activate();
+        QWidget* widget = Page()->findChild<StateCard*>()->Widget();
+        if (page == "ButtonWithLabels")
+            widget->setProperty("checkable", true);
+        const QImage normal = widget->grab().toImage();
+        const QString state = QString(QTest::currentDataTag()).section(' ', 1);
+        auto* button = Page()->findChild<QToolButton*>("force:" + state);
+        button->setFocus();
+        QEvent enter(QEvent::Enter);
+        QApplication::sendEvent(button->parentWidget(), &enter);
+        button->click();
+        QVERIFY(widget->grab().toImage() != normal);
+        const QImage changed = widget->grab().toImage();
+        QEvent leave(QEvent::Leave);
+        QApplication::sendEvent(widget, &leave);
+        Page()->findChild<QLineEdit*>("styleSheetLine")->setFocus();
+        QCOMPARE(widget->grab().toImage(), changed);
+        button->click();
+        QCOMPARE(widget->grab().toImage(), normal);
+    }
+
 private:
     WidgetPage* Page() const { return gallery->findChild<WidgetPage*>(); }
 
