@@ -8,10 +8,6 @@
         <translation>Ein Text je Zeile</translation>
     </message>
     <message>
-        <source>No colour</source>
-        <translation>Keine Farbe</translation>
-    </message>
-    <message>
         <source>w</source>
         <comment>short for width</comment>
         <translation>B</translation>
@@ -1231,6 +1227,21 @@ und nicht breit</translation>
     <message>
         <source>Fixed size</source>
         <translation>Feste Größe</translation>
+    </message>
+</context>
+<context>
+    <name>Zelkor::Gallery::ColorField</name>
+    <message>
+        <source>No colour</source>
+        <translation>Keine Farbe</translation>
+    </message>
+    <message>
+        <source>Choose a colour</source>
+        <translation>Farbe wählen</translation>
+    </message>
+    <message>
+        <source>Choose a colour (%1)</source>
+        <translation>Farbe wählen (%1)</translation>
     </message>
 </context>
 <context>

@@ -8,10 +8,6 @@
         <translation>Un texte par ligne</translation>
     </message>
     <message>
-        <source>No colour</source>
-        <translation>Aucune couleur</translation>
-    </message>
-    <message>
         <source>w</source>
         <comment>short for width</comment>
         <translation>l</translation>
@@ -1231,6 +1227,21 @@ et peu large</translation>
     <message>
         <source>Fixed size</source>
         <translation>Taille fixe</translation>
+    </message>
+</context>
+<context>
+    <name>Zelkor::Gallery::ColorField</name>
+    <message>
+        <source>No colour</source>
+        <translation>Aucune couleur</translation>
+    </message>
+    <message>
+        <source>Choose a colour</source>
+        <translation>Choisir une couleur</translation>
+    </message>
+    <message>
+        <source>Choose a colour (%1)</source>
+        <translation>Choisir une couleur (%1)</translation>
     </message>
 </context>
 <context>

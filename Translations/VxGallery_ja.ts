@@ -8,10 +8,6 @@
         <translation>1 行に 1 つのテキスト</translation>
     </message>
     <message>
-        <source>No colour</source>
-        <translation>色なし</translation>
-    </message>
-    <message>
         <source>w</source>
         <comment>short for width</comment>
         <translation>幅</translation>
@@ -1231,6 +1227,21 @@ and not wide</source>
     <message>
         <source>Fixed size</source>
         <translation>固定サイズ</translation>
+    </message>
+</context>
+<context>
+    <name>Zelkor::Gallery::ColorField</name>
+    <message>
+        <source>No colour</source>
+        <translation>色なし</translation>
+    </message>
+    <message>
+        <source>Choose a colour</source>
+        <translation>色を選択</translation>
+    </message>
+    <message>
+        <source>Choose a colour (%1)</source>
+        <translation>色を選択 (%1)</translation>
     </message>
 </context>
 <context>

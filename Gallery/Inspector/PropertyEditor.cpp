@@ -1,4 +1,5 @@
 #include "PropertyEditor.h"
+#include "ColorField.h"
 #include "EditorSpinBox.h"
 #include "MetaTypes.h"
 #include "PartsEditor.h"
@@ -11,7 +12,6 @@
 #include <UI/Kit/ZLineEdit.h>
 #include <UI/Kit/ZSpinBox.h>
 #include <UI/Kit/ZTimeEdit.h>
-#include <UI/Widgets/ColorButton.h>
 
 #include <QAction>
 #include <QCheckBox>
@@ -32,7 +32,6 @@ namespace {
 constexpr int LIST_LINES = 3;
 constexpr double EXACT_NUMBER = 9.0e15;   ///< a double represents all integers up to this
 constexpr double LARGEST_NUMBER = 1.0e12; ///< a spin box keeps its decimals up to this
-constexpr QChar LEFT_TO_RIGHT_MARK(0x200e);
 
 PropertyControl CreateBoolEditor(QWidget* parent, const ValueListener& listener)
 {
@@ -119,25 +118,12 @@ PropertyControl CreateLinesEditor(QWidget* parent, const ValueListener& listener
     return {edit, [edit](const QVariant& value) { edit->Show(value.toStringList()); }};
 }
 
-// Keeps the number sign before the digits in right-to-left text.
-QString ColorText(const QColor& color)
-{
-    return LEFT_TO_RIGHT_MARK + color.name(QColor::HexArgb);
-}
-
 PropertyControl CreateColorEditor(QWidget* parent, const ValueListener& listener)
 {
-    auto* button = new Vx::ColorButton(parent);
-    button->SetAlphaEnabled(true);
-    QObject::connect(button, &Vx::ColorButton::ColorChanged, button, [button, listener](const QColor& color) {
-        button->setText(ColorText(color));
-        listener(color, QString());
-    });
-    return {button, [button](const QVariant& value) {
-                const auto color = value.value<QColor>();
-                button->SetColor(color.isValid() ? color : QColor(Qt::transparent));
-                button->setText(color.isValid() ? ColorText(color) : Editors::tr("No colour"));
-            }};
+    auto* field = new ColorField(parent);
+    QObject::connect(field, &ColorField::ColorChanged, field,
+                     [listener](const QColor& color) { listener(color, QString()); });
+    return {field, [field](const QVariant& value) { field->SetColor(value.value<QColor>()); }};
 }
 
 PropertyControl CreateEnumEditor(const QMetaEnum& type, QWidget* parent, const ValueListener& listener)

@@ -8,6 +8,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QEvent>
+#include <QFontMetrics>
 #include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -26,7 +27,8 @@ constexpr int MARGIN = 12;
 constexpr int SPACING = 8;
 constexpr int ROW_SPACING = 4;
 constexpr int REFRESH_MS = 500; ///< many properties have no change signal
-constexpr QChar ZERO_WIDTH_SPACE(0x200b);
+constexpr int NAME_WIDTH = 148; ///< of a name beside its value
+constexpr int VALUE_WIDTH = 120;
 const char* const ROW_PROPERTY = "rowOfPanel";
 
 bool HasWritable(const QMetaObject& meta)
@@ -53,16 +55,51 @@ void SetDynamic(QWidget* widget, const char* name, bool value)
     widget->style()->polish(widget);
 }
 
-// Allows a line break in long names before each capital letter.
-QString BreakableName(const QString& name)
+// Returns whether the value takes one short field, which fits beside a short name.
+bool IsShort(int type)
 {
-    QString result;
-    for (const QChar c : name) {
-        if (c.isUpper())
-            result += ZERO_WIDTH_SPACE;
-        result += c;
+    switch (type) {
+    case QMetaType::Bool:
+    case QMetaType::Int:
+    case QMetaType::UInt:
+    case QMetaType::LongLong:
+    case QMetaType::ULongLong:
+    case QMetaType::Double:
+    case QMetaType::Float:
+    case QMetaType::QColor:
+        return true;
+    default:
+        return false;
     }
-    return result;
+}
+
+int BoldWidth(const QLabel& label)
+{
+    QFont font = label.font();
+    font.setBold(true);
+    return QFontMetrics(font).horizontalAdvance(label.text());
+}
+
+// Adds a name with its controls in one line, or the value below where it needs the width. Names that are changed become
+// bold.
+void Place(QGridLayout& grid, QLabel* name, QWidget* control, QWidget* reset, const QMetaProperty& property)
+{
+    int line = grid.rowCount();
+    name->ensurePolished();
+    const bool fits = BoldWidth(*name) <= NAME_WIDTH;
+    const bool isCheckBox = property.userType() == QMetaType::Bool;
+    const bool isBeside = isCheckBox || (fits && !property.isEnumType() && IsShort(property.userType()));
+    grid.addWidget(name, line, 0, 1, isBeside && fits ? 1 : 2);
+    if (isCheckBox) {
+        grid.addWidget(control, line, 1, Qt::AlignTrailing);
+    } else if (isBeside) {
+        control->setFixedWidth(VALUE_WIDTH);
+        grid.addWidget(control, line, 1);
+    } else {
+        name->setContentsMargins(0, SPACING, 0, 0);
+        grid.addWidget(control, ++line, 0, 1, 2);
+    }
+    grid.addWidget(reset, line, 2);
 }
 
 bool HasFocusWithin(const QWidget* control)
@@ -190,7 +227,7 @@ void PropertyPanel::Unfold(int index, bool on)
         grid->setHorizontalSpacing(SPACING);
         grid->setVerticalSpacing(ROW_SPACING);
         grid->setColumnStretch(0, 1);
-        grid->setColumnStretch(1, 1);
+        grid->setColumnMinimumWidth(1, VALUE_WIDTH);
         const QMetaObject& meta = *group.declaring;
         for (int i = meta.propertyOffset(); i < meta.propertyCount(); ++i) {
             const QMetaProperty property = meta.property(i);
@@ -211,10 +248,10 @@ void PropertyPanel::AddRow(const QMetaProperty& property, QGridLayout* grid)
             if (made == generation)
                 Write(index, value, file);
         });
-    auto* label = new QLabel(BreakableName(name), parent);
+    auto* label = new QLabel(name, parent);
     auto* reset = new QToolButton(parent);
     Row row{property, ReadProperty(property, object), QString(), std::move(editor), label, nullptr, reset};
-    row.name->setWordWrap(true);
+    row.name->setMinimumWidth(1);
     AlignAtStart(row.name);
     QWidget* control = row.editor.widget;
     if (!control) {
@@ -235,9 +272,8 @@ void PropertyPanel::AddRow(const QMetaProperty& property, QGridLayout* grid)
         }
     }
     control->setMinimumWidth(1);
-    // Values are code, which always runs from left to right; the colour text sets its own direction.
-    if (property.userType() != QMetaType::QColor)
-        control->setLayoutDirection(Qt::LeftToRight);
+    // Values are code, which always runs from left to right.
+    control->setLayoutDirection(Qt::LeftToRight);
     QSizePolicy policy = row.reset->sizePolicy();
     policy.setRetainSizeWhenHidden(true);
     row.reset->setSizePolicy(policy);
@@ -249,10 +285,7 @@ void PropertyPanel::AddRow(const QMetaProperty& property, QGridLayout* grid)
     row.reset->setProperty("role", QStringLiteral("reset"));
     connect(row.reset, &QToolButton::clicked, parent,
             [this, index, name] { Write(index, defaults.value(name), QString()); });
-    const int line = grid->rowCount();
-    grid->addWidget(row.name, line, 0);
-    grid->addWidget(control, line, 1);
-    grid->addWidget(row.reset, line, 2);
+    Place(*grid, row.name, control, row.reset, property);
     rows.push_back(std::move(row));
     Show(rows.back());
 }

@@ -4,6 +4,7 @@
 #include <Gallery/Browser/GalleryWindow.h>
 #include <Gallery/Browser/StateCard.h>
 #include <Gallery/Browser/WidgetPage.h>
+#include <Gallery/Inspector/ColorField.h>
 #include <Gallery/Inspector/PropertyPanel.h>
 #include <Gallery/Inspector/SignalLog.h>
 #include <UI/Widgets/ButtonWithPopUpContainer.h>
@@ -15,6 +16,7 @@
 #include <QCheckBox>
 #include <QClipboard>
 #include <QComboBox>
+#include <QLabel>
 #include <QLayout>
 #include <QLineEdit>
 #include <QListWidget>
@@ -93,6 +95,18 @@ private Q_SLOTS:
         }
     }
 
+    void namesAndEnumeratorsFitAtTheStartWidth()
+    {
+        for (const Catalogue::Entry& entry : Catalogue::Entries()) {
+            gallery->OpenPage(entry.className);
+            gallery->layout()->activate();
+            for (const QWidget* part : Page()->findChild<PropertyPanel*>()->findChildren<QWidget*>()) {
+                if (part->isVisible() && (qobject_cast<const QLabel*>(part) || qobject_cast<const QComboBox*>(part)))
+                    QVERIFY2(part->sizeHint().width() <= part->width(), qPrintable(entry.className));
+            }
+        }
+    }
+
     void searchShowsMatchesUnderTheirHeadings()
     {
         QVERIFY(QTest::qWaitForWindowActive(gallery.get()));
@@ -136,7 +150,7 @@ private Q_SLOTS:
         QVERIFY(!reset->isVisible());
         button.SetColorRectBorderNormal(Qt::blue);
         QTRY_VERIFY(reset->isVisible());
-        QCOMPARE(panel.findChild<Vx::ColorButton*>("edit:colorRectBorderNormal")->GetColor(), QColor(Qt::blue));
+        QCOMPARE(panel.findChild<ColorField*>("edit:colorRectBorderNormal")->Color(), QColor(Qt::blue));
         reset->click();
         QCOMPARE(button.GetColorRectBorderNormal(), original);
         panel.findChild<QToolButton*>("copyLine")->click();
@@ -167,7 +181,12 @@ private Q_SLOTS:
         QTest::mouseClick(cards.last()->Widget(), Qt::LeftButton);
         QCOMPARE(Page()->SelectedState(), cards.size() - 1);
         Page()->SelectState(1);
-        Page()->findChild<Vx::ColorButton*>("edit:colorRectBorderNormal")->SetColor(Qt::green);
+        auto* field = Page()->findChild<ColorField*>("edit:colorRectBorderNormal");
+        field->clear();
+        QTest::keyClicks(field, "no colour\r");
+        QCOMPARE(field->text(), field->Color().name());
+        field->clear();
+        QTest::keyClicks(field, "#00ff00\r");
         QCOMPARE(cards[1]->Widget()->property("colorRectBorderNormal").value<QColor>(), QColor(Qt::green));
         const auto* log = Page()->findChild<SignalLog*>()->findChild<QPlainTextEdit*>();
         QCOMPARE(log->toPlainText(), QString());
