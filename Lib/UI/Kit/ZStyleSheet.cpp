@@ -1,6 +1,7 @@
 #include <UI/Kit/ZStyleSheet.h>
 
 #include <UI/Common/MirroredStyle.h>
+#include <UI/Kit/Internal/SheetStyle.h>
 #include <UI/Kit/Internal/SystemColorScheme.h>
 #include <UI/Kit/StyleSheetEditor/StyleSheetFile.h>
 
@@ -8,12 +9,15 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QIconEngine>
+#include <QMetaEnum>
 #include <QPainter>
+#include <QPalette>
 #include <QPixmap>
 #include <QPointer>
-#include <QStyleFactory>
+#include <QRegularExpression>
 #include <QUuid>
 
+using Zelkor::Vx::UI::Kit::SheetStyle;
 using Zelkor::Vx::UI::Kit::SystemColorScheme;
 
 namespace {
@@ -36,9 +40,43 @@ QString WithoutFilesOfCurrentFolder(const QString& text)
     return QString(text).replace(prefix, path + ":");
 }
 
-void UseFusion()
+// Sets the colours of the sheet's rules for QPalette. Returns whether there are any.
+bool ReadPalette(const QString& text, QPalette& palette)
 {
-    QApplication::setStyle(QStyleFactory::create("Fusion"));
+    static const QRegularExpression RULE("\\bQPalette(:disabled)?\\s*\\{([^}]*)\\}");
+    static const QRegularExpression COLOR("qproperty-(\\w+)\\s*:\\s*(#?\\w+)");
+    const auto roles = QMetaEnum::fromType<QPalette::ColorRole>();
+    bool found = false;
+    for (auto rules = RULE.globalMatch(text); rules.hasNext();) {
+        const auto rule = rules.next();
+        const auto group = rule.captured(1).isEmpty() ? QPalette::All : QPalette::Disabled;
+        for (auto colors = COLOR.globalMatch(rule.captured(2)); colors.hasNext();) {
+            const auto color = colors.next();
+            bool isRole = false;
+            const int role = roles.keyToValue(color.captured(1).toLatin1(), &isRole);
+            if (!isRole)
+                continue;
+            palette.setColor(group, QPalette::ColorRole(role), QColor(color.captured(2)));
+            found = true;
+        }
+    }
+    return found;
+}
+
+// Style sheets do not reach links, placeholders and some other colours.
+void ApplyPalette(const QString& text)
+{
+    static bool isFromSheet = false;
+    QPalette palette = QApplication::style()->standardPalette();
+    const bool wasFromSheet = isFromSheet;
+    isFromSheet = ReadPalette(text, palette);
+    if (isFromSheet || wasFromSheet)
+        QApplication::setPalette(palette);
+}
+
+void UseSheetStyle()
+{
+    QApplication::setStyle(new SheetStyle);
 }
 
 void Apply(const ZStyleSheet& sheet)
@@ -47,7 +85,8 @@ void Apply(const ZStyleSheet& sheet)
     QDir::setSearchPaths(SEARCH_PATH, {currentIconFolder});
     ++appliedSheets;
     Zelkor::Vx::UI::Common::FollowLayoutDirection();
-    UseFusion();
+    UseSheetStyle();
+    ApplyPalette(sheet.text);
     qApp->setStyleSheet(WithoutFilesOfCurrentFolder(sheet.text));
 }
 
@@ -137,7 +176,7 @@ bool ZStyleSheet::followSystem(const QString& lightFile, const QString& darkFile
         return false;
     delete systemColorScheme;
     // Other styles change the palette that tells light from dark.
-    UseFusion();
+    UseSheetStyle();
     systemColorScheme = new SystemColorScheme([=](bool isDark) { Apply(isDark ? *dark : *light); }, qApp);
     return true;
 }

@@ -29,6 +29,9 @@ struct ZStyleSheet
     /// Sets the sheet and its icons for the application and ends followSystem(). The style below the sheet is "Fusion",
     /// which draws the same on all platforms. From then on, rules with the selector `[layoutDirection="1"]` follow the
     /// layout direction at run time.
+    ///
+    /// Rules with the selectors `QPalette` and `QPalette:disabled` set the application's palette: each
+    /// `qproperty-ROLE: COLOUR` sets a QPalette::ColorRole by its name. Without such rules the palette is unchanged.
     void apply() const;
 
     /// The icon NAME of this sheet in its plain and its disabled tint (NAME-disabled.svg).

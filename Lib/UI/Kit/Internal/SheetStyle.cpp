@@ -1,0 +1,201 @@
+#include <UI/Kit/Internal/SheetStyle.h>
+
+#include <UI/Kit/ZStyleSheet.h>
+
+#include <QAbstractItemView>
+#include <QCalendarWidget>
+#include <QGuiApplication>
+#include <QHash>
+#include <QPainter>
+#include <QStyleOptionSlider>
+#include <QTextCharFormat>
+
+namespace Zelkor::Vx::UI::Kit {
+
+namespace {
+
+// Angles of QDial, counted anticlockwise from three o'clock.
+constexpr double FIRST_ANGLE = 240;
+constexpr double SPAN = 300;
+
+const char* const OWN_WEEKEND_COLOR = "_vxWeekendColor";
+
+// Replaces Qt's red and the colour of an earlier sheet, but not a colour of the application.
+void ColorWeekend(QCalendarWidget* calendar)
+{
+    const QVariant previous = calendar->property(OWN_WEEKEND_COLOR);
+    const QColor replaced = previous.isValid() ? previous.value<QColor>() : QColor(Qt::red);
+    const QColor color = QGuiApplication::palette().color(QPalette::BrightText);
+    for (const Qt::DayOfWeek day : {Qt::Saturday, Qt::Sunday}) {
+        QTextCharFormat format = calendar->weekdayTextFormat(day);
+        if (format.foreground().color() != replaced)
+            continue;
+        format.setForeground(color);
+        calendar->setWeekdayTextFormat(day, format);
+    }
+    calendar->setProperty(OWN_WEEKEND_COLOR, color);
+}
+
+// Returns whether the view may have arranged its items before it was polished, at sizes without the sheet. The lists of
+// combo boxes are arranged when they open.
+bool HasOldLayout(const QAbstractItemView& view)
+{
+    return !view.isVisible() && view.model() && view.model()->rowCount(view.rootIndex()) > 0 &&
+           !(view.parentWidget() && view.parentWidget()->inherits("QComboBoxPrivateContainer"));
+}
+
+// Returns the angle of a position in degrees.
+double DialAngle(const QStyleOptionSlider& dial, int position)
+{
+    const double range = qMax(1, dial.maximum - dial.minimum);
+    const double part = (dial.upsideDown ? position - dial.minimum : dial.maximum - position) / range;
+    return dial.dialWrapping ? 270 - part * 360 : FIRST_ANGLE - part * SPAN;
+}
+
+void DrawNotches(QPainter& painter, const QStyleOptionSlider& dial, double radius)
+{
+    const int step = qMax(1, dial.tickInterval);
+    for (qint64 value = dial.minimum; value <= dial.maximum; value += step) {
+        QLineF line = QLineF::fromPolar(radius, DialAngle(dial, int(value)));
+        painter.drawLine(QLineF(line.p2() * 0.94, line.p2()));
+    }
+}
+
+// A disc with the value as an arc on its rim and a line that points to it.
+void DrawDial(QPainter& painter, const QStyleOptionSlider& dial)
+{
+    const QPalette& palette = dial.palette;
+    const bool isEnabled = dial.state & QStyle::State_Enabled;
+    const QColor accent = palette.color(isEnabled ? QPalette::Link : QPalette::WindowText);
+    const QColor rim = palette.color(isEnabled ? QPalette::Dark : QPalette::Mid);
+    const double outer = qMin(dial.rect.width(), dial.rect.height()) / 2.0 - 2;
+    const double radius = outer * 0.82;
+    const QRectF disc(-radius, -radius, 2 * radius, 2 * radius);
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.translate(QRectF(dial.rect).center());
+    painter.setPen(QPen(rim, 1));
+    if (dial.subControls & QStyle::SC_DialTickmarks)
+        DrawNotches(painter, dial, outer);
+    painter.setBrush(palette.color(dial.state & QStyle::State_MouseOver ? QPalette::Light : QPalette::Button));
+    painter.drawEllipse(disc);
+    const double angle = DialAngle(dial, dial.sliderPosition);
+    const double first = DialAngle(dial, dial.upsideDown ? dial.minimum : dial.maximum);
+    painter.setPen(QPen(accent, 3, Qt::SolidLine, Qt::FlatCap));
+    painter.drawArc(disc, qRound(first * 16), qRound((angle - first) * 16));
+    painter.setPen(QPen(accent, 3, Qt::SolidLine, Qt::RoundCap));
+    const QLineF pointer = QLineF::fromPolar(radius, angle);
+    painter.drawLine(QLineF(pointer.p2() * 0.45, pointer.p2() * 0.75));
+    if (dial.state & QStyle::State_HasFocus) {
+        painter.setPen(QPen(palette.color(QPalette::Link), 2));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawEllipse(QPointF(), outer + 1, outer + 1);
+    }
+    painter.restore();
+}
+
+// The title bar of a window in a QMdiArea.
+void DrawTitleBar(QPainter& painter, const QStyleOptionTitleBar& bar, const QStyle& style, const QWidget* widget)
+{
+    const QPalette& palette = bar.palette;
+    const bool isActive = bar.titleBarState & Qt::WindowActive;
+    const auto rect = [&](QStyle::SubControl part) {
+        return style.subControlRect(QStyle::CC_TitleBar, &bar, part, widget);
+    };
+    painter.fillRect(bar.rect, palette.color(isActive ? QPalette::Light : QPalette::AlternateBase));
+    painter.setPen(palette.color(isActive ? QPalette::WindowText : QPalette::PlaceholderText));
+    painter.drawText(rect(QStyle::SC_TitleBarLabel), Qt::AlignCenter, bar.text);
+    bar.icon.paint(&painter, rect(QStyle::SC_TitleBarSysMenu));
+    const bool isSmall = bar.titleBarState & Qt::WindowMinimized;
+    const bool isLarge = bar.titleBarState & Qt::WindowMaximized;
+    const auto drawButton = [&](QStyle::SubControl part, bool isShown, QStyle::StandardPixmap icon) {
+        if (!isShown || !(bar.subControls & part))
+            return;
+        const QRect place = rect(part);
+        if (bar.activeSubControls == part)
+            painter.fillRect(place,
+                             palette.color(bar.state & QStyle::State_Sunken ? QPalette::Mid : QPalette::Midlight));
+        style.standardIcon(icon, &bar, widget).paint(&painter, place);
+    };
+    drawButton(QStyle::SC_TitleBarCloseButton, bar.titleBarFlags & Qt::WindowSystemMenuHint,
+               QStyle::SP_TitleBarCloseButton);
+    drawButton(QStyle::SC_TitleBarMaxButton, !isLarge && bar.titleBarFlags & Qt::WindowMaximizeButtonHint,
+               QStyle::SP_TitleBarMaxButton);
+    drawButton(QStyle::SC_TitleBarMinButton, !isSmall && bar.titleBarFlags & Qt::WindowMinimizeButtonHint,
+               QStyle::SP_TitleBarMinButton);
+    drawButton(QStyle::SC_TitleBarNormalButton, isSmall || isLarge, QStyle::SP_TitleBarNormalButton);
+}
+
+} // namespace
+
+SheetStyle::SheetStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
+
+void SheetStyle::polish(QWidget* widget)
+{
+    QProxyStyle::polish(widget);
+    if (auto* calendar = qobject_cast<QCalendarWidget*>(widget))
+        ColorWeekend(calendar);
+    auto* view = qobject_cast<QAbstractItemView*>(widget);
+    if (view && HasOldLayout(*view))
+        QMetaObject::invokeMethod(
+            view, [view] { view->doItemsLayout(); }, Qt::QueuedConnection);
+}
+
+QIcon SheetStyle::standardIcon(StandardPixmap icon, const QStyleOption* option, const QWidget* widget) const
+{
+    static const QHash<int, QString> NAMES = {
+        {SP_LineEditClearButton, "clear"},
+        {SP_CommandLink, "arrow-right"},
+        {SP_ArrowLeft, "chevron-left"},
+        {SP_ArrowRight, "chevron-right"},
+        {SP_ArrowBack, "arrow-left"},
+        {SP_ArrowForward, "arrow-right"},
+        {SP_FileDialogToParent, "arrow-up"},
+        {SP_FileDialogNewFolder, "folder-add"},
+        {SP_FileDialogListView, "list"},
+        {SP_FileDialogDetailedView, "details"},
+        {SP_MessageBoxInformation, "information"},
+        {SP_MessageBoxQuestion, "question"},
+        {SP_MessageBoxWarning, "warning"},
+        {SP_MessageBoxCritical, "warning"},
+        {SP_TitleBarMinButton, "minimize"},
+        {SP_TitleBarMaxButton, "maximize"},
+        {SP_TitleBarCloseButton, "close"},
+        {SP_TitleBarNormalButton, "restore"},
+        {SP_DockWidgetCloseButton, "close"},
+        {SP_ToolBarHorizontalExtensionButton, "chevrons-right"},
+    };
+    if (NAMES.contains(icon)) {
+        // A sheet from a file may lack the icon.
+        const QIcon own = ZStyleSheet::icon(NAMES[icon]);
+        if (!own.pixmap(16).isNull())
+            return own;
+    }
+    return QProxyStyle::standardIcon(icon, option, widget);
+}
+
+void SheetStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                               const QWidget* widget) const
+{
+    if (element == PE_IndicatorColumnViewArrow)
+        proxy()
+            ->standardIcon(option->direction == Qt::RightToLeft ? SP_ArrowLeft : SP_ArrowRight, option, widget)
+            .paint(painter, option->rect);
+    else
+        QProxyStyle::drawPrimitive(element, option, painter, widget);
+}
+
+void SheetStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
+                                    const QWidget* widget) const
+{
+    const auto* dial = qstyleoption_cast<const QStyleOptionSlider*>(option);
+    const auto* bar = qstyleoption_cast<const QStyleOptionTitleBar*>(option);
+    if (control == CC_Dial && dial)
+        DrawDial(*painter, *dial);
+    else if (control == CC_TitleBar && bar)
+        DrawTitleBar(*painter, *bar, *proxy(), widget);
+    else
+        QProxyStyle::drawComplexControl(control, option, painter, widget);
+}
+
+} // namespace Zelkor::Vx::UI::Kit

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QProxyStyle>
+
+namespace Zelkor::Vx::UI::Kit {
+
+/// The style "Fusion" below a style sheet, with the parts that sheets do not reach in the colours of the palette:
+/// dials, title bars in a QMdiArea, and the weekends of calendars (BrightText). Standard icons are the sheet's. Item
+/// views are arranged anew once polished.
+class SheetStyle : public QProxyStyle
+{
+public:
+    SheetStyle();
+
+    using QProxyStyle::polish;
+    void polish(QWidget* widget) override;
+
+    QIcon standardIcon(StandardPixmap icon, const QStyleOption* option, const QWidget* widget) const override;
+
+    void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                       const QWidget* widget) const override;
+
+    void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
+                            const QWidget* widget) const override;
+};
+
+} // namespace Zelkor::Vx::UI::Kit
