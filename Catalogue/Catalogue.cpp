@@ -1,4 +1,5 @@
 #include "Catalogue.h"
+#include "QtWidgets.h"
 
 #include <UI/Kit/ZFrame.h>
 
@@ -43,7 +44,9 @@ const Entry* FindEntry(const QString& className)
 {
     const auto found = std::find_if(Entries().begin(), Entries().end(),
                                     [&](const Entry& entry) { return entry.className == className; });
-    return found == Entries().end() ? nullptr : &*found;
+    if (found != Entries().end())
+        return &*found;
+    return className == QtWidgetsEntry().className ? &QtWidgetsEntry() : nullptr;
 }
 
 QWidget* CreateInState(const Entry& entry, const State& state, QWidget* parent)

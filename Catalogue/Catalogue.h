@@ -64,7 +64,7 @@ const QVector<Entry>& Entries();
 /// Recreates the entries with texts in the current language. References to earlier entries become invalid. GUI thread.
 void RetranslateEntries();
 
-/// Returns the entry of a class without its namespace, or null.
+/// Returns the entry of a class without its namespace, or that of QtWidgetsEntry(), or null.
 const Entry* FindEntry(const QString& className);
 
 /// Creates a widget of `entry` in `state`, owned by `parent`.

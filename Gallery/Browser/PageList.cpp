@@ -1,6 +1,6 @@
 #include "PageList.h"
 
-#include <Catalogue/Catalogue.h>
+#include <Catalogue/QtWidgets.h>
 #include <UI/Kit/ZStyleSheet.h>
 
 #include <QAction>
@@ -40,6 +40,7 @@ QStringList PageNames()
     QStringList names{StartPageName()};
     for (const Catalogue::Entry& entry : Catalogue::Entries())
         names.append(entry.className);
+    names.append(Catalogue::QtWidgetsEntry().className);
     return names;
 }
 
@@ -126,7 +127,7 @@ void PageList::Fill()
     addPage(StartPageName(), tr("Start"), "app");
     QFont headingFont = list->font();
     headingFont.setPointSizeF(headingFont.pointSizeF() * HEADING_FONT_FACTOR);
-    for (const Catalogue::Entry& entry : Catalogue::Entries()) {
+    for (const Catalogue::Entry& entry : Catalogue::Entries() + QVector{Catalogue::QtWidgetsEntry()}) {
         if (entry.group != group) {
             group = entry.group;
             auto* heading = new QListWidgetItem(group, list);

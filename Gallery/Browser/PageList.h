@@ -11,7 +11,8 @@ namespace Zelkor::Gallery {
 /// Returns the name of the first page.
 QString StartPageName();
 
-/// Returns the names of all pages in order: the start page, then one per class of the catalogue.
+/// Returns the names of all pages in order: the start page, then one per class of the catalogue, then the widgets of
+/// Qt.
 QStringList PageNames();
 
 /// The list of pages by group, with a search field that filters by page and group name.

@@ -17,7 +17,7 @@ QStringList PageNames()
     QStringList names{"Start"};
     for (const auto& entry : Zelkor::Catalogue::Entries())
         names.append(entry.className);
-    return names;
+    return names << "QtWidgets";
 }
 
 } // namespace
