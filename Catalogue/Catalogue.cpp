@@ -87,6 +87,12 @@ Entry NotInForms(Entry entry, const QString& reason)
     return entry;
 }
 
+Entry WithExample(Entry entry, std::function<void(QWidget*)> example)
+{
+    entry.example = std::move(example);
+    return entry;
+}
+
 State DisabledState()
 {
     return {EntryText::tr("Disabled"), [](QWidget* widget) { widget->setEnabled(false); }};

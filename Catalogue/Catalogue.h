@@ -56,6 +56,8 @@ struct Entry
     std::function<QObject*(QWidget* parent)> bare = nullptr;
     int pictured = 0;  ///< index of the state in the pictures of the reference
     FormUse form = {}; ///< set for every class by InForms(), KitInForms() or NotInForms()
+    /// Opens a real window of the class, where the states only embed a copy; set by WithExample().
+    std::function<void(QWidget* parent)> example = nullptr;
 };
 
 /// Returns all entries, in the order of the gallery's pages. Add a widget in the function of its group.
@@ -132,6 +134,9 @@ Entry KitInForms(Entry entry, const QVariantMap& properties = {})
 
 /// Returns the entry of a class that forms cannot contain.
 Entry NotInForms(Entry entry, const QString& reason);
+
+/// Returns the entry with an example that replaces the code of its states.
+Entry WithExample(Entry entry, std::function<void(QWidget* parent)> example);
 
 /// Returns a state that only disables the widget.
 State DisabledState();

@@ -22,32 +22,38 @@ constexpr int BAR_BUTTON_WIDTH = 160;
 constexpr QRect BAR(12, 10, 135, 11);
 constexpr double HIGHEST_ALPHA = 0.6;
 
-void Fill(ButtonWithPopUpList& button, const QStringList& texts)
-{
-    button.Clear();
-    for (const QString& text : texts)
-        button.AppendItem(text, text);
-}
-
-QStringList ManyTexts()
-{
-    QStringList texts;
-    for (int i = 1; i <= MANY; ++i)
-        texts.append(EntryText::tr("Take %1").arg(i));
-    return texts;
-}
-
 // Shows the chosen item on the button, as applications do.
-QWidget* CreateList(QWidget* parent)
+ButtonWithPopUpList* CreateEmptyList(QWidget* parent)
 {
     auto* button = new ButtonWithPopUpList(parent);
     button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     button->setIcon(ZStyleSheet::icon("list"));
+    SetTextBesideIcon(button, EntryText::tr("Nothing to choose"));
     QObject::connect(button, &ButtonWithPopUpList::CurrentIndexChanged, button, [button] {
         const QString text = button->CurrentData().toString();
         SetTextBesideIcon(button, text.isEmpty() ? EntryText::tr("Format") : text);
     });
-    Fill(*button, {EntryText::tr("Video"), EntryText::tr("Animated picture"), EntryText::tr("Sound only")});
+    return button;
+}
+
+QWidget* CreateList(const QStringList& texts, QWidget* parent)
+{
+    ButtonWithPopUpList* button = CreateEmptyList(parent);
+    for (const QString& text : texts)
+        button->AppendItem(text, text);
+    return button;
+}
+
+QWidget* CreateFormats(QWidget* parent)
+{
+    return CreateList({EntryText::tr("Video"), EntryText::tr("Animated picture"), EntryText::tr("Sound only")}, parent);
+}
+
+QWidget* CreateLongList(QWidget* parent)
+{
+    ButtonWithPopUpList* button = CreateEmptyList(parent);
+    for (int i = 1; i <= MANY; ++i)
+        button->AppendItem(EntryText::tr("Take %1").arg(i), EntryText::tr("Take %1").arg(i));
     return button;
 }
 
@@ -108,20 +114,17 @@ Entry ButtonWithPopUpListEntry()
         EntryText::tr("A tool button with a menu of choices, of which one is current."),
         "ButtonWithPopUpList",
         "list",
-        CreateList,
+        CreateFormats,
         {
             MakeState<Button>(EntryText::tr("Typical"), [](Button&) {}),
-            MakeState<Button>(EntryText::tr("Empty"),
-                              [](Button& button) {
-                                  button.Clear();
-                                  SetTextBesideIcon(&button, EntryText::tr("Nothing to choose"));
-                              }),
-            MakeState<Button>(EntryText::tr("Many items"), [](Button& button) { Fill(button, ManyTexts()); }),
-            MakeState<Button>(EntryText::tr("Long texts"),
-                              [](Button& button) {
-                                  Fill(button, {EntryText::tr("Video for people who see it on a telephone"),
-                                                EntryText::tr("Video for a lecture hall with a large screen")});
-                              }),
+            MadeState(EntryText::tr("Empty"), CreateEmptyList),
+            MadeState(EntryText::tr("Many items"), CreateLongList),
+            MadeState(EntryText::tr("Long texts"),
+                      [](QWidget* parent) {
+                          return CreateList({EntryText::tr("Video for people who see it on a telephone"),
+                                             EntryText::tr("Video for a lecture hall with a large screen")},
+                                            parent);
+                      }),
             MakeState<Button>(EntryText::tr("Nothing checked"),
                               [](Button& button) { button.SetCurrentIndex(button.Count()); }),
             DisabledState(),

@@ -51,7 +51,7 @@ void OpenCheckBoxes(ZComboBox& combo)
             count += box->isChecked();
         combo.setDisplayText(EntryText::tr("Sources: %1").arg(count));
     };
-    for (const QString& text :
+    for (const auto& text :
          {EntryText::tr("Microphone"), EntryText::tr("System sound"), EntryText::tr("Click sounds")}) {
         auto* box = new QCheckBox(text);
         layout->addWidget(box);
@@ -103,6 +103,7 @@ Entry ComboEntry()
                              [](Combo& combo) { combo.setMouseWheelEnabled(false); }),
             DisabledState(),
         },
+        MakeBare<ZComboBox>,
     };
 }
 
@@ -202,6 +203,7 @@ Entry CustomSliderEntry()
             MakeState<ZCustomSlider>(EntryText::tr("Vertical"), [](ZCustomSlider& slider) { MakeVertical(slider); }),
             DisabledState(),
         },
+        MakeBare<ZCustomSlider>,
     };
 }
 
@@ -225,6 +227,7 @@ Entry DoubleSliderEntry()
             FocusedWheelState<ZDoubleSlider>(),
             DisabledState(),
         },
+        MakeBare<ZDoubleSlider>,
     };
 }
 
@@ -256,6 +259,7 @@ Entry SpinBoxEntry()
             MakeState<ZSpinBox>(EntryText::tr("Read-only"), [](ZSpinBox& field) { field.setReadOnly(true); }),
             DisabledState(),
         },
+        MakeBare<ZSpinBox>,
     };
 }
 
@@ -289,6 +293,7 @@ Entry DoubleSpinBoxEntry()
             MakeState<Field>(EntryText::tr("At its end"), [](Field& field) { field.setValue(field.minimum()); }),
             DisabledState(),
         },
+        MakeBare<ZDoubleSpinBox>,
     };
 }
 

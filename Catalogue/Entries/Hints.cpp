@@ -99,6 +99,24 @@ QWidget* CreateBubbleHost(QWidget* parent)
     return host;
 }
 
+// A button that opens a hint in the shape of a speech bubble above itself.
+void ShowHintOnClick(QWidget* parent)
+{
+    auto* button = new QPushButton(EntryText::tr("Show the hint"), parent);
+    auto* hint = new MaskedToolTip(button);
+    hint->setProperty("role", QStringLiteral("bubble"));
+    hint->SetTitle(EntryText::tr("Choose a source first"));
+    hint->SetText(EntryText::tr("A camera, the screen or the test picture"));
+    hint->SetDisplayTime(HINT_TIME_MS);
+    hint->setFixedSize(BUBBLE_SIZE);
+    hint->SetMask(SpeechBubbleImage(hint->size(), hint->layoutDirection()));
+    QObject::connect(button, &QPushButton::clicked, hint, [button, hint] {
+        // The point is relative to the last position of the window.
+        hint->move(0, 0);
+        hint->Show(button->mapToGlobal(QPoint(0, -hint->height() - HINT_DISTANCE)));
+    });
+}
+
 Entry MaskedToolTipEntry()
 {
     return {
@@ -127,7 +145,7 @@ Entry MaskedToolTipEntry()
 
 QVector<Entry> HintEntries()
 {
-    return {NotInForms(MaskedToolTipEntry(), "it is a window that comes and goes")};
+    return {NotInForms(WithExample(MaskedToolTipEntry(), ShowHintOnClick), "it is a window that comes and goes")};
 }
 
 } // namespace Zelkor::Catalogue

@@ -16,14 +16,15 @@ using namespace Examples;
 
 namespace {
 
-constexpr QSize PREVIEW_SIZE(320, 180);
+constexpr int PREVIEW_WIDTH = 320;
+constexpr int PREVIEW_HEIGHT = 180;
 constexpr double TEST_FRAME_RATE = 30;
 
-QWidget* CreatePreview(QWidget* parent)
+VideoPreviewWidget* CreatePreview(QWidget* parent)
 {
     auto* preview = new VideoPreviewWidget(parent);
-    preview->SetPreviewWidth(PREVIEW_SIZE.width());
-    preview->SetPreviewHeight(PREVIEW_SIZE.height());
+    preview->SetPreviewWidth(PREVIEW_WIDTH);
+    preview->SetPreviewHeight(PREVIEW_HEIGHT);
     return preview;
 }
 
@@ -31,8 +32,8 @@ void DrawDefaultImage(VideoPreviewWidget& preview)
 {
     // Applies the text colour of the style sheet to the palette.
     preview.ensurePolished();
-    preview.SetDefaultImage(
-        NoPictureImage(PREVIEW_SIZE, preview.palette().color(QPalette::Text), EntryText::tr("No picture")));
+    const QColor color = preview.palette().color(QPalette::Text);
+    preview.SetDefaultImage(NoPictureImage({PREVIEW_WIDTH, PREVIEW_HEIGHT}, color, EntryText::tr("No picture")));
 }
 
 void ShowDefaultImage(VideoPreviewWidget& preview)
@@ -43,19 +44,22 @@ void ShowDefaultImage(VideoPreviewWidget& preview)
 
 QWidget* CreatePreviewWithStream(QWidget* parent)
 {
-    auto* preview = static_cast<VideoPreviewWidget*>(CreatePreview(parent));
+    VideoPreviewWidget* preview = CreatePreview(parent);
     ShowDefaultImage(*preview);
     auto* stream = new WebCameraPreviewStream(preview);
     stream->SetDevice(StandIn::CreateTestPictureDevice(), QString(), TEST_FRAME_RATE);
     return preview;
 }
 
+State FrameState(const QString& name, const QSize& size)
+{
+    return MakeState<VideoPreviewWidget>(
+        name, [size](VideoPreviewWidget& preview) { preview.UpdateView(ColorBarsFrame(size)); });
+}
+
 Entry VideoPreviewEntry()
 {
     using Preview = VideoPreviewWidget;
-    const auto showFrame = [](const QSize& size) {
-        return [size](Preview& preview) { preview.UpdateView(ColorBarsFrame(size)); };
-    };
     return {
         "VideoPreviewWidget",
         EntryText::tr("Media"),
@@ -66,12 +70,12 @@ Entry VideoPreviewEntry()
         {
             MakeState<Preview>(EntryText::tr("Empty"), [](Preview&) {}),
             MakeState<Preview>(EntryText::tr("Default image"), ShowDefaultImage),
-            MakeState<Preview>(EntryText::tr("Large frame"), showFrame({1280, 720})),
-            MakeState<Preview>(EntryText::tr("Upright frame"), showFrame({720, 1280})),
-            MakeState<Preview>(EntryText::tr("Small frame"), showFrame({160, 120})),
+            FrameState(EntryText::tr("Large frame"), {1280, 720}),
+            FrameState(EntryText::tr("Upright frame"), {720, 1280}),
+            FrameState(EntryText::tr("Small frame"), {160, 120}),
             MakeState<Preview>(EntryText::tr("Disabled"),
-                               [showFrame](Preview& preview) {
-                                   showFrame({1280, 720})(preview);
+                               [](Preview& preview) {
+                                   preview.UpdateView(ColorBarsFrame({1280, 720}));
                                    preview.setEnabled(false);
                                }),
         },
@@ -104,8 +108,8 @@ Entry WebCameraStreamEntry()
 
 QVector<Entry> MediaEntries()
 {
-    return {InForms<VideoPreviewWidget>(VideoPreviewEntry(), {{"previewWidth", PREVIEW_SIZE.width()},
-                                                              {"previewHeight", PREVIEW_SIZE.height()}}),
+    return {InForms<VideoPreviewWidget>(VideoPreviewEntry(),
+                                        {{"previewWidth", PREVIEW_WIDTH}, {"previewHeight", PREVIEW_HEIGHT}}),
             NotInForms(WebCameraStreamEntry(), "it is not a widget")};
 }
 

@@ -110,13 +110,18 @@ QWidget* CreateSlider(const QStringList& texts, int current, int width, QWidget*
 {
     auto* slider = new SliderWithTickLabels(parent);
     slider->setAccessibleName(EntryText::tr("Quality"));
-    // Without items, the focused part has no value to be named after.
-    if (texts.isEmpty())
-        slider->focusProxy()->setAccessibleName(slider->accessibleName());
     slider->setFixedWidth(width);
     slider->AddItems(texts);
-    if (!texts.isEmpty())
-        slider->SetCurrentIndex(current);
+    slider->SetCurrentIndex(current);
+    return slider;
+}
+
+QWidget* CreateEmptySlider(QWidget* parent)
+{
+    auto* slider = new SliderWithTickLabels(parent);
+    slider->setFixedWidth(SLIDER_WIDTH);
+    // The focused part has no value to be named after.
+    slider->focusProxy()->setAccessibleName(EntryText::tr("Quality"));
     return slider;
 }
 
@@ -152,7 +157,7 @@ Entry SliderWithTickLabelsEntry()
                         {EntryText::tr("Small file"), EntryText::tr("Balanced"), EntryText::tr("Without any loss")}, 2,
                         NARROW_SLIDER_WIDTH),
             SliderState(EntryText::tr("One value"), {EntryText::tr("Balanced")}, 0),
-            SliderState(EntryText::tr("No value"), {}, 0),
+            MadeState(EntryText::tr("No value"), CreateEmptySlider),
             DisabledState(),
         },
     };

@@ -36,15 +36,15 @@ ZSlider* CreateSlider(Qt::Orientation orientation, QWidget* parent)
     slider->setAccessibleName(EntryText::tr("Position"));
     slider->defaultThumb()->setName(EntryText::tr("Position"));
     Step(*slider, slider->defaultThumb());
-    if (orientation == Qt::Horizontal)
-        slider->setMinimumWidth(LENGTH);
     slider->setValue(40);
     return slider;
 }
 
 QWidget* CreateHorizontalSlider(QWidget* parent)
 {
-    return CreateSlider(Qt::Horizontal, parent);
+    ZSlider* slider = CreateSlider(Qt::Horizontal, parent);
+    slider->setMinimumWidth(LENGTH);
+    return slider;
 }
 
 // Two brackets that cannot pass each other, and the range between them.
@@ -90,13 +90,13 @@ void LimitPosition(ZSlider& slider)
 {
     Trim(slider);
     ZSliderThumb* position = slider.defaultThumb();
-    const auto follow = [&slider, position] {
+    const auto limit = [&slider, position] {
         position->setLowerLimit(slider.thumb(QStringLiteral("left"))->value());
         position->setUpperLimit(slider.thumb(QStringLiteral("right"))->value());
     };
     for (const char* name : {"left", "right"})
-        QObject::connect(slider.thumb(QLatin1String(name)), &ZSliderThumb::valueChanged, position, follow);
-    follow();
+        QObject::connect(slider.thumb(QLatin1String(name)), &ZSliderThumb::valueChanged, position, limit);
+    limit();
 }
 
 void Snap(ZSlider& slider)

@@ -9,6 +9,9 @@
 #include <QVBoxLayout>
 #include <QVariant>
 
+using Zelkor::Vx::CustomTabWidget;
+using Zelkor::Vx::HorizontalTabBar;
+
 namespace Zelkor::Catalogue {
 
 namespace {
@@ -16,16 +19,12 @@ namespace {
 constexpr int SCROLLED_WIDTH = 280;
 constexpr QSize PAGES_SIZE(400, 160);
 
-QStringList SourceNames()
-{
-    return {EntryText::tr("Screen"), EntryText::tr("Camera"), EntryText::tr("Microphone")};
-}
-
 QWidget* CreateTabBar(QWidget* parent)
 {
-    auto* bar = new Vx::HorizontalTabBar(parent);
-    for (const QString& name : SourceNames())
-        bar->addTab(name);
+    auto* bar = new HorizontalTabBar(parent);
+    bar->addTab(EntryText::tr("Screen"));
+    bar->addTab(EntryText::tr("Camera"));
+    bar->addTab(EntryText::tr("Microphone"));
     return bar;
 }
 
@@ -70,10 +69,10 @@ QWidget* CreatePage(const QString& text)
 
 QWidget* CreateTabWidget(QWidget* parent)
 {
-    auto* tabs = new Vx::CustomTabWidget(parent);
-    tabs->addTab(CreatePage(EntryText::tr("What is on the screen, or a part of it.")), SourceNames()[0]);
-    tabs->addTab(CreatePage(EntryText::tr("A camera, in a corner of the picture.")), SourceNames()[1]);
-    tabs->addTab(CreatePage(EntryText::tr("The sound of what is said.")), SourceNames()[2]);
+    auto* tabs = new CustomTabWidget(parent);
+    tabs->addTab(CreatePage(EntryText::tr("What is on the screen, or a part of it.")), EntryText::tr("Screen"));
+    tabs->addTab(CreatePage(EntryText::tr("A camera, in a corner of the picture.")), EntryText::tr("Camera"));
+    tabs->addTab(CreatePage(EntryText::tr("The sound of what is said.")), EntryText::tr("Microphone"));
     tabs->setFixedSize(PAGES_SIZE);
     return tabs;
 }
@@ -158,7 +157,7 @@ Entry StackEntry()
 
 QVector<Entry> TabEntries()
 {
-    return {InForms<Vx::HorizontalTabBar>(TabBarEntry()), InForms<Vx::CustomTabWidget>(TabWidgetEntry()),
+    return {InForms<HorizontalTabBar>(TabBarEntry()), InForms<CustomTabWidget>(TabWidgetEntry()),
             InForms<ResizableStackedWidget>(StackEntry())};
 }
 

@@ -105,6 +105,27 @@ void AddTools(SampleWindow& window)
     window.bar->AddSeparator();
 }
 
+// Opens a window with a title bar of its own, and a tool in it.
+void OpenTitledWindow(QWidget* parent)
+{
+    auto* window = new QWidget(parent, Qt::Window);
+    window->setAttribute(Qt::WA_DeleteOnClose);
+    window->setWindowTitle(EntryText::tr("Recorder"));
+    window->setWindowIcon(ZStyleSheet::icon("app"));
+    auto* layout = new QVBoxLayout(window);
+    layout->addWidget(new QLabel(EntryText::tr("Drag the window by its title bar or by this text.")));
+    layout->addStretch();
+    auto* settings = new QToolButton;
+    settings->setAutoRaise(true);
+    settings->setIcon(ZStyleSheet::icon("settings"));
+    settings->setToolTip(EntryText::tr("Settings"));
+    // The title bar adds itself to the layout, and removes the frame of the window.
+    auto* titleBar = new CustomTitleBar(window);
+    titleBar->AddWidget(settings);
+    titleBar->AddSeparator();
+    window->show();
+}
+
 Entry CustomTitleBarEntry()
 {
     return {
@@ -144,6 +165,25 @@ QWidget* CreateChromeDesktop(QWidget* parent)
     return desktop;
 }
 
+// Opens a window without a frame that is resized by its edges.
+void OpenResizableWindow(QWidget* parent)
+{
+    auto* window = new QWidget(parent, Qt::Window);
+    window->setAttribute(Qt::WA_DeleteOnClose);
+    window->setWindowTitle(EntryText::tr("Recorder"));
+    auto* label = new QLabel(EntryText::tr("Resize the window by its edges, and double-click its title bar."));
+    label->setWordWrap(true);
+    AlignAtStart(label);
+    auto* layout = new QVBoxLayout(window);
+    layout->setContentsMargins(CONTENT_MARGIN, CONTENT_MARGIN, CONTENT_MARGIN, CONTENT_MARGIN);
+    layout->addWidget(label);
+    layout->addStretch();
+    auto* chrome = new ZWindowChrome(window);
+    chrome->setTitleBar(new CustomTitleBar(window));
+    window->resize(DESKTOP_SIZE);
+    window->show();
+}
+
 /// The sample inside the page, and a button that opens a window of the window system.
 class ChromeHost : public QWidget
 {
@@ -156,27 +196,10 @@ public:
         layout->setSpacing(DISTANCE);
         layout->addWidget(desktop);
         layout->addWidget(button, 0, Qt::AlignLeading);
-        connect(button, &QPushButton::clicked, this, &ChromeHost::Open);
+        connect(button, &QPushButton::clicked, this, [this] { OpenResizableWindow(this); });
     }
 
 private:
-    void Open()
-    {
-        auto* window = new QWidget(this, Qt::Window);
-        window->setAttribute(Qt::WA_DeleteOnClose);
-        window->setWindowTitle(EntryText::tr("Recorder"));
-        auto* label = new QLabel(EntryText::tr("Resize the window by its edges, and double-click its title bar."));
-        label->setWordWrap(true);
-        AlignAtStart(label);
-        auto* layout = new QVBoxLayout(window);
-        layout->setContentsMargins(CONTENT_MARGIN, CONTENT_MARGIN, CONTENT_MARGIN, CONTENT_MARGIN);
-        layout->addWidget(label);
-        layout->addStretch();
-        (new ZWindowChrome(window))->setTitleBar(new CustomTitleBar(window));
-        window->resize(DESKTOP_SIZE);
-        window->show();
-    }
-
     QWidget* desktop;
 };
 
@@ -208,6 +231,16 @@ Entry WindowChromeEntry()
         MakeBare<ZWindowChrome>,
         0,
     };
+}
+
+// Opens the dialog, with a link to a page of the application.
+void ShowAboutDialog(QWidget* parent)
+{
+    auto* dialog = new StyledAboutBoxDialog(EntryText::tr("Recorder"), "2.4.1",
+                                            EntryText::tr("Copyright 2026 Example Company"), parent);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->SetCustomUrl(QUrl("https://example.com/news"));
+    dialog->open();
 }
 
 /// A static copy of the dialog that is always visible and never takes the focus.
@@ -282,9 +315,9 @@ Entry StyledAboutBoxDialogEntry()
 QVector<Entry> WindowEntries()
 {
     // The title bar would remove the frame and layout of a form editor's window.
-    return {NotInForms(CustomTitleBarEntry(), "it rebuilds its window"),
-            NotInForms(WindowChromeEntry(), "it is not a widget"),
-            NotInForms(StyledAboutBoxDialogEntry(), "it is a dialog, whole as it is")};
+    return {NotInForms(WithExample(CustomTitleBarEntry(), OpenTitledWindow), "it rebuilds its window"),
+            NotInForms(WithExample(WindowChromeEntry(), OpenResizableWindow), "it is not a widget"),
+            NotInForms(WithExample(StyledAboutBoxDialogEntry(), ShowAboutDialog), "it is a dialog, whole as it is")};
 }
 
 } // namespace Zelkor::Catalogue

@@ -31,21 +31,30 @@ if(TARGET Qt${VX_QT_VERSION}::GuiPrivate)
   target_compile_definitions(tst_CatalogueAccessibility PRIVATE VX_WITH_QT_PRIVATE)
 endif()
 
-# A form with all widgets, compiled by uic. VxFormWriter writes it at build time.
+# Forms with all widgets and states, compiled by uic, and the code of the states. VxFormWriter writes them at build time.
 add_executable(VxFormWriter Catalogue/FormWriter.cpp ${PROJECT_SOURCE_DIR}/Designer/FormXml.cpp)
 vx_target(VxFormWriter)
 target_link_libraries(VxFormWriter PRIVATE VxCatalogue)
 set(form ${CMAKE_CURRENT_BINARY_DIR}/FormOfAll)
+set(form_headers ${form}/ui_FormOfAll.h ${form}/ui_FormOfStates.h)
 add_custom_command(
-  OUTPUT ${form}/ui_FormOfAll.h
+  OUTPUT ${form_headers} ${form}/Samples.cpp
   COMMAND ${CMAKE_COMMAND} -E make_directory ${form}
   COMMAND ${CMAKE_COMMAND} -E env QT_QPA_PLATFORM=offscreen ${VX_TEST_ENVIRONMENT} ${CMAKE_CROSSCOMPILING_EMULATOR}
-          $<TARGET_FILE:VxFormWriter> ${form}/FormOfAll.ui
+          $<TARGET_FILE:VxFormWriter> ${form}
   COMMAND Qt${VX_QT_VERSION}::uic -o ${form}/ui_FormOfAll.h ${form}/FormOfAll.ui
+  COMMAND Qt${VX_QT_VERSION}::uic -o ${form}/ui_FormOfStates.h ${form}/FormOfStates.ui
   DEPENDS VxFormWriter VERBATIM)
 vx_test(Catalogue/tst_CatalogueParents.cpp SOURCES ${form}/ui_FormOfAll.h LIBRARIES VxGalleryWindows)
-set_source_files_properties(${form}/ui_FormOfAll.h PROPERTIES SKIP_AUTOGEN ON)
 target_include_directories(tst_CatalogueParents SYSTEM PRIVATE ${form})
+
+vx_test(Catalogue/tst_SampleCode.cpp SOURCES ${form}/Samples.cpp ${form_headers} LIBRARIES VxCatalogue)
+set_source_files_properties(${form_headers} ${form}/Samples.cpp PROPERTIES SKIP_AUTOGEN ON)
+# Some samples only construct their widget.
+if(NOT MSVC)
+  set_source_files_properties(${form}/Samples.cpp PROPERTIES COMPILE_OPTIONS -Wno-unused-variable)
+endif()
+target_include_directories(tst_SampleCode SYSTEM PRIVATE ${form})
 
 vx_test(Catalogue/tst_CatalogueRandomEvents.cpp LIBRARIES VxCatalogue)
 vx_test(Catalogue/tst_CatalogueLifetime.cpp LIBRARIES VxCatalogue)
