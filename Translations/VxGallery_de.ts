@@ -1269,6 +1269,18 @@ und nicht breit</translation>
         <source>Objects</source>
         <translation>Objekte</translation>
     </message>
+    <message>
+        <source>Role</source>
+        <translation>Rolle</translation>
+    </message>
+    <message>
+        <source>Accessible name</source>
+        <translation>Barrierefreier Name</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Wert</translation>
+    </message>
 </context>
 <context>
     <name>Zelkor::Gallery::ObjectTree</name>
@@ -1277,12 +1289,12 @@ und nicht breit</translation>
         <translation>Objekte</translation>
     </message>
     <message>
-        <source>Class</source>
-        <translation>Klasse</translation>
+        <source>Size</source>
+        <translation>Größe</translation>
     </message>
     <message>
-        <source>Object name</source>
-        <translation>Objektname</translation>
+        <source>Class and object name</source>
+        <translation>Klasse und Objektname</translation>
     </message>
 </context>
 <context>

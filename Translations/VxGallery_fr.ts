@@ -1269,6 +1269,18 @@ et peu large</translation>
         <source>Objects</source>
         <translation>Objets</translation>
     </message>
+    <message>
+        <source>Role</source>
+        <translation>Rôle</translation>
+    </message>
+    <message>
+        <source>Accessible name</source>
+        <translation>Nom accessible</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Valeur</translation>
+    </message>
 </context>
 <context>
     <name>Zelkor::Gallery::ObjectTree</name>
@@ -1277,12 +1289,12 @@ et peu large</translation>
         <translation>Objets</translation>
     </message>
     <message>
-        <source>Class</source>
-        <translation>Classe</translation>
+        <source>Size</source>
+        <translation>Taille</translation>
     </message>
     <message>
-        <source>Object name</source>
-        <translation>Nom d’objet</translation>
+        <source>Class and object name</source>
+        <translation>Classe et nom de l&apos;objet</translation>
     </message>
 </context>
 <context>

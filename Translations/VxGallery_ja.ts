@@ -1269,6 +1269,18 @@ and not wide</source>
         <source>Objects</source>
         <translation>オブジェクト</translation>
     </message>
+    <message>
+        <source>Role</source>
+        <translation>役割</translation>
+    </message>
+    <message>
+        <source>Accessible name</source>
+        <translation>アクセシブル名</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>値</translation>
+    </message>
 </context>
 <context>
     <name>Zelkor::Gallery::ObjectTree</name>
@@ -1277,12 +1289,12 @@ and not wide</source>
         <translation>オブジェクト</translation>
     </message>
     <message>
-        <source>Class</source>
-        <translation>クラス</translation>
+        <source>Size</source>
+        <translation>サイズ</translation>
     </message>
     <message>
-        <source>Object name</source>
-        <translation>オブジェクト名</translation>
+        <source>Class and object name</source>
+        <translation>クラスとオブジェクト名</translation>
     </message>
 </context>
 <context>

@@ -27,6 +27,8 @@ public:
     ObjectTree* Objects() const { return objects; }
 
 private:
+    QWidget* CreateObjectPage();
+
     PropertyPanel* properties;
     SignalLog* signalLog;
     ObjectTree* objects;

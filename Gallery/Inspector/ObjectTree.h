@@ -8,8 +8,8 @@
 
 namespace Zelkor::Gallery {
 
-/// Shows class and name of an object and its descendants. Updates when objects are added, removed or renamed, and keeps
-/// expansion and selection. GUI thread.
+/// Shows class, name and size of an object and its descendants. Updates when objects are added, removed, renamed or,
+/// while it is visible, resized, and keeps expansion and selection. GUI thread.
 class ObjectTree : public QTreeWidget
 {
     Q_OBJECT
@@ -22,15 +22,26 @@ public:
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
+Q_SIGNALS:
+    /// Emitted when the accessible role, name or value of the current object changes, or another one becomes current.
+    void AccessibilityChanged(const QString& role, const QString& name, const QString& value);
+
+protected:
+    void showEvent(QShowEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+
 private:
+    void Refresh();
     void Rebuild();
     void Add(QObject* part, QTreeWidgetItem* parent);
     void Forget();
 
     QPointer<QObject> object;
     QTimer rebuildTimer;
-    QVector<QPointer<QObject>> watched;
-    QSet<QObject*> folded; ///< addresses only; never dereferenced
+    QTimer refreshTimer;
+    QVector<QPointer<QObject>> watched; ///< in the order of the items
+    QStringList accessibility;          ///< role, name and value as emitted last
+    QSet<QObject*> folded;              ///< addresses only; never dereferenced
     QObject* chosen = nullptr;
 };
 

@@ -5,6 +5,8 @@
 #include <Gallery/Browser/StateCard.h>
 #include <Gallery/Browser/WidgetPage.h>
 #include <Gallery/Inspector/ColorField.h>
+#include <Gallery/Inspector/Inspector.h>
+#include <Gallery/Inspector/ObjectTree.h>
 #include <Gallery/Inspector/PropertyPanel.h>
 #include <Gallery/Inspector/SignalLog.h>
 #include <UI/Widgets/ButtonWithPopUpContainer.h>
@@ -25,6 +27,7 @@
 #include <QScopeGuard>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QSlider>
 #include <QSpinBox>
 #include <QToolButton>
 
@@ -193,6 +196,24 @@ private Q_SLOTS:
         static_cast<Vx::ColorButton*>(cards[0]->Widget())->SetColor(Qt::black);
         const QString text = log->toPlainText();
         QVERIFY2(text.trimmed().endsWith("Opaque   ColorChanged(#ff000000)"), qPrintable(text));
+    }
+
+    void objectTreeFollowsSizeAndAccessibility()
+    {
+        gallery->OpenPage("ZCustomSlider");
+        auto* slider = static_cast<QSlider*>(Page()->findChild<StateCard*>()->Widget());
+        auto* inspector = Page()->findChild<Inspector*>();
+        inspector->setCurrentIndex(2);
+        const auto* item = inspector->Objects()->topLevelItem(0);
+        const auto field = [&](const char* name) { return inspector->findChild<QLineEdit*>(name)->text(); };
+        QCOMPARE(field("accessibleRole"), QString("Slider"));
+        QCOMPARE(field("accessibleValue").toInt(), slider->value());
+        slider->setAccessibleName("Volume");
+        slider->setValue(slider->value() + 1);
+        slider->setFixedSize(111, 22);
+        QTRY_COMPARE(item->text(1), QString::fromUtf8("111 × 22"));
+        QCOMPARE(field("accessibleName"), QString("Volume"));
+        QCOMPARE(field("accessibleValue").toInt(), slider->value());
     }
 
     void forcedStateIsPaintedUntilItIsSwitchedOff_data()
