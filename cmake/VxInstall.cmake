@@ -72,8 +72,9 @@ set(header_destination \"\${CMAKE_INSTALL_PREFIX}/${header_folder}\")" COMPONENT
 install(SCRIPT cmake/InstallHeaders.cmake COMPONENT development)
 
 set(generated ${PROJECT_BINARY_DIR}/package)
+set(style_template_folder ${data_folder}/Styles/Template)
 configure_package_config_file(cmake/VxUiWidgetsConfig.cmake.in ${generated}/${package_name}Config.cmake
-                              INSTALL_DESTINATION ${package_folder} NO_SET_AND_CHECK_MACRO)
+                              INSTALL_DESTINATION ${package_folder} PATH_VARS style_template_folder NO_SET_AND_CHECK_MACRO)
 write_basic_package_version_file(${generated}/${package_name}ConfigVersion.cmake COMPATIBILITY SameMajorVersion)
 install(FILES ${generated}/${package_name}Config.cmake ${generated}/${package_name}ConfigVersion.cmake DESTINATION ${package_folder} COMPONENT development)
 foreach(export VxUiWidgetsTargets VxUiWidgetsKitTargets VxUiWidgetsStylesTargets)
@@ -96,6 +97,11 @@ endforeach()
 # Applications can start their own style sheet from one of these.
 install(DIRECTORY ${PROJECT_BINARY_DIR}/Styles/ DESTINATION ${data_folder}/Styles COMPONENT development
         FILES_MATCHING PATTERN "*.qss" PATTERN "*.svg" PATTERN CMakeFiles EXCLUDE)
+# For vx_add_style_sheet(), with the palettes as examples.
+file(GLOB palettes CONFIGURE_DEPENDS Styles/*.palette)
+install(FILES Styles/VxStyleSheet.cmake Styles/BuildStyleSheet.cmake Styles/Template.qss.in ${palettes}
+        DESTINATION ${data_folder}/Styles/Template COMPONENT development)
+install(DIRECTORY Styles/icons DESTINATION ${data_folder}/Styles/Template COMPONENT development)
 
 foreach(program VxGallery VxRecorder)
   if(TARGET ${program})

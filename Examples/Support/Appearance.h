@@ -22,7 +22,7 @@ public:
     /// Returns false and falls back to English when there are no translations for `code`.
     bool SetLanguage(const QString& code);
 
-    /// "dark", "light", or empty for a style sheet from a file.
+    /// "dark", "light", "high-contrast", or empty for a style sheet from a file.
     QString StyleName() const { return styleName; }
 
     /// Applies a style sheet, see `LoadStyleSheet`. Returns false, sets `error` and keeps the current one when it

@@ -1,19 +1,24 @@
 #include "BuiltInStyleSheets.h"
 
+#include <QHash>
+
 namespace Zelkor::Examples {
+
+namespace {
+
+const QHash<QString, QString> SHEETS = {{"dark", "Dark"}, {"light", "Light"}, {"high-contrast", "HighContrast"}};
+
+} // namespace
 
 bool IsBuiltInStyleSheet(const QString& name)
 {
-    return name == "dark" || name == "light";
+    return SHEETS.contains(name);
 }
 
 std::optional<ZStyleSheet> LoadStyleSheet(const QString& nameOrFile, QString* error)
 {
-    if (nameOrFile == "dark")
-        return ZStyleSheet::load(":/Styles/Dark.qss", error);
-    if (nameOrFile == "light")
-        return ZStyleSheet::load(":/Styles/Light.qss", error);
-    return ZStyleSheet::load(nameOrFile, error);
+    const bool isBuiltIn = IsBuiltInStyleSheet(nameOrFile);
+    return ZStyleSheet::load(isBuiltIn ? ":/Styles/" + SHEETS[nameOrFile] + ".qss" : nameOrFile, error);
 }
 
 } // namespace Zelkor::Examples

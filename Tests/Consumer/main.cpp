@@ -1,4 +1,5 @@
 #include <UI/Kit/ZLabel.h>
+#include <UI/Kit/ZStyleSheet.h>
 #include <UI/Widgets/VideoPreviewWidget.h>
 
 #include <Zelkor/StandIn/VideoFrame.h>
@@ -41,5 +42,12 @@ int main(int argc, char* argv[])
     const QRgb wanted = Util::ImageUtils().FrameToImage(frame).pixel(0, 0);
     const QRgb shown = preview.grab().toImage().pixel(size.width() / 2, size.height() / 2);
     std::cout << label.originalText().toStdString() << ": " << QColor(shown).name().toStdString() << std::endl;
+
+#ifdef VX_WITH_STYLE_SHEET
+    // The template in the colours of the application's palette file, with its icons.
+    if (!ZStyleSheet::applyFile(":/Styles/Brand.qss") || ZStyleSheet::icon("camera").pixmap(16).isNull() ||
+        QApplication::palette().color(QPalette::Link) != QColor("#7a3db8"))
+        return 1;
+#endif
     return shown == wanted && wanted == QColor(Qt::darkCyan).rgb() ? 0 : 1;
 }

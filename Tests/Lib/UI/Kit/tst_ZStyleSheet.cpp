@@ -3,6 +3,7 @@
 #include <Support/TestCase.h>
 
 #include <QApplication>
+#include <QStyle>
 #include <QTemporaryDir>
 
 #include <private/qguiapplication_p.h>
@@ -48,7 +49,7 @@ class tst_ZStyleSheet : public Support::TestCase
     /// Writes a sheet without rules and returns its file.
     QString WriteSheet(const QString& text)
     {
-        QFile file(folder.filePath(text + ".qss"));
+        QFile file(folder.filePath(QString::number(qHash(text)) + ".qss"));
         if (!file.open(QIODevice::WriteOnly) || file.write("/*" + text.toUtf8() + "*/") < 0)
             return QString();
         return file.fileName();
@@ -76,6 +77,24 @@ private Q_SLOTS:
         theme.SetColors(Qt::black, Qt::white);
         QApplication::processEvents();
         QCOMPARE(qApp->styleSheet(), QString("/*fixed*/"));
+    }
+
+    void paletteIsThatOfTheSheet()
+    {
+        const auto write = [this](const QString& color) {
+            return WriteSheet("*/ QPalette { qproperty-Link: " + color +
+                              "; } QPalette:disabled { qproperty-Link: gray } /*");
+        };
+        ThemeStub theme;
+        theme.SetColors(Qt::white, Qt::black);
+        const QPalette standard = QApplication::style()->standardPalette();
+        QVERIFY(ZStyleSheet::followSystem(write("#010203"), write("#f1f2f3")));
+        QCOMPARE(QApplication::palette().color(QPalette::Link), QColor("#f1f2f3"));
+        QCOMPARE(QApplication::palette().color(QPalette::Disabled, QPalette::Link), QColor("gray"));
+        theme.SetColors(Qt::black, Qt::white);
+        QTRY_COMPARE(QApplication::palette().color(QPalette::Link), QColor("#010203"));
+        QVERIFY(ZStyleSheet::applyFile(WriteSheet("plain")));
+        QCOMPARE(QApplication::palette().color(QPalette::Link), standard.color(QPalette::Link));
     }
 
     void unreadableSheetKeepsTheCurrentOne()
