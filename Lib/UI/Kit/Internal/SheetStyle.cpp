@@ -141,6 +141,15 @@ void SheetStyle::polish(QWidget* widget)
             view, [view] { view->doItemsLayout(); }, Qt::QueuedConnection);
 }
 
+void SheetStyle::polish(QPalette& palette)
+{
+    QProxyStyle::polish(palette);
+    if (palette == platformPalette)
+        return;
+    platformPalette = palette;
+    QCoreApplication::postEvent(qApp, new QEvent(QEvent::ThemeChange));
+}
+
 QIcon SheetStyle::standardIcon(StandardPixmap icon, const QStyleOption* option, const QWidget* widget) const
 {
     static const QHash<int, QString> NAMES = {

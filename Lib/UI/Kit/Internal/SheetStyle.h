@@ -15,6 +15,10 @@ public:
     using QProxyStyle::polish;
     void polish(QWidget* widget) override;
 
+    /// Called by Qt with the palette of the platform. Sends the application a ThemeChange after a change of it, which Qt
+    /// does not report if the application has a palette.
+    void polish(QPalette& palette) override;
+
     QIcon standardIcon(StandardPixmap icon, const QStyleOption* option, const QWidget* widget) const override;
 
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
@@ -22,6 +26,9 @@ public:
 
     void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
                             const QWidget* widget) const override;
+
+private:
+    QPalette platformPalette;
 };
 
 } // namespace Zelkor::Vx::UI::Kit
