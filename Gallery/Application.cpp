@@ -96,7 +96,7 @@ QWidget* Application::OpenPage(const QString& name)
 {
     if (!gallery)
         MakeGallery();
-    gallery->OpenPage(name);
+    gallery->OpenPage(name, options.state);
     if (options.size.isValid()) {
         // The size on the command line overrides the minimum size.
         gallery->setMinimumSize(1, 1);

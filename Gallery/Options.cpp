@@ -1,5 +1,6 @@
 #include "Options.h"
 
+#include <Catalogue/Catalogue.h>
 #include <Examples/Support/BuiltInStyleSheets.h>
 #include <Examples/Support/PictureOptions.h>
 #include <Gallery/Browser/PageList.h>
@@ -25,6 +26,7 @@ void Declare(QCommandLineParser& parser)
         {{"h", "help"}, "Shows this help."},
         {"list", "Prints the names of the pages."},
         {"page", "Opens the page NAME instead of the start page.", "NAME"},
+        {"state", "Selects a state of the page, by its name or its number from 1.", "STATE"},
         {"style",
          "Takes another style sheet: dark, light or a file. The icons of a file lie beside it in a folder of "
          "the same name.",
@@ -52,6 +54,24 @@ QString HelpText(const QCommandLineParser& parser, const QStringList& arguments)
     return parser.helpText().trimmed();
 }
 
+// Sets the state of the page. Returns an error, or an empty text.
+QString TakeState(const QString& state, Options& options)
+{
+    const Catalogue::Entry* entry = Catalogue::FindEntry(options.page);
+    if (!entry)
+        return QString("--state %1 needs the --page of a widget").arg(state);
+    QStringList names;
+    for (const Catalogue::State& known : entry->states)
+        names.append(known.name);
+    const int index = int(names.indexOf(state));
+    options.state = index >= 0 ? index : state.toInt() - 1;
+    if (options.state >= 0 && options.state < names.size())
+        return QString();
+    for (int i = 0; i < names.size(); ++i)
+        names[i] = QString("%1 %2").arg(i + 1).arg(names[i]);
+    return QString("%1 has no state '%2', but: %3").arg(options.page, state, names.join(", "));
+}
+
 // Sets the options from the values. Returns an error, or an empty text.
 QString TakeValues(const QCommandLineParser& parser, Options& options)
 {
@@ -66,6 +86,10 @@ QString TakeValues(const QCommandLineParser& parser, Options& options)
         return QString("--scale takes a number from 0.5 to 4, not '%1'").arg(parser.value("scale"));
     if (parser.isSet("page") && !PageNames().contains(options.page))
         return QString("there is no page '%1'; --list names them").arg(options.page);
+    if (parser.isSet("state"))
+        error = TakeState(parser.value("state"), options);
+    if (!error.isEmpty())
+        return error;
     for (const char* name : {"shot", "shots", "pictures", "press", "language", "fallback-shot"}) {
         if (parser.isSet(name) && parser.value(name).isEmpty())
             return QString("--%1 takes a value that is not empty").arg(name);

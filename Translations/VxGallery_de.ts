@@ -1230,6 +1230,63 @@ und nicht breit</translation>
     </message>
 </context>
 <context>
+    <name>Zelkor::Gallery::CodePane</name>
+    <message>
+        <source>Code</source>
+        <translation>Code</translation>
+    </message>
+    <message>
+        <source>Header</source>
+        <translation>Header</translation>
+    </message>
+    <message>
+        <source>Document</source>
+        <translation>Dokument</translation>
+    </message>
+    <message>
+        <source>Copy link</source>
+        <translation>Link kopieren</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source>Copy all of the code</source>
+        <translation>Den ganzen Code kopieren</translation>
+    </message>
+    <message>
+        <source>Forms cannot contain it.</source>
+        <translation>Formulare können es nicht enthalten.</translation>
+    </message>
+    <message>
+        <source>Forms cannot contain it: %1.</source>
+        <translation>Formulare können es nicht enthalten: %1.</translation>
+    </message>
+    <message>
+        <source>Copy the command that opens this page and state:
+%1</source>
+        <translation>Den Befehl kopieren, der diese Seite und diesen Zustand öffnet:
+%1</translation>
+    </message>
+    <message>
+        <source>Copied</source>
+        <translation>Kopiert</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Öffnen</translation>
+    </message>
+    <message>
+        <source>Open a file that this page comes from</source>
+        <translation>Eine Datei öffnen, aus der diese Seite stammt</translation>
+    </message>
+    <message>
+        <source>Source of the catalogue</source>
+        <translation>Quelltext des Katalogs</translation>
+    </message>
+</context>
+<context>
     <name>Zelkor::Gallery::ColorField</name>
     <message>
         <source>No colour</source>
@@ -1314,6 +1371,22 @@ und nicht breit</translation>
     <message>
         <source>Start</source>
         <translation>Anfang</translation>
+    </message>
+    <message>
+        <source>By name</source>
+        <translation>Nach Namen</translation>
+    </message>
+    <message>
+        <source>By description</source>
+        <translation>Nach Beschreibung</translation>
+    </message>
+    <message>
+        <source>By property, signal or part</source>
+        <translation>Nach Eigenschaft, Signal oder Teil</translation>
+    </message>
+    <message>
+        <source>Nothing found</source>
+        <translation>Nichts gefunden</translation>
     </message>
 </context>
 <context>

@@ -1230,6 +1230,63 @@ et peu large</translation>
     </message>
 </context>
 <context>
+    <name>Zelkor::Gallery::CodePane</name>
+    <message>
+        <source>Code</source>
+        <translation>Code</translation>
+    </message>
+    <message>
+        <source>Header</source>
+        <translation>En-tête</translation>
+    </message>
+    <message>
+        <source>Document</source>
+        <translation>Document</translation>
+    </message>
+    <message>
+        <source>Copy link</source>
+        <translation>Copier le lien</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copier</translation>
+    </message>
+    <message>
+        <source>Copy all of the code</source>
+        <translation>Copier tout le code</translation>
+    </message>
+    <message>
+        <source>Forms cannot contain it.</source>
+        <translation>Les formulaires ne peuvent pas le contenir.</translation>
+    </message>
+    <message>
+        <source>Forms cannot contain it: %1.</source>
+        <translation>Les formulaires ne peuvent pas le contenir : %1.</translation>
+    </message>
+    <message>
+        <source>Copy the command that opens this page and state:
+%1</source>
+        <translation>Copier la commande qui ouvre cette page et cet état :
+%1</translation>
+    </message>
+    <message>
+        <source>Copied</source>
+        <translation>Copié</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Ouvrir</translation>
+    </message>
+    <message>
+        <source>Open a file that this page comes from</source>
+        <translation>Ouvrir un fichier dont provient cette page</translation>
+    </message>
+    <message>
+        <source>Source of the catalogue</source>
+        <translation>Source du catalogue</translation>
+    </message>
+</context>
+<context>
     <name>Zelkor::Gallery::ColorField</name>
     <message>
         <source>No colour</source>
@@ -1314,6 +1371,22 @@ et peu large</translation>
     <message>
         <source>Start</source>
         <translation>Début</translation>
+    </message>
+    <message>
+        <source>By name</source>
+        <translation>Par nom</translation>
+    </message>
+    <message>
+        <source>By description</source>
+        <translation>Par description</translation>
+    </message>
+    <message>
+        <source>By property, signal or part</source>
+        <translation>Par propriété, signal ou élément</translation>
+    </message>
+    <message>
+        <source>Nothing found</source>
+        <translation>Aucun résultat</translation>
     </message>
 </context>
 <context>

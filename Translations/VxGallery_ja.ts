@@ -1230,6 +1230,63 @@ and not wide</source>
     </message>
 </context>
 <context>
+    <name>Zelkor::Gallery::CodePane</name>
+    <message>
+        <source>Code</source>
+        <translation>コード</translation>
+    </message>
+    <message>
+        <source>Header</source>
+        <translation>ヘッダー</translation>
+    </message>
+    <message>
+        <source>Document</source>
+        <translation>ドキュメント</translation>
+    </message>
+    <message>
+        <source>Copy link</source>
+        <translation>リンクをコピー</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>コピー</translation>
+    </message>
+    <message>
+        <source>Copy all of the code</source>
+        <translation>コードをすべてコピー</translation>
+    </message>
+    <message>
+        <source>Forms cannot contain it.</source>
+        <translation>フォームには配置できません。</translation>
+    </message>
+    <message>
+        <source>Forms cannot contain it: %1.</source>
+        <translation>フォームには配置できません: %1。</translation>
+    </message>
+    <message>
+        <source>Copy the command that opens this page and state:
+%1</source>
+        <translation>このページと状態を開くコマンドをコピー:
+%1</translation>
+    </message>
+    <message>
+        <source>Copied</source>
+        <translation>コピーしました</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>開く</translation>
+    </message>
+    <message>
+        <source>Open a file that this page comes from</source>
+        <translation>このページの元になったファイルを開く</translation>
+    </message>
+    <message>
+        <source>Source of the catalogue</source>
+        <translation>カタログのソース</translation>
+    </message>
+</context>
+<context>
     <name>Zelkor::Gallery::ColorField</name>
     <message>
         <source>No colour</source>
@@ -1314,6 +1371,22 @@ and not wide</source>
     <message>
         <source>Start</source>
         <translation>開始</translation>
+    </message>
+    <message>
+        <source>By name</source>
+        <translation>名前</translation>
+    </message>
+    <message>
+        <source>By description</source>
+        <translation>説明</translation>
+    </message>
+    <message>
+        <source>By property, signal or part</source>
+        <translation>プロパティ、シグナル、部品</translation>
+    </message>
+    <message>
+        <source>Nothing found</source>
+        <translation>見つかりません</translation>
     </message>
 </context>
 <context>

@@ -1,5 +1,4 @@
 #include "FormFragment.h"
-#include "SampleCode.h"
 
 #include <Catalogue/Catalogue.h>
 
@@ -105,6 +104,9 @@ QString PropertyElements(const QObject& object, const QObject& bare)
     const QMetaObject* meta = object.metaObject();
     for (int i = 0; i < meta->propertyCount(); ++i) {
         const QMetaProperty property = meta->property(i);
+        // Reading values of types that are unknown to Qt causes warnings.
+        if (property.userType() == QMetaType::UnknownType)
+            continue;
         const QVariant value = property.read(&object);
         if (!property.isWritable() || !property.isDesignable() || !property.isStored() ||
             value == property.read(&bare) || qstrcmp(property.name(), "geometry") == 0)
@@ -168,7 +170,7 @@ QString FormOf(const Entry& entry, const State& state)
                    "  <customwidgets>\n    <customwidget>\n      <class>%1</class>\n      <extends>%5</extends>\n"
                    "      <header>%6</header>\n    </customwidget>\n  </customwidgets>\n</ui>\n")
         .arg(className, name, PropertyElements(*widget, *bare), ContentElements(*widget, name), base->className(),
-             HeaderOf(entry));
+             entry.form.header);
 }
 
 } // namespace Zelkor::Catalogue

@@ -103,7 +103,6 @@ Entry ComboEntry()
                              [](Combo& combo) { combo.setMouseWheelEnabled(false); }),
             DisabledState(),
         },
-        MakeBare<ZComboBox>,
     };
 }
 
@@ -203,7 +202,6 @@ Entry CustomSliderEntry()
             MakeState<ZCustomSlider>(EntryText::tr("Vertical"), [](ZCustomSlider& slider) { MakeVertical(slider); }),
             DisabledState(),
         },
-        MakeBare<ZCustomSlider>,
     };
 }
 
@@ -227,7 +225,6 @@ Entry DoubleSliderEntry()
             FocusedWheelState<ZDoubleSlider>(),
             DisabledState(),
         },
-        MakeBare<ZDoubleSlider>,
     };
 }
 
@@ -259,7 +256,6 @@ Entry SpinBoxEntry()
             MakeState<ZSpinBox>(EntryText::tr("Read-only"), [](ZSpinBox& field) { field.setReadOnly(true); }),
             DisabledState(),
         },
-        MakeBare<ZSpinBox>,
     };
 }
 
@@ -293,7 +289,6 @@ Entry DoubleSpinBoxEntry()
             MakeState<Field>(EntryText::tr("At its end"), [](Field& field) { field.setValue(field.minimum()); }),
             DisabledState(),
         },
-        MakeBare<ZDoubleSpinBox>,
     };
 }
 

@@ -131,7 +131,7 @@ Entry SliderButtonEntry()
                                      [](ZSliderButton& button) { button.setSliderHeight(240); }),
             DisabledState(),
         },
-        MakeBare<ZSliderButton>,
+        nullptr,
         3,
     };
 }

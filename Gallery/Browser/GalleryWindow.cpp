@@ -40,9 +40,11 @@ GalleryWindow::GalleryWindow(Examples::Appearance* appearance, double scale, QWi
     list->FocusList();
 }
 
-void GalleryWindow::OpenPage(const QString& name)
+void GalleryWindow::OpenPage(const QString& name, int state)
 {
     list->OpenPage(name);
+    if (auto* widgetPage = qobject_cast<WidgetPage*>(page))
+        widgetPage->ShowState(state);
 }
 
 void GalleryWindow::ShowPage(const QString& name)

@@ -26,8 +26,8 @@ public:
     /// `scale` is the scale factor of the running program.
     explicit GalleryWindow(Examples::Appearance* appearance, double scale = 1, QWidget* parent = nullptr);
 
-    /// Opens a page. Unknown names are ignored.
-    void OpenPage(const QString& name);
+    /// Opens a page and selects a state of it by its index. Unknown names are ignored.
+    void OpenPage(const QString& name, int state = 0);
 
 Q_SIGNALS:
     void RecorderRequested();

@@ -4,6 +4,7 @@
 #include <UI/Kit/ZStyleSheet.h>
 
 #include <QAction>
+#include <QApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QListWidget>
@@ -20,7 +21,6 @@ constexpr int SEARCH_MARGIN = 8;
 constexpr double HEADING_FONT_FACTOR = 0.85;
 constexpr int ICON_SIZE = 20;
 constexpr int PAGE_NAME_ROLE = Qt::UserRole;
-constexpr int GROUP_ROLE = Qt::UserRole + 1;
 
 // Group headings are not selectable and have no page name.
 QString PageOf(const QListWidgetItem* item)
@@ -53,6 +53,7 @@ PageList::PageList(QWidget* parent) : QWidget(parent), search(new QLineEdit), li
     search->addAction(ZStyleSheet::icon("search"), QLineEdit::LeadingPosition);
     search->installEventFilter(this);
     list->setObjectName("pageList");
+    list->installEventFilter(this);
     list->setIconSize(QSize(ICON_SIZE, ICON_SIZE));
     list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     auto* searchArea = new QVBoxLayout;
@@ -68,31 +69,42 @@ PageList::PageList(QWidget* parent) : QWidget(parent), search(new QLineEdit), li
     find->setShortcut(QKeySequence::Find);
     addAction(find);
     connect(find, &QAction::triggered, this, &PageList::Search);
-    connect(search, &QLineEdit::textChanged, this, &PageList::Filter);
-    connect(search, &QLineEdit::returnPressed, this, &PageList::ChooseFirstHit);
+    connect(search, &QLineEdit::textChanged, this, [this] { Fill(compact && !searching); });
+    connect(search, &QLineEdit::returnPressed, this, &PageList::ChooseHit);
     connect(list, &QListWidget::currentItemChanged, this, [this](const QListWidgetItem* item) {
-        if (!PageOf(item).isEmpty())
-            Q_EMIT PageChosen(PageOf(item));
+        if (PageOf(item).isEmpty())
+            return;
+        current = PageOf(item);
+        Q_EMIT PageChosen(current);
     });
     Retranslate();
 }
 
 void PageList::OpenPage(const QString& name)
 {
-    for (int row = 0; row < list->count(); ++row) {
-        if (!name.isEmpty() && PageOf(list->item(row)) == name)
-            list->setCurrentRow(row);
+    if (name == current || !PageNames().contains(name))
+        return;
+    if (!SelectItem(name)) {
+        search->clear();
+        SelectItem(name);
     }
+}
+
+// Returns false if a search hides the page.
+bool PageList::SelectItem(const QString& name)
+{
+    for (int row = 0; row < list->count(); ++row) {
+        if (!name.isEmpty() && PageOf(list->item(row)) == name) {
+            list->setCurrentRow(row);
+            return true;
+        }
+    }
+    return false;
 }
 
 void PageList::FocusList()
 {
     list->setFocus();
-}
-
-QString PageList::CurrentPage() const
-{
-    return PageOf(list->currentItem());
 }
 
 void PageList::Retranslate()
@@ -102,61 +114,74 @@ void PageList::Retranslate()
     search->setPlaceholderText(tr("Search"));
     search->setToolTip(
         tr("Search the pages (%1)").arg(QKeySequence(QKeySequence::Find).toString(QKeySequence::NativeText)));
-    const QString page = CurrentPage();
-    {
-        // The current page does not change.
-        const QSignalBlocker blocker(list);
-        list->clear();
-        Fill();
-        OpenPage(page);
-    }
+    pageSearch.Reset();
+    search->clear();
+    Fill(false);
     list->ensurePolished();
     fullWidth = qMax(SMALLEST_WIDTH, list->sizeHintForColumn(0) + LIST_MARGINS);
     Arrange();
 }
 
-void PageList::Fill()
+void PageList::Fill(bool isCompact)
+{
+    // The current page does not change.
+    const QSignalBlocker blocker(list);
+    list->clear();
+    const QString text = search->text().simplified();
+    if (text.isEmpty())
+        AddAllPages(isCompact);
+    else
+        AddHits(text);
+    SelectItem(current);
+}
+
+void PageList::AddAllPages(bool isCompact)
 {
     QString group;
-    const auto addPage = [&](const QString& name, const QString& text, const QString& icon) {
-        auto* item = new QListWidgetItem(ZStyleSheet::icon(icon), text, list);
-        item->setData(PAGE_NAME_ROLE, name);
-        item->setData(GROUP_ROLE, group);
-        item->setData(Qt::AccessibleTextRole, text);
-    };
-    addPage(StartPageName(), tr("Start"), "app");
-    QFont headingFont = list->font();
-    headingFont.setPointSizeF(headingFont.pointSizeF() * HEADING_FONT_FACTOR);
+    AddPage(StartPageName(), isCompact);
     for (const Catalogue::Entry& entry : Catalogue::Entries() + QVector{Catalogue::QtWidgetsEntry()}) {
-        if (entry.group != group) {
-            group = entry.group;
-            auto* heading = new QListWidgetItem(group, list);
-            heading->setFlags(Qt::NoItemFlags);
-            heading->setFont(headingFont);
-        }
-        addPage(entry.className, entry.className, entry.icon);
+        if (entry.group != group && !isCompact)
+            AddHeading(entry.group);
+        group = entry.group;
+        AddPage(entry.className, isCompact);
     }
 }
 
-void PageList::Filter()
+void PageList::AddHits(const QString& text)
 {
-    const QString text = search->text().trimmed();
-    const bool isCompact = compact && !searching;
-    QListWidgetItem* heading = nullptr;
-    for (int row = 0; row < list->count(); ++row) {
-        QListWidgetItem* item = list->item(row);
-        if (PageOf(item).isEmpty()) {
-            heading = item;
-            heading->setHidden(true);
-            continue;
-        }
-        const QString name = item->data(Qt::AccessibleTextRole).toString();
-        const bool isHit = name.contains(text, Qt::CaseInsensitive) ||
-                           item->data(GROUP_ROLE).toString().contains(text, Qt::CaseInsensitive);
-        item->setHidden(!isHit);
-        if (heading && isHit)
-            heading->setHidden(isCompact);
+    const QString headings[] = {tr("By name"), tr("By description"), tr("By property, signal or part")};
+    int reason = -1;
+    for (const PageSearch::Hit& hit : pageSearch.Find(text)) {
+        if (hit.reason != reason)
+            AddHeading(headings[hit.reason]);
+        reason = hit.reason;
+        QListWidgetItem* item = AddPage(hit.page, false);
+        if (!hit.member.isEmpty())
+            item->setText(hit.page + '\n' + hit.member);
     }
+    if (list->count() == 0)
+        AddHeading(tr("Nothing found"));
+}
+
+void PageList::AddHeading(const QString& text)
+{
+    auto* heading = new QListWidgetItem(text, list);
+    QFont font = list->font();
+    font.setPointSizeF(font.pointSizeF() * HEADING_FONT_FACTOR);
+    heading->setFlags(Qt::NoItemFlags);
+    heading->setFont(font);
+}
+
+QListWidgetItem* PageList::AddPage(const QString& name, bool isCompact)
+{
+    const Catalogue::Entry* entry = Catalogue::FindEntry(name);
+    const QString text = entry ? name : tr("Start");
+    auto* item =
+        new QListWidgetItem(ZStyleSheet::icon(entry ? entry->icon : "app"), isCompact ? QString() : text, list);
+    item->setData(PAGE_NAME_ROLE, name);
+    item->setData(Qt::AccessibleTextRole, text);
+    item->setToolTip(isCompact ? text : QString());
+    return item;
 }
 
 void PageList::Search()
@@ -174,14 +199,13 @@ void PageList::EndSearch()
     Arrange();
 }
 
-void PageList::ChooseFirstHit()
+// Opens the first hit, unless the current page is one.
+void PageList::ChooseHit()
 {
-    for (int row = 0; row < list->count(); ++row) {
-        if (!list->item(row)->isHidden() && !PageOf(list->item(row)).isEmpty()) {
+    list->setFocus();
+    for (int row = 0; row < list->count() && !list->currentItem(); ++row) {
+        if (!PageOf(list->item(row)).isEmpty())
             list->setCurrentRow(row);
-            list->setFocus();
-            return;
-        }
     }
 }
 
@@ -199,35 +223,52 @@ void PageList::Arrange()
 {
     const bool isCompact = compact && !searching;
     search->setVisible(!isCompact);
-    for (int row = 0; row < list->count(); ++row) {
-        QListWidgetItem* item = list->item(row);
-        if (PageOf(item).isEmpty())
-            continue;
-        const QString text = item->data(Qt::AccessibleTextRole).toString();
-        item->setText(isCompact ? QString() : text);
-        item->setToolTip(isCompact ? text : QString());
-    }
     setFixedWidth(isCompact ? COMPACT_WIDTH : fullWidth);
-    Filter();
+    Fill(isCompact);
 }
 
 bool PageList::eventFilter(QObject* watched, QEvent* event)
 {
-    if (watched == search && event->type() == QEvent::KeyPress) {
-        switch (static_cast<QKeyEvent*>(event)->key()) {
-        case Qt::Key_Escape:
-            EndSearch();
-            if (compact)
-                list->setFocus();
+    if (event->type() == QEvent::KeyPress) {
+        auto* key = static_cast<QKeyEvent*>(event);
+        if (watched == search ? PressInField(*key) : PressInList(*key))
             return true;
-        case Qt::Key_Down:
-            list->setFocus();
-            return true;
-        default:
-            break;
-        }
     }
     return QWidget::eventFilter(watched, event);
+}
+
+bool PageList::PressInField(const QKeyEvent& event)
+{
+    if (event.key() == Qt::Key_Escape) {
+        EndSearch();
+        if (compact)
+            list->setFocus();
+        return true;
+    }
+    if (event.key() == Qt::Key_Down) {
+        ChooseHit();
+        return true;
+    }
+    return false;
+}
+
+// Text goes to the field, which replaces the search of item views.
+bool PageList::PressInList(QKeyEvent& event)
+{
+    if (event.key() == Qt::Key_Escape && !search->text().isEmpty()) {
+        EndSearch();
+        return true;
+    }
+    const bool isText = !event.text().isEmpty() && event.text()[0].isPrint() && event.key() != Qt::Key_Space;
+    const bool isErasing = event.key() == Qt::Key_Backspace && !search->text().isEmpty();
+    if ((event.modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier)) || (!isText && !isErasing))
+        return false;
+    if (!search->isVisible())
+        Search();
+    search->setFocus();
+    search->deselect();
+    QApplication::sendEvent(search, &event);
+    return true;
 }
 
 } // namespace Zelkor::Gallery

@@ -1,7 +1,10 @@
 #pragma once
 
+#include "PageSearch.h"
+
 #include <QWidget>
 
+class QKeyEvent;
 class QLineEdit;
 class QListWidget;
 class QListWidgetItem;
@@ -15,9 +18,11 @@ QString StartPageName();
 /// Qt.
 QStringList PageNames();
 
-/// The list of pages by group, with a search field that filters by page and group name.
+/// The list of pages by group, with a search field. A search lists its hits instead, names first, then descriptions,
+/// then properties, signals and object names.
 ///
-/// Ctrl+F focuses the field; Down focuses the list, Return opens the first match and Escape clears the field.
+/// Keys: Ctrl+F focuses the field, where Down and Return open the first hit and Escape clears; text that is typed in
+/// the list goes to the field.
 class PageList : public QWidget
 {
     Q_OBJECT
@@ -32,7 +37,7 @@ public:
     void FocusList();
 
     /// Returns the name of the current page, empty for none.
-    QString CurrentPage() const;
+    QString CurrentPage() const { return current; }
 
     /// Updates all texts, also those of the catalogue, and keeps the current page.
     void Retranslate();
@@ -46,15 +51,23 @@ Q_SIGNALS:
     void PageChosen(const QString& name);
 
 private:
-    void Fill();
-    void Filter();
+    void Fill(bool isCompact);
+    void AddAllPages(bool isCompact);
+    void AddHits(const QString& text);
+    void AddHeading(const QString& text);
+    QListWidgetItem* AddPage(const QString& name, bool isCompact);
+    bool SelectItem(const QString& name);
     void Search();
     void EndSearch();
-    void ChooseFirstHit();
+    void ChooseHit();
     void Arrange();
+    bool PressInField(const QKeyEvent& event);
+    bool PressInList(QKeyEvent& event);
 
     QLineEdit* search;
     QListWidget* list;
+    PageSearch pageSearch;
+    QString current;
     int fullWidth = 0;
     bool compact = false;
     bool searching = false;

@@ -1,5 +1,6 @@
 #include "WidgetPage.h"
 #include "CardGrid.h"
+#include "CodePane.h"
 #include "StateBar.h"
 #include "StateCard.h"
 
@@ -15,6 +16,7 @@
 #include <QLabel>
 #include <QScrollArea>
 #include <QSplitter>
+#include <QTimer>
 #include <QVBoxLayout>
 
 #include <memory>
@@ -50,7 +52,7 @@ QVariantMap DefaultsOf(const Catalogue::Entry& entry)
 
 WidgetPage::WidgetPage(const Catalogue::Entry& entry, QWidget* parent)
     : QWidget(parent), className(entry.className), defaults(DefaultsOf(entry)), splitter(new QSplitter),
-      inspector(new Inspector), stateBar(new StateBar)
+      inspector(new Inspector), stateBar(new StateBar), codePane(new CodePane)
 {
     // Allows the page to become narrow, so that it can rearrange itself.
     setMinimumWidth(1);
@@ -75,11 +77,12 @@ WidgetPage::~WidgetPage()
     disconnect(qApp, nullptr, this, nullptr);
 }
 
-// Returns the cards with the tools below them.
+// Returns the cards with the tools and the code below them.
 QWidget* WidgetPage::CreateMain(const Catalogue::Entry& entry)
 {
     auto* scrollArea = new QScrollArea;
     QWidget* content = CreateContent(entry);
+    scrollArea->setObjectName("states");
     scrollArea->setWidgetResizable(true);
     scrollArea->setWidget(content);
     content->setAutoFillBackground(false);
@@ -92,7 +95,12 @@ QWidget* WidgetPage::CreateMain(const Catalogue::Entry& entry)
     layout->setSpacing(0);
     layout->addWidget(scrollArea, 1);
     layout->addWidget(stateBar);
-    return main;
+    auto* mainAndCode = new QSplitter(Qt::Vertical);
+    mainAndCode->addWidget(main);
+    mainAndCode->addWidget(codePane);
+    mainAndCode->setCollapsible(0, false);
+    mainAndCode->setStretchFactor(0, 1);
+    return mainAndCode;
 }
 
 QWidget* WidgetPage::CreateContent(const Catalogue::Entry& entry)
@@ -131,6 +139,20 @@ void WidgetPage::SelectState(int index)
         cards[i]->SetSelected(i == selected);
     stateBar->SetStates(forcedStates[selected]);
     inspector->Inspect(cards[selected]->Widget(), className, defaults);
+    codePane->ShowState(*Catalogue::FindEntry(className), selected);
+}
+
+void WidgetPage::ShowState(int index)
+{
+    SelectState(index);
+    isPinned = true;
+    ScrollToSelected();
+}
+
+// Waits for the layout.
+void WidgetPage::ScrollToSelected()
+{
+    QTimer::singleShot(0, this, [this] { findChild<QScrollArea*>("states")->ensureWidgetVisible(cards[selected]); });
 }
 
 void WidgetPage::SelectCardAround(QWidget* widget)
@@ -176,12 +198,16 @@ void WidgetPage::resizeEvent(QResizeEvent* event)
     QWidget::resizeEvent(event);
     if (isNarrow != (width() < NARROW_BELOW))
         Arrange();
+    if (isPinned)
+        ScrollToSelected();
 }
 
 bool WidgetPage::eventFilter(QObject* watched, QEvent* event)
 {
-    if (event->type() == QEvent::MouseButtonPress && watched->isWidgetType())
+    if (event->type() == QEvent::MouseButtonPress && watched->isWidgetType()) {
+        isPinned = false;
         SelectCardAround(static_cast<QWidget*>(watched));
+    }
     return QWidget::eventFilter(watched, event);
 }
 

@@ -12,13 +12,14 @@ struct Entry;
 
 namespace Zelkor::Gallery {
 
+class CodePane;
 class ForcedStates;
 class Inspector;
 class StateBar;
 class StateCard;
 
 /// The page of one widget: a description, its states in captioned cards, and the tools for the selected card: a row of
-/// buttons that force states, and the inspector.
+/// buttons that force states, its code, and the inspector.
 class WidgetPage : public QWidget
 {
     Q_OBJECT
@@ -29,6 +30,9 @@ public:
 
     /// Selects a state by its index, initially 0. Ignores invalid indices.
     void SelectState(int index);
+    /// Selects a state, and keeps it in view until the mouse is pressed.
+    void ShowState(int index);
+
     int SelectedState() const { return selected; }
 
     void SetWidgetsEnabled(bool on);
@@ -49,6 +53,7 @@ private:
     QWidget* CreateMain(const Catalogue::Entry& entry);
     QWidget* CreateContent(const Catalogue::Entry& entry);
     void SelectCardAround(QWidget* widget);
+    void ScrollToSelected();
     void Arrange();
 
     const QString className;
@@ -58,8 +63,10 @@ private:
     QSplitter* splitter;
     Inspector* inspector;
     StateBar* stateBar;
+    CodePane* codePane;
     int selected = -1;
     bool isNarrow = false;
+    bool isPinned = false;
 };
 
 } // namespace Zelkor::Gallery

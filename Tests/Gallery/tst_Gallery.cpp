@@ -78,7 +78,8 @@ private Q_SLOTS:
         QTest::addColumn<int>("exitCode");
         for (const char* line : {"--no-such-option", "ZLabel", "--page NoWidget", "--shot", "--size 100x", "--size 0x0",
                                  "--scale 4 --size 8192x8192", "--scale nan", "--after -1", "--style no-such-sheet.qss",
-                                 "--shot file --shots shots", "--shot file --press Nothing"})
+                                 "--shot file --shots shots", "--shot file --press Nothing",
+                                 "--page ZLabel --state Nothing", "--page ZLabel --state 99", "--state 1"})
             QTest::newRow(line) << 2;
         for (const char* line : {"--after 0 --shot no/such/folder.png", "--shots file/folder"})
             QTest::newRow(line) << 1;

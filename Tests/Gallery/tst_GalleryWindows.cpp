@@ -1,6 +1,7 @@
 #include <Catalogue/Catalogue.h>
 #include <Examples/Support/Appearance.h>
 #include <Examples/Support/BuiltInStyleSheets.h>
+#include <Gallery/Browser/CodePane.h>
 #include <Gallery/Browser/GalleryWindow.h>
 #include <Gallery/Browser/StateCard.h>
 #include <Gallery/Browser/WidgetPage.h>
@@ -110,19 +111,57 @@ private Q_SLOTS:
         }
     }
 
-    void searchShowsMatchesUnderTheirHeadings()
+    void searchRanksHits_data()
+    {
+        QTest::addColumn<QStringList>("hits");
+        QTest::newRow("colorb") << QStringList{"By name", "ColorButton", "By property, signal or part",
+                                               "VolumeSlider\ncolorBackground"};
+        QTest::newRow("meter level") << QStringList{"By description", "VolumeSlider"};
+        QTest::newRow("countdownind") << QStringList{"By name", "CountdownIndicatorWidget"};
+        QTest::newRow("maskanchor") << QStringList{"By property, signal or part", "PixmapWidget\nmaskAnchor"};
+        QTest::newRow("#popUpC") << QStringList{"By property, signal or part",
+                                                "ButtonWithPopUpContainer\n#popUpContainer"};
+        QTest::newRow("no such thing") << QStringList{"Nothing found"};
+    }
+
+    void searchRanksHits()
+    {
+        QFETCH(QStringList, hits);
+        QTest::keyClicks(gallery->findChild<QLineEdit*>("pageSearch"), QTest::currentDataTag());
+        QCOMPARE(VisiblePages(), hits);
+    }
+
+    void searchIsWalkedWithTheKeys()
     {
         QVERIFY(QTest::qWaitForWindowActive(gallery.get()));
         auto* search = gallery->findChild<QLineEdit*>("pageSearch");
-        const int pages = VisiblePages().size();
+        const QStringList pages = VisiblePages();
         QTest::keyClick(gallery.get(), Qt::Key_F, Qt::ControlModifier);
         QTRY_VERIFY(search->hasFocus());
-        QTest::keyClicks(search, "colorb");
-        QCOMPARE(VisiblePages(), QStringList({"Buttons", "ColorButton"}));
-        QTest::keyClick(search, Qt::Key_Return);
-        QCOMPARE(list->currentItem()->text(), QString("ColorButton"));
+        QTest::keyClicks(search, "combob");
+        QTest::keyClick(search, Qt::Key_Down);
+        QVERIFY(list->hasFocus());
+        QCOMPARE(list->currentItem()->text(), QString("ClickSoundComboBox"));
+        QVERIFY(Page());
+        QTest::keyClick(list, Qt::Key_X);
+        QVERIFY(search->hasFocus());
+        QCOMPARE(search->text(), QString("combobx"));
         QTest::keyClick(search, Qt::Key_Escape);
-        QCOMPARE(VisiblePages().size(), pages);
+        QCOMPARE(VisiblePages(), pages);
+        QCOMPARE(list->currentItem()->text(), QString("ClickSoundComboBox"));
+    }
+
+    void codePaneCopiesTheCodeOfTheSelectedState()
+    {
+        gallery->OpenPage("VolumeSlider", 2);
+        auto* pane = Page()->findChild<CodePane*>();
+        pane->findChild<QToolButton*>("copyCode")->click();
+        QVERIFY(QApplication::clipboard()->text().endsWith("slider->SetVolumes(1, 1);\n"));
+        pane->findChild<QTabBar*>()->setCurrentIndex(1);
+        pane->findChild<QToolButton*>("copyCode")->click();
+        QVERIFY(QApplication::clipboard()->text().startsWith("<ui version"));
+        pane->findChild<QToolButton*>("copyLink")->click();
+        QVERIFY(QApplication::clipboard()->text().endsWith("--page VolumeSlider --state 3"));
     }
 
     void languageChangesWhileAPageIsOpen()
