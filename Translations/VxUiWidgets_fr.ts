@@ -257,7 +257,7 @@
     </message>
     <message>
         <source>&amp;Revert</source>
-        <translation>&amp;Rétablir</translation>
+        <translation>Ré&amp;tablir</translation>
     </message>
     <message>
         <source>Read &amp;from the target</source>
@@ -294,6 +294,18 @@
     <message>
         <source>%1: %2</source>
         <translation>%1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Annuler</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>Ré&amp;tablir</translation>
+    </message>
+    <message>
+        <source>C&amp;opy</source>
+        <translation>C&amp;opier</translation>
     </message>
 </context>
 <context>

@@ -72,6 +72,10 @@ void StyleSheetEditorUi::makeCommands(QWidget* window, QMenuBar* bar)
     save = MakeAction(window, fileMenu, {QKeySequence::Save});
     saveAs = MakeAction(window, fileMenu, {Qt::CTRL | Qt::SHIFT | Qt::Key_S});
     editMenu = bar->addMenu(QString());
+    undo = MakeAction(window, editMenu, {QKeySequence::Undo});
+    redo = MakeAction(window, editMenu, QKeySequence::keyBindings(QKeySequence::Redo));
+    copy = MakeAction(window, editMenu, {QKeySequence::Copy});
+    editMenu->addSeparator();
     find = MakeAction(window, editMenu, {Qt::CTRL | Qt::Key_F, Qt::CTRL | Qt::Key_H});
     findNext = MakeAction(window, editMenu, {Qt::Key_F3});
     findPrevious = MakeAction(window, editMenu, {Qt::SHIFT | Qt::Key_F3});
@@ -121,6 +125,9 @@ void StyleSheetEditorUi::retranslate()
     save->setText(tr("&Save"));
     saveAs->setText(tr("Save &as..."));
     editMenu->setTitle(tr("&Edit"));
+    undo->setText(tr("&Undo"));
+    redo->setText(tr("&Redo"));
+    copy->setText(tr("C&opy"));
     find->setText(tr("&Find and replace"));
     findNext->setText(tr("Find &next"));
     findPrevious->setText(tr("Find &previous"));

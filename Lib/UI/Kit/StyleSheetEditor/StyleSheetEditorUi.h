@@ -61,6 +61,9 @@ public:
     QAction* open;
     QAction* save;
     QAction* saveAs;
+    QAction* undo;
+    QAction* redo;
+    QAction* copy;
     QAction* find;
     QAction* findNext;
     QAction* findPrevious;

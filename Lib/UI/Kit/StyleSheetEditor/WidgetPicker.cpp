@@ -3,13 +3,15 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
-#include <QPointer>
+#include <QPainter>
 #include <QWidget>
 #include <QWindow>
 
 namespace Zelkor::Vx::UI::Kit {
 
 namespace {
+
+constexpr int OUTLINE_WIDTH = 2;
 
 // Presses are delivered to a QWindow first, which moves the focus, and then to a widget.
 QWidget* WidgetAt(QWindow* window, const QPoint& place)
@@ -22,6 +24,30 @@ QWidget* WidgetAt(QWindow* window, const QPoint& place)
     return child ? child : widget;
 }
 
+/// A frame over a widget, in the window of the widget.
+class Outline : public QWidget
+{
+public:
+    explicit Outline(const QWidget* widget) : QWidget(widget->window())
+    {
+        setAttribute(Qt::WA_TransparentForMouseEvents);
+        setGeometry(QRect(widget->mapTo(widget->window(), QPoint()), widget->size()));
+        raise();
+        show();
+    }
+
+protected:
+    // Two colours, to be visible on any background.
+    void paintEvent(QPaintEvent*) override
+    {
+        QPainter painter(this);
+        painter.setPen(QPen(palette().color(QPalette::Highlight), 2 * OUTLINE_WIDTH));
+        painter.drawRect(rect());
+        painter.setPen(Qt::white);
+        painter.drawRect(rect().adjusted(OUTLINE_WIDTH, OUTLINE_WIDTH, -OUTLINE_WIDTH - 1, -OUTLINE_WIDTH - 1));
+    }
+};
+
 } // namespace
 
 WidgetPicker::WidgetPicker(QWidget* except, QObject* parent) : QObject(parent), except(except) {}
@@ -30,6 +56,7 @@ WidgetPicker::~WidgetPicker()
 {
     if (running)
         QApplication::restoreOverrideCursor();
+    delete outline;
 }
 
 void WidgetPicker::start()
@@ -47,6 +74,7 @@ void WidgetPicker::stop()
     if (!running)
         return;
     running = false;
+    pointTo(nullptr);
     QApplication::restoreOverrideCursor();
     if (!swallowsRelease)
         qApp->removeEventFilter(this);
@@ -62,6 +90,18 @@ bool WidgetPicker::isPickable(const QWidget* widget) const
     return widget && !part;
 }
 
+void WidgetPicker::pointTo(QWidget* widget)
+{
+    if (pointedWidget == widget)
+        return;
+    pointedWidget = widget;
+    delete outline;
+    if (!widget)
+        return;
+    outline = new Outline(widget);
+    Q_EMIT pointed(widget);
+}
+
 bool WidgetPicker::eventFilter(QObject* watched, QEvent* event)
 {
     QPointer<QWidget> widget = qobject_cast<QWidget*>(watched);
@@ -71,8 +111,19 @@ bool WidgetPicker::eventFilter(QObject* watched, QEvent* event)
     case QEvent::Enter:
         if (!running || !isPickable(widget))
             break;
-        Q_EMIT pointed(widget);
+        pointTo(widget);
         return !widget; // a slot may have deleted it
+    case QEvent::MouseMove:
+        // Widgets get no event when the pointer leaves one of their children.
+        if (!running || !window)
+            break;
+        widget = WidgetAt(window, static_cast<QMouseEvent*>(event)->pos());
+        pointTo(isPickable(widget) ? widget.data() : nullptr);
+        return !self;
+    case QEvent::Leave:
+        if (running && window)
+            pointTo(nullptr);
+        break;
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:
         if (!running && widget) {

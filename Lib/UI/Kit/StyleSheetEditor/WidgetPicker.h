@@ -1,13 +1,14 @@
 #pragma once
 
 #include <QObject>
+#include <QPointer>
 
 class QWidget;
 
 namespace Zelkor::Vx::UI::Kit {
 
-/// Lets the user pick a widget of the application. While it runs, a click picks the widget under the mouse pointer and
-/// has no other effect. Escape cancels.
+/// Lets the user pick a widget of the application. While it runs, the widget under the mouse pointer has an outline,
+/// and a click picks it and has no other effect. Escape cancels.
 class WidgetPicker : public QObject
 {
     Q_OBJECT
@@ -24,7 +25,7 @@ public:
     void stop();
 
 Q_SIGNALS:
-    /// Emitted when the mouse pointer enters a widget that a click would pick.
+    /// Emitted when the mouse pointer moves to another widget that a click would pick.
     void pointed(QWidget* widget);
 
     /// Emitted after stopped(), unless a slot of that signal deleted the widget.
@@ -38,8 +39,11 @@ protected:
 
 private:
     bool isPickable(const QWidget* widget) const;
+    void pointTo(QWidget* widget);
 
     QWidget* except;
+    QPointer<QWidget> pointedWidget;
+    QPointer<QWidget> outline;
     bool running = false;
     bool swallowsRelease = false;    ///< of the press that picked
     bool isReleasedInWindow = false; ///< whether the press was delivered to a QWindow rather than a widget

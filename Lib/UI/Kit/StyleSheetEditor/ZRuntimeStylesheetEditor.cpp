@@ -12,12 +12,14 @@
 #include <UI/Kit/StyleSheetEditor/WidgetPicker.h>
 
 #include <QAction>
+#include <QApplication>
 #include <QCheckBox>
 #include <QCloseEvent>
 #include <QFileInfo>
 #include <QPushButton>
 #include <QTimer>
 #include <QToolButton>
+#include <QWindow>
 
 #include <functional>
 #include <utility>
@@ -28,6 +30,10 @@ using namespace Zelkor::Vx::UI::Kit;
 namespace {
 
 constexpr QSize WINDOW_SIZE(640, 600);
+// A dialog is in front of its transient parent.
+constexpr Qt::WindowFlags WINDOW_FLAGS(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                                       Qt::WindowSystemMenuHint | Qt::WindowMinMaxButtonsHint |
+                                       Qt::WindowCloseButtonHint);
 constexpr int TYPING_PAUSE = 300; ///< milliseconds without a key before the text is checked
 
 /// The editor may be a window or a part of one.
@@ -92,7 +98,7 @@ ZRuntimeStylesheetEditor::Impl::Impl(ZRuntimeStylesheetEditor* window)
 }
 
 ZRuntimeStylesheetEditor::ZRuntimeStylesheetEditor(QWidget* parent)
-    : QWidget(parent), impl(std::make_unique<Impl>(this))
+    : QWidget(parent, parent ? Qt::WindowFlags() : WINDOW_FLAGS), impl(std::make_unique<Impl>(this))
 {
     Common::AccessibleFactory<ZRuntimeStylesheetEditor, AccessibleEditor>::Install();
     resize(WINDOW_SIZE);
@@ -149,6 +155,16 @@ void ZRuntimeStylesheetEditor::Impl::connectCommands()
     on(ui.open, [this] { afterSaving([this] { showFileDialog(QFileDialog::AcceptOpen); }); });
     on(ui.save, [this] { save(); });
     on(ui.saveAs, [this] { showFileDialog(QFileDialog::AcceptSave); });
+    on(ui.undo, [this] { ui.editor->undo(); });
+    on(ui.redo, [this] { ui.editor->redo(); });
+    on(ui.copy, [this] { ui.editor->copy(); });
+    using Available = void (QPlainTextEdit::*)(bool);
+    for (const auto& [action, available] : {std::pair<QAction*, Available>(ui.undo, &QPlainTextEdit::undoAvailable),
+                                            {ui.redo, &QPlainTextEdit::redoAvailable},
+                                            {ui.copy, &QPlainTextEdit::copyAvailable}}) {
+        action->setEnabled(false);
+        connect(ui.editor, available, action, &QAction::setEnabled);
+    }
     on(ui.find, [this] { window->openSearch(); });
     on(ui.findNext, [this] { ui.search->findNext(); });
     on(ui.findPrevious, [this] { ui.search->findPrevious(); });
@@ -416,6 +432,9 @@ void ZRuntimeStylesheetEditor::showEvent(QShowEvent* event)
     if (event->spontaneous())
         return;
     impl->followTarget();
+    const QWidget* active = QApplication::activeWindow();
+    if (isWindow() && !parentWidget() && active && active != this)
+        windowHandle()->setTransientParent(active->windowHandle());
     // Qt would focus the first child.
     if (isWindow() && !focusWidget())
         impl->ui.editor->setFocus();

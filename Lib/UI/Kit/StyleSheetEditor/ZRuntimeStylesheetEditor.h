@@ -9,7 +9,8 @@
 /// The sheet is checked while it is typed. Mistakes are marked, and a sheet that Qt rejects as a whole is not applied.
 /// Names of classes, objects and properties of the application are offered as completions. Files are UTF-8. Before
 /// unsaved changes are lost, the window asks, without a modal dialog. An unmodified text is replaced by the sheet of
-/// the target whenever the target is set or the editor is shown. GUI thread only.
+/// the target whenever the target is set or the editor is shown. An editor without a parent is in front of the window
+/// that was active when it was shown. GUI thread only.
 class ZRuntimeStylesheetEditor : public QWidget
 {
     Q_OBJECT

@@ -1,3 +1,4 @@
+#include <UI/Kit/ZRuntimeStylesheetEditor.h>
 #include <UI/Kit/ZWindowChrome.h>
 #include <UI/Widgets/CustomTitleBar.h>
 
@@ -373,6 +374,20 @@ private Q_SLOTS:
         ZWindowChrome lonely(nullptr);
         lonely.setResizeBorder(9);
         QCOMPARE(lonely.resizeBorder(), 0);
+    }
+
+    void styleSheetEditorIsInFrontOfTheWindow()
+    {
+        QWidget window;
+        window.setGeometry(PLACE);
+        Support::ShowActive(window);
+        ZRuntimeStylesheetEditor editor;
+        editor.setGeometry(PLACE);
+        Support::ShowActive(editor);
+        window.activateWindow();
+        window.raise();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        QTRY_COMPARE(QApplication::topLevelAt(PLACE.center()), &editor);
     }
 };
 

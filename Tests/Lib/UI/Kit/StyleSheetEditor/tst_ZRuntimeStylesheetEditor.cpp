@@ -8,6 +8,8 @@
 #include <Support/Input.h>
 #include <Support/TestCase.h>
 
+#include <QAction>
+#include <QClipboard>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -114,6 +116,28 @@ private Q_SLOTS:
         QCOMPARE(editor->text(), RED);
     }
 
+    void menuUndoesRedoesAndCopies()
+    {
+        const auto action = [this](const QString& text) {
+            for (QAction* candidate : editor->actions()) {
+                if (candidate->text().remove('&') == text)
+                    return candidate;
+            }
+            return static_cast<QAction*>(nullptr);
+        };
+        QVERIFY(!action("Undo")->isEnabled());
+        QVERIFY(!action("Copy")->isEnabled());
+        QTest::keyClicks(code, "A");
+        action("Undo")->trigger();
+        QCOMPARE(code->toPlainText(), QString());
+        QVERIFY(!action("Undo")->isEnabled());
+        action("Redo")->trigger();
+        QVERIFY(!action("Redo")->isEnabled());
+        code->selectAll();
+        action("Copy")->trigger();
+        QCOMPARE(QApplication::clipboard()->text(), QString("A"));
+    }
+
     void targetMayBeDestroyed()
     {
         editor->setTarget(label.get());
@@ -175,6 +199,7 @@ private Q_SLOTS:
     void clickPicksTheTarget()
     {
         QWidget window;
+        window.resize(300, 200);
         auto* field = new QLineEdit(&window);
         auto* button = new QPushButton("A", &window);
         button->move(0, 50);
@@ -186,6 +211,12 @@ private Q_SLOTS:
         auto* picker = editor->findChild<WidgetPicker*>();
         QTest::mouseClick(pick, Qt::LeftButton);
         QVERIFY(picker->isRunning());
+        const QPoint corner = button->geometry().bottomRight();
+        const QImage plain = window.grab().toImage();
+        QTest::mouseMove(window.windowHandle(), button->geometry().center());
+        QTRY_VERIFY(window.grab().toImage().pixel(corner) != plain.pixel(corner));
+        QTest::mouseMove(window.windowHandle(), button->geometry().topRight() + QPoint(5, 0));
+        QTRY_COMPARE(window.grab().toImage().pixel(corner), plain.pixel(corner));
         window.activateWindow();
         QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {}, button->geometry().center());
         QCOMPARE(editor->target(), button);
@@ -193,6 +224,7 @@ private Q_SLOTS:
         QTRY_COMPARE(QApplication::focusWidget(), code);
         QVERIFY(!pick->isChecked());
         QVERIFY(!QApplication::overrideCursor());
+        QCOMPARE(window.findChildren<QWidget*>().size(), 2);
         QCOMPARE(clicked.size(), 0);
         pick->setChecked(true);
         // Parts of the editor are not picked, even in another window.
