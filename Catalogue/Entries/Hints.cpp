@@ -3,8 +3,8 @@
 #include <Examples/Support/WidgetTexts.h>
 #include <UI/Widgets/MaskedToolTip.h>
 
+#include <QHBoxLayout>
 #include <QPushButton>
-#include <QVBoxLayout>
 #include <QVariant>
 
 #include <utility>
@@ -33,18 +33,20 @@ public:
         look->setAttribute(Qt::WA_TransparentForMouseEvents);
         look->SetHideOnDeactivate(false);
         hint->SetDisplayTime(HINT_TIME_MS);
-        auto* layout = new QVBoxLayout(this);
+        // Side by side: above or below the button, the hint would cover its copy.
+        auto* layout = new QHBoxLayout(this);
         layout->setContentsMargins(0, 0, 0, 0);
         layout->setSpacing(HINT_DISTANCE);
-        layout->addWidget(look, 0, Qt::AlignLeading);
-        layout->addWidget(button, 0, Qt::AlignLeading);
+        layout->addWidget(look, 0, Qt::AlignTop);
+        layout->addWidget(button, 0, Qt::AlignTop);
         connect(button, &QPushButton::clicked, this, [this] {
             // The point is relative to the last position of the window.
             hint->move(0, 0);
             // A speech bubble points down at the button.
             const bool isBubble = !hint->GetMask().isNull();
+            const int x = isRightToLeft() ? button->width() - look->width() : 0;
             const int y = isBubble ? -BUBBLE_SIZE.height() - HINT_DISTANCE : button->height() + HINT_DISTANCE;
-            hint->Show(button->mapToGlobal(QPoint(0, y)));
+            hint->Show(button->mapToGlobal(QPoint(x, y)));
         });
     }
 
