@@ -28,9 +28,9 @@ void Declare(QCommandLineParser& parser)
         {"page", "Opens the page NAME instead of the start page.", "NAME"},
         {"state", "Selects a state of the page, by its name or its number from 1.", "STATE"},
         {"style",
-         "Takes another style sheet: dark, light or a file. The icons of a file lie beside it in a folder of "
-         "the same name.",
-         "FILE", "dark"},
+         "Takes another style sheet: system, dark, light or a file. The icons of a file lie beside it in a "
+         "folder of the same name.",
+         "FILE", "system"},
         {"shot", "Writes a picture of the page as PNG, and ends.", "FILE"},
         {"shots", "Writes a picture of each page as PNG, and ends.", "DIR"},
         {"pictures", "Writes a small picture of each widget alone as PNG, and ends.", "DIR"},
@@ -100,7 +100,8 @@ QString TakeValues(const QCommandLineParser& parser, Options& options)
         (parser.isSet("shots") || parser.isSet("shot") || parser.isSet("page") || parser.isSet("press")))
         return "--pictures shows no page, so --shot, --shots, --page and --press do not go with it";
     options.styleArgument = parser.value("style");
-    Examples::LoadStyleSheet(options.styleArgument, &error);
+    if (!Examples::IsBuiltInStyleSheet(options.styleArgument))
+        Examples::LoadStyleSheet(options.styleArgument, &error);
     return error;
 }
 

@@ -16,7 +16,7 @@ struct Options
     bool list = false;
     QString page;          ///< empty for the start page
     int state = 0;         ///< index of the selected state of the page
-    QString styleArgument; ///< "dark", "light" or a file
+    QString styleArgument; ///< the name of a style, or a file
     QString shot;          ///< file for a picture of the page, or empty
     QString shots;         ///< folder for a picture of each page, or empty
     QString pictures;      ///< folder for a picture of each single widget, or empty

@@ -1230,6 +1230,21 @@ und nicht breit</translation>
     </message>
 </context>
 <context>
+    <name>Zelkor::Examples::Appearance</name>
+    <message>
+        <source>System</source>
+        <translation>System</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Dunkel</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Hell</translation>
+    </message>
+</context>
+<context>
     <name>Zelkor::Gallery::CodePane</name>
     <message>
         <source>Code</source>
@@ -1445,14 +1460,6 @@ Vorgabe: %3</translation>
         <translation>Szene</translation>
     </message>
     <message>
-        <source>Light</source>
-        <translation>Hell</translation>
-    </message>
-    <message>
-        <source>Light style sheet instead of the dark one</source>
-        <translation>Helles statt dunkles Stylesheet</translation>
-    </message>
-    <message>
         <source>Right to left</source>
         <translation>Rechts nach links</translation>
     </message>
@@ -1495,6 +1502,14 @@ Vorgabe: %3</translation>
     <message>
         <source>Language</source>
         <translation>Sprache</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>Appearance</source>
+        <translation>Darstellung</translation>
     </message>
 </context>
 <context>

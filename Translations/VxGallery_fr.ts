@@ -1230,6 +1230,21 @@ et peu large</translation>
     </message>
 </context>
 <context>
+    <name>Zelkor::Examples::Appearance</name>
+    <message>
+        <source>System</source>
+        <translation>Système</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Sombre</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Clair</translation>
+    </message>
+</context>
+<context>
     <name>Zelkor::Gallery::CodePane</name>
     <message>
         <source>Code</source>
@@ -1445,14 +1460,6 @@ Par défaut&#xa0;: %3</translation>
         <translation>Scène</translation>
     </message>
     <message>
-        <source>Light</source>
-        <translation>Clair</translation>
-    </message>
-    <message>
-        <source>Light style sheet instead of the dark one</source>
-        <translation>Feuille de style claire au lieu de la sombre</translation>
-    </message>
-    <message>
         <source>Right to left</source>
         <translation>Droite à gauche</translation>
     </message>
@@ -1495,6 +1502,14 @@ Par défaut&#xa0;: %3</translation>
     <message>
         <source>Language</source>
         <translation>Langue</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Fichier</translation>
+    </message>
+    <message>
+        <source>Appearance</source>
+        <translation>Apparence</translation>
     </message>
 </context>
 <context>

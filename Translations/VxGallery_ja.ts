@@ -1230,6 +1230,21 @@ and not wide</source>
     </message>
 </context>
 <context>
+    <name>Zelkor::Examples::Appearance</name>
+    <message>
+        <source>System</source>
+        <translation>システム</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>ダーク</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>ライト</translation>
+    </message>
+</context>
+<context>
     <name>Zelkor::Gallery::CodePane</name>
     <message>
         <source>Code</source>
@@ -1445,14 +1460,6 @@ Default: %3</source>
         <translation>表示環境</translation>
     </message>
     <message>
-        <source>Light</source>
-        <translation>ライト</translation>
-    </message>
-    <message>
-        <source>Light style sheet instead of the dark one</source>
-        <translation>ダークの代わりにライトのスタイルシート</translation>
-    </message>
-    <message>
         <source>Right to left</source>
         <translation>右から左</translation>
     </message>
@@ -1495,6 +1502,14 @@ Default: %3</source>
     <message>
         <source>Language</source>
         <translation>言語</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>ファイル</translation>
+    </message>
+    <message>
+        <source>Appearance</source>
+        <translation>外観</translation>
     </message>
 </context>
 <context>

@@ -13,6 +13,21 @@
     </message>
 </context>
 <context>
+    <name>Zelkor::Examples::Appearance</name>
+    <message>
+        <source>System</source>
+        <translation>System</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Dunkel</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Hell</translation>
+    </message>
+</context>
+<context>
     <name>Zelkor::Recorder::AudioPanel</name>
     <message>
         <source>Test signal</source>
@@ -248,14 +263,6 @@
     <message>
         <source>As given</source>
         <translation>Wie vorgegeben</translation>
-    </message>
-    <message>
-        <source>Dark</source>
-        <translation>Dunkel</translation>
-    </message>
-    <message>
-        <source>Light</source>
-        <translation>Hell</translation>
     </message>
     <message>
         <source>Countdown</source>

@@ -13,6 +13,21 @@
     </message>
 </context>
 <context>
+    <name>Zelkor::Examples::Appearance</name>
+    <message>
+        <source>System</source>
+        <translation>Système</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Sombre</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Clair</translation>
+    </message>
+</context>
+<context>
     <name>Zelkor::Recorder::AudioPanel</name>
     <message>
         <source>Test signal</source>
@@ -248,14 +263,6 @@
     <message>
         <source>As given</source>
         <translation>Selon le fichier indiqué</translation>
-    </message>
-    <message>
-        <source>Dark</source>
-        <translation>Sombre</translation>
-    </message>
-    <message>
-        <source>Light</source>
-        <translation>Clair</translation>
     </message>
     <message>
         <source>Countdown</source>

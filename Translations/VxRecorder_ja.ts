@@ -13,6 +13,21 @@
     </message>
 </context>
 <context>
+    <name>Zelkor::Examples::Appearance</name>
+    <message>
+        <source>System</source>
+        <translation>システム</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>ダーク</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>ライト</translation>
+    </message>
+</context>
+<context>
     <name>Zelkor::Recorder::AudioPanel</name>
     <message>
         <source>Test signal</source>
@@ -248,14 +263,6 @@
     <message>
         <source>As given</source>
         <translation>指定どおり</translation>
-    </message>
-    <message>
-        <source>Dark</source>
-        <translation>ダーク</translation>
-    </message>
-    <message>
-        <source>Light</source>
-        <translation>ライト</translation>
     </message>
     <message>
         <source>Countdown</source>

@@ -230,8 +230,8 @@ void SettingsDialog::Retranslate()
     style->clear();
     if (appearance->StyleName().isEmpty())
         style->addItem(tr("As given"), QString());
-    style->addItem(tr("Dark"), QStringLiteral("dark"));
-    style->addItem(tr("Light"), QStringLiteral("light"));
+    for (const Style& item : Appearance::AllStyles())
+        style->addItem(item.title, item.name);
     style->setCurrentIndex(style->findData(appearance->StyleName()));
 
     Name(countdownLabel, countdown, tr("Countdown"));

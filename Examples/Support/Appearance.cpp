@@ -22,12 +22,18 @@ bool Appearance::SetLanguage(const QString& code)
     return found;
 }
 
+QVector<Style> Appearance::AllStyles()
+{
+    return {{"system", tr("System")},
+            {"dark", tr("Dark")},
+            {"light", tr("Light")},
+            {"high-contrast", tr("High contrast")}};
+}
+
 bool Appearance::SetStyle(const QString& nameOrFile, QString* error)
 {
-    const auto sheet = LoadStyleSheet(nameOrFile, error);
-    if (!sheet)
+    if (!ApplyStyleSheet(nameOrFile, error))
         return false;
-    sheet->apply();
     const QString name = IsBuiltInStyleSheet(nameOrFile) ? nameOrFile : QString();
     if (styleName != name) {
         styleName = name;

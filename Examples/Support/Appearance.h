@@ -4,8 +4,16 @@
 
 #include <QObject>
 #include <QString>
+#include <QVector>
 
 namespace Zelkor::Examples {
+
+/// A style sheet that is linked into the program.
+struct Style
+{
+    QString name;  ///< for `Appearance::SetStyle`
+    QString title; ///< in the current language
+};
 
 /// Language and style sheet of the application, switched at run time. GUI thread.
 class Appearance : public QObject
@@ -22,11 +30,15 @@ public:
     /// Returns false and falls back to English when there are no translations for `code`.
     bool SetLanguage(const QString& code);
 
-    /// "dark", "light", "high-contrast", or empty for a style sheet from a file.
+    /// Returns the styles that the user can choose from. The first one, "system", follows the light or dark setting of
+    /// the system.
+    static QVector<Style> AllStyles();
+
+    /// The name of one of these, or empty for a style sheet from a file.
     QString StyleName() const { return styleName; }
 
-    /// Applies a style sheet, see `LoadStyleSheet`. Returns false, sets `error` and keeps the current one when it
-    /// cannot be read.
+    /// Applies "system", or a style sheet, see `LoadStyleSheet`. Returns false, sets `error` and keeps the current one
+    /// when it cannot be read.
     bool SetStyle(const QString& nameOrFile, QString* error = nullptr);
 
 Q_SIGNALS:

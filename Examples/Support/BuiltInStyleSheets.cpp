@@ -6,19 +6,26 @@ namespace Zelkor::Examples {
 
 namespace {
 
-const QHash<QString, QString> SHEETS = {{"dark", "Dark"}, {"light", "Light"}, {"high-contrast", "HighContrast"}};
+const QHash<QString, QString> SHEETS = {
+    {"dark", ":/Styles/Dark.qss"}, {"light", ":/Styles/Light.qss"}, {"high-contrast", ":/Styles/HighContrast.qss"}};
 
 } // namespace
 
 bool IsBuiltInStyleSheet(const QString& name)
 {
-    return SHEETS.contains(name);
+    return name == "system" || SHEETS.contains(name);
+}
+
+bool ApplyStyleSheet(const QString& nameOrFile, QString* error)
+{
+    if (nameOrFile == "system")
+        return ZStyleSheet::followSystem(SHEETS["light"], SHEETS["dark"], error);
+    return ZStyleSheet::applyFile(SHEETS.value(nameOrFile, nameOrFile), error);
 }
 
 std::optional<ZStyleSheet> LoadStyleSheet(const QString& nameOrFile, QString* error)
 {
-    const bool isBuiltIn = IsBuiltInStyleSheet(nameOrFile);
-    return ZStyleSheet::load(isBuiltIn ? ":/Styles/" + SHEETS[nameOrFile] + ".qss" : nameOrFile, error);
+    return ZStyleSheet::load(SHEETS.value(nameOrFile, nameOrFile), error);
 }
 
 } // namespace Zelkor::Examples

@@ -53,7 +53,7 @@ void SetButtonStyle(QToolButton* button, Qt::ToolButtonStyle style)
 } // namespace
 
 SceneBar::SceneBar(Appearance* appearance, double scale, QWidget* parent)
-    : QWidget(parent), appearance(appearance), scale(scale), style(AddButton("palette", true)),
+    : QWidget(parent), appearance(appearance), scale(scale), style(AddButton("palette", false)),
       direction(AddButton("direction", true)), language(AddButton("globe", false)), scaling(AddButton("zoom", false)),
       enabled(AddButton("check", true)), styleEditor(AddButton("style", false)), inspector(AddButton("inspector", true))
 {
@@ -71,7 +71,6 @@ SceneBar::SceneBar(Appearance* appearance, double scale, QWidget* parent)
     }
     enabled->setChecked(true);
     FillMenus();
-    connect(style, &QToolButton::clicked, this, [this](bool on) { this->appearance->SetStyle(on ? "light" : "dark"); });
     connect(direction, &QToolButton::clicked, this,
             [](bool on) { QApplication::setLayoutDirection(on ? Qt::RightToLeft : Qt::LeftToRight); });
     connect(enabled, &QToolButton::toggled, this, &SceneBar::EnabledChanged);
@@ -95,6 +94,7 @@ QToolButton* SceneBar::AddButton(const char* icon, bool checkable)
 
 void SceneBar::FillMenus()
 {
+    style->setObjectName("styleButton");
     language->setObjectName("languageButton");
     scaling->setObjectName("scaleButton");
     QMenu* languages = MakeMenu(language);
@@ -104,6 +104,16 @@ void SceneBar::FillMenus()
         action->setCheckable(true);
         connect(action, &QAction::triggered, this, [this, code = item.code] {
             appearance->SetLanguage(code);
+            ShowAppearance();
+        });
+    }
+    QMenu* styles = MakeMenu(style);
+    for (const Style& item : Appearance::AllStyles()) {
+        QAction* action = styles->addAction(QString());
+        action->setData(item.name);
+        action->setCheckable(true);
+        connect(action, &QAction::triggered, this, [this, name = item.name] {
+            appearance->SetStyle(name);
             ShowAppearance();
         });
     }
@@ -139,7 +149,6 @@ bool SceneBar::AreWidgetsEnabled() const
 void SceneBar::Retranslate()
 {
     setAccessibleName(tr("Scene"));
-    Name(style, tr("Light"), tr("Light style sheet instead of the dark one"));
     Name(direction, tr("Right to left"), tr("Lay out from right to left"));
     Name(scaling, ScaleText(scale), tr("Scale. Another one starts the gallery anew, with this page."));
     Name(enabled, tr("Enabled"), tr("Enable the widgets of the page"));
@@ -156,7 +165,15 @@ void SceneBar::Retranslate()
 
 void SceneBar::ShowAppearance()
 {
-    style->setChecked(appearance->StyleName() == "light");
+    Name(style, tr("File"), tr("Appearance"));
+    const QVector<Style> styles = Appearance::AllStyles();
+    for (int i = 0; i < styles.size(); ++i) {
+        QAction* action = style->menu()->actions().at(i);
+        action->setText(styles[i].title);
+        action->setChecked(styles[i].name == appearance->StyleName());
+        if (action->isChecked())
+            Name(style, styles[i].title, tr("Appearance"));
+    }
     direction->setChecked(QApplication::layoutDirection() == Qt::RightToLeft);
     QString name = appearance->Language();
     for (QAction* action : language->menu()->actions()) {
