@@ -28,8 +28,8 @@ void Declare(QCommandLineParser& parser)
         {"page", "Opens the page NAME instead of the start page.", "NAME"},
         {"state", "Selects a state of the page, by its name or its number from 1.", "STATE"},
         {"style",
-         "Takes another style sheet: system, dark, light or a file. The icons of a file lie beside it in a "
-         "folder of the same name.",
+         "Takes another style sheet: system, dark, light, high-contrast or a file. The icons of a file lie "
+         "beside it in a folder of the same name.",
          "FILE", "system"},
         {"shot", "Writes a picture of the page as PNG, and ends.", "FILE"},
         {"shots", "Writes a picture of each page as PNG, and ends.", "DIR"},

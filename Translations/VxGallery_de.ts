@@ -1243,6 +1243,10 @@ und nicht breit</translation>
         <source>Light</source>
         <translation>Hell</translation>
     </message>
+    <message>
+        <source>High contrast</source>
+        <translation>Hoher Kontrast</translation>
+    </message>
 </context>
 <context>
     <name>Zelkor::Gallery::CodePane</name>

@@ -1243,6 +1243,10 @@ et peu large</translation>
         <source>Light</source>
         <translation>Clair</translation>
     </message>
+    <message>
+        <source>High contrast</source>
+        <translation>Contraste élevé</translation>
+    </message>
 </context>
 <context>
     <name>Zelkor::Gallery::CodePane</name>

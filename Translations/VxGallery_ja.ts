@@ -1243,6 +1243,10 @@ and not wide</source>
         <source>Light</source>
         <translation>ライト</translation>
     </message>
+    <message>
+        <source>High contrast</source>
+        <translation>ハイコントラスト</translation>
+    </message>
 </context>
 <context>
     <name>Zelkor::Gallery::CodePane</name>

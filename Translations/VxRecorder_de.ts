@@ -26,6 +26,10 @@
         <source>Light</source>
         <translation>Hell</translation>
     </message>
+    <message>
+        <source>High contrast</source>
+        <translation>Hoher Kontrast</translation>
+    </message>
 </context>
 <context>
     <name>Zelkor::Recorder::AudioPanel</name>

@@ -26,6 +26,10 @@
         <source>Light</source>
         <translation>Clair</translation>
     </message>
+    <message>
+        <source>High contrast</source>
+        <translation>Contraste élevé</translation>
+    </message>
 </context>
 <context>
     <name>Zelkor::Recorder::AudioPanel</name>

@@ -26,6 +26,10 @@
         <source>Light</source>
         <translation>ライト</translation>
     </message>
+    <message>
+        <source>High contrast</source>
+        <translation>ハイコントラスト</translation>
+    </message>
 </context>
 <context>
     <name>Zelkor::Recorder::AudioPanel</name>

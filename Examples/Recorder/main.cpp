@@ -43,7 +43,7 @@ void Declare(QCommandLineParser& parser)
                                      "recorded.");
     parser.addOptions({
         {{"h", "help"}, "Shows this help."},
-        {"style", "Uses the style sheet system, dark, light, or a file.", "FILE", "system"},
+        {"style", "Uses the style sheet system, dark, light, high-contrast, or a file.", "FILE", "system"},
         {"language", "Uses the translations of a language, for instance de.", "L"},
         {"rtl", "Lays out from right to left."},
         {"trimmer", "Opens the trimmer instead of the recorder."},
