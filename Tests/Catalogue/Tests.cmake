@@ -5,6 +5,13 @@ endif()
 
 vx_test(Catalogue/tst_Styles.cpp LIBRARIES VxCatalogue)
 target_compile_definitions(tst_Styles PRIVATE VX_STYLES_SOURCE="${PROJECT_SOURCE_DIR}/Styles")
+vx_test(Catalogue/tst_Contrast.cpp SOURCES Catalogue/Legibility.cpp Catalogue/Legibility.h LIBRARIES VxCatalogue)
+# Writes the contrasts that the test measures to Docs/Contrast.md.
+add_custom_target(
+  contrast-table
+  COMMAND ${CMAKE_COMMAND} -E env QT_QPA_PLATFORM=offscreen VX_CONTRAST_TABLE=${PROJECT_SOURCE_DIR}/Docs/Contrast.md
+          $<TARGET_FILE:tst_Contrast> -silent
+  VERBATIM)
 vx_test(Catalogue/tst_Reference.cpp LIBRARIES VxCatalogue)
 target_compile_definitions(tst_Reference PRIVATE VX_DOCS="${PROJECT_SOURCE_DIR}/Docs")
 

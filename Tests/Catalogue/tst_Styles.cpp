@@ -42,8 +42,13 @@ private Q_SLOTS:
     void initTestCase_data()
     {
         QTest::addColumn<QString>("name");
-        QTest::newRow("dark") << "Dark";
-        QTest::newRow("light") << "Light";
+        QTest::addColumn<QString>("style");
+        QTest::newRow("dark") << "Dark"
+                              << "dark";
+        QTest::newRow("light") << "Light"
+                               << "light";
+        QTest::newRow("high contrast") << "HighContrast"
+                                       << "high-contrast";
     }
 
     void contrastIsSufficient_data()
@@ -90,8 +95,8 @@ private Q_SLOTS:
         QVERIFY(red.save("vxstyle:mark.svg", "PNG"));
         QCOMPARE(QImage("vxstyle:mark.svg"), red);
 
-        QFETCH_GLOBAL(QString, name);
-        ZStyleSheet sheet = *LoadStyleSheet(name.toLower());
+        QFETCH_GLOBAL(QString, style);
+        ZStyleSheet sheet = *LoadStyleSheet(style);
         sheet.text += "\nQLabel { background-image: url(vxstyle:mark.svg); }";
         sheet.apply();
         QLabel label;
@@ -107,8 +112,8 @@ private Q_SLOTS:
 
     void styleSheetIsComplete()
     {
-        QFETCH_GLOBAL(QString, name);
-        const auto sheet = LoadStyleSheet(name.toLower());
+        QFETCH_GLOBAL(QString, style);
+        const auto sheet = LoadStyleSheet(style);
         QVERIFY(sheet);
         static const QRegularExpression PLACEHOLDER("@[a-z-]+@");
         QVERIFY(!sheet->text.contains(PLACEHOLDER));

@@ -9,6 +9,7 @@
 #include <QPainter>
 #include <QStyleOptionSlider>
 #include <QTextCharFormat>
+#include <qdrawutil.h>
 
 namespace Zelkor::Vx::UI::Kit {
 
@@ -190,6 +191,8 @@ void SheetStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opt
         proxy()
             ->standardIcon(option->direction == Qt::RightToLeft ? SP_ArrowLeft : SP_ArrowRight, option, widget)
             .paint(painter, option->rect);
+    else if (element == PE_FrameFocusRect && widget && widget->inherits("QWellArray"))
+        qDrawPlainRect(painter, option->rect, option->palette.color(QPalette::Link), 2);
     else
         QProxyStyle::drawPrimitive(element, option, painter, widget);
 }

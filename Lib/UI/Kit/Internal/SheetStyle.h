@@ -15,8 +15,8 @@ public:
     using QProxyStyle::polish;
     void polish(QWidget* widget) override;
 
-    /// Called by Qt with the palette of the platform. Sends the application a ThemeChange after a change of it, which Qt
-    /// does not report if the application has a palette.
+    /// Called by Qt with the palette of the platform. Sends the application a ThemeChange after a change of it, which
+    /// Qt does not report if the application has a palette.
     void polish(QPalette& palette) override;
 
     QIcon standardIcon(StandardPixmap icon, const QStyleOption* option, const QWidget* widget) const override;
