@@ -63,6 +63,7 @@ if(NOT MSVC)
 endif()
 target_include_directories(tst_SampleCode SYSTEM PRIVATE ${form})
 
+vx_test(Catalogue/tst_PlainLook.cpp LIBRARIES VxCatalogue)
 vx_test(Catalogue/tst_CatalogueRandomEvents.cpp LIBRARIES VxCatalogue)
 vx_test(Catalogue/tst_CatalogueLifetime.cpp LIBRARIES VxCatalogue)
 vx_test(Catalogue/tst_HostileApplication.cpp LIBRARIES VxCatalogue)

@@ -90,9 +90,16 @@ void ZLabel::setClickable(bool on)
     clickable = on;
 }
 
+// Margins are 0 unless the application or the label on a button sets them.
+int ZLabel::spaceBeside() const
+{
+    const QMargins margins = contentsMargins();
+    return qMax(2 * frameWidth(), margins.left() + margins.right());
+}
+
 QString ZLabel::textThatFits() const
 {
-    const int available = width() - 2 * frameWidth();
+    const int available = width() - spaceBeside();
     if (!eliding || SurelyFits(font(), originalText(), available))
         return storedText;
     return QFontMetrics(font()).elidedText(storedText, Qt::ElideRight, available, 0);
@@ -116,7 +123,7 @@ QSize ZLabel::sizeHint() const
     QSize hint = QLabel::sizeHint();
     if (eliding && !originalText().isEmpty()) {
         const int text = int(std::ceil(QFontMetricsF(font()).horizontalAdvance(storedText)));
-        hint.setWidth(qMax(hint.width(), text + 2 * frameWidth()));
+        hint.setWidth(qMax(hint.width(), text + spaceBeside()));
     }
     return hint;
 }

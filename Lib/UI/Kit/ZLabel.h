@@ -46,6 +46,7 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
+    int spaceBeside() const;
     QString textThatFits() const;
     QString wholeTextIfElided() const;
     void refreshText();

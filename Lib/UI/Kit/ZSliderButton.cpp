@@ -2,6 +2,7 @@
 
 #include <UI/Common/AccessibleFactory.h>
 #include <UI/Common/BoxLayouts.h>
+#include <UI/Common/PlainLook.h>
 #include <UI/Common/ScreenOf.h>
 #include <UI/Common/WaylandPopUp.h>
 #include <UI/Common/WheelPolicy.h>
@@ -36,7 +37,7 @@ constexpr int CLOSING_PRESS_MS = 200; // maximum delay between the loss of the f
 class LevelButton : public QToolButton
 {
 public:
-    explicit LevelButton(const QWidget* button) : button(button) {}
+    LevelButton(const QWidget* button, int level) : button(button), level(level) {}
 
 protected:
     void paintEvent(QPaintEvent*) override
@@ -46,10 +47,12 @@ protected:
         if (button->hasFocus())
             option.state |= QStyle::State_HasFocus;
         QStylePainter(this).drawComplexControl(QStyle::CC_ToolButton, option);
+        Common::PaintPlainLevel(*this, level, MAXIMUM / STEP);
     }
 
 private:
-    const QWidget* button;
+    const QWidget* const button;
+    const int level;
 };
 
 QRect OnScreen(const QWidget* widget)
@@ -161,7 +164,7 @@ ZSliderButton::~ZSliderButton()
 void ZSliderButton::createLevelButtons()
 {
     for (int i = 0; i < LEVELS; ++i) {
-        levelButtons[i] = new LevelButton(this);
+        levelButtons[i] = new LevelButton(this, i);
         levelButtons[i]->setCheckable(true);
         levelButtons[i]->setFocusPolicy(Qt::NoFocus);
         levelButtons[i]->setProperty(STYLE_TAG, QStringLiteral("ZSliderButton%1").arg(i));

@@ -3,16 +3,21 @@
 #include <UI/Common/BoxLayouts.h>
 #include <UI/Common/MirroredStyle.h>
 #include <UI/Common/ObjectNames.h>
+#include <UI/Common/PlainLook.h>
 #include <UI/Common/TextMarks.h>
 #include <UI/Kit/ZLabel.h>
 
+#include <QEvent>
 #include <QStyleOptionButton>
+
+#include <utility>
 
 namespace Zelkor::Vx::UI {
 
 namespace {
 
 /// A label on the button. With `keepsBeginning` it may shrink to its first letters, otherwise it keeps its width.
+/// Without a style sheet, it keeps a distance from the label before it, if there is one in the same row.
 class ButtonLabel : public ZLabel
 {
 public:
@@ -23,6 +28,18 @@ public:
         setOriginalText(QString());
         // The button handles the presses.
         setAttribute(Qt::WA_TransparentForMouseEvents);
+    }
+
+    void SetLabelBefore(const ZLabel* label) { before = label; }
+
+    void UpdateGap()
+    {
+        const bool isWanted = before && !before->originalText().isEmpty() && !originalText().isEmpty();
+        const int width = isWanted && !Common::HasStyleSheet(*this) ? 2 * Common::PlainGap(*this) : 0;
+        const QMargins wanted(isRightToLeft() ? 0 : width, 0, isRightToLeft() ? width : 0, 0);
+        // A style sheet may have set others.
+        if (std::exchange(gap, wanted) != wanted)
+            setContentsMargins(gap);
     }
 
     QSize minimumSizeHint() const override
@@ -37,8 +54,25 @@ public:
         return hint;
     }
 
+protected:
+    bool event(QEvent* event) override
+    {
+        const bool handled = ZLabel::event(event);
+        if (event->type() == QEvent::Polish)
+            UpdateGap();
+        return handled;
+    }
+
+    void changeEvent(QEvent* event) override
+    {
+        UpdateGap();
+        ZLabel::changeEvent(event);
+    }
+
 private:
-    bool keepsBeginning;
+    const bool keepsBeginning;
+    const ZLabel* before = nullptr;
+    QMargins gap;
 };
 
 QString NameOf(const ZLabel& label)
@@ -64,6 +98,17 @@ ButtonWithLabels::ButtonWithLabels(Qt::Orientation orientation, QWidget* parent)
     auto* face = Common::MakeBoxLayout<QHBoxLayout>(this);
     face->addWidget(iconLabel);
     face->addLayout(texts);
+    if (orientation == Qt::Horizontal)
+        static_cast<ButtonLabel*>(hotKeyLabel)->SetLabelBefore(textLabel);
+    // The distance that the style has in mind for a text of that size.
+    Common::SetPlainMargins(this, [this] {
+        QStyleOptionButton option;
+        initStyleOption(&option);
+        const QSize contents = layout()->sizeHint();
+        const QSize excess =
+            (style()->sizeFromContents(QStyle::CT_PushButton, &option, contents, this) - contents).expandedTo({0, 0});
+        return QMargins(excess.width() / 2, excess.height() / 2, excess.width() / 2, excess.height() / 2);
+    });
 }
 
 ButtonWithLabels::~ButtonWithLabels() = default;
@@ -72,6 +117,7 @@ void ButtonWithLabels::SetLabelText(const QString& text)
 {
     const QString previous = NameOf(*textLabel);
     textLabel->setOriginalText(text);
+    static_cast<ButtonLabel*>(hotKeyLabel)->UpdateGap();
     layout()->activate();
     // Keeps a name that the application has set.
     if (accessibleName().isEmpty() || accessibleName() == previous)
@@ -81,6 +127,7 @@ void ButtonWithLabels::SetLabelText(const QString& text)
 void ButtonWithLabels::SetHotkeyText(const QString& text)
 {
     hotKeyLabel->setOriginalText(text);
+    static_cast<ButtonLabel*>(hotKeyLabel)->UpdateGap();
     layout()->activate();
 }
 

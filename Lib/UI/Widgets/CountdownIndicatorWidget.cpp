@@ -2,6 +2,7 @@
 
 #include <UI/Common/AccessibleFactory.h>
 #include <UI/Common/BoxLayouts.h>
+#include <UI/Common/PlainLook.h>
 
 #include <QAccessibleWidget>
 #include <QCoreApplication>
@@ -9,6 +10,7 @@
 #include <QLabel>
 
 #include <array>
+#include <vector>
 
 namespace Zelkor::Vx {
 
@@ -94,9 +96,36 @@ bool Show(QLabel* label, const QString& text)
     return true;
 }
 
-QLabel* CreateLabel(const QString& objectName, QWidget* parent)
+/// A label of either row. Without a style sheet, all numbers are as wide as the widest label of either row, and
+/// captions wider by the separator between numbers, so that each caption is centred below its number.
+class ColumnLabel : public QLabel
 {
-    auto* label = new QLabel(parent);
+public:
+    using QLabel::QLabel;
+
+    QSize sizeHint() const override { return InColumn(QLabel::sizeHint()); }
+    QSize minimumSizeHint() const override { return InColumn(QLabel::minimumSizeHint()); }
+
+    std::vector<const QLabel*> others; ///< of both rows
+    const QLabel* separator = nullptr; ///< set for captions
+
+private:
+    QSize InColumn(QSize hint) const
+    {
+        if (UI::Common::HasStyleSheet(*this))
+            return hint;
+        for (const QLabel* label : others)
+            hint.setWidth(qMax(hint.width(), label->QLabel::sizeHint().width()));
+        if (separator)
+            hint.rwidth() += separator->sizeHint().width();
+        return hint;
+    }
+};
+
+template<class Label>
+Label* CreateLabel(const QString& objectName, QWidget* parent)
+{
+    auto* label = new Label(parent);
     label->setObjectName(objectName);
     label->setAlignment(Qt::AlignCenter);
     return label;
@@ -104,7 +133,7 @@ QLabel* CreateLabel(const QString& objectName, QWidget* parent)
 
 QLabel* CreateSeparator()
 {
-    QLabel* separator = CreateLabel(QStringLiteral("numbersSeparator"), nullptr);
+    auto* separator = CreateLabel<QLabel>(QStringLiteral("numbersSeparator"), nullptr);
     separator->setText(QStringLiteral(":"));
     return separator;
 }
@@ -126,13 +155,13 @@ struct CountdownIndicatorWidget::Impl
 
     explicit Impl(QWidget* widget)
         : numbersFrame(CreateRow(QStringLiteral("numbersFrame"), widget)),
-          numberLabels{CreateLabel(QStringLiteral("number1Label"), numbersFrame),
-                       CreateLabel(QStringLiteral("number2Label"), numbersFrame),
-                       CreateLabel(QStringLiteral("number3Label"), numbersFrame)},
+          numberLabels{CreateLabel<ColumnLabel>(QStringLiteral("number1Label"), numbersFrame),
+                       CreateLabel<ColumnLabel>(QStringLiteral("number2Label"), numbersFrame),
+                       CreateLabel<ColumnLabel>(QStringLiteral("number3Label"), numbersFrame)},
           captionsFrame(CreateRow(QStringLiteral("captionsFrame"), widget)),
-          captionLabels{CreateLabel(QStringLiteral("caption1Label"), captionsFrame),
-                        CreateLabel(QStringLiteral("caption2Label"), captionsFrame),
-                        CreateLabel(QStringLiteral("caption3Label"), captionsFrame)}
+          captionLabels{CreateLabel<ColumnLabel>(QStringLiteral("caption1Label"), captionsFrame),
+                        CreateLabel<ColumnLabel>(QStringLiteral("caption2Label"), captionsFrame),
+                        CreateLabel<ColumnLabel>(QStringLiteral("caption3Label"), captionsFrame)}
     {}
 
     // Both return whether a text changed.
@@ -150,13 +179,30 @@ struct CountdownIndicatorWidget::Impl
         bool changed = false;
         for (size_t i = 0; i < NUMBERS; ++i)
             changed |= Show(captionLabels[i], Caption(UnitAt(mode, i)));
+        // The widths of the columns depend on all captions.
+        for (size_t i = 0; changed && i < NUMBERS; ++i) {
+            numberLabels[i]->updateGeometry();
+            captionLabels[i]->updateGeometry();
+        }
         return changed;
     }
 
+    void AlignColumns(const QLabel* separator)
+    {
+        for (ColumnLabel* label : numberLabels) {
+            label->others.assign(numberLabels.begin(), numberLabels.end());
+            label->others.insert(label->others.end(), captionLabels.begin(), captionLabels.end());
+        }
+        for (ColumnLabel* label : captionLabels) {
+            label->others = numberLabels[0]->others;
+            label->separator = separator;
+        }
+    }
+
     ZFrame* numbersFrame;
-    std::array<QLabel*, NUMBERS> numberLabels;
+    std::array<ColumnLabel*, NUMBERS> numberLabels;
     ZFrame* captionsFrame;
-    std::array<QLabel*, NUMBERS> captionLabels;
+    std::array<ColumnLabel*, NUMBERS> captionLabels;
     quint64 seconds = 0;
     quint32 mode = 0;
 };
@@ -199,7 +245,8 @@ CountdownIndicatorWidget::CountdownIndicatorWidget(QWidget* parent) : ZFrame(par
     auto* numbersRow = UI::Common::MakeBoxLayout<QHBoxLayout>(impl->numbersFrame);
     numbersRow->addStretch();
     numbersRow->addWidget(impl->numberLabels[0]);
-    numbersRow->addWidget(CreateSeparator());
+    QLabel* separator = CreateSeparator();
+    numbersRow->addWidget(separator);
     numbersRow->addWidget(impl->numberLabels[1]);
     numbersRow->addWidget(CreateSeparator());
     numbersRow->addWidget(impl->numberLabels[2]);
@@ -207,7 +254,7 @@ CountdownIndicatorWidget::CountdownIndicatorWidget(QWidget* parent) : ZFrame(par
 
     auto* captionsRow = UI::Common::MakeBoxLayout<QHBoxLayout>(impl->captionsFrame);
     captionsRow->addStretch();
-    for (QLabel* label : impl->captionLabels)
+    for (ColumnLabel* label : impl->captionLabels)
         captionsRow->addWidget(label);
     captionsRow->addStretch();
 
@@ -217,6 +264,7 @@ CountdownIndicatorWidget::CountdownIndicatorWidget(QWidget* parent) : ZFrame(par
     rows->addWidget(impl->captionsFrame);
     rows->addStretch();
 
+    impl->AlignColumns(separator);
     SetSeconds(0);
 }
 

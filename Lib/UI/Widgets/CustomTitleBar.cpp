@@ -5,6 +5,7 @@
 #include <UI/Common/CanBeParentOf.h>
 #include <UI/Common/LostMouseRelease.h>
 #include <UI/Common/MirroredStyle.h>
+#include <UI/Common/PlainLook.h>
 
 #include <Zelkor/Vx/UI/Util/WindowMouseMoveHelper.h>
 
@@ -18,6 +19,7 @@
 #include <QPointer>
 #include <QRegularExpression>
 #include <QStyle>
+#include <QStyleOption>
 #include <QToolButton>
 
 namespace Zelkor::Vx::UI {
@@ -37,6 +39,8 @@ public:
         setTextFormat(Qt::PlainText);
         setIndent(0);
         setMinimumWidth(1);
+        Common::SetPlainMargins(this,
+                                [this] { return QMargins(Common::PlainGap(*this), 0, Common::PlainGap(*this), 0); });
     }
 
 protected:
@@ -55,6 +59,33 @@ protected:
         const auto flags = QStyle::visualAlignment(fromRight ? Qt::RightToLeft : Qt::LeftToRight, alignment()) |
                            (fromRight ? Qt::TextForceRightToLeft : Qt::TextForceLeftToRight);
         style()->drawItemText(&painter, place, flags, palette(), isEnabled(), shown, foregroundRole());
+    }
+};
+
+/// Without a style sheet, draws the line of the style.
+class Separator : public QWidget
+{
+public:
+    using QWidget::QWidget;
+
+    QSize sizeHint() const override
+    {
+        if (Common::HasStyleSheet(*this))
+            return QWidget::sizeHint();
+        return {style()->pixelMetric(QStyle::PM_ToolBarSeparatorExtent, nullptr, this), 0};
+    }
+
+protected:
+    void paintEvent(QPaintEvent* event) override
+    {
+        QWidget::paintEvent(event);
+        if (Common::HasStyleSheet(*this))
+            return;
+        QStyleOption option;
+        option.initFrom(this);
+        option.state |= QStyle::State_Horizontal;
+        QPainter painter(this);
+        style()->drawPrimitive(QStyle::PE_IndicatorToolBarSeparator, &option, &painter, this);
     }
 };
 
@@ -92,6 +123,13 @@ Part* MakePart(const char* objectName, Parent* parent)
     auto* part = new Part(parent);
     part->setObjectName(QLatin1String(objectName));
     return part;
+}
+
+QToolButton* MakeButton(const char* objectName, Common::Symbol symbol, QWidget* parent)
+{
+    auto* button = new Common::SymbolButton(symbol, parent);
+    button->setObjectName(QLatin1String(objectName));
+    return button;
 }
 
 // Returns the title as a window frame shows it: "[*]" marks the position of the modified asterisk, "[*][*]" stands for
@@ -171,8 +209,8 @@ struct CustomTitleBar::Impl
 CustomTitleBar::Impl::Impl(CustomTitleBar* bar)
     : window(bar->parentWidget()), iconLabel(MakePart<QLabel>("iconLabel", bar)),
       titleLabel(MakePart<TitleLabel>("titleLabel", bar)), userWidgetsFrame(MakePart<ZFrame>("userWidgetsFrame", bar)),
-      minimizeButton(MakePart<QToolButton>("minimizeButton", bar)),
-      closeButton(MakePart<QToolButton>("closeButton", bar))
+      minimizeButton(MakeButton("minimizeButton", Common::Symbol::Minimize, bar)),
+      closeButton(MakeButton("closeButton", Common::Symbol::Close, bar))
 {
     Common::MakeBoxLayout<QHBoxLayout>(userWidgetsFrame);
     auto* barLayout = Common::MakeBoxLayout<QHBoxLayout>(bar);
@@ -226,7 +264,7 @@ void CustomTitleBar::AddWidget(QWidget* widget)
 
 void CustomTitleBar::AddSeparator()
 {
-    AddWidget(MakePart<QWidget>("separator", impl->userWidgetsFrame));
+    AddWidget(MakePart<Separator>("separator", impl->userWidgetsFrame));
 }
 
 int CustomTitleBar::GetWindowIconSize() const

@@ -1,6 +1,7 @@
 #include <UI/Widgets/HorizontalTabBar.h>
 
 #include <UI/Common/ClampToWidgetSize.h>
+#include <UI/Common/PlainLook.h>
 
 #include <QChildEvent>
 #include <QFileInfo>
@@ -16,6 +17,8 @@ namespace {
 using UI::Common::ClampToWidgetSize;
 
 const QLatin1Char PATH_SEPARATOR(';');
+
+constexpr int PLAIN_ICON_GAP = 4; // for which QTabBar makes room in the size of a tab
 
 // Checks for the file first, since the SVG reader warns about a missing one.
 QIcon LoadIcon(const QString& path)
@@ -220,11 +223,36 @@ bool HorizontalTabBar::IsDragged(const QStyleOptionTab& option) const
     return draggedTab && draggedTab->isVisible() && (option.state & QStyle::State_Sunken);
 }
 
+// Without distances, text would touch the edge of the tab, and the icon the text.
+bool HorizontalTabBar::HasPlainPlaces() const
+{
+    return !paddingLeft && !paddingRight && !paddingTop && !paddingBottom && !xPosTabIcon && !yPosTabIcon &&
+           !UI::Common::HasStyleSheet(*this);
+}
+
+int HorizontalTabBar::PlainPadding(const QStyleOptionTab& option) const
+{
+    return style()->pixelMetric(QStyle::PM_TabBarTabHSpace, &option, this) / 2;
+}
+
+QRect HorizontalTabBar::IconRect(const QRect& face, const QStyleOptionTab& option) const
+{
+    QRect icon(QPoint(ClampToWidgetSize(xPosTabIcon), ClampToWidgetSize(yPosTabIcon)), iconSize());
+    if (HasPlainPlaces())
+        icon.moveTo(PlainPadding(option), (face.height() - icon.height()) / 2);
+    return QStyle::visualRect(layoutDirection(), face, icon);
+}
+
 QRect HorizontalTabBar::TextRect(int index, const QRect& face, const QTransform& toBar,
                                  const QStyleOptionTab& option) const
 {
     QRect text = face.adjusted(ClampToWidgetSize(paddingLeft), ClampToWidgetSize(paddingTop),
                                -ClampToWidgetSize(paddingRight), -ClampToWidgetSize(paddingBottom));
+    if (HasPlainPlaces()) {
+        const int padding = PlainPadding(option);
+        const int icon = tabIcon(index).isNull() ? 0 : iconSize().width() + PLAIN_ICON_GAP;
+        text.adjust(padding + icon, 0, -padding, 0);
+    }
     text = QStyle::visualRect(layoutDirection(), face, text);
     text = WithRoomForAmpersands(text, tabText(index), fontMetrics(),
                                  QStyle::visualAlignment(layoutDirection(), alignText), face);
@@ -234,6 +262,18 @@ QRect HorizontalTabBar::TextRect(int index, const QRect& face, const QTransform&
             text = Beside(toBar.inverted().mapRect(style()->subElementRect(part, &option, this)), text);
     }
     return text;
+}
+
+QColor HorizontalTabBar::TextColor(const QStyleOptionTab& option) const
+{
+    const bool isEnabled = option.state & QStyle::State_Enabled;
+    const bool isHovered = (option.state & QStyle::State_MouseOver) && isEnabled;
+    const QColor color = option.state & QStyle::State_Selected ? selectedTextColor
+                         : isHovered                           ? hoverTextColor
+                                                               : normalTextColor;
+    if (color != Qt::black || UI::Common::HasStyleSheet(*this))
+        return color;
+    return palette().color(isEnabled ? palette().currentColorGroup() : QPalette::Disabled, QPalette::WindowText);
 }
 
 void HorizontalTabBar::paintEvent(QPaintEvent*)
@@ -260,21 +300,16 @@ void HorizontalTabBar::PaintTab(QPainter& painter, int index, QStyleOptionTab& o
     const QRect textRect = TextRect(index, face, toBar, option);
     if (!textRect.isEmpty()) {
         const QString text = Elided(tabText(index), fontMetrics(), elideMode(), textRect.width());
-        const bool hovered = (option.state & QStyle::State_MouseOver) && (option.state & QStyle::State_Enabled);
         painter.save();
         painter.setTransform(toBar, true);
         painter.setFont(font());
-        painter.setPen(option.state & QStyle::State_Selected ? selectedTextColor
-                       : hovered                             ? hoverTextColor
-                                                             : normalTextColor);
+        painter.setPen(TextColor(option));
         // Aligns by the direction of the bar, but draws in the direction of the text, for its ellipsis and brackets.
         painter.setLayoutDirection(text.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
         painter.drawText(textRect, int(QStyle::visualAlignment(layoutDirection(), alignText)), text);
         painter.restore();
     }
-    const QRect iconRect(QPoint(ClampToWidgetSize(xPosTabIcon), ClampToWidgetSize(yPosTabIcon)), iconSize());
-    tabIcon(index).paint(&painter, toBar.mapRect(QStyle::visualRect(layoutDirection(), face, iconRect)),
-                         Qt::AlignTop | Qt::AlignHCenter);
+    tabIcon(index).paint(&painter, toBar.mapRect(IconRect(face, option)), Qt::AlignTop | Qt::AlignHCenter);
 }
 
 // The child is wider than the tab by the style's tab overlap.

@@ -19,7 +19,10 @@ namespace Zelkor::Vx {
 ///
 /// In a vertical bar, text is horizontal if it fits. If one does not and the tabs are higher than wide, all texts of
 /// the bar are rotated: upwards in the west, downwards in the east. Distances then refer to the rotated tab; icons are
-/// never rotated. Setters of colours, paddings, icon position and alignment do not repaint. GUI thread only.
+/// never rotated. Setters of colours, paddings, icon position and alignment do not repaint.
+///
+/// Without a style sheet, text that is black has the colour of the palette, and while all distances are 0, text and
+/// icon have those of the style. GUI thread only.
 class VX_WIDGETS_EXPORT HorizontalTabBar : public QTabBar
 {
     Q_OBJECT
@@ -103,7 +106,11 @@ private:
     bool IsVertical() const;
     bool AreTextsTurned() const;
     bool IsDragged(const QStyleOptionTab& option) const;
+    bool HasPlainPlaces() const;
+    int PlainPadding(const QStyleOptionTab& option) const;
+    QRect IconRect(const QRect& face, const QStyleOptionTab& option) const;
     QRect TextRect(int index, const QRect& face, const QTransform& toBar, const QStyleOptionTab& option) const;
+    QColor TextColor(const QStyleOptionTab& option) const;
     void PaintTab(QPainter& painter, int index, QStyleOptionTab& option, bool turned) const;
     void PaintDraggedTab() const;
 

@@ -3,6 +3,7 @@
 #include <UI/Common/AccessibleFactory.h>
 #include <UI/Common/BoxLayouts.h>
 #include <UI/Common/ClampToWidgetSize.h>
+#include <UI/Common/PlainLook.h>
 #include <UI/Common/WaylandPopUp.h>
 
 #include <QApplication>
@@ -93,6 +94,10 @@ MaskedToolTip::MaskedToolTip(QWidget* parent)
     auto* layout = Common::MakeBoxLayout<QVBoxLayout>(this);
     layout->addWidget(titleLabel);
     layout->addWidget(textLabel);
+    Common::SetPlainMargins(this, [this] {
+        const int gap = Common::PlainGap(*this);
+        return QMargins(gap, gap / 2, gap, gap / 2);
+    });
 }
 
 MaskedToolTip::~MaskedToolTip() = default;
@@ -152,6 +157,11 @@ bool MaskedToolTip::eventFilter(QObject* watched, QEvent* event)
 void MaskedToolTip::paintEvent(QPaintEvent* event)
 {
     ZFrame::paintEvent(event);
+    if (mask().isEmpty() && !Common::HasStyleSheet(*this)) {
+        QPainter painter(this);
+        painter.setPen(palette().color(QPalette::Mid));
+        painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    }
     if (!Common::IsWayland() || mask().isEmpty())
         return;
     QPainter painter(this);

@@ -5,6 +5,7 @@
 #include <UI/Common/BoxLayouts.h>
 #include <UI/Common/CanBeParentOf.h>
 #include <UI/Common/MirroredStyle.h>
+#include <UI/Common/PlainLook.h>
 
 #include <QCoreApplication>
 #include <QEvent>
@@ -136,15 +137,15 @@ ScrollablePanelWithItem::ScrollablePanelWithItem(QWidget* parent)
 {
     Common::FollowLayoutDirection();
     Common::AccessibleFactory<ScrollablePanelWithItem, Common::AccessibleAs<QAccessible::ToolBar>>::Install();
-    const auto makeScrollButton = [this](const QString& objectName) {
-        auto* button = new QToolButton(this);
+    const auto makeScrollButton = [this](const QString& objectName, Common::Symbol symbol) {
+        auto* button = new Common::SymbolButton(symbol, this);
         button->setObjectName(objectName);
         // Keyboard users scroll by focusing items.
         button->setFocusPolicy(Qt::NoFocus);
         return button;
     };
-    parts->leftScrollButton = makeScrollButton(QStringLiteral("leftScrollButton"));
-    parts->rightScrollButton = makeScrollButton(QStringLiteral("rightScrollButton"));
+    parts->leftScrollButton = makeScrollButton(QStringLiteral("leftScrollButton"), Common::Symbol::Previous);
+    parts->rightScrollButton = makeScrollButton(QStringLiteral("rightScrollButton"), Common::Symbol::Next);
     Retranslate();
     ScrollArea* area = parts->panelScrollArea = new ScrollArea(this);
     area->setObjectName(QStringLiteral("panelScrollArea"));

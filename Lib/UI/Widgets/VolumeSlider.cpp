@@ -2,6 +2,7 @@
 
 #include <UI/Common/ClampToWidgetSize.h>
 #include <UI/Common/LogSource.h>
+#include <UI/Common/PlainLook.h>
 #include <UI/Widgets/LevelMeterGeometry.h>
 
 #include <QLinearGradient>
@@ -21,6 +22,16 @@ constexpr int MAXIMUM = 100;
 constexpr int TOOL_TIP_TIME_MS = 1000;
 // Ignores volumes that differ from the value by rounding.
 constexpr int IGNORED_STEP = 1;
+
+// Adds the offsets of the meter to the thickness, unless a style sheet sets it.
+QSize WithMeter(const QSlider& slider, const QSize& hint, int offsetX, int offsetY)
+{
+    if (UI::Common::HasStyleSheet(slider))
+        return hint;
+    const bool isVertical = slider.orientation() == Qt::Vertical;
+    const int offset = qMax(0, UI::Common::ClampToWidgetSize(isVertical ? offsetX : offsetY));
+    return hint + (isVertical ? QSize(2 * offset, 0) : QSize(0, 2 * offset));
+}
 
 } // namespace
 
@@ -58,6 +69,16 @@ void VolumeSlider::SetVolumes(float newVolume, float newLevel)
     const QRect dirty = LevelMeterGeometry::DirtyRect(before, barsOf(volume, level), borderRadius);
     if (!dirty.isEmpty())
         update(dirty);
+}
+
+QSize VolumeSlider::sizeHint() const
+{
+    return WithMeter(*this, QSlider::sizeHint(), peakValueRectOffsetX, peakValueRectOffsetY);
+}
+
+QSize VolumeSlider::minimumSizeHint() const
+{
+    return WithMeter(*this, QSlider::minimumSizeHint(), peakValueRectOffsetX, peakValueRectOffsetY);
 }
 
 void VolumeSlider::HideToolTip()

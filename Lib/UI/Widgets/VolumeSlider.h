@@ -54,6 +54,10 @@ public:
     /// line; NaN and infinity leave the value unchanged.
     void SetVolumes(float newVolume, float newLevel);
 
+    /// Without a style sheet, wide enough for the meter to show on both sides of the groove.
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
 public Q_SLOTS:
     /// Hides the tool tip of the application.
     void HideToolTip();

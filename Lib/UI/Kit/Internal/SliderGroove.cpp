@@ -1,9 +1,13 @@
 #include <UI/Kit/Internal/SliderGroove.h>
 
 #include <UI/Common/ClampToWidgetSize.h>
+#include <UI/Common/PlainLook.h>
 
+#include <QApplication>
 #include <QSlider>
 #include <QtMath>
+
+#include <algorithm>
 
 namespace Zelkor::Vx::UI::Kit {
 
@@ -201,13 +205,37 @@ void SliderGroove::render(QSlider& slider, int value, QPixmap& pixmap) const
     slider.render(&pixmap, QPoint(), QRegion(), QWidget::DrawWindowBackground | QWidget::DrawChildren);
 }
 
+// Returns declarations in the colours of the palette while neither a part nor the application has a style. The sheet of
+// the owner itself only hides what QSlider draws.
+QString SliderGroove::plainStyle(Part look) const
+{
+    const QWidget* parent = owner.parentWidget();
+    const bool hasSheet = parent ? Common::HasStyleSheet(*parent) : !qApp->styleSheet().isEmpty();
+    if (hasSheet || std::any_of(std::begin(styles), std::end(styles), [](auto& style) { return !style.isEmpty(); }))
+        return {};
+    // That of the owner has the transparent background of its sheet.
+    const QPalette palette = parent ? parent->palette() : QApplication::palette();
+    const QColor window = palette.color(QPalette::Window);
+    const QColor text = palette.color(QPalette::WindowText);
+    const auto mixed = [&](double share) {
+        return QColor::fromRgbF(window.redF() + share * (text.redF() - window.redF()),
+                                window.greenF() + share * (text.greenF() - window.greenF()),
+                                window.blueF() + share * (text.blueF() - window.blueF()));
+    };
+    const QColor colors[] = {mixed(0.3), mixed(0.6), palette.color(QPalette::Highlight), text};
+    static_assert(std::size(colors) == LOOKS);
+    return QStringLiteral("%1:4px; background:%2;")
+        .arg(QLatin1String(owner.orientation() == Qt::Horizontal ? "height" : "width"), colors[look].name());
+}
+
 QString SliderGroove::sheet(Part look) const
 {
     const bool isHorizontal = owner.orientation() == Qt::Horizontal;
     const int length = (isHorizontal ? input.size.width() : input.size.height()) - 2 * Common::ClampToWidgetSize(inset);
     // In one call, because a fragment may contain a per cent sign.
     return (isHorizontal ? HORIZONTAL_SHEET : VERTICAL_SHEET)
-        .arg(QString::number(length), usableStyles[look], usableStyles[ADD_PAGE], usableStyles[SUB_PAGE]);
+        .arg(QString::number(length), plainStyle(look) + usableStyles[look], usableStyles[ADD_PAGE],
+             usableStyles[SUB_PAGE]);
 }
 
 } // namespace Zelkor::Vx::UI::Kit

@@ -81,6 +81,7 @@ private:
     bool followsValue(Layer& layer);
     void prepare(Layer& layer, Part look);
     void render(QSlider& slider, int value, QPixmap& pixmap) const;
+    QString plainStyle(Part look) const;
     QString sheet(Part look) const;
 
     const QSlider& owner;

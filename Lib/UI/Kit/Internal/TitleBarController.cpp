@@ -1,5 +1,6 @@
 #include <UI/Kit/Internal/TitleBarController.h>
 
+#include <UI/Common/PlainLook.h>
 #include <UI/Common/ScreenOf.h>
 #include <UI/Kit/Internal/WindowActions.h>
 
@@ -86,7 +87,7 @@ void TitleBarController::addButton()
     const int index = layout ? layout->indexOf(closeButton) : -1;
     if (index < 0)
         return;
-    button = new QToolButton(holder);
+    button = new Common::SymbolButton(Common::Symbol::Maximize, holder);
     button->setObjectName(QStringLiteral("maximizeButton"));
     button->hide();
     layout->insertWidget(index, button);
@@ -118,6 +119,7 @@ void TitleBarController::update()
     const bool isMaximized = FillsScreen(window);
     if (button->property(MAXIMIZED) != QVariant(isMaximized)) {
         button->setProperty(MAXIMIZED, isMaximized);
+        button->SetSymbol(isMaximized ? Common::Symbol::Restore : Common::Symbol::Maximize);
         button->style()->unpolish(button);
         button->style()->polish(button);
         retranslate();

@@ -7,8 +7,11 @@
 class QContextMenuEvent;
 class QMouseEvent;
 class QShortcut;
-class QToolButton;
 class QWidget;
+
+namespace Zelkor::Vx::UI::Common {
+class SymbolButton;
+}
 
 namespace Zelkor::Vx::UI::Kit {
 
@@ -52,7 +55,7 @@ private:
 
     QWidget* const window;
     QPointer<QWidget> titleBar;
-    QPointer<QToolButton> button;
+    QPointer<Common::SymbolButton> button;
     QPointer<QShortcut> shortcut;
     Drag drag = Drag::None;
     QPoint pressPosition; ///< global
