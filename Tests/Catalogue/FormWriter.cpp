@@ -63,7 +63,7 @@ int main(int argc, char* argv[])
         if (entry.form.metaObject)
             all.Add(QString(Zelkor::Designer::FormXml(entry))
                         .replace("</customwidget>",
-                                 QString("<header>UI/Widgets/%1.h</header></customwidget>").arg(entry.className)));
+                                 QString("<header>%1</header></customwidget>").arg(entry.form.header)));
         for (int i = 0; i < entry.states.size(); ++i) {
             const QString name = QString("%1%2").arg(entry.className).arg(i);
             if (const QString form = FormOf(entry, entry.states[i]); !form.isEmpty())
