@@ -24,10 +24,8 @@ bool Appearance::SetLanguage(const QString& code)
 
 QVector<Style> Appearance::AllStyles()
 {
-    return {{"system", tr("System")},
-            {"dark", tr("Dark")},
-            {"light", tr("Light")},
-            {"high-contrast", tr("High contrast")}};
+    return {
+        {"system", tr("System")}, {"dark", tr("Dark")}, {"light", tr("Light")}, {"high-contrast", tr("High contrast")}};
 }
 
 bool Appearance::SetStyle(const QString& nameOrFile, QString* error)

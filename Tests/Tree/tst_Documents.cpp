@@ -111,7 +111,8 @@ class tst_Documents : public Support::TestCase
         if (!Write(path + "/CMakeLists.txt", project.text) ||
             !Write(path + '/' + source, (program != programs.end() ? *program : programs.first()).text))
             return "cannot be written";
-        const QString configure = QString("cd '%1' && ln -s '%2' VxUiWidgets && cmake -S . -B build -G Ninja "
+        const QString configure = QString("cd '%1' && ln -s '%2' VxUiWidgets && cp '%2/Styles/Dark.palette' "
+                                          "Brand.palette && cmake -S . -B build -G Ninja "
                                           "-DCMAKE_PREFIX_PATH='%3/prefix'")
                                       .arg(path, VX_SOURCE, folder.path());
         // As a subdirectory, the library would be built a second time.

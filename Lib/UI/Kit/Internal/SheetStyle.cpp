@@ -19,6 +19,8 @@ namespace {
 constexpr double FIRST_ANGLE = 240;
 constexpr double SPAN = 300;
 
+constexpr int LABEL_MARGIN = 6; ///< around the text of a title bar
+
 const char* const OWN_WEEKEND_COLOR = "_vxWeekendColor";
 
 // Replaces Qt's red and the colour of an earlier sheet, but not a colour of the application.
@@ -105,7 +107,9 @@ void DrawTitleBar(QPainter& painter, const QStyleOptionTitleBar& bar, const QSty
     };
     painter.fillRect(bar.rect, palette.color(isActive ? QPalette::Light : QPalette::AlternateBase));
     painter.setPen(palette.color(isActive ? QPalette::WindowText : QPalette::PlaceholderText));
-    painter.drawText(rect(QStyle::SC_TitleBarLabel), Qt::AlignCenter, bar.text);
+    const QRect label = rect(QStyle::SC_TitleBarLabel).adjusted(LABEL_MARGIN, 0, -LABEL_MARGIN, 0);
+    const QString text = bar.fontMetrics.elidedText(bar.text, Qt::ElideRight, label.width());
+    painter.drawText(label, Qt::AlignLeading | Qt::AlignVCenter, text);
     bar.icon.paint(&painter, rect(QStyle::SC_TitleBarSysMenu));
     const bool isSmall = bar.titleBarState & Qt::WindowMinimized;
     const bool isLarge = bar.titleBarState & Qt::WindowMaximized;
