@@ -113,5 +113,6 @@ foreach(program VxGallery VxRecorder)
 endforeach()
 if(TARGET VxUiWidgetsDesigner)
   vx_find_libraries_from(VxUiWidgetsDesigner ${VX_INSTALL_QTPLUGINDIR}/designer)
-  install(TARGETS VxUiWidgetsDesigner LIBRARY DESTINATION ${VX_INSTALL_QTPLUGINDIR}/designer COMPONENT tools)
+  # Nothing else needs it: `run` does not build it.
+  install(TARGETS VxUiWidgetsDesigner OPTIONAL LIBRARY DESTINATION ${VX_INSTALL_QTPLUGINDIR}/designer COMPONENT tools)
 endif()
