@@ -100,6 +100,8 @@ QString PropertyElement(const QString& name, const QString& value, bool isOfQt)
 // Returns the properties whose values differ from those of `bare`.
 QString PropertyElements(const QObject& object, const QObject& bare)
 {
+    // The position of a slider is its value.
+    static const QStringList SKIPPED{"geometry", "sliderPosition"};
     QString elements;
     const QMetaObject* meta = object.metaObject();
     for (int i = 0; i < meta->propertyCount(); ++i) {
@@ -109,7 +111,7 @@ QString PropertyElements(const QObject& object, const QObject& bare)
             continue;
         const QVariant value = property.read(&object);
         if (!property.isWritable() || !property.isDesignable() || !property.isStored() ||
-            value == property.read(&bare) || qstrcmp(property.name(), "geometry") == 0)
+            value == property.read(&bare) || SKIPPED.contains(property.name()))
             continue;
         // The text is the original one, or what is left of it.
         if (qstrcmp(property.name(), "text") == 0 && meta->indexOfProperty("originalText") >= 0)
@@ -153,14 +155,16 @@ QString ContentElements(const QWidget& widget, const QString& name)
 QString FormOf(const Entry& entry, const State& state)
 {
     QWidget parent;
-    const QWidget* widget = CreateInState(entry, state, &parent);
-    const QObject* bare = CreateBare(entry, &parent);
+    QWidget* widget = CreateInState(entry, state, &parent);
+    QObject* bare = CreateBare(entry, &parent);
     const QMetaObject* meta = bare->metaObject();
     if (!entry.form.reasonAgainst.isEmpty() || widget->metaObject() != meta)
         return QString();
-    // The style sheet sets properties of polished widgets.
-    if (widget->testAttribute(Qt::WA_WState_Polished))
-        static_cast<const QWidget*>(bare)->ensurePolished();
+    // What the style sheet sets is no difference.
+    for (const QByteArray& name : widget->dynamicPropertyNames())
+        bare->setProperty(name, widget->property(name));
+    widget->ensurePolished();
+    static_cast<QWidget*>(bare)->ensurePolished();
     const QMetaObject* base = meta;
     while (!IsOfQt(base->className()))
         base = base->superClass();

@@ -71,3 +71,9 @@ vx_test(Catalogue/tst_HostileApplication.cpp LIBRARIES VxCatalogue)
 # They take minutes with a sanitizer or on a busy machine.
 set_tests_properties(tst_CatalogueChanges tst_CatalogueParents tst_CatalogueAccessibility tst_CatalogueLifetime
                      tst_CatalogueRandomEvents tst_HostileApplication PROPERTIES TIMEOUT 900)
+
+# Generates the pages of all widgets and runs Doxygen, whose warnings are errors.
+if(TARGET widget-pages AND TARGET docs AND NOT VX_SANITIZE AND VX_QT_VERSION EQUAL 5)
+  add_test(NAME docs COMMAND ${CMAKE_COMMAND} --build ${CMAKE_BINARY_DIR} --target docs)
+  set_tests_properties(docs PROPERTIES TIMEOUT 300)
+endif()

@@ -12,8 +12,11 @@
 ///
 /// The display format can be chosen from a list, as the one that loses least precision: of the time or, while the field
 /// has the focus or its dynamic property "forceMaxtimeFormat" is true, of the maximum time. Apostrophes in a format
-/// become typographic ones. Keys, buttons and the wheel step the section at the cursor and stop at midnight; the AM/PM
-/// section is changed by Up and Down only. The wheel requires the focus.
+/// become typographic ones. Buttons and the wheel step the section at the cursor and stop at midnight. The wheel
+/// requires the focus.
+///
+/// Keys: a digit replaces the one at the cursor, Backspace and Delete make it 0. Up, Down, Page Up and Page Down step
+/// the section at the cursor and stop at midnight; only Up and Down change the AM/PM section.
 ///
 /// The layout direction is always left-to-right. As with any field of Qt, a slot of `dateTimeChanged` or `timeChanged`
 /// must use deleteLater() to delete it. GUI thread only.

@@ -10,10 +10,12 @@ class PopUpWindow;
 
 /// A tool button that opens a pop-up panel of the application's widgets.
 ///
-/// A click, Down, Alt+Down, F4 or the menu key opens the panel. A press outside, hiding the button or disabling it
-/// closes the panel. The button is checked while the panel is open, so `toggled()` reports both. The panel grows in one
-/// of six directions from one of six anchors on the button, is kept on the button's screen and follows the button. The
-/// button owns the panel and the widgets in it. A slot may delete the button. GUI thread only.
+/// A click opens the panel. A press outside, hiding the button or disabling it closes the panel. The button is checked
+/// while the panel is open, so `toggled()` reports both. The panel grows in one of six directions from one of six
+/// anchors on the button, is kept on the button's screen and follows the button. The button owns the panel and the
+/// widgets in it. A slot may delete the button. GUI thread only.
+///
+/// Keys: Space, Down, Alt+Down, F4 and the menu key open the panel, Tab moves the focus in it, and Escape closes it.
 ///
 /// Object names for style sheets: "popUpWindow", the transparent window, and "popUpContainer", the panel in it. Both
 /// are `ZFrame`s, whose margins and spacing are properties.

@@ -11,10 +11,12 @@ namespace Zelkor::Vx {
 
 /// A tool button with a menu of items, one of which is current.
 ///
-/// An item is a text with a value. The arrow part of the button, Down, Alt+Down, F4 and the menu key open the menu,
-/// which shows a check mark at the current item. The application handles clicks on the main part of the button and sets
+/// An item is a text with a value. The arrow part of the button opens the menu, which shows a check mark at the
+/// current item. The application handles clicks on the main part of the button and sets
 /// its text and icon. The button owns the menu and its actions; an action may be deleted, which removes its item. A
 /// slot may delete the button. GUI thread only.
+///
+/// Keys: Down, Alt+Down, F4 and the menu key open the menu; Space clicks the main part of the button.
 class VX_WIDGETS_EXPORT ButtonWithPopUpList : public QToolButton
 {
     Q_OBJECT
