@@ -5,6 +5,7 @@
 #include <Examples/Support/FramelessWindow.h>
 #include <Examples/Support/ScreenFit.h>
 #include <Gallery/Browser/GalleryWindow.h>
+#include <Gallery/Browser/StateCard.h>
 #include <UI/Kit/ZRuntimeStylesheetEditor.h>
 #include <UI/Kit/ZStyleSheet.h>
 
@@ -13,6 +14,8 @@
 #include <QDir>
 #include <QEventLoop>
 #include <QFileInfo>
+#include <QHBoxLayout>
+#include <QLabel>
 #include <QProcess>
 #include <QTimer>
 
@@ -24,7 +27,9 @@ using namespace Examples;
 
 namespace {
 
-constexpr int PICTURE_MARGIN = 12;
+constexpr int PICTURE_MARGIN = 16;
+constexpr int PICTURE_WIDTH = 760;
+constexpr int CARDS_IN_PICTURE = 3;
 
 void Wait(int milliseconds)
 {
@@ -39,6 +44,29 @@ bool MakeFolder(const QString& folder)
         return true;
     PrintError(QString("cannot make the folder '%1'").arg(folder));
     return false;
+}
+
+// Shows the name of a widget above cards with its pictured state and, as far as there is room, the next ones.
+void AddCards(const Catalogue::Entry& entry, QWidget* backdrop)
+{
+    auto* title = new QLabel(entry.className);
+    title->setObjectName("title");
+    auto* row = new QHBoxLayout;
+    int width = 2 * PICTURE_MARGIN;
+    for (int i = 0; i < qMin(CARDS_IN_PICTURE, entry.states.size()); ++i) {
+        auto* card = new StateCard(entry, entry.states[(entry.pictured + i) % entry.states.size()], backdrop);
+        card->ensurePolished();
+        width += card->sizeHint().width() + row->spacing();
+        if (i > 0 && width > PICTURE_WIDTH) {
+            delete card;
+            break;
+        }
+        row->addWidget(card);
+    }
+    auto* layout = new QVBoxLayout(backdrop);
+    layout->setContentsMargins(PICTURE_MARGIN, PICTURE_MARGIN, PICTURE_MARGIN, PICTURE_MARGIN);
+    layout->addWidget(title);
+    layout->addLayout(row);
 }
 
 int Save(const QImage& picture, const QString& file)
@@ -198,10 +226,8 @@ int Application::TakePicturesOfWidgets()
         // Keeps the focus off the widget.
         backdrop.setFocusPolicy(Qt::StrongFocus);
         backdrop.setFocus();
-        QWidget* widget = CreateInState(entry, entry.states[entry.pictured], &backdrop);
-        widget->adjustSize();
-        widget->move(PICTURE_MARGIN, PICTURE_MARGIN);
-        backdrop.resize(widget->size() + QSize(2 * PICTURE_MARGIN, 2 * PICTURE_MARGIN));
+        AddCards(entry, &backdrop);
+        backdrop.adjustSize();
         backdrop.show();
         Wait(options.after);
         const QImage picture = backdrop.grab().toImage();

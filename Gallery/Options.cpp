@@ -33,7 +33,7 @@ void Declare(QCommandLineParser& parser)
          "FILE", "system"},
         {"shot", "Writes a picture of the page as PNG, and ends.", "FILE"},
         {"shots", "Writes a picture of each page as PNG, and ends.", "DIR"},
-        {"pictures", "Writes a small picture of each widget alone as PNG, and ends.", "DIR"},
+        {"pictures", "Writes a picture of each widget in up to three states as PNG, and ends.", "DIR"},
         {"press", "Presses the button of this text before the picture.", "TEXT"},
         {"size", "Size of the window in pixels.", "WxH"},
         {"scale", "Scales everything, 0.5 to 4.", "F", "1"},

@@ -129,6 +129,8 @@ void AddHeaderOf(const Entry& entry, SampleCode& code, const Scope& scope)
 
 QString SampleCode::Text() const
 {
+    if (statements.isEmpty())
+        return QString();
     QString text;
     for (int i = 0; i < includes.size(); ++i) {
         const bool isNewGroup = i > 0 && includes[i].contains('/') != includes[i - 1].contains('/');

@@ -80,6 +80,7 @@ CodePane::CodePane(QWidget* parent)
 void CodePane::ShowState(const Catalogue::Entry& entry, int state)
 {
     code = CodeOf(entry, state).Text();
+    setVisible(!code.isEmpty());
     form = FormOf(entry, entry.states[state]);
     if (form.isEmpty()) {
         const QString reason = entry.form.reasonAgainst;

@@ -21,7 +21,7 @@ class CodePane : public QWidget
 public:
     explicit CodePane(QWidget* parent = nullptr);
 
-    /// Shows a state of an entry, by its index.
+    /// Shows a state of an entry, by its index. Hides the pane if there is no code of the entry.
     void ShowState(const Catalogue::Entry& entry, int state);
 
 private:

@@ -1,6 +1,7 @@
 #include "PageSearch.h"
 
 #include <Catalogue/Catalogue.h>
+#include <Catalogue/QtWidgets.h>
 
 #include <QMetaMethod>
 #include <QWidget>
@@ -25,6 +26,10 @@ const std::map<QString, const char*> KEYWORDS = {
     {"MaskedToolTip", "tooltip balloon callout notification"},
     {"PixmapWidget", "avatar image photo round crop"},
     {"QLedMatrix", "display dots pixels"},
+    {"QtWidgets",
+     "QPushButton QCheckBox QRadioButton QToolButton QLineEdit QTextEdit QSpinBox QDateEdit QComboBox QDial "
+     "QProgressBar QTreeView QTableView QListView QHeaderView QCalendarWidget QMenu QTabWidget QToolBox "
+     "QDockWidget QMdiArea QSplitter QStatusBar QWizard QDialog"},
     {"ResizableStackedWidget", "pages wizard"},
     {"ScrollablePanelWithItem", "toolbar carousel"},
     {"SliderWithTickLabels", "steps quality"},
@@ -97,7 +102,7 @@ QVector<PageSearch::Hit> PageSearch::Find(const QString& text)
 
 void PageSearch::Fill()
 {
-    for (const Catalogue::Entry& entry : Catalogue::Entries()) {
+    for (const Catalogue::Entry& entry : Catalogue::Entries() + QVector{Catalogue::QtWidgetsEntry()}) {
         QWidget parent;
         const auto keywords = KEYWORDS.find(entry.className);
         pages.append(

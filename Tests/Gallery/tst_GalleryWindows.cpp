@@ -117,6 +117,7 @@ private Q_SLOTS:
         QTest::newRow("colorb") << QStringList{"By name", "ColorButton", "By property, signal or part",
                                                "VolumeSlider\ncolorBackground"};
         QTest::newRow("meter level") << QStringList{"By description", "VolumeSlider"};
+        QTest::newRow("qtreeview") << QStringList{"By description", "QtWidgets"};
         QTest::newRow("countdownind") << QStringList{"By name", "CountdownIndicatorWidget"};
         QTest::newRow("maskanchor") << QStringList{"By property, signal or part", "PixmapWidget\nmaskAnchor"};
         QTest::newRow("#popUpC") << QStringList{"By property, signal or part",
