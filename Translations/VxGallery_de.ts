@@ -1454,6 +1454,17 @@ Vorgabe: %3</translation>
     </message>
 </context>
 <context>
+    <name>Zelkor::Gallery::ResizeFrame</name>
+    <message>
+        <source>Size</source>
+        <translation>Größe</translation>
+    </message>
+    <message>
+        <source>Arrow keys resize the widget, Backspace restores its size</source>
+        <translation>Pfeiltasten ändern die Größe des Widgets, die Rücktaste stellt sie wieder her</translation>
+    </message>
+</context>
+<context>
     <name>Zelkor::Gallery::SceneBar</name>
     <message>
         <source>%1 %</source>

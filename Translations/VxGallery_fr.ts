@@ -1454,6 +1454,17 @@ Par défaut&#xa0;: %3</translation>
     </message>
 </context>
 <context>
+    <name>Zelkor::Gallery::ResizeFrame</name>
+    <message>
+        <source>Size</source>
+        <translation>Taille</translation>
+    </message>
+    <message>
+        <source>Arrow keys resize the widget, Backspace restores its size</source>
+        <translation>Les flèches redimensionnent le widget, Retour arrière rétablit sa taille</translation>
+    </message>
+</context>
+<context>
     <name>Zelkor::Gallery::SceneBar</name>
     <message>
         <source>%1 %</source>

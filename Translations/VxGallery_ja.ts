@@ -1454,6 +1454,17 @@ Default: %3</source>
     </message>
 </context>
 <context>
+    <name>Zelkor::Gallery::ResizeFrame</name>
+    <message>
+        <source>Size</source>
+        <translation>サイズ</translation>
+    </message>
+    <message>
+        <source>Arrow keys resize the widget, Backspace restores its size</source>
+        <translation>矢印キーでウィジェットのサイズを変更し、Backspace で元に戻します</translation>
+    </message>
+</context>
+<context>
     <name>Zelkor::Gallery::SceneBar</name>
     <message>
         <source>%1 %</source>

@@ -1,4 +1,5 @@
 #include "StateCard.h"
+#include "ResizeFrame.h"
 
 #include <Catalogue/Catalogue.h>
 #include <Examples/Support/WidgetTexts.h>
@@ -6,13 +7,30 @@
 #include <QLabel>
 #include <QStyle>
 #include <QVBoxLayout>
-#include <QVariant>
 
 namespace Zelkor::Gallery {
 
 using namespace Examples;
 
-StateCard::StateCard(const Catalogue::Entry& entry, const Catalogue::State& state, QWidget* parent)
+namespace {
+
+// Returns the directions in which the state, and not the class of the widget, fixes the size.
+Qt::Orientations FixedByState(const QWidget& widget, const QVariantMap& defaults)
+{
+    const QSize smallest = defaults.value("minimumSize").toSize();
+    const QSize largest = defaults.value("maximumSize").toSize();
+    const bool isWide = smallest.width() < largest.width() || !largest.isValid();
+    const bool isHigh = smallest.height() < largest.height() || !largest.isValid();
+    Qt::Orientations directions;
+    directions.setFlag(Qt::Horizontal, isWide && widget.minimumWidth() == widget.maximumWidth());
+    directions.setFlag(Qt::Vertical, isHigh && widget.minimumHeight() == widget.maximumHeight());
+    return directions;
+}
+
+} // namespace
+
+StateCard::StateCard(const Catalogue::Entry& entry, const Catalogue::State& state, const QVariantMap& defaults,
+                     QWidget* parent)
     : ZFrame(parent), holder(new QWidget)
 {
     setProperty("role", QStringLiteral("card"));
@@ -25,11 +43,15 @@ StateCard::StateCard(const Catalogue::Entry& entry, const Catalogue::State& stat
     widget = CreateInState(entry, state, holder);
     auto* inner = new QVBoxLayout(holder);
     inner->setContentsMargins(0, 0, 0, 0);
-    inner->addWidget(widget, 0, Qt::AlignLeading | Qt::AlignTop);
+    auto* item = new SizedItem(widget, FixedByState(*widget, defaults));
+    item->setAlignment(Qt::AlignLeading | Qt::AlignTop);
+    inner->addItem(item);
     inner->addStretch();
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(caption);
     layout->addWidget(holder, 1);
+    frame = new ResizeFrame(item, this);
+    frame->hide();
 }
 
 void StateCard::SetSelected(bool on)
@@ -39,6 +61,8 @@ void StateCard::SetSelected(bool on)
     setProperty("selected", on);
     style()->unpolish(this);
     style()->polish(this);
+    if (frame)
+        frame->setVisible(on);
 }
 
 } // namespace Zelkor::Gallery

@@ -118,7 +118,7 @@ QWidget* WidgetPage::CreateContent(const Catalogue::Entry& entry)
     auto* grid = new CardGrid;
     grid->setSpacing(CARD_SPACING);
     for (const Catalogue::State& state : entry.states) {
-        auto* card = new StateCard(entry, state);
+        auto* card = new StateCard(entry, state, defaults);
         inspector->Signals()->Watch(card->Widget(), className, state.name);
         grid->addWidget(card);
         cards.append(card);

@@ -256,6 +256,34 @@ private Q_SLOTS:
         QCOMPARE(field("accessibleValue").toInt(), slider->value());
     }
 
+    void frameResizesTheWidgetWithinItsLimits()
+    {
+        gallery->OpenPage("ZCustomSlider");
+        gallery->layout()->activate();
+        auto* card = Page()->findChild<StateCard*>();
+        QWidget* widget = card->Widget();
+        widget->setMaximumHeight(60);
+        auto* frame = card->findChild<QWidget*>("resizeFrame");
+        QTRY_COMPARE(widget->height(), widget->sizeHint().height());
+        const QSize original = widget->size();
+        const QPoint corner = frame->rect().bottomRight() - QPoint(2, 2);
+        const QPoint global = frame->mapToGlobal(corner);
+        const auto drag = [&](const QPoint& way) {
+            QMouseEvent move(QEvent::MouseMove, corner, corner, global + way, Qt::NoButton, Qt::LeftButton, {});
+            QApplication::sendEvent(frame, &move);
+        };
+        QTest::mousePress(frame, Qt::LeftButton, {}, corner);
+        drag({20, 10});
+        QTRY_COMPARE(widget->size(), original + QSize(20, 10));
+        drag({-999, 999});
+        QTRY_COMPARE(widget->size(), QSize(widget->minimumSizeHint().width(), 60));
+        QTest::mouseRelease(frame, Qt::LeftButton);
+        QTest::keyClick(frame, Qt::Key_Right);
+        QTRY_COMPARE(widget->width(), widget->minimumSizeHint().width() + 1);
+        QTest::mouseDClick(frame, Qt::LeftButton, {}, frame->rect().bottomRight() - QPoint(2, 2));
+        QTRY_COMPARE(widget->size(), original);
+    }
+
     void forcedStateIsPaintedUntilItIsSwitchedOff_data()
     {
         QTest::addColumn<QString>("page");
