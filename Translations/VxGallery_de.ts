@@ -1230,6 +1230,17 @@ und nicht breit</translation>
     </message>
 </context>
 <context>
+    <name>Palette</name>
+    <message>
+        <source>There is no colour for %1</source>
+        <translation>Es gibt keine Farbe für %1</translation>
+    </message>
+    <message>
+        <source>Not a line of a palette: %1</source>
+        <translation>Keine Zeile einer Palette: %1</translation>
+    </message>
+</context>
+<context>
     <name>Zelkor::Examples::Appearance</name>
     <message>
         <source>System</source>
@@ -1409,6 +1420,29 @@ und nicht breit</translation>
     </message>
 </context>
 <context>
+    <name>Zelkor::Gallery::PaletteEditor</name>
+    <message>
+        <source>Palettes (*.palette)</source>
+        <translation>Paletten (*.palette)</translation>
+    </message>
+    <message>
+        <source>Palette</source>
+        <translation>Palette</translation>
+    </message>
+    <message>
+        <source>Palette to start from</source>
+        <translation>Palette als Ausgangspunkt</translation>
+    </message>
+    <message>
+        <source>Open a palette...</source>
+        <translation>Palette öffnen...</translation>
+    </message>
+    <message>
+        <source>Save the palette...</source>
+        <translation>Palette speichern...</translation>
+    </message>
+</context>
+<context>
     <name>Zelkor::Gallery::PropertyPanel</name>
     <message>
         <source>In a style sheet</source>
@@ -1525,6 +1559,22 @@ Vorgabe: %3</translation>
     <message>
         <source>Appearance</source>
         <translation>Darstellung</translation>
+    </message>
+    <message>
+        <source>Open a style sheet</source>
+        <translation>Stylesheet öffnen</translation>
+    </message>
+    <message>
+        <source>Style sheets (*.qss)</source>
+        <translation>Stylesheets (*.qss)</translation>
+    </message>
+    <message>
+        <source>Open a style sheet...</source>
+        <translation>Stylesheet öffnen...</translation>
+    </message>
+    <message>
+        <source>Edit the palette...</source>
+        <translation>Palette bearbeiten...</translation>
     </message>
 </context>
 <context>

@@ -1230,6 +1230,17 @@ et peu large</translation>
     </message>
 </context>
 <context>
+    <name>Palette</name>
+    <message>
+        <source>There is no colour for %1</source>
+        <translation>Il n&apos;y a pas de couleur pour %1</translation>
+    </message>
+    <message>
+        <source>Not a line of a palette: %1</source>
+        <translation>Pas une ligne de palette : %1</translation>
+    </message>
+</context>
+<context>
     <name>Zelkor::Examples::Appearance</name>
     <message>
         <source>System</source>
@@ -1409,6 +1420,29 @@ et peu large</translation>
     </message>
 </context>
 <context>
+    <name>Zelkor::Gallery::PaletteEditor</name>
+    <message>
+        <source>Palettes (*.palette)</source>
+        <translation>Palettes (*.palette)</translation>
+    </message>
+    <message>
+        <source>Palette</source>
+        <translation>Palette</translation>
+    </message>
+    <message>
+        <source>Palette to start from</source>
+        <translation>Palette de départ</translation>
+    </message>
+    <message>
+        <source>Open a palette...</source>
+        <translation>Ouvrir une palette...</translation>
+    </message>
+    <message>
+        <source>Save the palette...</source>
+        <translation>Enregistrer la palette...</translation>
+    </message>
+</context>
+<context>
     <name>Zelkor::Gallery::PropertyPanel</name>
     <message>
         <source>In a style sheet</source>
@@ -1525,6 +1559,22 @@ Par défaut&#xa0;: %3</translation>
     <message>
         <source>Appearance</source>
         <translation>Apparence</translation>
+    </message>
+    <message>
+        <source>Open a style sheet</source>
+        <translation>Ouvrir une feuille de style</translation>
+    </message>
+    <message>
+        <source>Style sheets (*.qss)</source>
+        <translation>Feuilles de style (*.qss)</translation>
+    </message>
+    <message>
+        <source>Open a style sheet...</source>
+        <translation>Ouvrir une feuille de style...</translation>
+    </message>
+    <message>
+        <source>Edit the palette...</source>
+        <translation>Modifier la palette...</translation>
     </message>
 </context>
 <context>

@@ -1230,6 +1230,17 @@ and not wide</source>
     </message>
 </context>
 <context>
+    <name>Palette</name>
+    <message>
+        <source>There is no colour for %1</source>
+        <translation>%1 の色がありません</translation>
+    </message>
+    <message>
+        <source>Not a line of a palette: %1</source>
+        <translation>パレットの行ではありません: %1</translation>
+    </message>
+</context>
+<context>
     <name>Zelkor::Examples::Appearance</name>
     <message>
         <source>System</source>
@@ -1409,6 +1420,29 @@ and not wide</source>
     </message>
 </context>
 <context>
+    <name>Zelkor::Gallery::PaletteEditor</name>
+    <message>
+        <source>Palettes (*.palette)</source>
+        <translation>パレット (*.palette)</translation>
+    </message>
+    <message>
+        <source>Palette</source>
+        <translation>パレット</translation>
+    </message>
+    <message>
+        <source>Palette to start from</source>
+        <translation>元にするパレット</translation>
+    </message>
+    <message>
+        <source>Open a palette...</source>
+        <translation>パレットを開く...</translation>
+    </message>
+    <message>
+        <source>Save the palette...</source>
+        <translation>パレットを保存...</translation>
+    </message>
+</context>
+<context>
     <name>Zelkor::Gallery::PropertyPanel</name>
     <message>
         <source>In a style sheet</source>
@@ -1525,6 +1559,22 @@ Default: %3</source>
     <message>
         <source>Appearance</source>
         <translation>外観</translation>
+    </message>
+    <message>
+        <source>Open a style sheet</source>
+        <translation>スタイルシートを開く</translation>
+    </message>
+    <message>
+        <source>Style sheets (*.qss)</source>
+        <translation>スタイルシート (*.qss)</translation>
+    </message>
+    <message>
+        <source>Open a style sheet...</source>
+        <translation>スタイルシートを開く...</translation>
+    </message>
+    <message>
+        <source>Edit the palette...</source>
+        <translation>パレットを編集...</translation>
     </message>
 </context>
 <context>

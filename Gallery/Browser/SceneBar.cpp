@@ -2,12 +2,15 @@
 
 #include <Examples/Support/Appearance.h>
 #include <Examples/Support/WidgetTexts.h>
+#include <Gallery/Palette/PaletteEditor.h>
 #include <UI/Kit/ZStyleSheet.h>
 
 #include <QAction>
 #include <QApplication>
+#include <QFileDialog>
 #include <QHBoxLayout>
 #include <QMenu>
+#include <QMessageBox>
 #include <QStyle>
 #include <QToolButton>
 
@@ -107,16 +110,7 @@ void SceneBar::FillMenus()
             ShowAppearance();
         });
     }
-    QMenu* styles = MakeMenu(style);
-    for (const Style& item : Appearance::AllStyles()) {
-        QAction* action = styles->addAction(QString());
-        action->setData(item.name);
-        action->setCheckable(true);
-        connect(action, &QAction::triggered, this, [this, name = item.name] {
-            appearance->SetStyle(name);
-            ShowAppearance();
-        });
-    }
+    FillStyleMenu();
     QMenu* scales = MakeMenu(scaling);
     for (const double factor : SCALES) {
         QAction* action = scales->addAction(QString());
@@ -128,6 +122,50 @@ void SceneBar::FillMenus()
                 Q_EMIT RestartRequested(factor);
         });
     }
+}
+
+void SceneBar::FillStyleMenu()
+{
+    QMenu* styles = MakeMenu(style);
+    for (const Style& item : Appearance::AllStyles()) {
+        QAction* action = styles->addAction(QString());
+        action->setData(item.name);
+        action->setCheckable(true);
+        connect(action, &QAction::triggered, this, [this, name = item.name] {
+            appearance->SetStyle(name);
+            ShowAppearance();
+        });
+    }
+    styles->addSeparator();
+    openSheet = styles->addAction(QString(), this, &SceneBar::OpenStyleSheet);
+    editPalette = styles->addAction(QString(), this, &SceneBar::EditPalette);
+    editPalette->setObjectName("editPalette");
+}
+
+void SceneBar::OpenStyleSheet()
+{
+    auto* dialog = new QFileDialog(this, tr("Open a style sheet"), QString(), tr("Style sheets (*.qss)"));
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setFileMode(QFileDialog::ExistingFile);
+    connect(dialog, &QFileDialog::fileSelected, this, [this](const QString& file) {
+        QString error;
+        if (appearance->SetStyle(file, &error))
+            return;
+        auto* message = new QMessageBox(QMessageBox::Warning, tr("Open a style sheet"), error, QMessageBox::Ok, this);
+        message->setAttribute(Qt::WA_DeleteOnClose);
+        message->open();
+    });
+    dialog->open();
+}
+
+// The window has a single palette editor.
+void SceneBar::EditPalette()
+{
+    auto* editor = window()->findChild<PaletteEditor*>();
+    if (!editor)
+        editor = new PaletteEditor(appearance, window());
+    editor->show();
+    editor->activateWindow();
 }
 
 void SceneBar::SetForWidgets(bool on)
@@ -149,6 +187,8 @@ bool SceneBar::AreWidgetsEnabled() const
 void SceneBar::Retranslate()
 {
     setAccessibleName(tr("Scene"));
+    openSheet->setText(tr("Open a style sheet..."));
+    editPalette->setText(tr("Edit the palette..."));
     Name(direction, tr("Right to left"), tr("Lay out from right to left"));
     Name(scaling, ScaleText(scale), tr("Scale. Another one starts the gallery anew, with this page."));
     Name(enabled, tr("Enabled"), tr("Enable the widgets of the page"));

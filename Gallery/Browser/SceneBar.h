@@ -3,6 +3,7 @@
 #include <QVector>
 #include <QWidget>
 
+class QAction;
 class QToolButton;
 
 namespace Zelkor::Examples {
@@ -11,8 +12,8 @@ class Appearance;
 
 namespace Zelkor::Gallery {
 
-/// The tool bar that sets style sheet, direction, language, scale and enabled state of the pages. `appearance` must
-/// outlive it.
+/// The tool bar that sets style sheet or palette, direction, language, scale and enabled state of the pages.
+/// `appearance` must outlive it.
 class SceneBar : public QWidget
 {
     Q_OBJECT
@@ -42,6 +43,9 @@ protected:
 private:
     QToolButton* AddButton(const char* icon, bool checkable);
     void FillMenus();
+    void FillStyleMenu();
+    void OpenStyleSheet();
+    void EditPalette();
     void ShowAppearance();
     void ShowTexts();
 
@@ -49,6 +53,8 @@ private:
     const double scale;
     QVector<QToolButton*> buttons; ///< all tool buttons, in order
     QToolButton* style;
+    QAction* openSheet;
+    QAction* editPalette;
     QToolButton* direction;
     QToolButton* language;
     QToolButton* scaling;

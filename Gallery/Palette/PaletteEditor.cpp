@@ -1,0 +1,184 @@
+#include "PaletteEditor.h"
+
+#include <Examples/Support/Appearance.h>
+#include <Examples/Support/WidgetTexts.h>
+#include <Gallery/Inspector/ColorField.h>
+
+#include <QComboBox>
+#include <QDir>
+#include <QEvent>
+#include <QFile>
+#include <QFileDialog>
+#include <QGridLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QScrollArea>
+
+namespace Zelkor::Gallery {
+
+using namespace Examples;
+
+namespace {
+
+constexpr QSize WINDOW_SIZE(360, 640);
+constexpr int SPACING = 8;
+constexpr int FIELD_WIDTH = 120;
+constexpr int PAUSE_MS = 150; ///< collects the changes of a colour that is chosen with the mouse
+const QString SHEET = QStringLiteral("Own");
+
+} // namespace
+
+PaletteEditor::PaletteEditor(Appearance* appearance, QWidget* parent)
+    : QDialog(parent), appearance(appearance), base(new QComboBox), area(new QScrollArea), message(new QLabel),
+      openButton(new QPushButton), saveButton(new QPushButton)
+{
+    resize(WINDOW_SIZE);
+    base->addItems(Palette::BuiltInNames());
+    area->setWidgetResizable(true);
+    area->setFrameShape(QFrame::NoFrame);
+    area->setFocusPolicy(Qt::NoFocus);
+    message->setWordWrap(true);
+    message->hide();
+    for (QPushButton* button : {openButton, saveButton})
+        button->setAutoDefault(false);
+    auto* layout = new QGridLayout(this);
+    layout->addWidget(base, 0, 0, 1, 2);
+    layout->addWidget(area, 1, 0, 1, 2);
+    layout->addWidget(message, 2, 0, 1, 2);
+    layout->addWidget(openButton, 3, 0);
+    layout->addWidget(saveButton, 3, 1);
+    applyTimer.setSingleShot(true);
+    applyTimer.setInterval(PAUSE_MS);
+    connect(&applyTimer, &QTimer::timeout, this, &PaletteEditor::Apply);
+    connect(base, QOverload<int>::of(&QComboBox::activated), this, [this] {
+        SetPalette(Palette::BuiltIn(base->currentText()));
+        Apply();
+    });
+    connect(openButton, &QPushButton::clicked, this, [this] {
+        auto* dialog = new QFileDialog(this, openButton->text());
+        dialog->setFileMode(QFileDialog::ExistingFile);
+        connect(dialog, &QFileDialog::fileSelected, this, &PaletteEditor::Load);
+        OpenDialog(dialog);
+    });
+    connect(saveButton, &QPushButton::clicked, this, [this] {
+        auto* dialog = new QFileDialog(this, saveButton->text());
+        dialog->setAcceptMode(QFileDialog::AcceptSave);
+        dialog->setDefaultSuffix("palette");
+        connect(dialog, &QFileDialog::fileSelected, this, &PaletteEditor::Save);
+        OpenDialog(dialog);
+    });
+    // Starts with the palette of the current style, if it has one: "high-contrast" is HighContrast.
+    const QString style = appearance->StyleName().remove('-');
+    base->setCurrentIndex(qMax(0, base->findText(style, Qt::MatchFixedString)));
+    SetPalette(Palette::BuiltIn(base->currentText()));
+    Retranslate();
+}
+
+void PaletteEditor::OpenDialog(QFileDialog* dialog)
+{
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setNameFilter(tr("Palettes (*.palette)"));
+    dialog->open();
+}
+
+void PaletteEditor::Retranslate()
+{
+    setWindowTitle(tr("Palette"));
+    base->setAccessibleName(tr("Palette to start from"));
+    base->setToolTip(base->accessibleName());
+    openButton->setText(tr("Open a palette..."));
+    saveButton->setText(tr("Save the palette..."));
+}
+
+void PaletteEditor::SetPalette(const Palette& newPalette)
+{
+    palette = newPalette;
+    area->setWidget(new QWidget);
+    area->widget()->setAutoFillBackground(false);
+    auto* grid = new QGridLayout(area->widget());
+    grid->setContentsMargins(0, 0, SPACING, 0);
+    grid->setColumnStretch(0, 1);
+    for (const Palette::Group& group : palette.Groups()) {
+        auto* heading = new QLabel(group.comment);
+        heading->setObjectName("caption");
+        heading->setWordWrap(true);
+        heading->setContentsMargins(0, SPACING, 0, 0);
+        AlignAtStart(heading);
+        grid->addWidget(heading, grid->rowCount(), 0, 1, 2);
+        for (const QString& name : group.names)
+            AddColor(name, grid->rowCount());
+    }
+    grid->setRowStretch(grid->rowCount(), 1);
+}
+
+void PaletteEditor::AddColor(const QString& name, int row)
+{
+    auto* label = new QLabel(name);
+    auto* field = new ColorField;
+    AlignAtStart(label);
+    label->setBuddy(field);
+    field->setObjectName(name);
+    field->setAccessibleName(name);
+    field->setFixedWidth(FIELD_WIDTH);
+    field->SetAlphaEnabled(false);
+    field->SetColor(palette.Color(name));
+    connect(field, &ColorField::ColorChanged, this, [this, name](const QColor& color) {
+        palette.SetColor(name, color);
+        applyTimer.start();
+    });
+    auto* grid = static_cast<QGridLayout*>(area->widget()->layout());
+    grid->addWidget(label, row, 0);
+    grid->addWidget(field, row, 1);
+}
+
+void PaletteEditor::Apply()
+{
+    applyTimer.stop();
+    QDir own(folder.path());
+    const QString previous = QString::number(generation);
+    const QString current = QString::number(++generation);
+    own.mkpath(current);
+    QString error;
+    const QString sheet = WriteStyleSheet(palette, SHEET, own.filePath(current), &error);
+    if (error.isEmpty() && appearance->SetStyle(sheet, &error))
+        QDir(own.filePath(previous)).removeRecursively();
+    message->setText(error);
+    message->setVisible(!error.isEmpty());
+}
+
+bool PaletteEditor::Load(const QString& fileName)
+{
+    QFile file(fileName);
+    QString error;
+    std::optional<Palette> loaded;
+    if (file.open(QIODevice::ReadOnly))
+        loaded = Palette::Parse(QString::fromUtf8(file.readAll()), &error);
+    else
+        error = file.errorString();
+    message->setText(error);
+    message->setVisible(!loaded);
+    if (!loaded)
+        return false;
+    SetPalette(*loaded);
+    Apply();
+    return true;
+}
+
+bool PaletteEditor::Save(const QString& fileName)
+{
+    QFile file(fileName);
+    const QByteArray bytes = palette.Text().toUtf8();
+    const bool isSaved = file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
+    message->setText(isSaved ? QString() : file.errorString());
+    message->setVisible(!isSaved);
+    return isSaved;
+}
+
+void PaletteEditor::changeEvent(QEvent* event)
+{
+    QDialog::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange)
+        Retranslate();
+}
+
+} // namespace Zelkor::Gallery
