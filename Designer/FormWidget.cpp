@@ -1,5 +1,6 @@
 #include "FormWidget.h"
 #include "FormXml.h"
+#include "Placeholder.h"
 
 #include <Catalogue/Catalogue.h>
 #include <Examples/Support/BuiltInStyleSheets.h>
@@ -73,6 +74,8 @@ QWidget* FormWidget::createWidget(QWidget* parent)
     // In Designer, a stack of fixed size and its empty pages could not be resized.
     if (auto* stack = qobject_cast<QStackedWidget*>(widget); stack && isInEditor)
         QObject::disconnect(stack, &QStackedWidget::currentChanged, stack, nullptr);
+    if (isInEditor && IsBlank(*entry.form.metaObject))
+        ShowPlaceholder(widget, entry.className);
     return widget;
 }
 

@@ -17,7 +17,7 @@ namespace {
 
 constexpr int FIRST_PAGES = 2;
 constexpr QSize SIZE_WITH_PAGES(240, 160);
-constexpr QSize SIZE_WHILE_EMPTY(120, 32);
+constexpr QSize SIZE_WHILE_EMPTY(160, 32);
 constexpr int SMALLEST_LENGTH = 12; ///< smaller widgets are hard to see and select
 
 // "Zelkor::Vx::ColorButton" becomes "colorButton".
@@ -46,6 +46,8 @@ QSize FirstSize(const Catalogue::Entry& entry)
     for (auto it = entry.form.properties.begin(); it != entry.form.properties.end(); ++it)
         widget->setProperty(it.key().toLatin1(), it.value());
     const QSize hint = widget->sizeHint();
+    if (IsBlank(*entry.form.metaObject))
+        return hint.expandedTo(SIZE_WHILE_EMPTY);
     const bool isSmall = hint.width() < SMALLEST_LENGTH || hint.height() < SMALLEST_LENGTH;
     return isSmall ? SIZE_WHILE_EMPTY : hint;
 }
@@ -99,6 +101,14 @@ void WritePage(QXmlStreamWriter& xml, const QString& stack, int number, bool has
 bool HasPages(const QMetaObject& metaObject)
 {
     return metaObject.inherits(&QTabWidget::staticMetaObject) || metaObject.inherits(&QStackedWidget::staticMetaObject);
+}
+
+bool IsBlank(const QMetaObject& metaObject)
+{
+    const QString name = QString::fromLatin1(metaObject.className()).section(QStringLiteral("::"), -1);
+    return QStringList{"ButtonWithLabels", "HorizontalTabBar", "PixmapWidget", "ScrollablePanelWithItem",
+                       "VideoPreviewWidget"}
+        .contains(name);
 }
 
 QString FormXml(const Catalogue::Entry& entry)
