@@ -76,7 +76,7 @@ void ApplyPalette(const QString& text)
 
 void UseSheetStyle()
 {
-    QApplication::setStyle(new SheetStyle);
+    QApplication::setStyle(new SheetStyle(&ZStyleSheet::icon));
 }
 
 void Apply(const ZStyleSheet& sheet)

@@ -1,7 +1,5 @@
 #include <UI/Kit/Internal/SheetStyle.h>
 
-#include <UI/Kit/ZStyleSheet.h>
-
 #include <QAbstractItemView>
 #include <QCalendarWidget>
 #include <QGuiApplication>
@@ -133,7 +131,9 @@ void DrawTitleBar(QPainter& painter, const QStyleOptionTitleBar& bar, const QSty
 
 } // namespace
 
-SheetStyle::SheetStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
+SheetStyle::SheetStyle(std::function<QIcon(const QString& name)> icon)
+    : QProxyStyle(QStringLiteral("Fusion")), iconOfSheet(std::move(icon))
+{}
 
 void SheetStyle::polish(QWidget* widget)
 {
@@ -181,7 +181,7 @@ QIcon SheetStyle::standardIcon(StandardPixmap icon, const QStyleOption* option, 
     };
     if (NAMES.contains(icon)) {
         // A sheet from a file may lack the icon.
-        const QIcon own = ZStyleSheet::icon(NAMES[icon]);
+        const QIcon own = iconOfSheet(NAMES[icon]);
         if (!own.pixmap(16).isNull())
             return own;
     }

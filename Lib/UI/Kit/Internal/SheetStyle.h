@@ -2,6 +2,8 @@
 
 #include <QProxyStyle>
 
+#include <functional>
+
 namespace Zelkor::Vx::UI::Kit {
 
 /// The style "Fusion" below a style sheet, with the parts that sheets do not reach in the colours of the palette:
@@ -10,7 +12,8 @@ namespace Zelkor::Vx::UI::Kit {
 class SheetStyle : public QProxyStyle
 {
 public:
-    SheetStyle();
+    /// `icon` returns an icon of the sheet by its name.
+    explicit SheetStyle(std::function<QIcon(const QString& name)> icon);
 
     using QProxyStyle::polish;
     void polish(QWidget* widget) override;
@@ -28,6 +31,7 @@ public:
                             const QWidget* widget) const override;
 
 private:
+    const std::function<QIcon(const QString&)> iconOfSheet;
     QPalette platformPalette;
 };
 
