@@ -81,6 +81,7 @@ Entry TimelineEntry()
             DisabledState(),
         },
         MakeBare<ZTimelineSlider>,
+        2,
     };
 }
 
