@@ -21,7 +21,7 @@ constexpr int CREATE_ELEMENT = 5;
 constexpr int STATES_ELEMENT = 6;
 constexpr int LONGEST_INLINED = 16; ///< lines; longer functions are kept as they are
 
-/// Functions that adapt a widget to changes of the gallery's scene, which a sample needs not.
+/// Functions that adapt a widget to changes of the gallery's scene. Code to copy does not need them.
 const QStringList GALLERY_ONLY{"AdaptToSurroundings", "AlignAtStart"};
 
 const QString PREFIX = QStringLiteral(":/CatalogueSources/");
@@ -198,8 +198,7 @@ private:
     // parameter become variables.
     static Tokens Instantiate(const Function& function, const Tokens& call)
     {
-        const auto arguments = call[0].text == "[" ? SplitAtCommas(Inside(call, call.size() - 1)) : ArgumentsOf(call);
-        return WithArguments(function, arguments);
+        return WithArguments(function, ArgumentsOf(call));
     }
 
     static Tokens WithArguments(const Function& function, const QVector<Tokens>& arguments)
@@ -350,11 +349,10 @@ void Scope::Take(const SourceFile& file)
 
 const Definition* Scope::Find(const QString& name) const
 {
-    for (const Definition& definition : definitions) {
-        if (definition.name == name)
-            return &definition;
-    }
-    return nullptr;
+    // Backwards, because the entry's own file is the last one.
+    const auto found = std::find_if(definitions.crbegin(), definitions.crend(),
+                                    [&](const Definition& definition) { return definition.name == name; });
+    return found == definitions.crend() ? nullptr : &*found;
 }
 
 Tokens StatementsOf(const Scope& scope, int state)

@@ -29,6 +29,7 @@ QString ReadFile(const QString& name)
 QString Escaped(QString text)
 {
     text.replace(QRegularExpression("([\\\\@#%<>&\"|])"), "\\\\1");
+    text.replace("--", "\\--");
     // A leading :: is a link, one inside of a class name is none.
     return text.replace(QRegularExpression("(?<!\\w)::"), "\\::");
 }

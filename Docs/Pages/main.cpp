@@ -38,9 +38,11 @@ void TakePictures(const Catalogue::Entry& entry, Pictures& pictures)
 {
     for (int i = 0; i < entry.states.size(); ++i)
         pictures[PictureName(entry, QString::number(i))].append(TakePicture(entry, entry.states[i], Interaction::NONE));
-    for (const auto& [interaction, name] : INTERACTIONS)
-        pictures[PictureName(entry, QString(name).toLower())].append(
-            TakePicture(entry, entry.states[entry.pictured], interaction));
+    const QImage plain = pictures[PictureName(entry, QString::number(entry.pictured))].constLast();
+    for (const auto& [interaction, name] : INTERACTIONS) {
+        const QImage picture = TakePicture(entry, entry.states[entry.pictured], interaction);
+        pictures[PictureName(entry, QString(name).toLower())].append(picture == plain ? QImage() : picture);
+    }
 }
 
 } // namespace
