@@ -139,7 +139,8 @@ void PageList::AddAllPages(bool isCompact)
 {
     QString group;
     AddPage(StartPageName(), isCompact);
-    for (const Catalogue::Entry& entry : Catalogue::Entries() + QVector{Catalogue::QtWidgetsEntry()}) {
+    for (const Catalogue::Entry& entry :
+         Catalogue::Entries() + QVector<Catalogue::Entry>{Catalogue::QtWidgetsEntry()}) {
         if (entry.group != group && !isCompact)
             AddHeading(entry.group);
         group = entry.group;
