@@ -62,7 +62,7 @@ ResizeFrame::ResizeFrame(SizedItem* item, QWidget* parent) : QWidget(parent), it
     Follow();
 }
 
-// Covers a ring around the widget, which itself stays reachable for the mouse.
+// Covers a ring around the widget, without the widget, which receives its mouse events as before.
 void ResizeFrame::Follow()
 {
     const QWidget* widget = item->widget();

@@ -6,7 +6,7 @@
 
 namespace Zelkor::Gallery {
 
-/// A widget in a layout at a size of its own, regardless of its size hint. Clamps the size to what the widget allows.
+/// A layout item whose widget can be resized regardless of its size hint, within the limits of the widget.
 class SizedItem : public QWidgetItem
 {
 public:
