@@ -54,8 +54,8 @@ void AddCards(const Catalogue::Entry& entry, QWidget* backdrop)
     auto* row = new QHBoxLayout;
     int width = 2 * PICTURE_MARGIN;
     for (int i = 0; i < qMin(CARDS_IN_PICTURE, entry.states.size()); ++i) {
-        auto* card = new StateCard(entry, entry.states[(entry.pictured + i) % entry.states.size()],
-                                   QVariantMap(), backdrop);
+        auto* card =
+            new StateCard(entry, entry.states[(entry.pictured + i) % entry.states.size()], QVariantMap(), backdrop);
         card->ensurePolished();
         width += card->sizeHint().width() + row->spacing();
         if (i > 0 && width > PICTURE_WIDTH) {

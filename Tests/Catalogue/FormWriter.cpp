@@ -61,9 +61,9 @@ int main(int argc, char* argv[])
     QString table;
     for (const Entry& entry : Entries()) {
         if (entry.form.metaObject)
-            all.Add(QString(Zelkor::Designer::FormXml(entry))
-                        .replace("</customwidget>",
-                                 QString("<header>%1</header></customwidget>").arg(entry.form.header)));
+            all.Add(
+                QString(Zelkor::Designer::FormXml(entry))
+                    .replace("</customwidget>", QString("<header>%1</header></customwidget>").arg(entry.form.header)));
         for (int i = 0; i < entry.states.size(); ++i) {
             const QString name = QString("%1%2").arg(entry.className).arg(i);
             if (const QString form = FormOf(entry, entry.states[i]); !form.isEmpty())
