@@ -43,7 +43,7 @@ GalleryWindow::GalleryWindow(Examples::Appearance* appearance, double scale, QWi
 void GalleryWindow::OpenPage(const QString& name, int state)
 {
     list->OpenPage(name);
-    if (auto* widgetPage = qobject_cast<WidgetPage*>(page))
+    if (auto* widgetPage = qobject_cast<WidgetPage*>(page); widgetPage && state > 0)
         widgetPage->ShowState(state);
 }
 

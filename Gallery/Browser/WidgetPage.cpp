@@ -190,7 +190,8 @@ void WidgetPage::Arrange()
     const int whole = isNarrow ? height() : width();
     const int share = isNarrow ? whole / 2 : INSPECTOR_WIDTH;
     splitter->setSizes({whole - share, share});
-    SetInspectorVisible(!isNarrow);
+    // Widgets without code of ours take the width.
+    SetInspectorVisible(!isNarrow && !codePane->isHidden());
 }
 
 void WidgetPage::resizeEvent(QResizeEvent* event)
