@@ -115,6 +115,9 @@ class tst_Documents : public Support::TestCase
                                           "Brand.palette && cmake -S . -B build -G Ninja "
                                           "-DCMAKE_PREFIX_PATH='%3/prefix'")
                                       .arg(path, VX_SOURCE, folder.path());
+        // The text says which palette to copy.
+        for (const QString& palette : Matches(project.text, "(\\w+\\.palette)"))
+            QFile::copy(folder.filePath("prefix/share/VxUiWidgets/Styles/Template/Dark.palette"), path + '/' + palette);
         // As a subdirectory, the library would be built a second time.
         if (project.text.contains("add_subdirectory"))
             return Run(configure);
