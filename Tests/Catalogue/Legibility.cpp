@@ -209,18 +209,9 @@ bool RespondsToPointer(const QWidget* widget)
            (view && view->model() && view->model()->rowCount() > 0);
 }
 
-void SendHover(QWidget* widget, const QPoint& place, bool isInside)
+void MovePointer(QWidget* widget, const QPoint& place)
 {
-    widget->setAttribute(Qt::WA_UnderMouse, isInside);
-    const QPoint outside(-1, -1);
-    for (const auto type : {isInside ? QEvent::HoverEnter : QEvent::HoverLeave, QEvent::HoverMove}) {
-        QHoverEvent event(type, isInside ? place : outside, isInside ? outside : place);
-        if (isInside || type == QEvent::HoverLeave)
-            QCoreApplication::sendEvent(widget, &event);
-    }
-    QMouseEvent move(QEvent::MouseMove, isInside ? place : outside, widget->mapToGlobal(place), Qt::NoButton,
-                     Qt::NoButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(widget, &move);
+    QTest::mouseMove(widget->window()->windowHandle(), widget->mapTo(widget->window(), place));
 }
 
 } // namespace
@@ -270,15 +261,22 @@ Findings HoverContrasts(QWidget& window)
     for (QWidget* widget : Controls(window, RespondsToPointer)) {
         auto* area = qobject_cast<QAbstractItemView*>(widget);
         QWidget* receiver = area ? area->viewport() : widget;
+        const QWidget* top = window.childAt(receiver->mapTo(&window, receiver->rect().center()));
+        if (top != receiver && !receiver->isAncestorOf(top))
+            continue; // scrolled out of view
+        MovePointer(&window, QPoint());
+        // Qt does not reset it if the window opened below the pointer.
+        widget->setAttribute(Qt::WA_UnderMouse, false);
         const QImage before = Picture(*widget, widget->rect(), 1);
         double contrast = 1;
         const QSize size = receiver->size();
         for (const QPoint& place :
              {receiver->rect().center(), QPoint(size.width() * 2 / 5, size.height() / 2),
               QPoint(size.width() / 2, size.height() * 3 / 5), QPoint(size.width() / 2, 14), QPoint(30, 14)}) {
-            SendHover(receiver, place, true);
+            if (!receiver->rect().contains(place))
+                continue;
+            MovePointer(receiver, place);
             contrast = qMax(contrast, Change(before, Picture(*widget, widget->rect(), 1), 24));
-            SendHover(receiver, place, false);
         }
         findings.append({Describe(*widget), contrast, NOTICEABLE});
     }

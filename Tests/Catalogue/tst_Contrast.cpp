@@ -29,7 +29,7 @@ std::unique_ptr<QWidget> OpenGroup(const State& group)
     window->show();
     window->findChild<QWidget*>()->show();
     QApplication::processEvents();
-    window->adjustSize();
+    window->resize(window->sizeHint());
     QApplication::processEvents();
     window->setFocus();
     return window;
