@@ -102,7 +102,8 @@ QVector<PageSearch::Hit> PageSearch::Find(const QString& text)
 
 void PageSearch::Fill()
 {
-    for (const Catalogue::Entry& entry : Catalogue::Entries() + QVector<Catalogue::Entry>{Catalogue::QtWidgetsEntry()}) {
+    for (const Catalogue::Entry& entry :
+         Catalogue::Entries() + QVector<Catalogue::Entry>{Catalogue::QtWidgetsEntry()}) {
         QWidget parent;
         const auto keywords = KEYWORDS.find(entry.className);
         pages.append(

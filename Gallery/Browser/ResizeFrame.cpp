@@ -142,7 +142,7 @@ void ResizeFrame::keyPressEvent(QKeyEvent* event)
 void ResizeFrame::mousePressEvent(QMouseEvent* event)
 {
     dragged = event->button() == Qt::LeftButton ? HandleAt(event->pos()) : Qt::Orientations();
-    pressedAt = event->globalPos();
+    pressedAt = mapToGlobal(event->pos());
     sizeBefore = item->widget()->size();
     if (!dragged)
         event->ignore();
@@ -159,7 +159,7 @@ void ResizeFrame::mouseMoveEvent(QMouseEvent* event)
                                              : Qt::ArrowCursor);
         return;
     }
-    const QPoint way = event->globalPos() - pressedAt;
+    const QPoint way = mapToGlobal(event->pos()) - pressedAt;
     const int wider = isRightToLeft() ? -way.x() : way.x();
     const QSize size = sizeBefore + QSize(dragged & Qt::Horizontal ? wider : 0, dragged & Qt::Vertical ? way.y() : 0);
     Resize(size.expandedTo(QSize(0, 0)));

@@ -269,7 +269,8 @@ private Q_SLOTS:
         const QPoint corner = frame->rect().bottomRight() - QPoint(2, 2);
         const QPoint global = frame->mapToGlobal(corner);
         const auto drag = [&](const QPoint& way) {
-            QMouseEvent move(QEvent::MouseMove, corner, corner, global + way, Qt::NoButton, Qt::LeftButton, {});
+            const QPoint place = frame->mapFromGlobal(global + way);
+            QMouseEvent move(QEvent::MouseMove, place, place, global + way, Qt::NoButton, Qt::LeftButton, {});
             QApplication::sendEvent(frame, &move);
         };
         QTest::mousePress(frame, Qt::LeftButton, {}, corner);
