@@ -107,10 +107,12 @@ class tst_Documents : public Support::TestCase
         const auto isHere = [&](const Block& program) { return program.page == project.page; };
         const auto program = std::find_if(programs.begin(), programs.end(), isHere);
         const QString target = Matches(project.text, "add_executable\\((\\w+) ").value(0);
-        const QString source = Matches(project.text, "add_executable\\(\\w+ (\\S+)\\)").value(0);
+        const QString source = Matches(project.text, "add_executable\\(\\w+ ([^ )]+)").value(0);
         if (!Write(path + "/CMakeLists.txt", project.text) ||
             !Write(path + '/' + source, (program != programs.end() ? *program : programs.first()).text))
             return "cannot be written";
+        for (const QString& form : Matches(project.text, "(\\w+\\.ui)"))
+            QFile::copy(QFileInfo(project.page).path() + '/' + form, path + '/' + form);
         const QString configure = QString("cd '%1' && ln -s '%2' VxUiWidgets && cp '%2/Styles/Dark.palette' "
                                           "Brand.palette && cmake -S . -B build -G Ninja "
                                           "-DCMAKE_PREFIX_PATH='%3/prefix'")
