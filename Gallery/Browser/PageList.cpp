@@ -203,11 +203,12 @@ void PageList::EndSearch()
 // Opens the first hit, unless the current page is one.
 void PageList::ChooseHit()
 {
-    list->setFocus();
     for (int row = 0; row < list->count() && !list->currentItem(); ++row) {
         if (!PageOf(list->item(row)).isEmpty())
             list->setCurrentRow(row);
     }
+    // Afterwards, because a view without a current item makes one current that it does not select.
+    list->setFocus();
 }
 
 void PageList::SetCompact(bool on)

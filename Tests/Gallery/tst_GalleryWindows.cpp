@@ -143,6 +143,7 @@ private Q_SLOTS:
         QTest::keyClick(search, Qt::Key_Down);
         QVERIFY(list->hasFocus());
         QCOMPARE(list->currentItem()->text(), QString("ClickSoundComboBox"));
+        QVERIFY(list->currentItem()->isSelected());
         QVERIFY(Page());
         QTest::keyClick(list, Qt::Key_X);
         QVERIFY(search->hasFocus());
