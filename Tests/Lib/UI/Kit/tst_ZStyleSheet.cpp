@@ -3,6 +3,7 @@
 #include <Support/TestCase.h>
 
 #include <QApplication>
+#include <QSettings>
 #include <QStyle>
 #include <QTemporaryDir>
 
@@ -16,16 +17,28 @@ class ThemeStub : public QPlatformTheme
 {
 public:
     ThemeStub() { QGuiApplicationPrivate::platform_theme = this; }
-    ~ThemeStub() override { QGuiApplicationPrivate::platform_theme = previous; }
+    ~ThemeStub() override
+    {
+        QGuiApplicationPrivate::platform_theme = previous;
+#if defined(Q_OS_WIN)
+        registry.setValue("AppsUseLightTheme", previousSetting);
+#endif
+    }
 
     void SetColors(Qt::GlobalColor text, Qt::GlobalColor window)
     {
         colors = QPalette(window);
         colors.setColor(QPalette::WindowText, text);
+#if defined(Q_OS_WIN)
+        registry.setValue("AppsUseLightTheme", text == Qt::black ? 1 : 0);
+#endif
         QWindowSystemInterface::handleThemeChange<QWindowSystemInterface::SynchronousDelivery>(nullptr);
     }
 
-    const QPalette* palette(Palette type) const override { return type == SystemPalette ? &colors : nullptr; }
+    const QPalette* palette(Palette type) const override
+    {
+        return type == SystemPalette ? &colors : nullptr;
+    }
 #if QT_VERSION >= QT_VERSION_CHECK(6, 5, 0)
     Qt::ColorScheme colorScheme() const override
     {
@@ -36,6 +49,11 @@ public:
 private:
     QPlatformTheme* const previous = QGuiApplicationPrivate::platform_theme;
     QPalette colors;
+#if defined(Q_OS_WIN)
+    QSettings registry{"HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\Themes\\Personalize",
+                       QSettings::NativeFormat};
+    const int previousSetting = registry.value("AppsUseLightTheme", 1).toInt();
+#endif
 };
 
 } // namespace
