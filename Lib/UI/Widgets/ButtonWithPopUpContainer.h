@@ -131,3 +131,8 @@ private:
 };
 
 } // namespace Zelkor::Vx::UI
+
+// For code that Qt 5's uic writes for forms.
+Q_DECLARE_METATYPE(Zelkor::Vx::UI::ButtonWithPopUpContainer::PreferredPopupDirection)
+Q_DECLARE_METATYPE(Zelkor::Vx::UI::ButtonWithPopUpContainer::PreferredPopupAnchor)
+Q_DECLARE_METATYPE(Zelkor::Vx::UI::ButtonWithPopUpContainer::LayoutDirection)
