@@ -121,6 +121,14 @@ private:
     SignalRecorder recorder;
 };
 
+// Without the focus, which only one window has.
+QImage PictureOf(QWidget& widget)
+{
+    Support::SetActiveWindow(nullptr);
+    QCoreApplication::processEvents();
+    return widget.grab().toImage();
+}
+
 void Show(QWidget& window, const OpenFunction& open)
 {
     window.resize(WINDOW_SIZE);
@@ -188,6 +196,18 @@ private Q_SLOTS:
             QCOMPARE(widget->property(it.key().toLatin1()), it.value());
         Show(window, [] {});
         QVERIFY(widget->isVisible());
+
+        // As in the editor, which creates the widget and sets the properties.
+        QWidget editor;
+        editor.setFocusPolicy(Qt::StrongFocus);
+        editor.setFocus(); // a field that had it would show a selection
+        auto* edited = static_cast<QWidget*>(CreateBare(entry, &editor));
+        for (auto it = entry.form.properties.begin(); it != entry.form.properties.end(); ++it)
+            edited->setProperty(it.key().toLatin1(), it.value());
+        edited->resize(widget->size());
+        Show(editor, [] {});
+        if (widget->property("count").toInt() == edited->property("count").toInt()) // otherwise the form adds pages
+            QCOMPARE(PictureOf(*widget), PictureOf(*edited));
     }
 
 private:
