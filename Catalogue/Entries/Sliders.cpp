@@ -139,7 +139,7 @@ Entry SliderEntry()
 
 QVector<Entry> SliderEntries()
 {
-    return {KitInForms<ZSlider>(SliderEntry(), {{"orientation", Qt::Horizontal}})};
+    return {KitInForms<ZSlider>(SliderEntry(), {{"orientation", QVariant::fromValue(Qt::Horizontal)}})};
 }
 
 } // namespace Zelkor::Catalogue

@@ -150,7 +150,7 @@ Entry TimeEditEntry()
 
 QVector<Entry> TimeEntries()
 {
-    return {KitInForms<ZTimelineSlider>(TimelineEntry(), {{"orientation", Qt::Horizontal}}),
+    return {KitInForms<ZTimelineSlider>(TimelineEntry(), {{"orientation", QVariant::fromValue(Qt::Horizontal)}}),
             KitInForms<ZTimeEdit>(TimeEditEntry())};
 }
 
