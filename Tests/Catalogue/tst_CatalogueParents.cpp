@@ -196,6 +196,7 @@ private Q_SLOTS:
         for (auto it = entry.form.properties.begin(); it != entry.form.properties.end(); ++it)
             edited->setProperty(it.key().toLatin1(), it.value());
         edited->resize(widget->size());
+        edited->move(window.rect().center()); // away from the pointer, which is in a corner
         edited->show();
         Settle();
         if (widget->property("count").toInt() == edited->property("count").toInt()) // otherwise the form adds pages
