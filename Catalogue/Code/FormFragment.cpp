@@ -117,9 +117,7 @@ QString PropertyElements(const QObject& object, const QObject& bare)
         if (qstrcmp(property.name(), "text") == 0 && meta->indexOfProperty("originalText") >= 0)
             continue;
         const QString owner = QString(property.enclosingMetaObject()->className()).section("::", -1);
-        // uic writes enumerators for setProperty() only if their type is registered.
-        const bool isEnumerator = property.isEnumType() && (IsOfQt(owner) || property.userType() != QMetaType::Int);
-        const QString text = isEnumerator ? EnumElement(property, value.toInt()) : ValueElement(value);
+        const QString text = property.isEnumType() ? EnumElement(property, value.toInt()) : ValueElement(value);
         if (!text.isEmpty())
             elements += PropertyElement(property.name(), text, IsOfQt(owner));
     }
