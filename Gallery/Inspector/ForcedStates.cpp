@@ -148,9 +148,17 @@ void ForcedStates::ForceHover(bool on)
         if (part)
             part->update();
     }
-    // QApplication sends an event of this type as hover events, too.
-    if (const QPointer<QWidget> innermost = hovered.first(); innermost && (on || !IsUnderMouse(innermost)))
-        SendMouse(QEvent::MouseMove, innermost, on ? innermost->mapFrom(target, point) : OUTSIDE);
+    // The handle of a pressed slider would follow the mouse.
+    if (!IsForced(PRESSED))
+        MoveMouse(on);
+}
+
+// Moves the mouse to the hovered widget, or away from it. QApplication sends the event as hover events, too.
+void ForcedStates::MoveMouse(bool toWidget)
+{
+    const QPointer<QWidget> innermost = hovered.value(0);
+    if (innermost && (toWidget || !IsUnderMouse(innermost)))
+        SendMouse(QEvent::MouseMove, innermost, toWidget ? innermost->mapFrom(target, point) : OUTSIDE);
 }
 
 void ForcedStates::ForcePressed(bool on)
@@ -161,10 +169,14 @@ void ForcedStates::ForcePressed(bool on)
     }
     if (!pressed)
         return;
-    if (auto* button = qobject_cast<QAbstractButton*>(pressed))
-        return button->setDown(on);
     point = PointOfInterest(*target);
-    SendMouse(on ? QEvent::MouseButtonPress : QEvent::MouseButtonRelease, pressed, pressed->mapFrom(target, point));
+    if (auto* button = qobject_cast<QAbstractButton*>(pressed))
+        button->setDown(on);
+    else
+        SendMouse(on ? QEvent::MouseButtonPress : QEvent::MouseButtonRelease, pressed,
+                  pressed->mapFrom(target, point));
+    if (!on)
+        MoveMouse(IsForced(HOVER));
 }
 
 // With the focused widget as its focus proxy, QWidget::hasFocus() is true for the target.

@@ -39,6 +39,7 @@ private:
     QWidget* PartUnderPoint() const;
     void ForceHover(bool on);
     void ForcePressed(bool on);
+    void MoveMouse(bool toWidget);
     void MoveFocusProxy();
 
     QPointer<QWidget> target;

@@ -323,6 +323,18 @@ private Q_SLOTS:
         QCOMPARE(widget->grab().toImage(), normal);
     }
 
+    void forcedStatesKeepTheValue()
+    {
+        gallery->OpenPage("ZDoubleSlider");
+        gallery->layout()->activate();
+        const auto* slider = Page()->findChild<StateCard*>()->findChild<QSlider*>();
+        const int value = slider->value();
+        for (const char* state : {"HOVER", "PRESSED", "HOVER", "PRESSED"}) {
+            Page()->findChild<QToolButton*>(QString("force:%1").arg(state))->click();
+            QCOMPARE(slider->value(), value);
+        }
+    }
+
 private:
     WidgetPage* Page() const { return gallery->findChild<WidgetPage*>(); }
 
