@@ -32,6 +32,7 @@ bool Appearance::SetStyle(const QString& nameOrFile, QString* error)
 {
     if (!ApplyStyleSheet(nameOrFile, error))
         return false;
+    style = nameOrFile;
     const QString name = IsBuiltInStyleSheet(nameOrFile) ? nameOrFile : QString();
     if (styleName != name) {
         styleName = name;

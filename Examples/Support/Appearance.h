@@ -37,6 +37,9 @@ public:
     /// The name of one of these, or empty for a style sheet from a file.
     QString StyleName() const { return styleName; }
 
+    /// The name or file of the current style sheet.
+    QString CurrentStyle() const { return style; }
+
     /// Applies "system", or a style sheet, see `LoadStyleSheet`. Returns false, sets `error` and keeps the current one
     /// when it cannot be read.
     bool SetStyle(const QString& nameOrFile, QString* error = nullptr);
@@ -48,6 +51,7 @@ Q_SIGNALS:
 private:
     Translations translations;
     QString language;
+    QString style;
     QString styleName;
 };
 
