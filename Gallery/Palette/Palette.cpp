@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QRegularExpression>
 
 // Q_INIT_RESOURCE() works outside of namespaces only.
@@ -15,6 +16,7 @@ namespace Zelkor::Gallery {
 namespace {
 
 const char* const FOLDER = ":/Template";
+const char* const TEMPLATE = "Template.qss.in";
 
 // As in BuildStyleSheet.cmake.
 const QRegularExpression& ColorLine()
@@ -97,6 +99,31 @@ std::optional<Palette> Palette::Parse(const QString& text, QString* error)
     return palette;
 }
 
+std::optional<Palette> Palette::Read(const QString& file, QString* error)
+{
+    QFile source(file);
+    QString why;
+    std::optional<Palette> palette;
+    if (source.open(QIODevice::ReadOnly))
+        palette = Parse(QString::fromUtf8(source.readAll()), &why);
+    else
+        why = source.errorString();
+    if (palette) {
+        Writer writer(*palette, QString());
+        writer.Fill(ReadTemplate(TEMPLATE), "text");
+        why = writer.error;
+    }
+    if (error)
+        *error = why.isEmpty() ? QString() : QDir::toNativeSeparators(file) + ": " + why;
+    return why.isEmpty() ? palette : std::nullopt;
+}
+
+std::optional<Palette> Palette::Beside(const QString& sheet)
+{
+    const QFileInfo info(sheet);
+    return Read(info.dir().filePath(info.completeBaseName() + ".palette"));
+}
+
 Palette Palette::BuiltIn(const QString& name)
 {
     return Parse(ReadTemplate(name + ".palette")).value_or(Palette());
@@ -150,7 +177,8 @@ QString WriteStyleSheet(const Palette& palette, const QString& name, const QStri
     const QDir icons(QDir(folder).filePath(name));
     icons.mkpath(".");
     const QString sheet = QDir(folder).filePath(name + ".qss");
-    writer.Write(sheet, writer.Fill(ReadTemplate("Template.qss.in"), "text"));
+    writer.Write(sheet, writer.Fill(ReadTemplate(TEMPLATE), "text"));
+    writer.Write(QDir(folder).filePath(name + ".palette"), palette.Text());
     for (const QString& file : QDir(QDir(FOLDER).filePath("icons")).entryList()) {
         const QString source = ReadTemplate("icons/" + file);
         const QString stem = icons.filePath(file.section('.', 0, 0));

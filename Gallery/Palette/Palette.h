@@ -27,6 +27,12 @@ public:
     /// Reads the text of a palette file. Returns nothing and sets `error` for a line that the build rejects.
     static std::optional<Palette> Parse(const QString& text, QString* error = nullptr);
 
+    /// Reads a palette file. Returns nothing and sets `error` if it cannot be read, or lacks a colour of the style sheet.
+    static std::optional<Palette> Read(const QString& file, QString* error = nullptr);
+
+    /// Reads the palette file beside a style sheet from a file. Returns nothing if there is none.
+    static std::optional<Palette> Beside(const QString& sheet);
+
     /// Reads a palette that is linked into the program, for instance "Dark".
     static Palette BuiltIn(const QString& name);
     static QStringList BuiltInNames();
@@ -44,8 +50,8 @@ private:
     QStringList lines;
 };
 
-/// Writes the style sheet NAME.qss with its icons in the colours of a palette to a folder, as the build does. Returns
-/// the path of the sheet; an empty text and `error` if a file cannot be written or a colour is missing.
+/// Writes the style sheet NAME.qss with its icons in the colours of a palette to a folder, as the build does, and
+/// NAME.palette. Returns the path of the sheet; an empty text and `error` if a file cannot be written or a colour is missing.
 QString WriteStyleSheet(const Palette& palette, const QString& name, const QString& folder, QString* error = nullptr);
 
 } // namespace Zelkor::Gallery

@@ -4,6 +4,7 @@
 #include <Examples/Support/WidgetTexts.h>
 #include <Gallery/Inspector/ColorField.h>
 
+#include <QApplication>
 #include <QComboBox>
 #include <QDir>
 #include <QEvent>
@@ -25,6 +26,18 @@ constexpr int SPACING = 8;
 constexpr int FIELD_WIDTH = 120;
 constexpr int PAUSE_MS = 150; ///< collects the changes of a colour that is chosen with the mouse
 const QString SHEET = QStringLiteral("Own");
+
+// Returns the palette of a style that is linked into the program: HighContrast for "high-contrast", for "system" that
+// with the colour of the windows. Returns an empty text for a file.
+QString BuiltInPaletteOf(const QString& style)
+{
+    for (const QString& name : Palette::BuiltInNames()) {
+        const bool isApplied = Palette::BuiltIn(name).Color("window") == QApplication::palette().color(QPalette::Window);
+        if (style == "system" ? isApplied : !name.compare(QString(style).remove('-'), Qt::CaseInsensitive))
+            return name;
+    }
+    return QString();
+}
 
 } // namespace
 
@@ -67,10 +80,8 @@ PaletteEditor::PaletteEditor(Appearance* appearance, QWidget* parent)
         connect(dialog, &QFileDialog::fileSelected, this, &PaletteEditor::Save);
         OpenDialog(dialog);
     });
-    // Starts with the palette of the current style, if it has one: "high-contrast" is HighContrast.
-    const QString style = appearance->StyleName().remove('-');
-    base->setCurrentIndex(qMax(0, base->findText(style, Qt::MatchFixedString)));
     SetPalette(Palette::BuiltIn(base->currentText()));
+    ShowStyle();
     Retranslate();
 }
 
@@ -88,6 +99,21 @@ void PaletteEditor::Retranslate()
     base->setToolTip(base->accessibleName());
     openButton->setText(tr("Open a palette..."));
     saveButton->setText(tr("Save the palette..."));
+}
+
+// Shows the palette of the current style, if it has one.
+void PaletteEditor::ShowStyle()
+{
+    const QString builtIn = BuiltInPaletteOf(appearance->CurrentStyle());
+    const QString style = builtIn.isEmpty() ? appearance->CurrentStyle() : builtIn;
+    if (style == shownStyle)
+        return;
+    shownStyle = style;
+    applyTimer.stop();
+    base->setCurrentText(builtIn);
+    const auto current = builtIn.isEmpty() ? Palette::Beside(style) : Palette::BuiltIn(builtIn);
+    if (current)
+        SetPalette(*current);
 }
 
 void PaletteEditor::SetPalette(const Palette& newPalette)
@@ -140,6 +166,8 @@ void PaletteEditor::Apply()
     own.mkpath(current);
     QString error;
     const QString sheet = WriteStyleSheet(palette, SHEET, own.filePath(current), &error);
+    // The fields show its palette already.
+    shownStyle = sheet;
     if (error.isEmpty() && appearance->SetStyle(sheet, &error))
         QDir(own.filePath(previous)).removeRecursively();
     message->setText(error);
@@ -148,13 +176,8 @@ void PaletteEditor::Apply()
 
 bool PaletteEditor::Load(const QString& fileName)
 {
-    QFile file(fileName);
     QString error;
-    std::optional<Palette> loaded;
-    if (file.open(QIODevice::ReadOnly))
-        loaded = Palette::Parse(QString::fromUtf8(file.readAll()), &error);
-    else
-        error = file.errorString();
+    const auto loaded = Palette::Read(fileName, &error);
     message->setText(error);
     message->setVisible(!loaded);
     if (!loaded)
@@ -179,6 +202,9 @@ void PaletteEditor::changeEvent(QEvent* event)
     QDialog::changeEvent(event);
     if (event->type() == QEvent::LanguageChange)
         Retranslate();
+    // Appearance sends the event before it returns the new style.
+    if (event->type() == QEvent::StyleChange)
+        QMetaObject::invokeMethod(this, &PaletteEditor::ShowStyle, Qt::QueuedConnection);
 }
 
 } // namespace Zelkor::Gallery

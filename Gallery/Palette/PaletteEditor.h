@@ -18,7 +18,7 @@ class Appearance;
 
 namespace Zelkor::Gallery {
 
-/// A window with the colours of a palette, which applies the style sheet in these colours after each change.
+/// A window with the colours of the current style, which applies the style sheet in these colours after each change.
 /// `appearance` must outlive it. The fields have the names of their colours as object names.
 class PaletteEditor : public QDialog
 {
@@ -41,6 +41,7 @@ protected:
 private:
     void AddColor(const QString& name, int row);
     void Apply();
+    void ShowStyle();
     void OpenDialog(QFileDialog* dialog);
     void Retranslate();
 
@@ -48,6 +49,7 @@ private:
     Palette palette;
     QTemporaryDir folder; ///< of the style sheet
     int generation = 0;   ///< Qt caches icons by their path, so that each sheet needs another one
+    QString shownStyle;   ///< the palette or style sheet whose colours the fields show
     QTimer applyTimer;
     QComboBox* base;
     QScrollArea* area;

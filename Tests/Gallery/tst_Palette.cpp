@@ -62,6 +62,26 @@ private Q_SLOTS:
         editor.SetPalette(Palette::BuiltIn("Light"));
         QVERIFY(editor.Load(file));
         QCOMPARE(editor.findChild<ColorField*>("window")->Color(), QColor("#123456"));
+        // Another window continues with the colours.
+        QCOMPARE(PaletteEditor(&appearance).findChild<ColorField*>("window")->Color(), QColor("#123456"));
+        QFile incomplete(file);
+        QVERIFY(incomplete.open(QIODevice::WriteOnly));
+        incomplete.write("window = #112233\n");
+        incomplete.close();
+        QVERIFY(!editor.Load(file));
+        QCOMPARE(editor.findChild<ColorField*>("window")->Color(), QColor("#123456"));
+    }
+
+    void editorShowsTheColorsOfTheStyle()
+    {
+        Examples::Appearance appearance("VxGallery");
+        QVERIFY(appearance.SetStyle("system"));
+        PaletteEditor editor(&appearance);
+        editor.show();
+        const auto color = [&] { return editor.findChild<ColorField*>("window")->Color(); };
+        QCOMPARE(color(), editor.grab().toImage().pixelColor(1, 1));
+        QVERIFY(appearance.SetStyle("high-contrast"));
+        QTRY_COMPARE(color(), Palette::BuiltIn("HighContrast").Color("window"));
     }
 
     void badPalettesAreRefused()
