@@ -88,6 +88,9 @@ void PrintError(const QString& text)
 
 Application::Application(Options options) : options(std::move(options)), appearance("VxGallery")
 {
+    // Entries are translated at creation, and the options have created them. Windows recreate their pages after this.
+    QObject::connect(&appearance, &Examples::Appearance::LanguageChanged, &editStyle,
+                     [] { Catalogue::RetranslateEntries(); });
     if (!this->options.language.isEmpty() && !appearance.SetLanguage(this->options.language))
         PrintError(QString("there are no translations for '%1'; continuing in English").arg(this->options.language));
     if (this->options.rightToLeft)
@@ -98,9 +101,6 @@ Application::Application(Options options) : options(std::move(options)), appeara
     if (this->options.TakesPictures())
         QApplication::setCursorFlashTime(0);
 
-    // Entries are translated at creation. Windows recreate their pages after this.
-    QObject::connect(&appearance, &Examples::Appearance::LanguageChanged, &editStyle,
-                     [] { Catalogue::RetranslateEntries(); });
     editStyle.setShortcut(Qt::Key_F12);
     editStyle.setShortcutContext(Qt::ApplicationShortcut);
     QObject::connect(&editStyle, &QAction::triggered, &editStyle, [this] { OpenStyleEditor(); });

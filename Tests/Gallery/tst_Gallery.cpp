@@ -33,10 +33,13 @@ private Q_SLOTS:
     // Each page scrolls in a small window.
     void writesAPictureOfEachPage()
     {
-        QCOMPARE(Run("--shots new/pages --size 500x250 --after 50 --style light --rtl"), QStringList{"exit 0"});
+        const QString look = " --size 500x250 --after 50 --style light --rtl --language de";
+        QCOMPARE(Run("--shots new/pages" + look), QStringList{"exit 0"});
         for (const QString& page : PageNames())
             QCOMPARE(QImage(folder.filePath("new/pages/" + page + ".png")).size(), QSize(500, 250));
         QCOMPARE(QDir(folder.filePath("new/pages")).entryList(QDir::Files).size(), PageNames().size());
+        QCOMPARE(Run("--page ColorButton --shot one.png" + look), QStringList{"exit 0"});
+        QCOMPARE(QImage(folder.filePath("one.png")), QImage(folder.filePath("new/pages/ColorButton.png")));
     }
 
     void appliesSizeScaleAndStyleSheet()
