@@ -194,16 +194,28 @@ int Application::TakePictureOfPage(const QString& page, const QString& file)
     QWidget* window = OpenPage(page);
     // Waits before the click as well: the window system may still move the window.
     Wait(options.after / 2);
-    if (!options.press.isEmpty()) {
-        QAbstractButton* button = FindButton(window, options.press);
-        if (!button) {
-            PrintError(QString("there is no button '%1' on this page").arg(options.press));
-            return EXIT_BAD_USE;
-        }
-        button->click();
-    }
-    Wait(options.after - options.after / 2);
+    const int rest = options.after - options.after / 2;
+    if (!options.press.isEmpty())
+        return TakePictureAfterClick(window, file, rest);
+    Wait(rest);
     return Save(TakePicture(window), file);
+}
+
+// A click that opens a menu returns when this closes. Takes the picture meanwhile, and ends all event loops.
+int Application::TakePictureAfterClick(QWidget* window, const QString& file, int delay)
+{
+    QAbstractButton* button = FindButton(window, options.press);
+    if (!button) {
+        PrintError(QString("there is no button '%1' on this page").arg(options.press));
+        return EXIT_BAD_USE;
+    }
+    // The button may close windows.
+    QApplication::setQuitOnLastWindowClosed(false);
+    QTimer::singleShot(0, button, [=] {
+        QTimer::singleShot(delay, window, [=] { QApplication::exit(Save(TakePicture(window), file)); });
+        button->click();
+    });
+    return QApplication::exec();
 }
 
 int Application::TakeAllPictures()

@@ -32,6 +32,7 @@ private:
     void Restart(double scale, const QString& page);
     QStringList LookArguments() const;
     int TakePictureOfPage(const QString& page, const QString& file);
+    int TakePictureAfterClick(QWidget* window, const QString& file, int delay);
     int TakeAllPictures();
     int TakePicturesOfWidgets();
 

@@ -55,6 +55,13 @@ private Q_SLOTS:
         QCOMPARE(shot.pixelColor(2, 2), QColor("#123456"));
     }
 
+    void pressOpensAMenuForThePicture()
+    {
+        QCOMPARE(Run("--shot closed.png --size 900x500 --after 100"), QStringList{"exit 0"});
+        QCOMPARE(Run("--press System --shot menu.png --size 900x500 --after 100"), QStringList{"exit 0"});
+        QVERIFY(QImage(folder.filePath("menu.png")) != QImage(folder.filePath("closed.png")));
+    }
+
     void scaleOfTheScreenIsNotRounded()
     {
         qputenv("QT_FONT_DPI", "144");
