@@ -44,10 +44,11 @@ QString WithoutFilesOfCurrentFolder(const QString& text)
 bool ReadPalette(const QString& text, QPalette& palette)
 {
     static const QRegularExpression RULE("\\bQPalette(:disabled)?\\s*\\{([^}]*)\\}");
-    static const QRegularExpression COLOR("qproperty-(\\w+)\\s*:\\s*(#?\\w+)");
+    static const QRegularExpression COLOR("qproperty-(\\w+)\\s*:\\s*([^;]*[^;\\s])");
+    static const QRegularExpression COMMENT("/\\*.*?\\*/", QRegularExpression::DotMatchesEverythingOption);
     const auto roles = QMetaEnum::fromType<QPalette::ColorRole>();
     bool found = false;
-    for (auto rules = RULE.globalMatch(text); rules.hasNext();) {
+    for (auto rules = RULE.globalMatch(QString(text).remove(COMMENT)); rules.hasNext();) {
         const auto rule = rules.next();
         const auto group = rule.captured(1).isEmpty() ? QPalette::All : QPalette::Disabled;
         for (auto colors = COLOR.globalMatch(rule.captured(2)); colors.hasNext();) {
@@ -56,8 +57,14 @@ bool ReadPalette(const QString& text, QPalette& palette)
             const int role = roles.keyToValue(color.captured(1).toLatin1(), &isRole);
             if (!isRole)
                 continue;
-            palette.setColor(group, QPalette::ColorRole(role), QColor(color.captured(2)));
-            found = true;
+            const QColor value(color.captured(2));
+            if (value.isValid()) {
+                palette.setColor(group, QPalette::ColorRole(role), value);
+                found = true;
+            } else {
+                qWarning("ZStyleSheet: %s is neither #rrggbb nor the name of a colour",
+                         qUtf8Printable(color.captured()));
+            }
         }
     }
     return found;
@@ -74,15 +81,22 @@ void ApplyPalette(const QString& text)
         QApplication::setPalette(palette);
 }
 
+// Keeps the style of an earlier sheet: QApplication::setStyle() deletes the style that the widgets in the stack are
+// using, such as a combo box that previews a sheet.
 void UseSheetStyle()
 {
-    QApplication::setStyle(new SheetStyle(&ZStyleSheet::icon));
+    static QPointer<SheetStyle> style;
+    if (style)
+        return;
+    style = new SheetStyle(&ZStyleSheet::icon);
+    QApplication::setStyle(style);
 }
 
 void Apply(const ZStyleSheet& sheet)
 {
-    currentIconFolder = QDir(sheet.iconFolder).absolutePath();
-    QDir::setSearchPaths(SEARCH_PATH, {currentIconFolder});
+    // An empty path is the current folder to QDir.
+    currentIconFolder = sheet.iconFolder.isEmpty() ? QString() : QDir(sheet.iconFolder).absolutePath();
+    QDir::setSearchPaths(SEARCH_PATH, currentIconFolder.isEmpty() ? QStringList() : QStringList(currentIconFolder));
     ++appliedSheets;
     Zelkor::Vx::UI::Common::FollowLayoutDirection();
     UseSheetStyle();
@@ -90,12 +104,17 @@ void Apply(const ZStyleSheet& sheet)
     qApp->setStyleSheet(WithoutFilesOfCurrentFolder(sheet.text));
 }
 
-/// `stem` is the file of the plain icon without its ending.
-QIcon LoadTinted(const QString& stem, const QString& tint)
+// Returns a null icon if the folder lacks it.
+QIcon LoadTinted(const QString& folder, const QString& name, const QString& tint)
 {
     QIcon icon;
-    icon.addFile(stem + tint + ".svg");
-    icon.addFile(stem + "-disabled.svg", QSize(), QIcon::Disabled);
+    const auto add = [&](const QString& variant, QIcon::Mode mode) {
+        const QString file = folder + '/' + name + variant + ".svg";
+        if (!folder.isEmpty() && QFile::exists(file))
+            icon.addFile(file, QSize(), mode);
+    };
+    add(tint, QIcon::Normal);
+    add("-disabled", QIcon::Disabled);
     return icon;
 }
 
@@ -126,7 +145,7 @@ private:
     const QIcon& Current()
     {
         if (loadedFor != appliedSheets) {
-            icon = LoadTinted(QDir(currentIconFolder).filePath(name), tint);
+            icon = LoadTinted(currentIconFolder, name, tint);
             loadedFor = appliedSheets;
         }
         return icon;
@@ -183,7 +202,7 @@ bool ZStyleSheet::followSystem(const QString& lightFile, const QString& darkFile
 
 QIcon ZStyleSheet::ownIcon(const QString& name) const
 {
-    return LoadTinted(QDir(iconFolder).filePath(name), QString());
+    return LoadTinted(iconFolder, name, QString());
 }
 
 QIcon ZStyleSheet::icon(const QString& name)

@@ -3,6 +3,8 @@
 #include <Support/TestCase.h>
 
 #include <QApplication>
+#include <QDir>
+#include <QPointer>
 #include <QSettings>
 #include <QStyle>
 #include <QTemporaryDir>
@@ -113,6 +115,36 @@ private Q_SLOTS:
         QTRY_COMPARE(QApplication::palette().color(QPalette::Link), QColor("#010203"));
         QVERIFY(ZStyleSheet::applyFile(WriteSheet("plain")));
         QCOMPARE(QApplication::palette().color(QPalette::Link), standard.color(QPalette::Link));
+    }
+
+    void commentsAndUnknownColorsLeaveThePaletteAlone()
+    {
+        const QColor before = QApplication::style()->standardPalette().color(QPalette::Window);
+        ExpectWarning("qproperty-Window: #12345 is neither");
+        ZStyleSheet{"/* QPalette { qproperty-Window: red } */ QPalette { qproperty-Window: #12345 }", {}}.apply();
+        QCOMPARE(QApplication::palette().color(QPalette::Window), before);
+    }
+
+    void applyingKeepsTheStyleInUse()
+    {
+        const QPointer<QStyle> style = QApplication::style();
+        QVERIFY(ZStyleSheet::applyFile(WriteSheet("next")));
+        QVERIFY(style);
+    }
+
+    void iconsAreNeverFilesOfTheCurrentFolder()
+    {
+        QFile file(folder.filePath("own.svg"));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        QVERIFY(file.write("<svg xmlns='http://www.w3.org/2000/svg' width='8' height='8'/>") > 0);
+        file.close();
+        const QString previous = QDir::currentPath();
+        QVERIFY(QDir::setCurrent(folder.path()));
+        const ZStyleSheet sheet;
+        sheet.apply();
+        const bool isNull = ZStyleSheet::icon("own").pixmap(16).isNull() && sheet.ownIcon("own").isNull();
+        QDir::setCurrent(previous);
+        QVERIFY(isNull);
     }
 
     void unreadableSheetKeepsTheCurrentOne()
