@@ -59,6 +59,9 @@ void AddPushButtons(Page& page)
     page.Add(CreateButton<QPushButton>("Flat"))->setFlat(true);
     auto* menuButton = page.Add(CreateButton<QPushButton>("Menu"));
     menuButton->setMenu(CreateSmallMenu(menuButton));
+    auto* defaultMenu = page.Add(CreateButton<QPushButton>("Default menu"));
+    defaultMenu->setDefault(true);
+    defaultMenu->setMenu(CreateSmallMenu(defaultMenu));
     auto* disabledMenu = page.Add(CreateButton<QPushButton>("Disabled", true, false));
     disabledMenu->setMenu(CreateSmallMenu(disabledMenu));
 }
@@ -87,6 +90,7 @@ void AddToolButtons(Page& page)
     for (const Qt::ArrowType arrow : {Qt::LeftArrow, Qt::RightArrow, Qt::UpArrow, Qt::DownArrow}) {
         auto* button = page.Add(new QToolButton);
         button->setArrowType(arrow);
+        button->setEnabled(arrow != Qt::UpArrow);
     }
 }
 
@@ -246,10 +250,11 @@ QWidget* CreateRanges(QWidget* parent)
     page->Add(CreateProgress(100, 40));
     page->Add(CreateProgress(100, 40, false))->setFormat("Disabled %p%");
     page->Add(CreateProgress(0, 0));
-    auto* upright = page->Add(CreateProgress(100, 60));
-    upright->setOrientation(Qt::Vertical);
-    upright->setFixedWidth(48);
-    upright->setFixedHeight(120);
+    for (const bool on : {true, false}) {
+        auto* upright = page->Add(CreateProgress(100, 60, on));
+        upright->setOrientation(Qt::Vertical);
+        upright->setFixedSize(48, 120);
+    }
     page->Add(CreateSlider<QScrollBar>(Qt::Horizontal));
     page->Add(CreateSlider<QScrollBar>(Qt::Horizontal, false));
     page->Add(CreateSlider<QScrollBar>(Qt::Vertical));
