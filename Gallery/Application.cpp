@@ -17,6 +17,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QProcess>
+#include <QStandardPaths>
 #include <QTimer>
 
 #include <cstdio>
@@ -30,6 +31,7 @@ namespace {
 constexpr int PICTURE_MARGIN = 16;
 constexpr int PICTURE_WIDTH = 760;
 constexpr int CARDS_IN_PICTURE = 3;
+const QString OWN_SHEET = QStringLiteral("Own");
 
 void Wait(int milliseconds)
 {
@@ -95,7 +97,7 @@ Application::Application(Options options) : options(std::move(options)), appeara
         PrintError(QString("there are no translations for '%1'; continuing in English").arg(this->options.language));
     if (this->options.rightToLeft)
         QApplication::setLayoutDirection(Qt::RightToLeft);
-    appearance.SetStyle(this->options.styleArgument);
+    ApplyStyle();
     QApplication::setWindowIcon(ZStyleSheet::icon("app"));
     // Two pictures of a page must differ in live content only.
     if (this->options.TakesPictures())
@@ -107,6 +109,18 @@ Application::Application(Options options) : options(std::move(options)), appeara
 }
 
 Application::~Application() = default;
+
+void Application::ApplyStyle()
+{
+    QString style = options.styleArgument;
+    QString error;
+    if (options.palette)
+        style = WriteStyleSheet(*options.palette, OWN_SHEET, sheets.path(), &error);
+    if (error.isEmpty())
+        appearance.SetStyle(style, &error);
+    if (!error.isEmpty())
+        PrintError(error);
+}
 
 int Application::Run()
 {
@@ -141,20 +155,37 @@ void Application::MakeGallery()
 {
     gallery = std::make_unique<GalleryWindow>(&appearance, options.scale);
     gallery->addAction(&editStyle);
+    gallery->installEventFilter(this);
     QObject::connect(gallery.get(), &GalleryWindow::RecorderRequested, gallery.get(), [this] { StartRecorder(); });
     QObject::connect(gallery.get(), &GalleryWindow::StyleEditorRequested, &editStyle, &QAction::trigger);
     QObject::connect(gallery.get(), &GalleryWindow::RestartRequested, gallery.get(),
-                     [this](double scale, const QString& page) { Restart(scale, page); });
+                     [this](double scale, const QString& page, int state) { Restart(scale, page, state); });
 }
 
 // Returns the arguments that give another program the current look.
 QStringList Application::LookArguments() const
 {
-    const QString style = appearance.StyleName().isEmpty() ? options.styleArgument : appearance.StyleName();
-    QStringList arguments = {"--style", style, "--language", appearance.Language()};
+    QStringList arguments = {"--style", LastingStyle(), "--language", appearance.Language()};
     if (QApplication::layoutDirection() == Qt::RightToLeft)
         arguments += "--rtl";
     return arguments;
+}
+
+// Returns the current style. The sheet of an edited palette is in a folder that ends with this program: writes it with
+// its palette to another one.
+QString Application::LastingStyle() const
+{
+    const QString style = appearance.CurrentStyle();
+    const auto palette = style.startsWith(QDir::tempPath()) ? Palette::Beside(style) : std::nullopt;
+    if (!palette)
+        return style;
+    QString error;
+    const QString folder = QStandardPaths::writableLocation(QStandardPaths::CacheLocation);
+    const QString sheet = WriteStyleSheet(*palette, OWN_SHEET, folder, &error);
+    if (error.isEmpty())
+        return sheet;
+    PrintError(error);
+    return Examples::Appearance::AllStyles().first().name;
 }
 
 void Application::StartRecorder()
@@ -166,11 +197,36 @@ void Application::StartRecorder()
         PrintError(QString("cannot start '%1'").arg(program));
 }
 
-void Application::Restart(double scale, const QString& page)
+// Returns whether no changes would be lost. Otherwise the editor of the style sheet asks what to do with them.
+bool Application::MayEnd()
 {
+    if (!styleEditor || !styleEditor->isModified())
+        return true;
+    OpenStyleEditor();
+    styleEditor->close();
+    return false;
+}
+
+bool Application::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() != QEvent::Close || MayEnd())
+        return QObject::eventFilter(watched, event);
+    event->ignore();
+    return true;
+}
+
+void Application::Restart(double scale, const QString& page, int state)
+{
+    if (!MayEnd())
+        return;
     QStringList arguments = LookArguments() + QStringList{"--scale", QString::number(scale)};
     if (!page.isEmpty())
         arguments += QStringList{"--page", page};
+    if (state > 0)
+        arguments += QStringList{"--state", QString::number(state + 1)};
+    // Otherwise the other gallery would inherit the scale of this one.
+    if (options.scale != 1)
+        qunsetenv("QT_SCALE_FACTOR");
     if (QProcess::startDetached(QApplication::applicationFilePath(), arguments))
         QApplication::quit();
     else

@@ -5,6 +5,8 @@
 #include <Examples/Support/Appearance.h>
 
 #include <QAction>
+#include <QObject>
+#include <QTemporaryDir>
 
 #include <memory>
 
@@ -15,7 +17,7 @@ namespace Zelkor::Gallery {
 class GalleryWindow;
 
 /// Runs the program with its options: opens windows or writes pictures. Needs a `QApplication`.
-class Application
+class Application : public QObject
 {
 public:
     explicit Application(Options options);
@@ -24,19 +26,25 @@ public:
     /// Shows the window or writes the requested pictures. Returns the program's exit code.
     int Run();
 
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
+    void ApplyStyle();
+    bool MayEnd();
     QWidget* OpenPage(const QString& name);
     void MakeGallery();
     void StartRecorder();
     void OpenStyleEditor();
-    void Restart(double scale, const QString& page);
+    void Restart(double scale, const QString& page, int state);
     QStringList LookArguments() const;
+    QString LastingStyle() const;
     int TakePictureOfPage(const QString& page, const QString& file);
     int TakePictureAfterClick(QWidget* window, const QString& file, int delay);
     int TakeAllPictures();
     int TakePicturesOfWidgets();
 
     const Options options;
+    QTemporaryDir sheets; ///< style sheet of a palette from the command line
     Examples::Appearance appearance;
     QAction editStyle; ///< with a shortcut for every window
     std::unique_ptr<GalleryWindow> gallery;

@@ -28,7 +28,8 @@ void Declare(QCommandLineParser& parser)
         {"page", "Opens the page NAME instead of the start page.", "NAME"},
         {"state", "Selects a state of the page, by its name or its number from 1.", "STATE"},
         {"style",
-         "Takes another style sheet: system, dark, light, high-contrast or a file. The icons of a file lie "
+         "Takes another style sheet: system, dark, light, high-contrast, a .palette file or a style sheet, whose icons "
+         "are "
          "beside it in a folder of the same name.",
          "FILE", "system"},
         {"shot", "Writes a picture of the page as PNG, and ends.", "FILE"},
@@ -100,7 +101,9 @@ QString TakeValues(const QCommandLineParser& parser, Options& options)
         (parser.isSet("shots") || parser.isSet("shot") || parser.isSet("page") || parser.isSet("press")))
         return "--pictures shows no page, so --shot, --shots, --page and --press do not go with it";
     options.styleArgument = parser.value("style");
-    if (!Examples::IsBuiltInStyleSheet(options.styleArgument))
+    if (options.styleArgument.endsWith(".palette", Qt::CaseInsensitive))
+        options.palette = Palette::Read(options.styleArgument, &error);
+    else if (!Examples::IsBuiltInStyleSheet(options.styleArgument))
         Examples::LoadStyleSheet(options.styleArgument, &error);
     return error;
 }

@@ -1,9 +1,12 @@
 #pragma once
 
+#include <Gallery/Palette/Palette.h>
+
 #include <QSize>
 #include <QString>
 #include <QStringList>
 
+#include <optional>
 #include <variant>
 
 namespace Zelkor::Gallery {
@@ -14,16 +17,17 @@ constexpr int EXIT_BAD_USE = 2;
 struct Options
 {
     bool list = false;
-    QString page;          ///< empty for the start page
-    int state = 0;         ///< index of the selected state of the page
-    QString styleArgument; ///< the name of a style, or a file
-    QString shot;          ///< file for a picture of the page, or empty
-    QString shots;         ///< folder for a picture of each page, or empty
-    QString pictures;      ///< folder for a picture of each single widget, or empty
-    QString press;         ///< the button to click before the picture, or empty
-    QString fallbackShot;  ///< file for a picture without a display
-    QSize size;            ///< of the window; invalid for its size hint
-    double scale = 1;      ///< scale factor of the user interface
+    QString page;                   ///< empty for the start page
+    int state = 0;                  ///< index of the selected state of the page
+    QString styleArgument;          ///< the name of a style, or a file
+    std::optional<Palette> palette; ///< read from that file, if it is one of a palette
+    QString shot;                   ///< file for a picture of the page, or empty
+    QString shots;                  ///< folder for a picture of each page, or empty
+    QString pictures;               ///< folder for a picture of each single widget, or empty
+    QString press;                  ///< the button to click before the picture, or empty
+    QString fallbackShot;           ///< file for a picture without a display
+    QSize size;                     ///< of the window; invalid for its size hint
+    double scale = 1;               ///< scale factor of the user interface
     bool rightToLeft = false;
     QString language; ///< empty for the source texts
     int after = 0;    ///< milliseconds between window and picture

@@ -33,8 +33,10 @@ GalleryWindow::GalleryWindow(Examples::Appearance* appearance, double scale, QWi
     connect(&renewal, &QTimer::timeout, this, &GalleryWindow::RecreatePage);
     connect(list, &PageList::PageChosen, this, &GalleryWindow::ShowPage);
     connect(bar, &SceneBar::StyleEditorRequested, this, &GalleryWindow::StyleEditorRequested);
-    connect(bar, &SceneBar::RestartRequested, this,
-            [this](double factor) { Q_EMIT RestartRequested(factor, list->CurrentPage()); });
+    connect(bar, &SceneBar::RestartRequested, this, [this](double factor) {
+        const auto* widgetPage = qobject_cast<WidgetPage*>(page);
+        Q_EMIT RestartRequested(factor, list->CurrentPage(), widgetPage ? widgetPage->SelectedState() : 0);
+    });
     bar->SetForWidgets(false);
     setWindowTitle(tr("VxUiWidgets Gallery"));
     list->FocusList();

@@ -34,7 +34,7 @@ Q_SIGNALS:
     void StyleEditorRequested();
 
     /// Emitted when the user chooses a scale factor, which requires a restart.
-    void RestartRequested(double scale, const QString& page);
+    void RestartRequested(double scale, const QString& page, int state);
 
 protected:
     void changeEvent(QEvent* event) override;

@@ -173,8 +173,7 @@ void ForcedStates::ForcePressed(bool on)
     if (auto* button = qobject_cast<QAbstractButton*>(pressed))
         button->setDown(on);
     else
-        SendMouse(on ? QEvent::MouseButtonPress : QEvent::MouseButtonRelease, pressed,
-                  pressed->mapFrom(target, point));
+        SendMouse(on ? QEvent::MouseButtonPress : QEvent::MouseButtonRelease, pressed, pressed->mapFrom(target, point));
     if (!on)
         MoveMouse(IsForced(HOVER));
 }

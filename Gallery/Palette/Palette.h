@@ -27,7 +27,8 @@ public:
     /// Reads the text of a palette file. Returns nothing and sets `error` for a line that the build rejects.
     static std::optional<Palette> Parse(const QString& text, QString* error = nullptr);
 
-    /// Reads a palette file. Returns nothing and sets `error` if it cannot be read, or lacks a colour of the style sheet.
+    /// Reads a palette file. Returns nothing and sets `error` if it cannot be read, or lacks a colour of the style
+    /// sheet.
     static std::optional<Palette> Read(const QString& file, QString* error = nullptr);
 
     /// Reads the palette file beside a style sheet from a file. Returns nothing if there is none.
@@ -51,7 +52,8 @@ private:
 };
 
 /// Writes the style sheet NAME.qss with its icons in the colours of a palette to a folder, as the build does, and
-/// NAME.palette. Returns the path of the sheet; an empty text and `error` if a file cannot be written or a colour is missing.
+/// NAME.palette. Returns the path of the sheet; an empty text and `error` if a file cannot be written or a colour is
+/// missing.
 QString WriteStyleSheet(const Palette& palette, const QString& name, const QString& folder, QString* error = nullptr);
 
 } // namespace Zelkor::Gallery

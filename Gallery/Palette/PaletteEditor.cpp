@@ -32,7 +32,8 @@ const QString SHEET = QStringLiteral("Own");
 QString BuiltInPaletteOf(const QString& style)
 {
     for (const QString& name : Palette::BuiltInNames()) {
-        const bool isApplied = Palette::BuiltIn(name).Color("window") == QApplication::palette().color(QPalette::Window);
+        const bool isApplied =
+            Palette::BuiltIn(name).Color("window") == QApplication::palette().color(QPalette::Window);
         if (style == "system" ? isApplied : !name.compare(QString(style).remove('-'), Qt::CaseInsensitive))
             return name;
     }

@@ -42,13 +42,25 @@ private Q_SLOTS:
         QCOMPARE(QImage(folder.filePath("one.png")), QImage(folder.filePath("new/pages/ColorButton.png")));
     }
 
+    void appliesSizeScaleAndStyleSheet_data()
+    {
+        QTest::addColumn<QByteArray>("text");
+        QTest::newRow("Mine.qss") << QByteArray("QWidget:window { background-color: #123456; }");
+        QFile palette(VX_STYLES "/Dark.palette");
+        QVERIFY(palette.open(QIODevice::ReadOnly));
+        QTest::newRow("Mine.palette") << palette.readAll().replace("surface = #1d2027", "surface = #123456");
+    }
+
     void appliesSizeScaleAndStyleSheet()
     {
-        QFile file(folder.filePath("Mine.qss"));
+        QFETCH(QByteArray, text);
+        QFile file(folder.filePath(QTest::currentDataTag()));
         QVERIFY(file.open(QIODevice::WriteOnly));
-        QVERIFY(file.write("QWidget:window { background-color: #123456; }") > 0);
+        QVERIFY(file.write(text) > 0);
         file.close();
-        QCOMPARE(Run("--style Mine.qss --size 700x300 --scale 1.5 --shot mine.png --after 50").last(),
+        QCOMPARE(Run(QString("--style %1 --size 700x300 --scale 1.5 --shot mine.png --after 50")
+                         .arg(QTest::currentDataTag()))
+                     .last(),
                  QString("exit 0"));
         const QImage shot(folder.filePath("mine.png"));
         QCOMPARE(shot.size(), QSize(1050, 450));
@@ -57,9 +69,12 @@ private Q_SLOTS:
 
     void pressOpensAMenuForThePicture()
     {
-        QCOMPARE(Run("--shot closed.png --size 900x500 --after 100"), QStringList{"exit 0"});
-        QCOMPARE(Run("--press System --shot menu.png --size 900x500 --after 100"), QStringList{"exit 0"});
-        QVERIFY(QImage(folder.filePath("menu.png")) != QImage(folder.filePath("closed.png")));
+        const QString page = "--page ColorButton --size 900x500 --after 100 --style light";
+        QCOMPARE(Run(page + " --shot closed.png"), QStringList{"exit 0"});
+        QCOMPARE(Run(page + " --shot menu.png --press Light"), QStringList{"exit 0"});
+        const QRect belowTheButton(340, 55, 100, 80);
+        QVERIFY(QImage(folder.filePath("menu.png")).copy(belowTheButton) !=
+                QImage(folder.filePath("closed.png")).copy(belowTheButton));
     }
 
     void scaleOfTheScreenIsNotRounded()
@@ -88,7 +103,7 @@ private Q_SLOTS:
         QTest::addColumn<int>("exitCode");
         for (const char* line : {"--no-such-option", "ZLabel", "--page NoWidget", "--shot", "--size 100x", "--size 0x0",
                                  "--scale 4 --size 8192x8192", "--scale nan", "--after -1", "--style no-such-sheet.qss",
-                                 "--shot file --shots shots", "--shot file --press Nothing",
+                                 "--style no-such.palette", "--shot file --shots shots", "--shot file --press Nothing",
                                  "--page ZLabel --state Nothing", "--page ZLabel --state 99", "--state 1"})
             QTest::newRow(line) << 2;
         for (const char* line : {"--after 0 --shot no/such/folder.png", "--shots file/folder"})
