@@ -97,10 +97,13 @@ void Apply(const ZStyleSheet& sheet)
     // An empty path is the current folder to QDir.
     currentIconFolder = sheet.iconFolder.isEmpty() ? QString() : QDir(sheet.iconFolder).absolutePath();
     QDir::setSearchPaths(SEARCH_PATH, currentIconFolder.isEmpty() ? QStringList() : QStringList(currentIconFolder));
-    ++appliedSheets;
+    const int number = ++appliedSheets;
     Zelkor::Vx::UI::Common::FollowLayoutDirection();
     UseSheetStyle();
     ApplyPalette(sheet.text);
+    // A widget may apply another sheet when its style or palette changes. The last one is in effect.
+    if (number != appliedSheets)
+        return;
     qApp->setStyleSheet(WithoutFilesOfCurrentFolder(sheet.text));
 }
 

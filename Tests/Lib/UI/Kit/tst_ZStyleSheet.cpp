@@ -8,6 +8,7 @@
 #include <QSettings>
 #include <QStyle>
 #include <QTemporaryDir>
+#include <QWidget>
 
 #include <private/qguiapplication_p.h>
 #include <qpa/qplatformtheme.h>
@@ -130,6 +131,23 @@ private Q_SLOTS:
         const QPointer<QStyle> style = QApplication::style();
         QVERIFY(ZStyleSheet::applyFile(WriteSheet("next")));
         QVERIFY(style);
+    }
+
+    void sheetAppliedWhileAnotherIsBeingAppliedWins()
+    {
+        struct Widget : QWidget
+        {
+            void changeEvent(QEvent* event) override
+            {
+                if (event->type() == QEvent::PaletteChange && !std::exchange(isDone, true))
+                    ZStyleSheet{"/*inner*/", {}}.apply();
+            }
+            bool isDone = false;
+        } widget;
+        widget.ensurePolished();
+        ZStyleSheet{"QPalette { qproperty-WindowText: #010203 }", {}}.apply();
+        QVERIFY(widget.isDone);
+        QCOMPARE(qApp->styleSheet(), QString("/*inner*/"));
     }
 
     void iconsAreNeverFilesOfTheCurrentFolder()
