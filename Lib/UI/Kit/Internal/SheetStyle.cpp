@@ -98,7 +98,8 @@ void DrawDial(QPainter& painter, const QStyleOptionSlider& dial)
 // The title bar of a window in a QMdiArea.
 void DrawTitleBar(QPainter& painter, const QStyleOptionTitleBar& bar, const QStyle& style, const QWidget* widget)
 {
-    const QPalette& palette = bar.palette;
+    // That of the option is older than the last sheet.
+    const QPalette palette = widget ? widget->palette() : bar.palette;
     const bool isActive = bar.titleBarState & Qt::WindowActive;
     const auto rect = [&](QStyle::SubControl part) {
         return style.subControlRect(QStyle::CC_TitleBar, &bar, part, widget);
