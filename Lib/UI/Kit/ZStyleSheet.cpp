@@ -89,6 +89,8 @@ void UseSheetStyle()
     if (style)
         return;
     style = new SheetStyle(&ZStyleSheet::icon);
+    // With a sheet, QApplication::setStyle() can leave widgets with a style that is deleted.
+    qApp->setStyleSheet(QString());
     QApplication::setStyle(style);
 }
 
