@@ -1,6 +1,9 @@
 #include "BuiltInStyleSheets.h"
 
+#include <QColor>
+#include <QDir>
 #include <QHash>
+#include <QRegularExpression>
 
 namespace Zelkor::Examples {
 
@@ -8,6 +11,14 @@ namespace {
 
 const QHash<QString, QString> SHEETS = {
     {"dark", ":/Styles/Dark.qss"}, {"light", ":/Styles/Light.qss"}, {"high-contrast", ":/Styles/HighContrast.qss"}};
+
+// A sheet that was saved without icons takes those of the linked sheet that is as light as its windows.
+QString IconFolderFor(const QString& text)
+{
+    static const QRegularExpression windowColor("qproperty-Window: (#[0-9A-Fa-f]+)");
+    const QColor color(windowColor.match(text).captured(1));
+    return color.isValid() && color.lightness() < 128 ? ":/Styles/Dark" : ":/Styles/Light";
+}
 
 } // namespace
 
@@ -20,12 +31,18 @@ bool ApplyStyleSheet(const QString& nameOrFile, QString* error)
 {
     if (nameOrFile == "system")
         return ZStyleSheet::followSystem(SHEETS["light"], SHEETS["dark"], error);
-    return ZStyleSheet::applyFile(SHEETS.value(nameOrFile, nameOrFile), error);
+    const auto sheet = LoadStyleSheet(nameOrFile, error);
+    if (sheet)
+        sheet->apply();
+    return sheet.has_value();
 }
 
 std::optional<ZStyleSheet> LoadStyleSheet(const QString& nameOrFile, QString* error)
 {
-    return ZStyleSheet::load(SHEETS.value(nameOrFile, nameOrFile), error);
+    auto sheet = ZStyleSheet::load(SHEETS.value(nameOrFile, nameOrFile), error);
+    if (sheet && !QDir(sheet->iconFolder).exists())
+        sheet->iconFolder = IconFolderFor(sheet->text);
+    return sheet;
 }
 
 } // namespace Zelkor::Examples

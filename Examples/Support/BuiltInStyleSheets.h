@@ -8,8 +8,8 @@ namespace Zelkor::Examples {
 /// the system. Returns false and sets `error` if a file cannot be read.
 bool ApplyStyleSheet(const QString& nameOrFile, QString* error = nullptr);
 
-/// Loads "dark", "light" or "high-contrast", which are linked into the program, or a style sheet from a file. Returns
-/// std::nullopt and sets `error` if the file cannot be read.
+/// Loads "dark", "light" or "high-contrast", which are linked into the program, or a style sheet from a file. A file
+/// without a folder of icons takes linked ones. Returns std::nullopt and sets `error` if the file cannot be read.
 std::optional<ZStyleSheet> LoadStyleSheet(const QString& nameOrFile, QString* error = nullptr);
 
 /// Returns whether `name` is "system", or that of a style sheet linked into the program.

@@ -59,9 +59,8 @@ private Q_SLOTS:
         QVERIFY(file.write(text) > 0);
         file.close();
         QCOMPARE(Run(QString("--style %1 --size 700x300 --scale 1.5 --shot mine.png --after 50")
-                         .arg(QTest::currentDataTag()))
-                     .last(),
-                 QString("exit 0"));
+                         .arg(QTest::currentDataTag())),
+                 QStringList{"exit 0"});
         const QImage shot(folder.filePath("mine.png"));
         QCOMPARE(shot.size(), QSize(1050, 450));
         QCOMPARE(shot.pixelColor(2, 2), QColor("#123456"));
