@@ -15,7 +15,6 @@ namespace Zelkor::Gallery {
 namespace {
 
 constexpr int SMALLEST_WIDTH = 224;
-constexpr int COMPACT_WIDTH = 60;
 constexpr int LIST_MARGINS = 32; ///< padding of the list and room for its scroll bar
 constexpr int SEARCH_MARGIN = 8;
 constexpr double HEADING_FONT_FACTOR = 0.85;
@@ -225,8 +224,8 @@ void PageList::Arrange()
 {
     const bool isCompact = compact && !searching;
     search->setVisible(!isCompact);
-    setFixedWidth(isCompact ? COMPACT_WIDTH : fullWidth);
     Fill(isCompact);
+    setFixedWidth(isCompact ? list->sizeHintForColumn(0) + LIST_MARGINS : fullWidth);
 }
 
 bool PageList::eventFilter(QObject* watched, QEvent* event)
