@@ -107,6 +107,7 @@ void ForcedStates::Force(State state, bool on)
     case FOCUS:
         if (on) {
             ownProxy = target->focusProxy();
+            target->installEventFilter(this);
             connect(qApp, &QApplication::focusChanged, this, &ForcedStates::MoveFocusProxy);
             return MoveFocusProxy();
         }
@@ -205,6 +206,12 @@ bool ForcedStates::eventFilter(QObject* watched, QEvent* event)
     case QEvent::MouseMove:
         if (IsForced(PRESSED) && watched == pressed && event->spontaneous())
             return true;
+        // QApplication has given the focus to the proxy.
+        if (IsForced(FOCUS) && watched == target && event->type() == QEvent::MouseButtonPress &&
+            (target->focusPolicy() & Qt::ClickFocus)) {
+            target->setFocusProxy(ownProxy);
+            target->setFocus(Qt::MouseFocusReason);
+        }
         break;
     case QEvent::Paint:
         // A button that loses the focus or becomes disabled is up.

@@ -323,6 +323,21 @@ private Q_SLOTS:
         QCOMPARE(widget->grab().toImage(), normal);
     }
 
+    void fieldWithForcedFocusTakesTheFocus()
+    {
+        QVERIFY(QTest::qWaitForWindowActive(gallery.get()));
+        gallery->OpenPage("ZLineEdit");
+        gallery->layout()->activate();
+        auto* field = Page()->findChild<StateCard*>()->findChild<QLineEdit*>();
+        auto* button = Page()->findChild<QToolButton*>("force:FOCUS");
+        button->setFocus();
+        button->click();
+        QTest::mouseClick(field, Qt::LeftButton);
+        QCOMPARE(QApplication::focusWidget(), field);
+        button->setFocus();
+        QVERIFY(field->hasFocus());
+    }
+
     void forcedStatesKeepTheValue()
     {
         gallery->OpenPage("ZDoubleSlider");
