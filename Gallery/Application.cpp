@@ -6,6 +6,7 @@
 #include <Examples/Support/ScreenFit.h>
 #include <Gallery/Browser/GalleryWindow.h>
 #include <Gallery/Browser/StateCard.h>
+#include <Gallery/Palette/PaletteEditor.h>
 #include <UI/Kit/ZRuntimeStylesheetEditor.h>
 #include <UI/Kit/ZStyleSheet.h>
 
@@ -209,7 +210,8 @@ bool Application::MayEnd()
 
 bool Application::eventFilter(QObject* watched, QEvent* event)
 {
-    if (event->type() != QEvent::Close || MayEnd())
+    auto* palette = watched->findChild<PaletteEditor*>();
+    if (event->type() != QEvent::Close || (MayEnd() && (!palette || palette->ConfirmDiscard())))
         return QObject::eventFilter(watched, event);
     event->ignore();
     return true;

@@ -102,7 +102,7 @@
     </message>
     <message>
         <source>Checked</source>
-        <translation>Aktiviert</translation>
+        <translation>Angehakt</translation>
     </message>
     <message>
         <source>Opens upwards</source>
@@ -1441,6 +1441,10 @@ und nicht breit</translation>
         <source>Save the palette...</source>
         <translation>Palette speichern...</translation>
     </message>
+    <message>
+        <source>There are colours that were not saved.</source>
+        <translation>Es gibt Farben, die nicht gespeichert wurden.</translation>
+    </message>
 </context>
 <context>
     <name>Zelkor::Gallery::PropertyPanel</name>
@@ -1643,7 +1647,7 @@ Vorgabe: %3</translation>
     </message>
     <message>
         <source>Checked</source>
-        <translation>Aktiviert</translation>
+        <translation>Angehakt</translation>
     </message>
     <message>
         <source>Disabled</source>

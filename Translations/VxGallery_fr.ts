@@ -102,7 +102,7 @@
     </message>
     <message>
         <source>Checked</source>
-        <translation>Activé</translation>
+        <translation>Coché</translation>
     </message>
     <message>
         <source>Opens upwards</source>
@@ -1440,6 +1440,10 @@ et peu large</translation>
     <message>
         <source>Save the palette...</source>
         <translation>Enregistrer la palette...</translation>
+    </message>
+    <message>
+        <source>There are colours that were not saved.</source>
+        <translation>Des couleurs n’ont pas été enregistrées.</translation>
     </message>
 </context>
 <context>

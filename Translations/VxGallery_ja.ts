@@ -1441,6 +1441,10 @@ and not wide</source>
         <source>Save the palette...</source>
         <translation>パレットを保存...</translation>
     </message>
+    <message>
+        <source>There are colours that were not saved.</source>
+        <translation>保存されていない色があります。</translation>
+    </message>
 </context>
 <context>
     <name>Zelkor::Gallery::PropertyPanel</name>

@@ -3,15 +3,16 @@
 #include <Examples/Support/Appearance.h>
 #include <Examples/Support/WidgetTexts.h>
 #include <Gallery/Inspector/ColorField.h>
+#include <UI/Kit/ZComboBox.h>
 
 #include <QApplication>
-#include <QComboBox>
 #include <QDir>
 #include <QEvent>
 #include <QFile>
 #include <QFileDialog>
 #include <QGridLayout>
 #include <QLabel>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QScrollArea>
 
@@ -43,11 +44,12 @@ QString BuiltInPaletteOf(const QString& style)
 } // namespace
 
 PaletteEditor::PaletteEditor(Appearance* appearance, QWidget* parent)
-    : QDialog(parent), appearance(appearance), base(new QComboBox), area(new QScrollArea), message(new QLabel),
+    : QDialog(parent), appearance(appearance), base(new ZComboBox), area(new QScrollArea), message(new QLabel),
       openButton(new QPushButton), saveButton(new QPushButton)
 {
     resize(WINDOW_SIZE);
     base->addItems(Palette::BuiltInNames());
+    base->setMouseWheelEnabled(false);
     area->setWidgetResizable(true);
     area->setFrameShape(QFrame::NoFrame);
     area->setFocusPolicy(Qt::NoFocus);
@@ -65,10 +67,15 @@ PaletteEditor::PaletteEditor(Appearance* appearance, QWidget* parent)
     applyTimer.setInterval(PAUSE_MS);
     connect(&applyTimer, &QTimer::timeout, this, &PaletteEditor::Apply);
     connect(base, QOverload<int>::of(&QComboBox::activated), this, [this] {
+        if (!ConfirmDiscard())
+            return base->setCurrentIndex(shownBase);
+        shownBase = base->currentIndex();
         SetPalette(Palette::BuiltIn(base->currentText()));
         Apply();
     });
     connect(openButton, &QPushButton::clicked, this, [this] {
+        if (!ConfirmDiscard())
+            return;
         auto* dialog = new QFileDialog(this, openButton->text());
         dialog->setFileMode(QFileDialog::ExistingFile);
         connect(dialog, &QFileDialog::fileSelected, this, &PaletteEditor::Load);
@@ -107,11 +114,13 @@ void PaletteEditor::ShowStyle()
 {
     const QString builtIn = BuiltInPaletteOf(appearance->CurrentStyle());
     const QString style = builtIn.isEmpty() ? appearance->CurrentStyle() : builtIn;
-    if (style == shownStyle)
+    // Keeps colours that were not saved.
+    if (style == shownStyle || isModified)
         return;
     shownStyle = style;
     applyTimer.stop();
     base->setCurrentText(builtIn);
+    shownBase = base->currentIndex();
     const auto current = builtIn.isEmpty() ? Palette::Beside(style) : Palette::BuiltIn(builtIn);
     if (current)
         SetPalette(*current);
@@ -120,6 +129,7 @@ void PaletteEditor::ShowStyle()
 void PaletteEditor::SetPalette(const Palette& newPalette)
 {
     palette = newPalette;
+    isModified = false;
     area->setWidget(new QWidget);
     area->widget()->setAutoFillBackground(false);
     auto* grid = new QGridLayout(area->widget());
@@ -151,6 +161,7 @@ void PaletteEditor::AddColor(const QString& name, int row)
     field->SetColor(palette.Color(name));
     connect(field, &ColorField::ColorChanged, this, [this, name](const QColor& color) {
         palette.SetColor(name, color);
+        isModified = true;
         applyTimer.start();
     });
     auto* grid = static_cast<QGridLayout*>(area->widget()->layout());
@@ -195,7 +206,14 @@ bool PaletteEditor::Save(const QString& fileName)
     const bool isSaved = file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
     message->setText(isSaved ? QString() : file.errorString());
     message->setVisible(!isSaved);
+    isModified &= !isSaved;
     return isSaved;
+}
+
+bool PaletteEditor::ConfirmDiscard()
+{
+    return !isModified || QMessageBox::question(this, windowTitle(), tr("There are colours that were not saved."),
+                                                QMessageBox::Discard | QMessageBox::Cancel) == QMessageBox::Discard;
 }
 
 void PaletteEditor::changeEvent(QEvent* event)

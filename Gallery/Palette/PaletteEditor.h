@@ -6,11 +6,11 @@
 #include <QTemporaryDir>
 #include <QTimer>
 
-class QComboBox;
 class QFileDialog;
 class QLabel;
 class QPushButton;
 class QScrollArea;
+class ZComboBox;
 
 namespace Zelkor::Examples {
 class Appearance;
@@ -35,6 +35,9 @@ public:
     bool Load(const QString& file);
     bool Save(const QString& file);
 
+    /// Asks the user whether to discard colours that were not saved, if any. Returns false to keep them.
+    bool ConfirmDiscard();
+
 protected:
     void changeEvent(QEvent* event) override;
 
@@ -49,9 +52,11 @@ private:
     Palette palette;
     QTemporaryDir folder; ///< of the style sheet
     int generation = 0;   ///< Qt caches icons by their path, so that each sheet needs another one
-    QString shownStyle;   ///< the palette or style sheet whose colours the fields show
+    bool isModified = false;
+    int shownBase = 0;  ///< index of the palette that the user started from
+    QString shownStyle; ///< the palette or style sheet whose colours the fields show
     QTimer applyTimer;
-    QComboBox* base;
+    ZComboBox* base;
     QScrollArea* area;
     QLabel* message;
     QPushButton* openButton;

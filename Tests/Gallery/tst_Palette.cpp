@@ -57,6 +57,8 @@ private Q_SLOTS:
         QTRY_COMPARE(editor.grab().toImage().pixelColor(1, 1), QColor("#123456"));
         const QString file = folder.filePath("Mine.palette");
         QVERIFY(editor.Save(file));
+        // Does not ask.
+        QVERIFY(editor.ConfirmDiscard());
         QCOMPARE(Contents(file),
                  Palette::BuiltIn("Dark").Text().toUtf8().replace("window = #15171c", "window = #123456"));
         editor.SetPalette(Palette::BuiltIn("Light"));
