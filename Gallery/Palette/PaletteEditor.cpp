@@ -146,6 +146,12 @@ void PaletteEditor::SetPalette(const Palette& newPalette)
             AddColor(name, grid->rowCount());
     }
     grid->setRowStretch(grid->rowCount(), 1);
+    // Puts the fields before the buttons, which are older.
+    QWidget* last = base;
+    for (auto* field : area->widget()->findChildren<ColorField*>()) {
+        setTabOrder(last, field);
+        last = field;
+    }
 }
 
 void PaletteEditor::AddColor(const QString& name, int row)
@@ -213,7 +219,8 @@ bool PaletteEditor::Save(const QString& fileName)
 bool PaletteEditor::ConfirmDiscard()
 {
     return !isModified || QMessageBox::question(this, windowTitle(), tr("There are colours that were not saved."),
-                                                QMessageBox::Discard | QMessageBox::Cancel) == QMessageBox::Discard;
+                                                QMessageBox::Discard | QMessageBox::Cancel,
+                                                QMessageBox::Cancel) == QMessageBox::Discard;
 }
 
 void PaletteEditor::changeEvent(QEvent* event)
