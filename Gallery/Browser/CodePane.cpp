@@ -24,7 +24,7 @@ namespace {
 
 constexpr int MARGIN = 12;
 constexpr int SPACING = 4;
-constexpr int SMALLEST_HEIGHT = 96;
+constexpr int SMALLEST_HEIGHT = 48;
 
 // Returns the first place that exists in a folder above the program, which is that of the build or of an installation.
 QString FindFile(const QStringList& places)

@@ -32,6 +32,7 @@ constexpr int HEADING_SPACING = 4;
 constexpr int CARD_SPACING = 12;
 constexpr int NARROW_BELOW = 680; ///< page width below which the inspector is below the cards
 constexpr int INSPECTOR_WIDTH = 352;
+constexpr int LARGEST_SHARE_OF_CODE = 3; ///< of the height: a third
 
 QLabel* CreateText(const QString& objectName, const QString& text)
 {
@@ -95,11 +96,11 @@ QWidget* WidgetPage::CreateMain(const Catalogue::Entry& entry)
     layout->setSpacing(0);
     layout->addWidget(scrollArea, 1);
     layout->addWidget(stateBar);
-    auto* mainAndCode = new QSplitter(Qt::Vertical);
+    mainAndCode = new QSplitter(Qt::Vertical);
     mainAndCode->addWidget(main);
     mainAndCode->addWidget(codePane);
     mainAndCode->setCollapsible(0, false);
-    mainAndCode->setStretchFactor(0, 1);
+    connect(mainAndCode, &QSplitter::splitterMoved, this, [this] { isSplitByUser = true; });
     return mainAndCode;
 }
 
@@ -183,6 +184,15 @@ bool WidgetPage::IsInspectorVisible() const
     return !inspector->isHidden();
 }
 
+// Leaves most of the height to the cards, until the user moves the splitter.
+void WidgetPage::ArrangeCode()
+{
+    const int whole = mainAndCode->height();
+    const int code = qMin(codePane->sizeHint().height(), whole / LARGEST_SHARE_OF_CODE);
+    if (!isSplitByUser)
+        mainAndCode->setSizes({whole - code, code});
+}
+
 void WidgetPage::Arrange()
 {
     isNarrow = width() < NARROW_BELOW;
@@ -209,6 +219,8 @@ bool WidgetPage::eventFilter(QObject* watched, QEvent* event)
         isPinned = false;
         SelectCardAround(static_cast<QWidget*>(watched));
     }
+    if (event->type() == QEvent::Resize && watched == mainAndCode)
+        ArrangeCode();
     return QWidget::eventFilter(watched, event);
 }
 

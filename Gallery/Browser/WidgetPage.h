@@ -55,17 +55,20 @@ private:
     void SelectCardAround(QWidget* widget);
     void ScrollToSelected();
     void Arrange();
+    void ArrangeCode();
 
     const QString className;
     const QVariantMap defaults;
     QVector<StateCard*> cards;
     QVector<ForcedStates*> forcedStates; ///< of each card
     QSplitter* splitter;
+    QSplitter* mainAndCode = nullptr;
     Inspector* inspector;
     StateBar* stateBar;
     CodePane* codePane;
     int selected = -1;
     bool isNarrow = false;
+    bool isSplitByUser = false; ///< whether the user has set the height of the code
     bool isPinned = false;
 };
 
