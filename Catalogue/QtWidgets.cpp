@@ -244,10 +244,11 @@ QWidget* CreateRanges(QWidget* parent)
     page->Add(CreateSlider<QSlider>(Qt::Horizontal));
     page->Add(CreateSlider<QSlider>(Qt::Horizontal, false));
     auto* ticks = page->Add(CreateSlider<QSlider>(Qt::Horizontal));
-    ticks->setTickPosition(QSlider::TicksBelow);
+    ticks->setTickPosition(QSlider::TicksBothSides);
+    ticks->setInvertedAppearance(true);
     ticks->setFixedHeight(32);
     page->Add(CreateSlider<QSlider>(Qt::Vertical));
-    page->Add(CreateProgress(100, 40));
+    page->Add(CreateProgress(100, 60));
     page->Add(CreateProgress(100, 40, false))->setFormat("Disabled %p%");
     page->Add(CreateProgress(0, 0));
     for (const bool on : {true, false}) {

@@ -104,7 +104,7 @@ private Q_SLOTS:
         QLabel label;
         label.resize(16, 16);
         // Qt warns at each attempt to load the missing icon, also in its variants for high resolutions.
-        for (int i = 0; i < 3; ++i)
+        for (int attempt = 0; attempt < 3; ++attempt)
             ExpectWarning("mark.svg");
         QVERIFY(label.grab().toImage().pixelColor(8, 8) != Qt::red);
         QVERIFY(!qApp->styleSheet().contains("vxstyle:"));

@@ -2,10 +2,15 @@
 
 #include <QAbstractItemView>
 #include <QCalendarWidget>
+#include <QColumnView>
+#include <QEvent>
 #include <QGuiApplication>
 #include <QHash>
+#include <QItemDelegate>
 #include <QPainter>
+#include <QSlider>
 #include <QStyleOptionSlider>
+#include <QStyledItemDelegate>
 #include <QTextCharFormat>
 #include <qdrawutil.h>
 
@@ -18,15 +23,20 @@ constexpr double FIRST_ANGLE = 240;
 constexpr double SPAN = 300;
 
 constexpr int LABEL_MARGIN = 6; ///< around the text of a title bar
+constexpr int TICK_LENGTH = 4;  ///< of sliders
+constexpr int ARROW_SIZE = 12;  ///< of rows in column views
 
 const char* const OWN_WEEKEND_COLOR = "_vxWeekendColor";
 
-// Replaces Qt's red and the colour of an earlier sheet, but not a colour of the application.
+// Replaces Qt's red and the colour of an earlier sheet, but not a colour of the application. Qt 5 paints the days of
+// disabled calendars in the same colour.
 void ColorWeekend(QCalendarWidget* calendar)
 {
     const QVariant previous = calendar->property(OWN_WEEKEND_COLOR);
     const QColor replaced = previous.isValid() ? previous.value<QColor>() : QColor(Qt::red);
-    const QColor color = QGuiApplication::palette().color(QPalette::BrightText);
+    const QPalette palette = QGuiApplication::palette();
+    const QColor color =
+        calendar->isEnabled() ? palette.color(QPalette::BrightText) : palette.color(QPalette::Disabled, QPalette::Text);
     for (const Qt::DayOfWeek day : {Qt::Saturday, Qt::Sunday}) {
         QTextCharFormat format = calendar->weekdayTextFormat(day);
         if (format.foreground().color() != replaced)
@@ -35,6 +45,76 @@ void ColorWeekend(QCalendarWidget* calendar)
         calendar->setWeekdayTextFormat(day, format);
     }
     calendar->setProperty(OWN_WEEKEND_COLOR, color);
+}
+
+// Gives access to the option of any slider.
+struct SliderOption : QSlider
+{
+    static QStyleOptionSlider Of(const QSlider& slider)
+    {
+        QStyleOptionSlider option;
+        (slider.*&SliderOption::initStyleOption)(&option);
+        return option;
+    }
+};
+
+// Sheets cannot draw tick marks. Draws them between the handle and the edge, before the slider is painted above.
+void DrawTicks(QSlider& slider)
+{
+    const QStyleOptionSlider option = SliderOption::Of(slider);
+    const auto rect = [&](QStyle::SubControl part) {
+        return slider.style()->subControlRect(QStyle::CC_Slider, &option, part, &slider);
+    };
+    const bool isHorizontal = slider.orientation() == Qt::Horizontal;
+    const QRect handle = rect(QStyle::SC_SliderHandle);
+    const QRect groove = rect(QStyle::SC_SliderGroove);
+    const int length = isHorizontal ? handle.width() : handle.height();
+    const int span = (isHorizontal ? groove.width() : groove.height()) - length;
+    const int first = (isHorizontal ? groove.left() : groove.top()) + length / 2;
+    const int step = slider.tickInterval() > 0 ? slider.tickInterval() : qMax(1, slider.pageStep());
+    QPainter painter(&slider);
+    painter.setPen(slider.palette().color(slider.isEnabled() ? QPalette::Dark : QPalette::Mid));
+    for (qint64 value = slider.minimum(); value <= slider.maximum(); value += step) {
+        const int position = first + QStyle::sliderPositionFromValue(slider.minimum(), slider.maximum(), int(value),
+                                                                     span, option.upsideDown);
+        const auto draw = [&](int from, int to) {
+            painter.drawLine(isHorizontal ? QLine(position, from, position, to) : QLine(from, position, to, position));
+        };
+        if (slider.tickPosition() & QSlider::TicksAbove)
+            draw((isHorizontal ? handle.top() : handle.left()) - TICK_LENGTH,
+                 (isHorizontal ? handle.top() : handle.left()) - 1);
+        if (slider.tickPosition() & QSlider::TicksBelow)
+            draw((isHorizontal ? handle.bottom() : handle.right()) + 1,
+                 (isHorizontal ? handle.bottom() : handle.right()) + TICK_LENGTH);
+    }
+}
+
+// Paints the rows of a column view by the sheet, which the delegate of Qt 5 does not.
+class ColumnDelegate : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override
+    {
+        QStyledItemDelegate::paint(painter, option, index);
+        if (!index.model()->hasChildren(index))
+            return;
+        QStyleOptionViewItem arrow = option;
+        arrow.rect = QStyle::alignedRect(option.direction, Qt::AlignTrailing | Qt::AlignVCenter,
+                                         {ARROW_SIZE, ARROW_SIZE}, option.rect.adjusted(4, 0, -4, 0));
+        option.widget->style()->drawPrimitive(QStyle::PE_IndicatorColumnViewArrow, &arrow, painter, option.widget);
+    }
+};
+
+// Keeps a delegate of the application. Headers have none.
+void StyleColumn(QAbstractItemView* view)
+{
+    const QWidget* viewport = view->parentWidget();
+    const auto* delegate = view->itemDelegate();
+    if (viewport && qobject_cast<QColumnView*>(viewport->parentWidget()) && delegate &&
+        delegate->metaObject() == &QItemDelegate::staticMetaObject)
+        view->setItemDelegate(new ColumnDelegate(view));
 }
 
 // Returns whether the view may have arranged its items before it was polished, at sizes without the sheet. The lists of
@@ -139,12 +219,35 @@ SheetStyle::SheetStyle(std::function<QIcon(const QString& name)> icon)
 void SheetStyle::polish(QWidget* widget)
 {
     QProxyStyle::polish(widget);
-    if (auto* calendar = qobject_cast<QCalendarWidget*>(widget))
+    if (auto* calendar = qobject_cast<QCalendarWidget*>(widget)) {
         ColorWeekend(calendar);
+        calendar->installEventFilter(this);
+    } else if (qobject_cast<QSlider*>(widget)) {
+        widget->installEventFilter(this);
+    }
     auto* view = qobject_cast<QAbstractItemView*>(widget);
+    if (view)
+        StyleColumn(view);
     if (view && HasOldLayout(*view))
         QMetaObject::invokeMethod(
             view, [view] { view->doItemsLayout(); }, Qt::QueuedConnection);
+}
+
+void SheetStyle::unpolish(QWidget* widget)
+{
+    widget->removeEventFilter(this);
+    QProxyStyle::unpolish(widget);
+}
+
+bool SheetStyle::eventFilter(QObject* object, QEvent* event)
+{
+    auto* calendar = qobject_cast<QCalendarWidget*>(object);
+    auto* slider = qobject_cast<QSlider*>(object);
+    if (calendar && event->type() == QEvent::EnabledChange)
+        ColorWeekend(calendar);
+    else if (slider && event->type() == QEvent::Paint && slider->tickPosition() != QSlider::NoTicks)
+        DrawTicks(*slider);
+    return QProxyStyle::eventFilter(object, event);
 }
 
 void SheetStyle::polish(QPalette& palette)

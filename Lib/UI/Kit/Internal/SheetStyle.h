@@ -7,8 +7,8 @@
 namespace Zelkor::Vx::UI::Kit {
 
 /// The style "Fusion" below a style sheet, with the parts that sheets do not reach in the colours of the palette:
-/// dials, title bars in a QMdiArea, and the weekends of calendars (BrightText). Standard icons are the sheet's. Item
-/// views are arranged anew once polished.
+/// dials, tick marks of sliders, title bars in a QMdiArea, and the weekends of calendars (BrightText). Standard icons
+/// are the sheet's. Item views are arranged anew once polished; the rows of column views follow the sheet.
 class SheetStyle : public QProxyStyle
 {
 public:
@@ -17,6 +17,8 @@ public:
 
     using QProxyStyle::polish;
     void polish(QWidget* widget) override;
+    using QProxyStyle::unpolish;
+    void unpolish(QWidget* widget) override;
 
     /// Called by Qt with the palette of the platform. Sends the application a ThemeChange after a change of it, which
     /// Qt does not report if the application has a palette.
@@ -31,6 +33,8 @@ public:
                             const QWidget* widget) const override;
 
 private:
+    bool eventFilter(QObject* object, QEvent* event) override;
+
     const std::function<QIcon(const QString&)> iconOfSheet;
     QPalette platformPalette;
 };
