@@ -1658,4 +1658,11 @@ Vorgabe: %3</translation>
         <translation>Das ausgewählte Widget in diesem Zustand zeigen, bis er ausgeschaltet wird</translation>
     </message>
 </context>
+<context>
+    <name>Zelkor::Gallery::WidgetPage</name>
+    <message>
+        <source>Return leads to the tools of this state</source>
+        <translation>Die Eingabetaste führt zu den Werkzeugen dieses Zustands</translation>
+    </message>
+</context>
 </TS>

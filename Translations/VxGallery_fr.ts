@@ -1658,4 +1658,11 @@ Par défaut&#xa0;: %3</translation>
         <translation>Montre le widget sélectionné dans cet état jusqu&apos;à sa désactivation</translation>
     </message>
 </context>
+<context>
+    <name>Zelkor::Gallery::WidgetPage</name>
+    <message>
+        <source>Return leads to the tools of this state</source>
+        <translation>Entrée mène aux outils de cet état</translation>
+    </message>
+</context>
 </TS>

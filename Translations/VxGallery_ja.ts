@@ -1658,4 +1658,11 @@ Default: %3</source>
         <translation>オフにするまで、選択したウィジェットをこの状態で表示します</translation>
     </message>
 </context>
+<context>
+    <name>Zelkor::Gallery::WidgetPage</name>
+    <message>
+        <source>Return leads to the tools of this state</source>
+        <translation>Enter キーでこの状態のツールに移動します</translation>
+    </message>
+</context>
 </TS>

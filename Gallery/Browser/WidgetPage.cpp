@@ -11,8 +11,9 @@
 #include <Gallery/Inspector/PropertyPanel.h>
 #include <Gallery/Inspector/SignalLog.h>
 
+#include <QAbstractButton>
 #include <QApplication>
-#include <QEvent>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QScrollArea>
 #include <QSplitter>
@@ -121,6 +122,7 @@ QWidget* WidgetPage::CreateContent(const Catalogue::Entry& entry)
     for (const Catalogue::State& state : entry.states) {
         auto* card = new StateCard(entry, state, defaults);
         inspector->Signals()->Watch(card->Widget(), className, state.name);
+        card->setAccessibleDescription(tr("Return leads to the tools of this state"));
         grid->addWidget(card);
         cards.append(card);
         auto* object = qobject_cast<QWidget*>(FindObject(card->Widget(), className));
@@ -161,6 +163,17 @@ void WidgetPage::SelectCardAround(QWidget* widget)
     for (int i = 0; i < cards.size(); ++i) {
         if (widget && (cards[i] == widget || cards[i]->isAncestorOf(widget)))
             SelectState(i);
+    }
+}
+
+// Tab selects each card on its way to the tools.
+void WidgetPage::FocusTools()
+{
+    for (const QWidget* tools : {static_cast<QWidget*>(stateBar), static_cast<QWidget*>(codePane)}) {
+        for (auto* button : tools->findChildren<QAbstractButton*>()) {
+            if (button->isVisibleTo(this) && button->isEnabled() && (button->focusPolicy() & Qt::TabFocus))
+                return button->setFocus(Qt::TabFocusReason);
+        }
     }
 }
 
@@ -219,6 +232,9 @@ bool WidgetPage::eventFilter(QObject* watched, QEvent* event)
         isPinned = false;
         SelectCardAround(static_cast<QWidget*>(watched));
     }
+    if (event->type() == QEvent::KeyPress && watched == cards.value(selected) &&
+        static_cast<QKeyEvent*>(event)->key() == Qt::Key_Return)
+        FocusTools();
     if (event->type() == QEvent::Resize && watched == mainAndCode)
         ArrangeCode();
     return QWidget::eventFilter(watched, event);

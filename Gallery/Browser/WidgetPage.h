@@ -19,7 +19,7 @@ class StateBar;
 class StateCard;
 
 /// The page of one widget: a description, its states in captioned cards, and the tools for the selected card: a row of
-/// buttons that force states, its code, and the inspector.
+/// buttons that force states, its code, and the inspector. Return in a card sets the focus on its tools.
 class WidgetPage : public QWidget
 {
     Q_OBJECT
@@ -54,6 +54,7 @@ private:
     QWidget* CreateContent(const Catalogue::Entry& entry);
     void SelectCardAround(QWidget* widget);
     void ScrollToSelected();
+    void FocusTools();
     void Arrange();
     void ArrangeCode();
 

@@ -323,6 +323,18 @@ private Q_SLOTS:
         QCOMPARE(widget->grab().toImage(), normal);
     }
 
+    void returnInACardLeadsToItsTools()
+    {
+        QVERIFY(QTest::qWaitForWindowActive(gallery.get()));
+        gallery->OpenPage("VolumeSlider");
+        gallery->layout()->activate();
+        auto* card = Page()->findChildren<StateCard*>()[1];
+        card->setFocus();
+        QTest::keyClick(card, Qt::Key_Return);
+        QVERIFY(Page()->findChild<QToolButton*>("force:HOVER")->hasFocus());
+        QCOMPARE(Page()->SelectedState(), 1);
+    }
+
     void fieldWithForcedFocusTakesTheFocus()
     {
         QVERIFY(QTest::qWaitForWindowActive(gallery.get()));
