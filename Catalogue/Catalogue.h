@@ -33,9 +33,11 @@ struct State
 struct FormUse
 {
     const QMetaObject* metaObject = nullptr; ///< null if forms cannot contain the widget
-    QVariantMap properties;                  ///< initial numbers, texts and enumerators
-    QString reasonAgainst;                   ///< why forms cannot contain it
-    QString header;                          ///< what code made from forms includes
+    /// Initial numbers, texts, and names of enumerators. Qt 5 would register the type of an enumerator, and selectors
+    /// of style sheets such as `[orientation="1"]` would no longer match.
+    QVariantMap properties;
+    QString reasonAgainst; ///< why forms cannot contain it
+    QString header;        ///< what code made from forms includes
 };
 
 /// One widget of the catalogue.

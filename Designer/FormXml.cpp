@@ -2,7 +2,6 @@
 
 #include <Catalogue/Catalogue.h>
 
-#include <QMetaEnum>
 #include <QMetaProperty>
 #include <QStackedWidget>
 #include <QTabWidget>
@@ -60,9 +59,7 @@ void WriteProperty(QXmlStreamWriter& xml, const QMetaProperty& property, const Q
     if (!property.hasStdCppSet())
         xml.writeAttribute("stdset", "0");
     if (property.isEnumType()) {
-        const QMetaEnum enumeration = property.enumerator();
-        xml.writeTextElement("enum",
-                             QStringLiteral("%1::%2").arg(enumeration.scope(), enumeration.valueToKey(value.toInt())));
+        xml.writeTextElement("enum", QStringLiteral("%1::%2").arg(property.enumerator().scope(), value.toString()));
     } else {
         xml.writeTextElement(value.userType() == QMetaType::Int ? "number" : "string", value.toString());
     }

@@ -296,7 +296,7 @@ Entry DoubleSpinBoxEntry()
 
 QVector<Entry> FieldEntries()
 {
-    const QVariantMap horizontal{{"orientation", QVariant::fromValue(Qt::Horizontal)}};
+    const QVariantMap horizontal{{"orientation", "Horizontal"}};
     return {KitInForms<ZComboBox>(ComboEntry()),
             KitInForms<ZLineEdit>(LineEditEntry()),
             KitInForms<ZCustomSlider>(CustomSliderEntry(), horizontal),

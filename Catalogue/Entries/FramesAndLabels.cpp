@@ -128,8 +128,8 @@ Entry StackEntry()
 
 QVector<Entry> KitEntries()
 {
-    return {KitInForms<ZFrame>(FrameEntry(), {{"frameShape", QVariant::fromValue(QFrame::StyledPanel)}}),
-            KitInForms<ZLabel>(LabelEntry()), KitInForms<ZStackedWidget>(StackEntry())};
+    return {KitInForms<ZFrame>(FrameEntry(), {{"frameShape", "StyledPanel"}}), KitInForms<ZLabel>(LabelEntry()),
+            KitInForms<ZStackedWidget>(StackEntry())};
 }
 
 } // namespace Zelkor::Catalogue

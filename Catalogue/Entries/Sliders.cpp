@@ -139,7 +139,7 @@ Entry SliderEntry()
 
 QVector<Entry> SliderEntries()
 {
-    return {KitInForms<ZSlider>(SliderEntry(), {{"orientation", QVariant::fromValue(Qt::Horizontal)}})};
+    return {KitInForms<ZSlider>(SliderEntry(), {{"orientation", "Horizontal"}})};
 }
 
 } // namespace Zelkor::Catalogue

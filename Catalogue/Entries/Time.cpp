@@ -150,7 +150,7 @@ Entry TimeEditEntry()
 
 QVector<Entry> TimeEntries()
 {
-    return {KitInForms<ZTimelineSlider>(TimelineEntry(), {{"orientation", QVariant::fromValue(Qt::Horizontal)}}),
+    return {KitInForms<ZTimelineSlider>(TimelineEntry(), {{"orientation", "Horizontal"}}),
             KitInForms<ZTimeEdit>(TimeEditEntry())};
 }
 

@@ -184,8 +184,6 @@ private Q_SLOTS:
         auto* widget = window.findChild<QWidget*>(name);
         QVERIFY(widget);
         QCOMPARE(widget->metaObject(), entry.form.metaObject);
-        for (auto it = entry.form.properties.begin(); it != entry.form.properties.end(); ++it)
-            QCOMPARE(widget->property(it.key().toLatin1()), it.value());
         Show(window, [] {});
         QVERIFY(widget->isVisible());
 
@@ -193,8 +191,11 @@ private Q_SLOTS:
         window.setFocusPolicy(Qt::StrongFocus);
         window.setFocus();
         auto* edited = static_cast<QWidget*>(CreateBare(entry, &window));
-        for (auto it = entry.form.properties.begin(); it != entry.form.properties.end(); ++it)
-            edited->setProperty(it.key().toLatin1(), it.value());
+        for (auto it = entry.form.properties.begin(); it != entry.form.properties.end(); ++it) {
+            const QByteArray property = it.key().toLatin1();
+            QVERIFY2(edited->setProperty(property, it.value()), property);
+            QCOMPARE(widget->property(property), edited->property(property));
+        }
         edited->resize(widget->size());
         edited->move(window.rect().center()); // away from the pointer, which is in a corner
         edited->show();

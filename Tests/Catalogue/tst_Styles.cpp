@@ -9,6 +9,7 @@
 #include <QFile>
 #include <QLabel>
 #include <QRegularExpression>
+#include <QSlider>
 #include <QTemporaryDir>
 #include <QVBoxLayout>
 
@@ -110,6 +111,19 @@ private Q_SLOTS:
         QVERIFY(!qApp->styleSheet().contains("vxstyle:"));
         QVERIFY(ZStyleSheet::icon("mark").pixmap(16).isNull());
         QVERIFY(QDir::setCurrent(previous));
+    }
+
+    // Qt 5 compares the name of an enumerator instead, once its type is registered.
+    void selectorsMatchNumbersOfEnumerators()
+    {
+        QVERIFY(!Entries().isEmpty());
+        QSlider slider(Qt::Horizontal);
+        slider.setStyleSheet("[orientation=\"1\"] { background: red; }");
+        QFrame frame;
+        frame.setFrameStyle(QFrame::StyledPanel);
+        frame.setStyleSheet("[frameShape=\"6\"] { background: red; }");
+        for (QWidget* widget : {static_cast<QWidget*>(&slider), static_cast<QWidget*>(&frame)})
+            QCOMPARE(widget->grab().toImage().pixelColor(4, 4), QColor(Qt::red));
     }
 
     void sheetReplacesStyleAndSheetOfTheApplication()
