@@ -105,7 +105,7 @@ void AddTools(SampleWindow& window)
     window.bar->AddSeparator();
 }
 
-// Opens a window with a title bar of its own, and a tool in it.
+// Opens a window with its own title bar, which has a tool button.
 void OpenTitledWindow(QWidget* parent)
 {
     auto* window = new QWidget(parent, Qt::Window);

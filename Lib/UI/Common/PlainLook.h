@@ -5,8 +5,8 @@
 
 #include <functional>
 
-/// The look of widgets to which no style sheet applies. A style sheet decides all distances and symbols by itself;
-/// these functions add nothing to it.
+/// The look of widgets to which no style sheet applies. Where one applies, it decides all distances and symbols, and
+/// these functions do nothing.
 namespace Zelkor::Vx::UI::Common {
 
 /// Returns whether a style sheet of the application, of the widget or of one of its parents applies to the widget.
