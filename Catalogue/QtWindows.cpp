@@ -5,6 +5,7 @@
 #include <QtWidgets>
 
 #include <climits>
+#include <memory>
 
 namespace Zelkor::Catalogue {
 
@@ -235,11 +236,29 @@ Dialog* CreateDialog(QWidget* parent)
     return dialog;
 }
 
+/// A temporary folder with the same files on every computer.
+struct SampleFolder
+{
+    SampleFolder()
+    {
+        QDir(folder.path()).mkdir("Recordings");
+        for (const char* name : {"Notes.txt", "Picture.png"}) {
+            QFile file(folder.filePath(name));
+            if (file.open(QIODevice::WriteOnly))
+                file.resize(2048);
+        }
+    }
+
+    QTemporaryDir folder;
+};
+
 QWidget* CreateFileDialog(QWidget* parent)
 {
     auto* dialog = CreateDialog<QFileDialog>(parent);
+    const auto sample = std::make_shared<SampleFolder>();
+    QObject::connect(dialog, &QObject::destroyed, [sample] {});
     dialog->setOption(QFileDialog::DontUseNativeDialog);
-    dialog->setDirectory(QDir::rootPath());
+    dialog->setDirectory(sample->folder.path());
     dialog->setNameFilters({"All files (*)", "Pictures (*.png)"});
     dialog->setViewMode(QFileDialog::Detail);
     return dialog;

@@ -270,10 +270,9 @@ Findings HoverContrasts(QWidget& window)
         double contrast = 1;
         const QSize size = receiver->size();
         const QPoint center = receiver->rect().center();
-        // More than once, because a slow machine can lose a move between two of them.
         for (const QPoint& place :
              {center, QPoint(size.width() * 2 / 5, size.height() / 2), QPoint(size.width() / 2, size.height() * 3 / 5),
-              QPoint(size.width() / 2, 14), QPoint(30, 14), center, center + QPoint(1, 1), center}) {
+              QPoint(size.width() / 2, 14), QPoint(30, 14)}) {
             if (contrast >= NOTICEABLE || !receiver->rect().contains(place))
                 continue;
             MovePointer(receiver, place);

@@ -6,10 +6,6 @@ endif()
 vx_test(Catalogue/tst_Styles.cpp LIBRARIES VxCatalogue)
 target_compile_definitions(tst_Styles PRIVATE VX_STYLES_SOURCE="${PROJECT_SOURCE_DIR}/Styles")
 vx_test(Catalogue/tst_Contrast.cpp SOURCES Catalogue/Legibility.cpp Catalogue/Legibility.h LIBRARIES VxCatalogue)
-if(VX_SANITIZE)
-  # It measures pixels while the pointer moves, which is unreliable when painting takes long.
-  set_tests_properties(tst_Contrast PROPERTIES DISABLED ON)
-endif()
 # Writes the contrasts that the test measures to Docs/Contrast.md.
 add_custom_target(
   contrast-table

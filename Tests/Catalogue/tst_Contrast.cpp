@@ -6,6 +6,8 @@
 #include <Support/TestCase.h>
 
 #include <QFile>
+#include <QFileDialog>
+#include <QFileSystemModel>
 #include <QTextStream>
 #include <QVBoxLayout>
 
@@ -32,6 +34,13 @@ std::unique_ptr<QWidget> OpenGroup(const State& group)
     window->resize(window->sizeHint());
     QApplication::processEvents();
     window->setFocus();
+    // File dialogs list their folder on a thread.
+    for (const auto* dialog : window->findChildren<QFileDialog*>()) {
+        const auto* files = dialog->findChild<QFileSystemModel*>();
+        const auto isListed = [=] { return files->rowCount(files->index(dialog->directory().path())) > 0; };
+        if (!QTest::qWaitFor(isListed))
+            qWarning("A file dialog lists no files");
+    }
     return window;
 }
 
