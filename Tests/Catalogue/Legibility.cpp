@@ -88,11 +88,12 @@ private:
     QWidget* current = nullptr;
 };
 
-QImage Picture(QWidget& widget, const QRect& rect, int scale = SCALE)
+QImage Picture(QWidget& window, const QRect& rect, int scale = SCALE)
 {
     QImage image(rect.size() * scale, QImage::Format_RGB32);
     image.setDevicePixelRatio(scale);
-    widget.render(&image, QPoint(), rect);
+    image.fill(window.palette().color(QPalette::Window));
+    window.render(&image, QPoint(), rect);
     return image;
 }
 
@@ -204,6 +205,9 @@ bool RespondsToPointer(const QWidget* widget)
                 return false;
         }
     }
+    const auto* button = qobject_cast<const QAbstractButton*>(widget);
+    if (button && button->isDown())
+        return false;
     const auto* view = qobject_cast<const QAbstractItemView*>(widget);
     return HasFrame(widget) || IsA<QAbstractButton, QTabBar, QMenuBar>(widget) ||
            (view && view->model() && view->model()->rowCount() > 0);
@@ -266,17 +270,21 @@ Findings HoverContrasts(QWidget& window)
             continue; // scrolled out of view
         // QTest takes a null point for the centre.
         MovePointer(&window, QPoint(1, 1));
-        const QImage before = Picture(*widget, widget->rect(), 1);
+        // Of the window, because the background of a control can be transparent.
+        const QRect inWindow(widget->mapTo(&window, QPoint()), widget->size());
+        const QImage before = Picture(window, inWindow, 1);
         double contrast = 1;
         const QSize size = receiver->size();
         const QPoint center = receiver->rect().center();
-        for (const QPoint& place :
-             {center, QPoint(size.width() * 2 / 5, size.height() / 2), QPoint(size.width() / 2, size.height() * 3 / 5),
-              QPoint(size.width() / 2, 14), QPoint(30, 14)}) {
+        // The handles of sliders and the rows of views are somewhere in them.
+        QVector<QPoint> places{center, QPoint(30, 14)};
+        for (int i = 0; i < 20; ++i)
+            places << QPoint(size.width() * i / 20, center.y()) << QPoint(center.x(), size.height() * i / 20);
+        for (const QPoint& place : places) {
             if (contrast >= NOTICEABLE || !receiver->rect().contains(place))
                 continue;
             MovePointer(receiver, place);
-            contrast = qMax(contrast, Change(before, Picture(*widget, widget->rect(), 1), 24));
+            contrast = qMax(contrast, Change(before, Picture(window, inWindow, 1), 24));
         }
         findings.append({Describe(*widget), contrast, NOTICEABLE});
     }
