@@ -2,6 +2,7 @@
 #include <Catalogue/Contrast.h>
 #include <Catalogue/QtWidgets.h>
 #include <Examples/Support/BuiltInStyleSheets.h>
+#include <UI/Widgets/VolumeSlider.h>
 
 #include <Support/TestCase.h>
 
@@ -140,6 +141,22 @@ private Q_SLOTS:
         LoadStyleSheet(style)->apply();
         QCoreApplication::processEvents();
         QCOMPARE(window.grab().toImage().pixelColor(1, 1), QApplication::palette().color(QPalette::Window));
+    }
+
+    void levelMeterIsVisibleInBothDirections()
+    {
+        QFETCH_GLOBAL(QString, style);
+        LoadStyleSheet(style)->apply();
+        QWidget window;
+        Zelkor::Vx::VolumeSlider slider(Qt::Horizontal, &window);
+        slider.resize(200, 44);
+        slider.SetVolumes(1, 0);
+        window.show();
+        for (const auto direction : {Qt::LeftToRight, Qt::RightToLeft}) {
+            slider.setLayoutDirection(direction);
+            QCOMPARE(slider.grab().toImage().pixelColor(slider.rect().center()),
+                     slider.property("colorBackground").value<QColor>());
+        }
     }
 
     void styleSheetIsComplete()
